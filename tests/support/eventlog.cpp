@@ -1,0 +1,40 @@
+#include "eventlog.h"
+
+EventLog *EventLog::s_current = nullptr;
+
+EventLog::EventLog()
+{
+    Q_ASSERT(!s_current);
+    s_current = this;
+    m_previous = qInstallMessageHandler(handleMessage);
+}
+
+EventLog::~EventLog()
+{
+    qInstallMessageHandler(m_previous);
+    s_current = nullptr;
+}
+
+QStringList EventLog::take()
+{
+    QStringList entries;
+    entries.swap(m_entries);
+    return entries;
+}
+
+void EventLog::handleMessage(QtMsgType type, const QMessageLogContext &context,
+                             const QString &message)
+{
+    // Test failures and fatal errors are not part of what is recorded.
+    if (type == QtFatalMsg) {
+        s_current->m_previous(type, context, message);
+        return;
+    }
+    const char *const kind = type == QtDebugMsg ? "debug: "
+        : type == QtInfoMsg                     ? "info: "
+        : type == QtWarningMsg                  ? "warning: "
+                                                : "critical: ";
+    s_current->m_context = {QString::fromUtf8(context.file), QString::fromUtf8(context.function),
+                            QString::fromUtf8(context.category), context.line};
+    s_current->add(QLatin1String(kind) + message);
+}

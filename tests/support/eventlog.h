@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QtCore/QDebug>
+#include <QtCore/QObject>
+#include <QtCore/QStringList>
+
+// Records signals and messages of Qt's log in the order in which they come, as
+// text: "valueChanged(36)", "debug: SpinBox lose focus.". While a log lives it
+// holds back all messages; one log at a time.
+class EventLog
+{
+public:
+    // Where the last message said that it comes from.
+    struct Context
+    {
+        QString file;
+        QString function;
+        QString category;
+        int line = 0;
+    };
+
+    EventLog();
+    ~EventLog();
+    EventLog(const EventLog &) = delete;
+    EventLog &operator=(const EventLog &) = delete;
+
+    template <typename Sender, typename Base, typename... Args>
+    void watch(const Sender *sender, void (Base::*signal)(Args...), const QString &name)
+    {
+        QObject::connect(sender, signal, &m_receiver, [this, name](Args... args) {
+            QStringList texts;
+            (texts.append(toText(args)), ...);
+            add(name + QLatin1Char('(') + texts.join(QLatin1String(", ")) + QLatin1Char(')'));
+        });
+    }
+
+    void add(const QString &entry) { m_entries.append(entry); }
+    // The entries since the last call.
+    QStringList take();
+    Context lastContext() const { return m_context; }
+
+private:
+    template <typename T> static QString toText(const T &value)
+    {
+        QString text;
+        QDebug(&text).nospace().noquote() << value;
+        return text;
+    }
+    static void handleMessage(QtMsgType type, const QMessageLogContext &context,
+                              const QString &message);
+
+    static EventLog *s_current;
+    QObject m_receiver;
+    QStringList m_entries;
+    Context m_context;
+    QtMessageHandler m_previous = nullptr;
+};

@@ -1,0 +1,116 @@
+#include "userevents.h"
+
+#include <QtGui/QWheelEvent>
+#include <QtGui/QWindow>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleOptionSlider>
+
+namespace {
+
+QWindow *windowOf(const QWidget *widget)
+{
+    return widget->window()->windowHandle();
+}
+
+QPoint inWindow(const QWidget *widget, const QPoint &pos)
+{
+    return widget->mapTo(widget->window(), pos);
+}
+
+// Where the handle of a held slider was moved to last.
+QPoint s_handlePos;
+
+} // namespace
+
+bool User::show(QWidget &window)
+{
+    window.show();
+    return QTest::qWaitForWindowActive(&window);
+}
+
+void User::type(const QString &text)
+{
+    for (const QChar c : text) {
+        const Qt::Key key = c.unicode() < 0x80 ? QTest::asciiToKey(c.toLatin1()) : Qt::Key_unknown;
+        QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), key, QString(c),
+                            Qt::NoModifier);
+    }
+}
+
+void User::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+}
+
+void User::click(QWidget *widget)
+{
+    QTest::mouseClick(windowOf(widget), Qt::LeftButton, Qt::NoModifier,
+                      inWindow(widget, widget->rect().center()));
+}
+
+void User::turnWheel(QWidget *widget)
+{
+    const QPoint pos = widget->rect().center();
+    const QPoint global = widget->mapToGlobal(pos);
+    const QPoint notch(0, QWheelEvent::DefaultDeltasPerStep);
+#if QT_VERSION >= QT_VERSION_CHECK(5, 12, 0)
+    QWheelEvent event(pos, global, QPoint(), notch, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
+#else
+    QWheelEvent event(pos, global, QPoint(), notch, notch.y(), Qt::Vertical, Qt::NoButton,
+                      Qt::NoModifier);
+#endif
+    QApplication::sendEvent(widget, &event);
+}
+
+QPoint User::handleCenter(const QSlider *slider, int position)
+{
+    QStyleOptionSlider option;
+    option.initFrom(slider);
+    option.subControls = QStyle::SC_All;
+    option.orientation = slider->orientation();
+    if (slider->orientation() == Qt::Horizontal)
+        option.state |= QStyle::State_Horizontal;
+    option.minimum = slider->minimum();
+    option.maximum = slider->maximum();
+    option.sliderPosition = position;
+    option.sliderValue = position;
+    option.tickPosition = slider->tickPosition();
+    return slider->style()
+        ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
+        .center();
+}
+
+void User::grabHandle(QSlider *slider)
+{
+    s_handlePos = inWindow(slider, handleCenter(slider, slider->sliderPosition()));
+    QTest::mouseMove(windowOf(slider), s_handlePos);
+    QTest::mousePress(windowOf(slider), Qt::LeftButton, Qt::NoModifier, s_handlePos);
+}
+
+void User::moveHandle(QSlider *slider, int position)
+{
+    s_handlePos = inWindow(slider, handleCenter(slider, position));
+    QTest::mouseMove(windowOf(slider), s_handlePos);
+}
+
+void User::dropHandle(QSlider *slider)
+{
+    QTest::mouseRelease(windowOf(slider), Qt::LeftButton, Qt::NoModifier, s_handlePos);
+}
+
+void User::drag(QSlider *slider, std::initializer_list<int> positions)
+{
+    grabHandle(slider);
+    for (const int position : positions)
+        moveHandle(slider, position);
+    dropHandle(slider);
+}
+
+void User::clickGroove(QSlider *slider, bool behind)
+{
+    const QPoint handle = handleCenter(slider, slider->sliderPosition());
+    const int edge = behind ? slider->width() - 2 : 1;
+    QTest::mouseClick(windowOf(slider), Qt::LeftButton, Qt::NoModifier,
+                      inWindow(slider, QPoint(edge, handle.y())));
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QtCore/QLocale>
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QSlider>
+
+#include <initializer_list>
+
+// What a user does, as the window system reports it: mouse events enter by the
+// window, keys go to the widget with the focus.
+namespace User {
+
+// Shows the window and waits until it is active; false if it never is.
+bool show(QWidget &window);
+
+void type(const QString &text);
+void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+void click(QWidget *widget);
+// One notch away from the user, with the pointer over the middle of the widget.
+void turnWheel(QWidget *widget);
+
+// Where the middle of the handle is when the slider stands at the position.
+QPoint handleCenter(const QSlider *slider, int position);
+void grabHandle(QSlider *slider);
+void moveHandle(QSlider *slider, int position);
+void dropHandle(QSlider *slider);
+// Takes the handle, moves it over the positions and lets it go at the last.
+void drag(QSlider *slider, std::initializer_list<int> positions);
+// A click on the groove before (false) or behind (true) the handle.
+void clickGroove(QSlider *slider, bool behind);
+
+} // namespace User
+
+// Main program of a test: no display needed, the same look and locale everywhere.
+template <typename Test> int runTest(int argc, char *argv[])
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLocale::setDefault(QLocale::c());
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication application(argc, argv);
+    Test test;
+    return QTest::qExec(&test, argc, argv);
+}
