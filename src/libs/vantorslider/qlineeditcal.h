@@ -21,6 +21,7 @@ public:
     void setLineEditMinOrMax(const float &min, const float &max);
     void setSuffix(bool bSuffix);
     void setSlotEditingFinished();
+    void outliveParent();
 
 Q_SIGNALS:
     void signalsResult();
@@ -51,6 +52,8 @@ private:
     float m_maxNum = 10000.0F;
     bool m_bSuffix = false;
     bool m_btnFirstPress = true;
+    bool m_isEvaluating = false;
+    bool m_isOrphaned = false;
 };
 
 } // namespace Widgets

@@ -31,7 +31,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void letGo();
+    void releasePointer();
 
     bool m_isMousePressed = false;
 };

@@ -1,0 +1,243 @@
+#include "cropeditframe.h"
+
+#include "saturation_p.h"
+#include "slidereditframe.h"
+
+namespace Vantor {
+namespace Widgets {
+
+namespace Internal {
+
+class CropEditFramePrivate : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CropEditFramePrivate(CropEditFrame *editer);
+
+    void createWidgets();
+    void createConnects();
+
+    CropEditFrame *m_pEditer;
+    // Last crop reported or set by setCropValue().
+    QRect m_lastCrop;
+    int m_nMinWidth = 1;
+    int m_nMinHeight = 1;
+    int m_nMinX = 0;
+    int m_nMinY = 0;
+
+private Q_SLOTS:
+    void slotXValueChanged(int val);
+    void slotYValueChanged(int val);
+    void slotWidthValueChanged(int val);
+    void slotHeightValueChanged(int val);
+
+private:
+    using Type = RectEditFrame::Type;
+
+    struct Crop
+    {
+        int x = 0;
+        int y = 0;
+        int w = 0;
+        int h = 0;
+    };
+
+    Crop crop() const;
+    int limit(Type position, Type size) const;
+    int heldInArea(Type changed, int val, Type partner, int partnerVal, int limit);
+    void report(const Crop &crop);
+};
+
+CropEditFramePrivate::CropEditFramePrivate(CropEditFrame *editer) : m_pEditer(editer) { }
+
+void CropEditFramePrivate::createWidgets() { }
+
+// The base emits a field's own signal before valueChanged(), so the crop is
+// held and reported before the host sees the whole rectangle.
+void CropEditFramePrivate::createConnects()
+{
+    using Private = CropEditFramePrivate;
+    connect(m_pEditer, &RectEditFrame::xValueChanged, this, &Private::slotXValueChanged);
+    connect(m_pEditer, &RectEditFrame::yValueChanged, this, &Private::slotYValueChanged);
+    connect(m_pEditer, &RectEditFrame::widthValueChanged, this, &Private::slotWidthValueChanged);
+    connect(m_pEditer, &RectEditFrame::heightValueChanged, this, &Private::slotHeightValueChanged);
+}
+
+CropEditFramePrivate::Crop CropEditFramePrivate::crop() const
+{
+    Crop crop;
+    m_pEditer->value(crop.x, crop.y, crop.w, crop.h);
+    return crop;
+}
+
+// The far edge of the area: where the smallest position and the greatest size end.
+int CropEditFramePrivate::limit(Type position, Type size) const
+{
+    int lowest = 0;
+    int greatest = 0;
+    int unused = 0;
+    m_pEditer->range(position, lowest, unused);
+    m_pEditer->range(size, unused, greatest);
+    return saturatedSum(lowest, greatest);
+}
+
+// The value at which position and size stay within the limit; at the limit
+// neither of the two may grow.
+int CropEditFramePrivate::heldInArea(Type changed, int val, Type partner, int partnerVal, int limit)
+{
+    const qint64 sum = qint64(partnerVal) + val;
+    if (sum > limit) {
+        val = saturatedDifference(limit, partnerVal);
+    }
+    const int directions =
+        sum >= limit ? SliderEditFrame::AllowedToSmaller : SliderEditFrame::AllowedToAny;
+    m_pEditer->setValueChangeDirection(changed, directions, val);
+    m_pEditer->setValueChangeDirection(partner, directions, partnerVal);
+    return val;
+}
+
+void CropEditFramePrivate::report(const Crop &crop)
+{
+    static_cast<RectEditFrame *>(m_pEditer)->setValue(crop.x, crop.y, crop.w, crop.h);
+    const QRect rect = saturatedRect(crop.x, crop.y, crop.w, crop.h);
+    if (rect != m_lastCrop) {
+        m_lastCrop = rect;
+        Q_EMIT m_pEditer->cropValueChanged(crop.x, crop.y, crop.w, crop.h);
+    }
+}
+
+void CropEditFramePrivate::slotXValueChanged(int val)
+{
+    Crop next = crop();
+    next.x = heldInArea(Type::X, val, Type::Width, next.w, limit(Type::X, Type::Width));
+    report(next);
+}
+
+void CropEditFramePrivate::slotYValueChanged(int val)
+{
+    Crop next = crop();
+    next.y = heldInArea(Type::Y, val, Type::Height, next.h, limit(Type::Y, Type::Height));
+    report(next);
+}
+
+void CropEditFramePrivate::slotWidthValueChanged(int val)
+{
+    Crop next = crop();
+    next.w = heldInArea(Type::Width, val, Type::X, next.x, limit(Type::X, Type::Width));
+    report(next);
+}
+
+void CropEditFramePrivate::slotHeightValueChanged(int val)
+{
+    Crop next = crop();
+    next.h = heldInArea(Type::Height, val, Type::Y, next.y, limit(Type::Y, Type::Height));
+    report(next);
+}
+
+} // namespace Internal
+
+/*!
+    \class CropEditFrame
+    \brief A rectangle editor that keeps a crop within an area.
+
+    Position plus size never leave the area while neither the position nor the
+    offset lock is on. Hosts take the crop from cropValueChanged(); the base's
+    valueChanged() follows it and carries the changed field as the user set it,
+    before it was held in the area.
+*/
+
+/*!
+    \fn void CropEditFrame::cropValueChanged(int x, int y, int w, int h)
+    \brief The user changed the crop. Not emitted where it is the one that was
+    reported or set last.
+*/
+
+/*! Builds the editor with the least position 0, 0 and the least size 1 by 1. */
+CropEditFrame::CropEditFrame(QWidget *parent)
+    : RectEditFrame(parent), d(new Internal::CropEditFramePrivate(this))
+{
+    d->createWidgets();
+    d->createConnects();
+}
+
+CropEditFrame::~CropEditFrame()
+{
+    delete d;
+    d = nullptr;
+}
+
+/*! Keeps \a nMinX and \a nMinY as least position for setCropRange() with two arguments. */
+void CropEditFrame::setCropMinPos(int nMinX, int nMinY)
+{
+    d->m_nMinX = nMinX;
+    d->m_nMinY = nMinY;
+}
+
+/*! Keeps \a nMinWidth and \a nMinHeight as least size for setCropRange() with two arguments. */
+void CropEditFrame::setCropMinSize(int nMinWidth, int nMinHeight)
+{
+    d->m_nMinWidth = nMinWidth;
+    d->m_nMinHeight = nMinHeight;
+}
+
+/*! Sets the fields' ranges for an area of \a width by \a height. Emits nothing. */
+void CropEditFrame::setCropRange(int width, int height)
+{
+    setCropRange(d->m_nMinX, d->m_nMinY, d->m_nMinWidth, d->m_nMinHeight, width, height);
+}
+
+/*!
+    Sets the fields' ranges for an area of \a nTotalHor by \a nTotalVer with
+    least position \a nMinX, \a nMinY and least size \a nMinWidth by
+    \a nMinHeight, none of which is kept for later calls. A field's value
+    outside its range is clamped. Emits nothing.
+*/
+void CropEditFrame::setCropRange(int nMinX, int nMinY, int nMinWidth, int nMinHeight, int nTotalHor,
+                                 int nTotalVer)
+{
+    setRange(X, nMinX, Internal::saturatedDifference(nTotalHor, nMinWidth));
+    setRange(Y, nMinY, Internal::saturatedDifference(nTotalVer, nMinHeight));
+    setRange(Width, nMinWidth, nTotalHor);
+    setRange(Height, nMinHeight, nTotalVer);
+}
+
+/*! Shows the crop \a x, \a y, \a w, \a h, each clamped to its field's range. Emits nothing. */
+void CropEditFrame::setCropValue(int x, int y, int w, int h)
+{
+    d->m_lastCrop = Internal::saturatedRect(x, y, w, h);
+    RectEditFrame::setValue(x, y, w, h);
+}
+
+/*! Shows the crop \a rect. Emits nothing. */
+void CropEditFrame::setCropValue(const QRect &rect)
+{
+    d->m_lastCrop = rect;
+    RectEditFrame::setValue(rect);
+}
+
+/*! As RectEditFrame::setRange(). */
+void CropEditFrame::setRange(Type type, int min, int max)
+{
+    RectEditFrame::setRange(type, min, max);
+}
+
+void CropEditFrame::setValue(Type type, int val)
+{
+    RectEditFrame::setValue(type, val);
+}
+
+void CropEditFrame::setValue(int x, int y, int w, int h)
+{
+    RectEditFrame::setValue(x, y, w, h);
+}
+
+void CropEditFrame::setValue(const QRect &rect)
+{
+    RectEditFrame::setValue(rect);
+}
+
+} // namespace Widgets
+} // namespace Vantor
+
+#include "cropeditframe.moc"

@@ -1,0 +1,260 @@
+#include "qlineeditcal.h"
+
+#include "calculatorpatterns_p.h"
+#include "expressionevaluation_p.h"
+
+#include <QtCore/QPointer>
+#include <QtCore/QSignalBlocker>
+
+namespace Vantor {
+namespace Widgets {
+
+using Internal::CalculatorPatterns;
+
+/*!
+    \class LineEditCal
+    \brief The text field of the spin boxes: an arithmetic expression where a
+    number is expected.
+
+    Every edit is filtered: characters that no expression has are refused,
+    leading zeros dropped, a second decimal point or too many decimals of a
+    number undone. A finished expression is evaluated, clamped, formatted and
+    written back as the field's text. It is finished by "=" as the last
+    character or by setSlotEditingFinished().
+*/
+
+// A copy of a std::regex shares its compiled automaton.
+LineEditCal::LineEditCal(QWidget *parent)
+    : QLineEdit(parent), m_regex(CalculatorPatterns::instance().character),
+      m_regexMark(CalculatorPatterns::instance().mark),
+      m_regexFourOperation(CalculatorPatterns::instance().fourOperation),
+      m_regexstr(CalculatorPatterns::instance().letters)
+{
+    connect(this, &QLineEdit::textChanged, this, &LineEditCal::onSlotTextChanged);
+    setProperty("noSpaceingLineEdit", true);
+}
+
+/*!
+    Takes \a result as the last accepted result: it is shown again when an
+    evaluation fails. The text does not change.
+*/
+void LineEditCal::setInitialResult(const float &result)
+{
+    m_beforeResult = QString::number(static_cast<double>(result), 'g', 6);
+}
+
+/*! Sets the number of decimals of a shown result to \a remainSeveral. */
+void LineEditCal::setResultsRadixPointSeveral(const int &remainSeveral)
+{
+    m_remainSeveral = remainSeveral;
+}
+
+/*! Sets the most characters after the decimal point of a typed number to \a inputSeveral. */
+void LineEditCal::setInputRadixPointSeveral(const int &inputSeveral)
+{
+    m_inputSeveral = inputSeveral;
+}
+
+/*! Clamps results to \a min and \a max; where they are inverted, \a min wins. */
+void LineEditCal::setLineEditMinOrMax(const float &min, const float &max)
+{
+    m_minNum = min;
+    m_maxNum = max;
+}
+
+/*! Records that the host shows a suffix; the field itself does not need to know. */
+void LineEditCal::setSuffix(bool bSuffix)
+{
+    m_bSuffix = bSuffix;
+}
+
+/*!
+    Evaluates the text unless it is the last accepted result. Emits nothing
+    but the text's own change.
+*/
+void LineEditCal::setSlotEditingFinished()
+{
+    if (text() != m_beforeResult) {
+        setShowResult(text());
+    }
+}
+
+/*!
+    Filters \a text, or evaluates it where it ends in "=" and emits
+    signalsResult() then, whether that succeeded or not.
+*/
+void LineEditCal::onSlotTextChanged(QString text)
+{
+    if (text == m_beforeResult || m_isEvaluating) {
+        return;
+    }
+    if (text.isEmpty()) {
+        m_beforeText.clear();
+        return;
+    }
+    m_cursorPosition = cursorPosition();
+    if (text.endsWith(QLatin1Char('='))) {
+        text.chop(1);
+        const QPointer<LineEditCal> self(this);
+        setShowResult(text);
+        if (self && !m_isOrphaned) {
+            Q_EMIT signalsResult();
+        }
+        return;
+    }
+    const QSignalBlocker blocker(this);
+    setTextFormat(text);
+}
+
+// Only the character before the cursor is tested, so a paste that ends in an
+// accepted character stays whole; its evaluation fails later.
+void LineEditCal::setTextFormat(QString strText)
+{
+    if (m_cursorPosition > strText.length()) {
+        return;
+    }
+    const QChar typed = strText.at(qMax(m_cursorPosition - 1, 0));
+    if (CalculatorPatterns::instance().isAccepted(typed)) {
+        setExpressionFormat(strText);
+        return;
+    }
+    strText.remove(typed);
+    setResultText(strText);
+    setCursorPosition(m_cursorPosition - 1);
+    m_beforeText = strText;
+}
+
+void LineEditCal::setExpressionFormat(QString strText)
+{
+    bool bCursor = false;
+    setIntereptString(strText, bCursor);
+    setResultText(strText);
+    setCursorPosition(bCursor ? m_cursorPosition - 1 : m_cursorPosition);
+    m_beforeText = strText;
+}
+
+// Splits the text at its marks; between two marks, before the first and after
+// the last stands a number token, which may be empty. The decimal rule finds
+// a token's earlier state by its index, so all of them count.
+void LineEditCal::setIntereptString(QString &strText, bool &bCursor)
+{
+    const CalculatorPatterns &patterns = CalculatorPatterns::instance();
+    std::vector<QString> tokens;
+    QString number;
+    const auto appendNumber = [&] {
+        if (!number.isEmpty()) {
+            setStringFormat(number, bCursor);
+            if (setRadixPointSeveral(number, static_cast<int>(tokens.size()))) {
+                bCursor = true;
+            }
+        }
+        tokens.push_back(number);
+        number.clear();
+    };
+    for (const QChar character : qAsConst(strText)) {
+        if (patterns.isMark(character)) {
+            appendNumber();
+            tokens.emplace_back(character);
+        } else {
+            number.append(character);
+        }
+    }
+    appendNumber();
+
+    strText.clear();
+    for (const QString &token : tokens) {
+        strText.append(token);
+    }
+    m_vecStringResults = std::move(tokens);
+}
+
+void LineEditCal::setStringFormat(QString &strText, bool &bFormat)
+{
+    int zeros = 0;
+    while (zeros + 1 < strText.length() && strText.at(zeros) == QLatin1Char('0')
+           && strText.at(zeros + 1) != QLatin1Char('.')) {
+        ++zeros;
+    }
+    if (zeros > 0) {
+        strText.remove(0, zeros);
+        bFormat = true;
+    }
+}
+
+// Every character after the first point counts as a decimal, digit or not. A
+// token that the previous pass did not have is never reverted.
+bool LineEditCal::setRadixPointSeveral(QString &strText, const int &index)
+{
+    if (static_cast<std::size_t>(index) >= m_vecStringResults.size()) {
+        return false;
+    }
+    const int point = strText.indexOf(QLatin1Char('.'));
+    if (point < 0) {
+        return false;
+    }
+    const bool isSecondPoint = strText.indexOf(QLatin1Char('.'), point + 1) >= 0;
+    if (!isSecondPoint && strText.length() - point - 1 <= m_inputSeveral) {
+        return false;
+    }
+    strText = m_vecStringResults[static_cast<std::size_t>(index)];
+    return true;
+}
+
+void LineEditCal::setShowResult(const QString &strText)
+{
+    if (m_isEvaluating) {
+        return;
+    }
+    if (!Internal::isTypedExpression(strText)) {
+        // Events come in while it is evaluated: what interprets the field
+        // meanwhile must find a number, not the script.
+        setResultText(m_beforeResult);
+    }
+    const QPointer<LineEditCal> self(this);
+    m_isEvaluating = true;
+    const std::optional<QString> result = Internal::evaluateExpression(strText);
+    if (!self) {
+        return;
+    }
+    m_isEvaluating = false;
+    if (m_isOrphaned) {
+        deleteLater();
+        return;
+    }
+    if (!result) {
+        setResultText(m_beforeResult);
+        return;
+    }
+    // A text that is no number counts as 0; NaN passes both comparisons.
+    float value = result->toFloat();
+    if (value > m_maxNum) {
+        value = m_maxNum;
+    }
+    if (value < m_minNum) {
+        value = m_minNum;
+    }
+    m_beforeText = QString::number(static_cast<double>(value), 'f', m_remainSeveral);
+    m_beforeResult = m_beforeText;
+    setResultText(m_beforeText);
+}
+
+void LineEditCal::setResultText(QString text)
+{
+    QLineEdit::setText(text);
+}
+
+/*!
+    Called by the spin box's destructor. A field in the middle of an
+    evaluation has QLineEdit's own functions above it, which work on after it:
+    it leaves its dying parent and deletes itself when the evaluation is over.
+*/
+void LineEditCal::outliveParent()
+{
+    if (m_isEvaluating) {
+        m_isOrphaned = true;
+        setParent(nullptr);
+    }
+}
+
+} // namespace Widgets
+} // namespace Vantor

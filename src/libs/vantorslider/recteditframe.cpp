@@ -1,0 +1,718 @@
+#include "recteditframe.h"
+
+#include "editorlayout_p.h"
+#include "invalidtype_p.h"
+#include "saturation_p.h"
+#include "slidereditframe.h"
+#include "ui_recteditframe.h"
+
+#include <QtCore/QPointer>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace Vantor {
+namespace Widgets {
+
+namespace Internal {
+
+namespace {
+
+// numerator * value / denominator in whole units, half away from zero.
+int scaled(int numerator, int value, int denominator)
+{
+    return saturatedInt(std::round(double(qint64(numerator) * value) / double(denominator)));
+}
+
+int directionAtLimit(bool isAtLimit)
+{
+    return isAtLimit ? SliderEditFrame::AllowedToSmaller : SliderEditFrame::AllowedToAny;
+}
+
+void allowAnyDirection(SliderEditFrame *field)
+{
+    field->setValueChangeDirection(SliderEditFrame::AllowedToAny, field->value());
+}
+
+} // namespace
+
+class RectEditFramePrivate : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit RectEditFramePrivate(RectEditFrame *editer);
+    ~RectEditFramePrivate() override;
+
+    void createWidgets();
+    void createConnects();
+    void setSizeLock(bool bLock);
+    void slotLockPositionButtonToggled(bool checked);
+    void slotLockSizeButtonToggled(bool checked);
+
+    std::array<SliderEditFrame *, 4> fields() const
+    {
+        return {ui->frameX, ui->frameY, ui->frameWidth, ui->frameHeight};
+    }
+    SliderEditFrame *fieldOrWarn(int type, const char *failure, const QMessageLogger &here) const;
+
+    RectEditFrame *m_pEditer;
+    Ui::RectEditFrame *ui;
+    RectEditFrame::LockType m_sizeLockType = RectEditFrame::SizeScaleLock;
+    QPoint m_lockedPosition;
+    // Width and height at the switch-on, or a ratio in thousandths.
+    QSize m_lockedSize;
+    bool m_isLockedPosition = false;
+    bool m_isLockedSize = false;
+
+private Q_SLOTS:
+    void slotXValueChanged(int val);
+    void slotYValueChanged(int val);
+    void slotWidthValueChanged(int val);
+    void slotHeightValueChanged(int val);
+
+private:
+    bool isScaleLocked() const
+    {
+        return m_isLockedSize && m_sizeLockType == RectEditFrame::SizeScaleLock;
+    }
+    bool isOffsetLocked() const
+    {
+        return m_isLockedSize && m_sizeLockType == RectEditFrame::OffsetLock;
+    }
+    int scaleHeightTo(int width);
+    int scaleWidthTo(int height);
+};
+
+RectEditFramePrivate::RectEditFramePrivate(RectEditFrame *editer)
+    : m_pEditer(editer), ui(new Ui::RectEditFrame)
+{
+}
+
+RectEditFramePrivate::~RectEditFramePrivate()
+{
+    delete ui;
+    ui = nullptr;
+}
+
+void RectEditFramePrivate::createWidgets()
+{
+    ui->toolButtonLockPosition->setProperty("lockoutstate", true);
+    ui->toolButtonLockSize->setProperty("lockoutstate", true);
+    ui->frameSpacerLockPosition->setProperty("isLockPositionFrame", true);
+    ui->toolButtonLockPosition->setProperty("isLockPositionFrame", true);
+    m_pEditer->setPositionLockEnable(false);
+    m_pEditer->setSizeLockEnable(false, RectEditFrame::SizeScaleLock);
+}
+
+void RectEditFramePrivate::createConnects()
+{
+    using Private = RectEditFramePrivate;
+    connect(ui->frameX, &SliderEditFrame::valueChanged, this, &Private::slotXValueChanged);
+    connect(ui->frameY, &SliderEditFrame::valueChanged, this, &Private::slotYValueChanged);
+    connect(ui->frameWidth, &SliderEditFrame::valueChanged, this, &Private::slotWidthValueChanged);
+    connect(ui->frameHeight, &SliderEditFrame::valueChanged, this,
+            &Private::slotHeightValueChanged);
+    connect(ui->toolButtonLockPosition, &QToolButton::toggled, this,
+            &Private::slotLockPositionButtonToggled);
+    connect(ui->toolButtonLockSize, &QToolButton::toggled, this,
+            &Private::slotLockSizeButtonToggled);
+}
+
+SliderEditFrame *RectEditFramePrivate::fieldOrWarn(int type, const char *failure,
+                                                   const QMessageLogger &here) const
+{
+    switch (type) {
+    case RectEditFrame::X:
+        return ui->frameX;
+    case RectEditFrame::Y:
+        return ui->frameY;
+    case RectEditFrame::Width:
+        return ui->frameWidth;
+    case RectEditFrame::Height:
+        return ui->frameHeight;
+    default:
+        warnInvalidType(here, failure, type);
+        return nullptr;
+    }
+}
+
+// Where the button's state changes, it calls back here through toggled():
+// that run captures and reports, this one then captures the same again. The
+// receiver of the report may delete the editor.
+void RectEditFramePrivate::setSizeLock(bool bLock)
+{
+    const QPointer<RectEditFramePrivate> self(this);
+    ui->toolButtonLockSize->setChecked(bLock);
+    if (!self) {
+        return;
+    }
+    m_isLockedSize = bLock;
+    if (bLock) {
+        m_lockedSize = QSize(ui->frameWidth->value(), ui->frameHeight->value());
+    }
+    allowAnyDirection(ui->frameWidth);
+    allowAnyDirection(ui->frameHeight);
+}
+
+void RectEditFramePrivate::slotLockPositionButtonToggled(bool checked)
+{
+    m_isLockedPosition = checked;
+    if (checked) {
+        m_lockedPosition = QPoint(ui->frameX->value(), ui->frameY->value());
+    }
+    allowAnyDirection(ui->frameX);
+    allowAnyDirection(ui->frameY);
+    Q_EMIT m_pEditer->PositionLockChanged(checked);
+}
+
+void RectEditFramePrivate::slotLockSizeButtonToggled(bool checked)
+{
+    setSizeLock(checked);
+    Q_EMIT m_pEditer->sizeLockChanged(checked);
+}
+
+namespace {
+
+// One field moves its partner by its own distance from where the lock caught
+// it. Only the partner's maximum stops the field, its minimum does not.
+void moveAlong(SliderEditFrame *field, int val, int locked, SliderEditFrame *partner,
+               int lockedPartner)
+{
+    partner->setValue(saturatedInt(qint64(lockedPartner) + (qint64(val) - locked)));
+    field->setValueChangeDirection(directionAtLimit(partner->value() == partner->maximum()), val);
+}
+
+} // namespace
+
+void RectEditFramePrivate::slotXValueChanged(int val)
+{
+    if (m_isLockedPosition) {
+        moveAlong(ui->frameX, val, m_lockedPosition.x(), ui->frameY, m_lockedPosition.y());
+    }
+    const QPointer<RectEditFramePrivate> self(this);
+    Q_EMIT m_pEditer->xValueChanged(val);
+    if (self) {
+        Q_EMIT m_pEditer->valueChanged(val, ui->frameY->value(), ui->frameWidth->value(),
+                                       ui->frameHeight->value());
+    }
+}
+
+void RectEditFramePrivate::slotYValueChanged(int val)
+{
+    if (m_isLockedPosition) {
+        moveAlong(ui->frameY, val, m_lockedPosition.y(), ui->frameX, m_lockedPosition.x());
+    }
+    const QPointer<RectEditFramePrivate> self(this);
+    Q_EMIT m_pEditer->yValueChanged(val);
+    if (self) {
+        Q_EMIT m_pEditer->valueChanged(ui->frameX->value(), val, ui->frameWidth->value(),
+                                       ui->frameHeight->value());
+    }
+}
+
+void RectEditFramePrivate::slotWidthValueChanged(int val)
+{
+    const QPointer<RectEditFramePrivate> self(this);
+    if (isOffsetLocked()) {
+        moveAlong(ui->frameWidth, val, m_lockedSize.width(), ui->frameHeight,
+                  m_lockedSize.height());
+    } else if (isScaleLocked() && m_lockedSize.width() > 0) {
+        val = scaleHeightTo(val);
+    }
+    if (self) {
+        Q_EMIT m_pEditer->widthValueChanged(val);
+    }
+    if (self) {
+        Q_EMIT m_pEditer->valueChanged(ui->frameX->value(), ui->frameY->value(), val,
+                                       ui->frameHeight->value());
+    }
+}
+
+void RectEditFramePrivate::slotHeightValueChanged(int val)
+{
+    const QPointer<RectEditFramePrivate> self(this);
+    if (isOffsetLocked()) {
+        moveAlong(ui->frameHeight, val, m_lockedSize.height(), ui->frameWidth,
+                  m_lockedSize.width());
+    } else if (isScaleLocked() && m_lockedSize.height() > 0) {
+        val = scaleWidthTo(val);
+    }
+    if (self) {
+        Q_EMIT m_pEditer->heightValueChanged(val);
+    }
+    if (self) {
+        Q_EMIT m_pEditer->valueChanged(ui->frameX->value(), ui->frameY->value(),
+                                       ui->frameWidth->value(), val);
+    }
+}
+
+// Brings the height along with a width that the user set and returns the width
+// that the area allows. The ranges' maxima stand for the extent of the whole
+// area. The editor may be gone when this returns, for it emits last.
+int RectEditFramePrivate::scaleHeightTo(int width)
+{
+    const int lockedW = m_lockedSize.width();
+    const int lockedH = m_lockedSize.height();
+    const qint64 xOff = qint64(ui->frameX->value()) - ui->frameX->minimum();
+    const qint64 yOff = qint64(ui->frameY->value()) - ui->frameY->minimum();
+    const int wMax = ui->frameWidth->maximum();
+    const int hMin = ui->frameHeight->minimum();
+    const int hMax = ui->frameHeight->maximum();
+
+    if (width + xOff >= wMax) {
+        width = saturatedInt(wMax - xOff);
+        ui->frameWidth->setValueChangeDirection(SliderEditFrame::AllowedToSmaller, width);
+    }
+    int height = scaled(lockedH, width, lockedW);
+    // A flat basis has no width for a height: the width stays as it is then.
+    if (lockedH != 0) {
+        if (yOff + height >= hMax) {
+            width = scaled(lockedW, saturatedInt(hMax - yOff), lockedH);
+            ui->frameWidth->setValueChangeDirection(SliderEditFrame::AllowedToSmaller, width);
+            height = scaled(lockedH, width, lockedW);
+        } else if (height > hMax || height < hMin) {
+            width = scaled(lockedW, ui->frameHeight->value(), lockedH);
+            height = scaled(lockedH, width, lockedW);
+        }
+    }
+    ui->frameWidth->setValue(width);
+    ui->frameHeight->setValue(height);
+    Q_EMIT m_pEditer->heightValueChanged(height);
+    return width;
+}
+
+// Not the mirror image of scaleHeightTo(): the width limit is tested with the
+// width that belongs to the height as the user set it, before it was limited.
+int RectEditFramePrivate::scaleWidthTo(int height)
+{
+    const int lockedW = m_lockedSize.width();
+    const int lockedH = m_lockedSize.height();
+    const qint64 xOff = qint64(ui->frameX->value()) - ui->frameX->minimum();
+    const qint64 yOff = qint64(ui->frameY->value()) - ui->frameY->minimum();
+    const int wMin = ui->frameWidth->minimum();
+    const int wMax = ui->frameWidth->maximum();
+    const int hMax = ui->frameHeight->maximum();
+
+    const int requestedWidth = scaled(lockedW, height, lockedH);
+    if (height + yOff >= hMax) {
+        height = saturatedInt(hMax - yOff);
+        ui->frameHeight->setValueChangeDirection(SliderEditFrame::AllowedToSmaller, height);
+    }
+    if (lockedW != 0) {
+        if (requestedWidth + xOff >= wMax) {
+            height = scaled(lockedH, saturatedInt(wMax - xOff), lockedW);
+            ui->frameHeight->setValueChangeDirection(SliderEditFrame::AllowedToSmaller, height);
+        } else if (requestedWidth > wMax || requestedWidth < wMin) {
+            height = scaled(lockedH, ui->frameWidth->value(), lockedW);
+        }
+    }
+    const int width = scaled(lockedW, height, lockedH);
+    ui->frameHeight->setValue(height);
+    ui->frameWidth->setValue(width);
+    Q_EMIT m_pEditer->widthValueChanged(width);
+    return height;
+}
+
+} // namespace Internal
+
+/*!
+    \class RectEditFrame
+    \brief An editor for a rectangle: x, y, width and height as four slider
+    rows in two panels, each panel with a lock.
+
+    An operation that takes a Type addresses the one field that it names; any
+    other value, Position, Size and All among them, changes nothing and is
+    reported by a warning in Qt's log.
+
+    While the position lock is on, x and y move by the same distance. While the
+    size lock is on, width and height do (OffsetLock) or keep their proportion
+    (SizeScaleLock). The lock buttons are hidden until the host enables them; a
+    placeholder of the same size stands in their place.
+
+    Style sheets select on "isSliderFrame" of the editor, "lockoutstate" of
+    both lock buttons, "isLockPositionFrame" of the position's lock button and
+    placeholder, and on the object names "frameX", "frameY", "frameWidth",
+    "frameHeight", "framePosition", "frameSize", "toolButtonLockPosition" and
+    "toolButtonLockSize".
+*/
+
+/*!
+    \enum RectEditFrame::Type
+    \brief The fields, as single bits, and their combinations for setEditerVisible().
+
+    \var RectEditFrame::X
+    Left edge.
+    \var RectEditFrame::Y
+    Top edge.
+    \var RectEditFrame::Position
+    Both of X and Y.
+    \var RectEditFrame::Width
+    Width.
+    \var RectEditFrame::Height
+    Height.
+    \var RectEditFrame::Size
+    Both of Width and Height.
+    \var RectEditFrame::All
+    All four.
+*/
+
+/*!
+    \enum RectEditFrame::LockType
+    \brief How the size lock ties width and height.
+
+    \var RectEditFrame::OffsetLock
+    Both change by the same amount.
+    \var RectEditFrame::SizeScaleLock
+    They keep the proportion that they had when the lock was switched on.
+*/
+
+/*!
+    \fn void RectEditFrame::valueChanged(int x, int y, int w, int h)
+    \brief The user changed a field; emitted last, with all four values.
+
+    \fn void RectEditFrame::xValueChanged(int val)
+    \brief The user changed x to \a val; emitted before valueChanged().
+
+    \fn void RectEditFrame::yValueChanged(int val)
+    \brief The user changed y to \a val; emitted before valueChanged().
+
+    \fn void RectEditFrame::widthValueChanged(int val)
+    \brief The user changed the width to \a val, or the proportional lock did
+    after the height; emitted before valueChanged().
+
+    \fn void RectEditFrame::heightValueChanged(int val)
+    \brief The user changed the height to \a val, or the proportional lock did
+    after the width; emitted before valueChanged().
+
+    \fn void RectEditFrame::sizeLockChanged(bool bLock)
+    \brief The size lock was switched to \a bLock, by the user or the host.
+
+    \fn void RectEditFrame::PositionLockChanged(bool bLock)
+    \brief The user switched the position lock to \a bLock.
+*/
+
+/*! Builds the four fields without label texts and with hidden lock buttons. Emits nothing. */
+RectEditFrame::RectEditFrame(QWidget *parent)
+    : QFrame(parent), d(new Internal::RectEditFramePrivate(this))
+{
+    d->ui->setupUi(this);
+    d->createWidgets();
+    d->createConnects();
+    setProperty("isSliderFrame", true);
+}
+
+RectEditFrame::~RectEditFrame()
+{
+    delete d;
+    d = nullptr;
+}
+
+/*! Shows \a text as the name of the field \a type. */
+void RectEditFrame::setLabelText(Type type, const QString &text)
+{
+    if (auto *field =
+            d->fieldOrWarn(type, "Set Rect label text has failed. The type ", VANTORSLIDER_HERE)) {
+        field->setLabelText(text);
+    }
+}
+
+/*! The name shown of the field \a type; empty where it names none. */
+QString RectEditFrame::labelText(Type type) const
+{
+    const auto *field =
+        d->fieldOrWarn(type, "Set Rect label text has failed. The type ", VANTORSLIDER_HERE);
+    return field != nullptr ? field->labelText() : QString();
+}
+
+/*!
+    Shows the fields whose bit is set in \a types and hides the others; a panel
+    without a field is hidden with its lock.
+*/
+void RectEditFrame::setEditerVisible(int types)
+{
+    d->ui->frameX->setVisible((types & X) != 0);
+    d->ui->frameY->setVisible((types & Y) != 0);
+    d->ui->framePosition->setVisible((types & Position) != 0);
+    d->ui->frameWidth->setVisible((types & Width) != 0);
+    d->ui->frameHeight->setVisible((types & Height) != 0);
+    d->ui->frameSize->setVisible((types & Size) != 0);
+}
+
+/*!
+    SliderEditFrame::setHorizontalSpacing() of every field; \a nSliderButton is
+    also the gap between a panel's fields and its lock, in pixels.
+*/
+void RectEditFrame::setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton)
+{
+    for (auto *field : d->fields()) {
+        field->setHorizontalSpacing(nLabelSlider, nSliderButton);
+    }
+    d->ui->horizontalLayout->setSpacing(nSliderButton);
+    d->ui->horizontalLayout_2->setSpacing(nSliderButton);
+}
+
+/*!
+    Sets the gap between the panels, and that between a panel's fields and its
+    lock, to \a nVal pixels. The latter is set by setHorizontalSpacing() too: the
+    later call decides.
+*/
+void RectEditFrame::setVerticalSpacing(const int &nVal)
+{
+    d->ui->horizontalLayout->setSpacing(nVal);
+    d->ui->horizontalLayout_2->setSpacing(nVal);
+    d->ui->verticalLayout->setSpacing(nVal);
+}
+
+/*! SliderEditFrame::setLabelWidthRange() of the field \a type. */
+void RectEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
+{
+    if (auto *field = d->fieldOrWarn(type, "Set Rect label width range has failed. The type ",
+                                     VANTORSLIDER_HERE)) {
+        field->setLabelWidthRange(maxw, minw);
+    }
+}
+
+/*! SliderEditFrame::setLabelFixedWidth() of the field \a type. */
+void RectEditFrame::setLabelFixedWidth(Type type, int w)
+{
+    if (auto *field = d->fieldOrWarn(type, "Set Rect label fixed width has failed. The type ",
+                                     VANTORSLIDER_HERE)) {
+        field->setLabelFixedWidth(w);
+    }
+}
+
+/*! SliderEditFrame::setButtonWidthRange() of the field \a type. */
+void RectEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
+{
+    if (auto *field = d->fieldOrWarn(type, "Set Rect button width range has failed. The type ",
+                                     VANTORSLIDER_HERE)) {
+        field->setButtonWidthRange(maxw, minw);
+    }
+}
+
+/*! SliderEditFrame::setButtonFixedWidth() of the field \a type. */
+void RectEditFrame::setButtonFixedWidth(Type type, int w)
+{
+    if (auto *field = d->fieldOrWarn(type, "Set Rect button fixed width has failed. The type ",
+                                     VANTORSLIDER_HERE)) {
+        field->setButtonFixedWidth(w);
+    }
+}
+
+/*! SliderEditFrame::setSpinBoxWidthRange() of the field \a type. */
+void RectEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
+{
+    if (auto *field = d->fieldOrWarn(type, "Set Rect spinbox width range has failed. The type ",
+                                     VANTORSLIDER_HERE)) {
+        field->setSpinBoxWidthRange(maxw, minw);
+    }
+}
+
+/*! SliderEditFrame::setSpinBoxFixedWidth() of the field \a type. */
+void RectEditFrame::setSpinBoxFixedWidth(Type type, int w)
+{
+    if (auto *field = d->fieldOrWarn(type, "Set Rect spinbox fixed width has failed. The type ",
+                                     VANTORSLIDER_HERE)) {
+        field->setSpinBoxFixedWidth(w);
+    }
+}
+
+/*! SliderEditFrame::setSpinBoxWheelEnable() of every field. */
+void RectEditFrame::setSpinBoxWheelEnable(bool b)
+{
+    for (auto *field : d->fields()) {
+        field->setSpinBoxWheelEnable(b);
+    }
+}
+
+/*! Shows \a val in the field \a type, clamped to its range. Emits nothing. */
+void RectEditFrame::setValue(Type type, int val)
+{
+    if (auto *field =
+            d->fieldOrWarn(type, "Set Rect value has failed. The type ", VANTORSLIDER_HERE)) {
+        field->setValue(val);
+    }
+}
+
+/*! Shows \a x, \a y, \a w and \a h, each clamped to its field's range. Emits nothing. */
+void RectEditFrame::setValue(int x, int y, int w, int h)
+{
+    d->ui->frameX->setValue(x);
+    d->ui->frameY->setValue(y);
+    d->ui->frameWidth->setValue(w);
+    d->ui->frameHeight->setValue(h);
+}
+
+/*! Shows \a rect, each component clamped to its field's range. Emits nothing. */
+void RectEditFrame::setValue(const QRect &rect)
+{
+    d->ui->frameX->setValue(rect.left());
+    d->ui->frameY->setValue(rect.top());
+    d->ui->frameWidth->setValue(Internal::saturatedInt(qint64(rect.right()) - rect.left() + 1));
+    d->ui->frameHeight->setValue(Internal::saturatedInt(qint64(rect.bottom()) - rect.top() + 1));
+}
+
+/*! Writes the fields' values to \a x, \a y, \a w and \a h. */
+void RectEditFrame::value(int &x, int &y, int &w, int &h)
+{
+    x = d->ui->frameX->value();
+    y = d->ui->frameY->value();
+    w = d->ui->frameWidth->value();
+    h = d->ui->frameHeight->value();
+}
+
+/*! Writes the rectangle that the fields show to \a rect. */
+void RectEditFrame::value(QRect &rect)
+{
+    int x = 0;
+    int y = 0;
+    int w = 0;
+    int h = 0;
+    value(x, y, w, h);
+    rect = Internal::saturatedRect(x, y, w, h);
+}
+
+/*! SliderEditFrame::setRange() of the field \a type. Emits nothing. */
+void RectEditFrame::setRange(Type type, int min, int max)
+{
+    if (auto *field =
+            d->fieldOrWarn(type, "Set Rect value range has failed. The type ", VANTORSLIDER_HERE)) {
+        field->setRange(min, max);
+    }
+}
+
+/*! Writes the range of the field \a type to \a min and \a max; leaves them where it names none. */
+void RectEditFrame::range(Type type, int &min, int &max)
+{
+    if (const auto *field =
+            d->fieldOrWarn(type, "Get Rect value range has failed. The type ", VANTORSLIDER_HERE)) {
+        min = field->minimum();
+        max = field->maximum();
+    }
+}
+
+/*! SliderEditFrame::setSingleStep() of the field \a type. */
+void RectEditFrame::setSingleStep(Type type, int val)
+{
+    if (auto *field =
+            d->fieldOrWarn(type, "Set Rect single step has failed. The type ", VANTORSLIDER_HERE)) {
+        field->setSingleStep(val);
+    }
+}
+
+/*! SliderEditFrame::setPageStep() of the field \a type. */
+void RectEditFrame::setPageStep(Type type, int val)
+{
+    if (auto *field =
+            d->fieldOrWarn(type, "Set Rect page step has failed. The type ", VANTORSLIDER_HERE)) {
+        field->setPageStep(val);
+    }
+}
+
+/*! SliderEditFrame::setValueChangeDirection() of the field \a type. */
+void RectEditFrame::setValueChangeDirection(Type type, int directions, int val)
+{
+    if (auto *field = d->fieldOrWarn(type, "Set Rect value change direction has failed. The type ",
+                                     VANTORSLIDER_HERE)) {
+        field->setValueChangeDirection(directions, val);
+    }
+}
+
+/*! SliderEditFrame::setAutoRepeat() of every field. */
+void RectEditFrame::setAutoRepeat(bool b)
+{
+    for (auto *field : d->fields()) {
+        field->setAutoRepeat(b);
+    }
+}
+
+/*! SliderEditFrame::setAutoRepeatDelay() of every field. */
+void RectEditFrame::setAutoRepeatDelay(int val)
+{
+    for (auto *field : d->fields()) {
+        field->setAutoRepeatDelay(val);
+    }
+}
+
+/*! SliderEditFrame::setAutoRepeatInterval() of every field. */
+void RectEditFrame::setAutoRepeatInterval(int val)
+{
+    for (auto *field : d->fields()) {
+        field->setAutoRepeatInterval(val);
+    }
+}
+
+/*! SliderEditFrame::setReleaseMode() of every field. */
+void RectEditFrame::setReleaseMode(bool b)
+{
+    for (auto *field : d->fields()) {
+        field->setReleaseMode(b);
+    }
+}
+
+/*! SliderEditFrame::setTimeSamplingRate() of every field. */
+void RectEditFrame::setTimeSamplingRate(int val)
+{
+    for (auto *field : d->fields()) {
+        field->setTimeSamplingRate(val);
+    }
+}
+
+/*! Lets the space below the panels take the spare height, if \a b is true; else the panels do. */
+void RectEditFrame::setLastVerticalSpacerExpanding(bool b)
+{
+    Internal::setSpacerExpanding(d->ui->verticalSpacer, b);
+}
+
+/*! True while the pointer holds the slider of any field. */
+bool RectEditFrame::isMousePressed() const
+{
+    const auto fields = d->fields();
+    return std::any_of(fields.begin(), fields.end(),
+                       [](const SliderEditFrame *field) { return field->isMousePressed(); });
+}
+
+/*! Shows the position's lock button, if \a b is true, else its placeholder. The lock stays. */
+void RectEditFrame::setPositionLockEnable(bool b)
+{
+    d->ui->toolButtonLockPosition->setVisible(b);
+    d->ui->frameSpacerLockPosition->setVisible(!b);
+}
+
+/*!
+    Shows the size's lock button, if \a b is true, else its placeholder, and
+    makes the lock one of \a type. Whether it is on does not change.
+*/
+void RectEditFrame::setSizeLockEnable(bool b, LockType type)
+{
+    d->ui->toolButtonLockSize->setVisible(b);
+    d->ui->frameSpacerLockSize->setVisible(!b);
+    d->m_sizeLockType = type;
+}
+
+/*!
+    Switches the size lock to \a bLock and, on, takes the size shown as its
+    basis. Emits sizeLockChanged() only where the button's state changes.
+*/
+void RectEditFrame::setSizeLock(bool bLock)
+{
+    d->setSizeLock(bLock);
+}
+
+/*!
+    Makes \a ratio, width by height, the proportion of the size lock. It lasts
+    until the lock is switched on again. One that is not above 0 leaves the
+    fields untied.
+*/
+void RectEditFrame::setSizeLock(qreal ratio)
+{
+    constexpr int basis = 1000;
+    d->m_lockedSize = QSize(Internal::saturatedInt(std::round(ratio * basis)), basis);
+}
+
+} // namespace Widgets
+} // namespace Vantor
+
+#include "recteditframe.moc"

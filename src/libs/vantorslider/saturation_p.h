@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QtCore/QRect>
+#include <QtCore/QtGlobal>
+
+#include <cmath>
+#include <limits>
+
+namespace Vantor {
+namespace Widgets {
+namespace Internal {
+
+// Results that leave a type's range stop at its ends: a host that sets a range
+// up to INT_MAX gets a held value, not a wrapped one.
+
+inline int saturatedInt(qint64 value)
+{
+    return static_cast<int>(
+        qBound<qint64>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
+}
+
+// NaN has no place on a scale; it stands at 0.
+inline int saturatedInt(double value)
+{
+    if (std::isnan(value)) {
+        return 0;
+    }
+    return static_cast<int>(
+        qBound<double>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
+}
+
+inline float saturatedFloat(double value)
+{
+    return static_cast<float>(qBound<double>(std::numeric_limits<float>::lowest(), value,
+                                             std::numeric_limits<float>::max()));
+}
+
+inline int saturatedSum(int a, int b)
+{
+    return saturatedInt(qint64(a) + b);
+}
+
+inline int saturatedDifference(int a, int b)
+{
+    return saturatedInt(qint64(a) - b);
+}
+
+// QRect keeps the right and bottom edges and computes them unchecked.
+inline QRect saturatedRect(int x, int y, int w, int h)
+{
+    return {QPoint(x, y), QPoint(saturatedInt(qint64(x) + w - 1), saturatedInt(qint64(y) + h - 1))};
+}
+
+} // namespace Internal
+} // namespace Widgets
+} // namespace Vantor

@@ -1,0 +1,537 @@
+#include "slidereditframe.h"
+
+#include "saturation_p.h"
+#include "slidereditframe_p.h"
+#include "sliderengine_p.h"
+#include "sliderrow_p.h"
+#include "ui_slidereditframe.h"
+
+#include <QtCore/QDebug>
+#include <QtCore/QPointer>
+#include <QtCore/QSignalBlocker>
+#include <QtCore/QTimerEvent>
+
+namespace Vantor {
+namespace Widgets {
+
+namespace Internal {
+
+// Keeps slider, spin box and buttons in step and decides when the frame
+// reports a change. The spin box holds the value; with the slider's tracking
+// off, the slider's own value follows the handle only at release.
+class SliderEditPrivate : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit SliderEditPrivate(SliderEditFrame *editer);
+    ~SliderEditPrivate() override;
+
+    void createWidgets();
+    void createConnects();
+    void startSamplingTimer();
+    void stopSamplingTimer();
+    void sample();
+    void emitValueChanged(int val);
+
+    SliderRow row() const { return {*ui, ui->spinBox}; }
+
+    SliderEditFrame *m_pSliderEditer;
+    Ui::SliderEditFrame *ui;
+    // Last value applied or accepted: a child's report of it is an echo.
+    int m_nLastValue = 0;
+    int m_nLastPressedValue = -1;
+    // Value at the start of sampling or at the last tick.
+    int m_nLastTimerValue = -1;
+    bool m_isReleaseMode = false;
+    bool m_isTimeSampling = false;
+    bool m_isTimeSamplingValueChanged = false;
+    int m_nTimeSamplingRate = 100;
+    int m_nSamplingTimer = -1;
+    int m_readValue = 0;
+    int m_valueChangeDirection = SliderEditFrame::AllowedToAny;
+    bool m_isSampleInDelivery = false;
+
+private Q_SLOTS:
+    void slotSpinBoxEditingFinished();
+    void slotSpinBoxEnterFinished();
+    void slotButtonSubtractClicked();
+    void slotButtonSubtractPressed();
+    void slotButtonSubtractReleased();
+    void slotButtonPlusClicked();
+    void slotButtonPlusPressed();
+    void slotButtonPlusReleased();
+    void slotSpinBoxValueChanged(int val);
+    void slotSliderMoved(int val);
+    void slotSliderValueChanged(int val);
+    void slotSliderReleased();
+    void slotSliderPressed();
+
+private:
+    friend struct EngineConnections;
+
+    int spinValue() const { return ui->spinBox->value(); }
+    void report(int val);
+};
+
+SliderEditPrivate::SliderEditPrivate(SliderEditFrame *editer)
+    : m_pSliderEditer(editer), ui(new Ui::SliderEditFrame)
+{
+}
+
+SliderEditPrivate::~SliderEditPrivate()
+{
+    delete ui;
+    ui = nullptr;
+}
+
+void SliderEditPrivate::createWidgets()
+{
+    ui->setupUi(m_pSliderEditer);
+    row().prepare(m_pSliderEditer);
+}
+
+void SliderEditPrivate::createConnects()
+{
+    EngineConnections::make(this, *ui, ui->spinBox, QOverload<int>::of(&QSpinBox::valueChanged));
+}
+
+void SliderEditPrivate::startSamplingTimer()
+{
+    stopSamplingTimer();
+    m_isTimeSamplingValueChanged = false;
+    m_nLastTimerValue = spinValue();
+    m_nSamplingTimer = m_pSliderEditer->startTimer(m_nTimeSamplingRate);
+}
+
+void SliderEditPrivate::stopSamplingTimer()
+{
+    if (m_nSamplingTimer != -1) {
+        m_pSliderEditer->killTimer(m_nSamplingTimer);
+    }
+    m_nSamplingTimer = -1;
+}
+
+// A receiver may run an event loop of its own, in which the timer ticks on.
+void SliderEditPrivate::sample()
+{
+    if (m_isSampleInDelivery || spinValue() == m_nLastTimerValue) {
+        return;
+    }
+    const QPointer<SliderEditPrivate> self(this);
+    m_isSampleInDelivery = true;
+    emitValueChanged(spinValue());
+    if (self) {
+        m_isSampleInDelivery = false;
+        m_nLastTimerValue = spinValue();
+    }
+}
+
+// The direction filter. The receiver may delete the frame: nothing of it is
+// touched after the signal, here and wherever this is called last.
+void SliderEditPrivate::emitValueChanged(int val)
+{
+    if (!isAnyDirectionAllowed(m_valueChangeDirection)) {
+        val = heldValue(m_valueChangeDirection, m_readValue, val);
+        m_pSliderEditer->setValue(val);
+    }
+    Q_EMIT m_pSliderEditer->valueChanged(val);
+}
+
+void SliderEditPrivate::report(int val)
+{
+    m_pSliderEditer->setValue(val);
+    emitValueChanged(spinValue());
+}
+
+void SliderEditPrivate::slotSpinBoxEditingFinished()
+{
+    qDebug() << "SpinBox editing finished";
+    const QPointer<SliderEditPrivate> self(this);
+    ui->spinBox->setSlotEditingFinished();
+    if (self && spinValue() != m_nLastValue) {
+        m_nLastValue = spinValue();
+        emitValueChanged(spinValue());
+    }
+}
+
+// Keyboard tracking is off: losing the focus is what makes the spin box
+// interpret its text and report the new value.
+void SliderEditPrivate::slotSpinBoxEnterFinished()
+{
+    m_pSliderEditer->setFocus(Qt::OtherFocusReason);
+    qDebug() << "SpinBox lose focus.";
+}
+
+void SliderEditPrivate::slotButtonSubtractClicked()
+{
+    const qint64 next = qint64(spinValue()) - ui->spinBox->singleStep();
+    if (next >= ui->spinBox->minimum()) {
+        report(saturatedInt(next));
+    }
+}
+
+void SliderEditPrivate::slotButtonSubtractPressed() { }
+
+void SliderEditPrivate::slotButtonSubtractReleased() { }
+
+void SliderEditPrivate::slotButtonPlusClicked()
+{
+    const qint64 next = qint64(spinValue()) + ui->spinBox->singleStep();
+    if (next <= ui->spinBox->maximum()) {
+        report(saturatedInt(next));
+    }
+}
+
+void SliderEditPrivate::slotButtonPlusPressed() { }
+
+void SliderEditPrivate::slotButtonPlusReleased() { }
+
+void SliderEditPrivate::slotSpinBoxValueChanged(int val)
+{
+    if (val != m_nLastValue) {
+        report(val);
+    }
+}
+
+void SliderEditPrivate::slotSliderMoved(int val)
+{
+    if (val == m_nLastValue || m_isReleaseMode) {
+        return;
+    }
+    m_pSliderEditer->setValue(val);
+    if (!m_isTimeSampling) {
+        emitValueChanged(spinValue());
+    } else if (val != m_nLastTimerValue) {
+        m_isTimeSamplingValueChanged = true;
+    }
+}
+
+// At release in release mode, or by a page or keyboard step: neither release
+// mode nor sampling delays it.
+void SliderEditPrivate::slotSliderValueChanged(int val)
+{
+    if (val == m_nLastValue) {
+        return;
+    }
+    if (val != m_nLastTimerValue) {
+        m_isTimeSamplingValueChanged = true;
+    }
+    report(val);
+}
+
+// Comes before Qt brings the slider's value to the handle's position.
+void SliderEditPrivate::slotSliderReleased()
+{
+    const int val = ui->slider->value();
+    if (!m_isTimeSampling) {
+        if (val != m_nLastValue) {
+            report(val);
+        }
+        return;
+    }
+    stopSamplingTimer();
+    if (val == m_nLastTimerValue) {
+        return;
+    }
+    m_pSliderEditer->setValue(val);
+    if (m_isTimeSamplingValueChanged) {
+        emitValueChanged(spinValue());
+    }
+}
+
+void SliderEditPrivate::slotSliderPressed()
+{
+    if (m_isTimeSampling) {
+        startSamplingTimer();
+    }
+    m_nLastPressedValue = ui->slider->value();
+}
+
+} // namespace Internal
+
+/*!
+    \class SliderEditFrame
+    \brief A labelled editor for an integer parameter: name, slider, spin box,
+    minus and plus button in one row.
+
+    The spin box takes a typed arithmetic expression. valueChanged() reports
+    what the user did through the row's children, never what the setters did:
+    no setter emits anything, even where it clamps the value.
+
+    Style sheets select on the dynamic properties "isSliderFrame" of the frame,
+    "isSliderEditSubtract" and "isSliderEditPlus" of the buttons, and on the
+    children's object names "labelName", "slider", "spinBox",
+    "sliderEditSubtract" and "sliderEditPlus".
+*/
+
+/*!
+    \enum SliderEditFrame::ValueChangeDirection
+    \brief On which side of a reference value reported values are held.
+
+    \var SliderEditFrame::AllowedToBigger
+    Values may not fall below the reference.
+    \var SliderEditFrame::AllowedToSmaller
+    Values may not rise above the reference.
+    \var SliderEditFrame::AllowedToAny
+    No restriction; the default.
+*/
+
+/*!
+    \fn void SliderEditFrame::valueChanged(int val)
+    \brief The user changed the value to \a val.
+
+    When it is emitted during a drag is decided by setReleaseMode() and
+    setTimeSamplingRate(). A value held at the reference of
+    setValueChangeDirection() is emitted on every attempt to pass it.
+*/
+
+/*! Builds a row with Qt's default range of a spin box, 0 to 99. Emits nothing. */
+SliderEditFrame::SliderEditFrame(QWidget *parent)
+    : QFrame(parent), d(new Internal::SliderEditPrivate(this))
+{
+    d->createWidgets();
+    d->createConnects();
+    setProperty("isSliderFrame", true);
+}
+
+SliderEditFrame::~SliderEditFrame()
+{
+    delete d;
+    d = nullptr;
+}
+
+/*!
+    Sets the distance between label and slider to \a nLabelSlider and the
+    distances from the slider to the spin box and on to the buttons to
+    \a nSliderButton, in pixels.
+*/
+void SliderEditFrame::setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton)
+{
+    d->row().setHorizontalSpacing(nLabelSlider, nSliderButton);
+}
+
+/*!
+    Shows \a text as the row's name. It also becomes the accessible name of
+    slider and spin box, and with a minus or plus sign that of the buttons.
+*/
+void SliderEditFrame::setLabelText(const QString &text)
+{
+    d->row().setLabelText(text);
+}
+
+/*! The text shown as the row's name. */
+QString SliderEditFrame::labelText() const
+{
+    return d->ui->labelName->text();
+}
+
+/*! Limits the label's width to \a maxw at most and \a minw at least, in pixels. */
+void SliderEditFrame::setLabelWidthRange(int maxw, int minw)
+{
+    Internal::setWidthRange(d->ui->labelName, maxw, minw);
+}
+
+/*! Makes the label \a w pixels wide. */
+void SliderEditFrame::setLabelFixedWidth(int w)
+{
+    d->ui->labelName->setFixedWidth(w);
+}
+
+/*! Limits each button's width to \a maxw at most and \a minw at least, in pixels. */
+void SliderEditFrame::setButtonWidthRange(int maxw, int minw)
+{
+    d->row().setButtonWidthRange(maxw, minw);
+}
+
+/*! Makes each button \a w pixels wide. */
+void SliderEditFrame::setButtonFixedWidth(int w)
+{
+    d->row().setButtonFixedWidth(w);
+}
+
+/*! Limits the spin box's width to \a maxw at most and \a minw at least, in pixels. */
+void SliderEditFrame::setSpinBoxWidthRange(int maxw, int minw)
+{
+    Internal::setWidthRange(d->ui->spinBox, maxw, minw);
+}
+
+/*! Makes the spin box \a w pixels wide. */
+void SliderEditFrame::setSpinBoxFixedWidth(int w)
+{
+    d->ui->spinBox->setFixedWidth(w);
+}
+
+/*! Lets the wheel step the spin box while it has the focus, if \a b is true; off at first. */
+void SliderEditFrame::setSpinBoxWheelEnable(bool b)
+{
+    d->ui->spinBox->setWheelEnable(b);
+}
+
+/*! Shows or hides the slider; without it the other children stay packed beside the label. */
+void SliderEditFrame::setSliderVisible(bool b)
+{
+    d->row().setSliderVisible(b);
+}
+
+/*! Shows or hides both buttons. */
+void SliderEditFrame::setButtonVisible(bool b)
+{
+    d->row().setButtonVisible(b);
+}
+
+/*! Sets the slider's property \a name to \a value, for style sheets that select on it. */
+void SliderEditFrame::setSliderProperty(const char *name, const QVariant &value)
+{
+    d->ui->slider->setProperty(name, value);
+}
+
+/*!
+    Shows \a val on slider and spin box, clamped to their range, and hands the
+    range to the spin box's calculator. Emits nothing.
+*/
+void SliderEditFrame::setValue(int val)
+{
+    d->m_nLastValue = val;
+    {
+        const QSignalBlocker blocker(d->ui->spinBox);
+        d->ui->spinBox->setValue(val);
+    }
+    {
+        const QSignalBlocker blocker(d->ui->slider);
+        d->ui->slider->setValue(val);
+    }
+    d->ui->spinBox->setSpinBoxCal(val, maximum(), minimum(), 0, 2);
+}
+
+/*! The value that the spin box holds. */
+int SliderEditFrame::value()
+{
+    return d->ui->spinBox->value();
+}
+
+/*!
+    Sets the range of slider and spin box to \a min up to \a max; an inverted
+    range becomes \a min alone. A value outside is clamped. Emits nothing. The
+    calculator learns the new range from the next setValue().
+*/
+void SliderEditFrame::setRange(int min, int max)
+{
+    {
+        const QSignalBlocker blocker(d->ui->spinBox);
+        d->ui->spinBox->setRange(min, max);
+    }
+    const QSignalBlocker blocker(d->ui->slider);
+    d->ui->slider->setRange(min, max);
+}
+
+/*! The lower end of the range. */
+int SliderEditFrame::minimum() const
+{
+    return d->ui->spinBox->minimum();
+}
+
+/*! The upper end of the range. */
+int SliderEditFrame::maximum() const
+{
+    return d->ui->spinBox->maximum();
+}
+
+/*! Sets the step of buttons, arrow keys and wheel to \a val; a negative one is ignored. */
+void SliderEditFrame::setSingleStep(int val)
+{
+    d->ui->spinBox->setSingleStep(val);
+    d->ui->slider->setSingleStep(val);
+}
+
+/*! The step of the buttons. */
+int SliderEditFrame::singleStep()
+{
+    return d->ui->spinBox->singleStep();
+}
+
+/*! Sets the step of a click on the slider's groove to \a val. */
+void SliderEditFrame::setPageStep(int val)
+{
+    d->ui->slider->setPageStep(val);
+}
+
+/*! Lets a held button repeat its step, if \a b is true. Each repetition is reported. */
+void SliderEditFrame::setAutoRepeat(bool b)
+{
+    d->row().setAutoRepeat(b);
+}
+
+/*! Sets the time before a held button repeats to \a val milliseconds. */
+void SliderEditFrame::setAutoRepeatDelay(int val)
+{
+    d->row().setAutoRepeatDelay(val);
+}
+
+/*! Sets the time between a held button's repetitions to \a val milliseconds. */
+void SliderEditFrame::setAutoRepeatInterval(int val)
+{
+    d->row().setAutoRepeatInterval(val);
+}
+
+/*!
+    Reports a drag once, when the handle is let go, if \a b is true. Release
+    mode switches the buttons' auto-repeat off, leaving it switches it on.
+*/
+void SliderEditFrame::setReleaseMode(bool b)
+{
+    d->m_isReleaseMode = b;
+    setAutoRepeat(!b);
+}
+
+/*!
+    Reports a drag at most once every \a val milliseconds and at its end.
+    Leaves release mode, which switches the buttons' auto-repeat on. Nothing
+    switches sampling off again.
+*/
+void SliderEditFrame::setTimeSamplingRate(int val)
+{
+    d->m_nTimeSamplingRate = val;
+    d->m_isTimeSampling = true;
+    setReleaseMode(false);
+}
+
+/*!
+    Holds every reported value on one side of \a val. \a directions is a
+    combination of ValueChangeDirection; anything without AllowedToBigger means
+    AllowedToSmaller. The value shown now does not change.
+*/
+void SliderEditFrame::setValueChangeDirection(int directions, int val)
+{
+    d->m_valueChangeDirection = directions;
+    d->m_readValue = val;
+}
+
+/*! True while the pointer holds the slider; false as soon as it leaves it. */
+bool SliderEditFrame::isMousePressed() const
+{
+    return d->ui->slider->isMousePressed();
+}
+
+/*! Selects the spin box's text when the user enters it. */
+bool SliderEditFrame::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != d->ui->spinBox) {
+        return QFrame::eventFilter(watched, event);
+    }
+    d->row().selectAllOnEntry(this, event);
+    return false;
+}
+
+/*! The sampling tick. */
+void SliderEditFrame::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() == d->m_nSamplingTimer) {
+        d->sample();
+    }
+}
+
+} // namespace Widgets
+} // namespace Vantor
+
+#include "slidereditframe.moc"

@@ -1,0 +1,86 @@
+#include "slidereditframe_p.h"
+
+#include <QtGui/QMouseEvent>
+
+namespace Vantor {
+namespace Widgets {
+
+/*!
+    \class SliderEditSlider
+    \brief The slider of an editor's row: it knows whether the pointer holds
+    it, and leaves the wheel to the page around it.
+*/
+
+SliderEditSlider::SliderEditSlider(QWidget *parent) : QSlider(parent) { }
+
+/*!
+    True from a button press on the slider until the release, until the
+    pointer leaves the slider or until the slider loses the focus, is hidden or
+    disabled, whichever comes first.
+*/
+bool SliderEditSlider::isMousePressed() const
+{
+    return m_isMousePressed;
+}
+
+void SliderEditSlider::mousePressEvent(QMouseEvent *event)
+{
+    m_isMousePressed = true;
+    QSlider::mousePressEvent(event);
+}
+
+void SliderEditSlider::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_isMousePressed = false;
+    QSlider::mouseReleaseEvent(event);
+}
+
+void SliderEditSlider::mouseMoveEvent(QMouseEvent *event)
+{
+    QSlider::mouseMoveEvent(event);
+}
+
+void SliderEditSlider::wheelEvent(QWheelEvent *event)
+{
+    event->ignore();
+}
+
+void SliderEditSlider::focusOutEvent(QFocusEvent *event)
+{
+    m_isMousePressed = false;
+    QSlider::focusOutEvent(event);
+}
+
+void SliderEditSlider::leaveEvent(QEvent *event)
+{
+    m_isMousePressed = false;
+    QSlider::leaveEvent(event);
+}
+
+void SliderEditSlider::hideEvent(QHideEvent *event)
+{
+    QSlider::hideEvent(event);
+    releasePointer();
+}
+
+void SliderEditSlider::changeEvent(QEvent *event)
+{
+    QSlider::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && !isEnabled()) {
+        releasePointer();
+    }
+}
+
+// No release follows once the slider is hidden or disabled under the pointer:
+// the drag ends here, as a release does, so that its last value is reported
+// and the sampling stops.
+void SliderEditSlider::releasePointer()
+{
+    m_isMousePressed = false;
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    QSlider::mouseReleaseEvent(&release);
+}
+
+} // namespace Widgets
+} // namespace Vantor

@@ -1,0 +1,127 @@
+#include "sliderrow_p.h"
+
+#include "slidereditframe_p.h"
+
+#include <QtCore/QEvent>
+#include <QtCore/QTimer>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QSpacerItem>
+#include <QtWidgets/QToolButton>
+#include <QtWidgets/QVBoxLayout>
+
+namespace Vantor {
+namespace Widgets {
+namespace Internal {
+
+namespace {
+
+void setRightMargin(QLayout *layout, int right)
+{
+    QMargins margins = layout->contentsMargins();
+    margins.setRight(right);
+    layout->setContentsMargins(margins);
+}
+
+} // namespace
+
+void setWidthRange(QWidget *widget, int maximum, int minimum)
+{
+    widget->setMaximumWidth(maximum);
+    widget->setMinimumWidth(minimum);
+}
+
+void SliderRow::prepare(QWidget *frame) const
+{
+    // An entry finished with Enter hands the focus to the frame.
+    frame->setFocusPolicy(Qt::StrongFocus);
+    minus->setProperty("isSliderEditSubtract", true);
+    minus->setFocusPolicy(Qt::StrongFocus);
+    plus->setProperty("isSliderEditPlus", true);
+    plus->setFocusPolicy(Qt::StrongFocus);
+    spinBox->installEventFilter(frame);
+}
+
+void SliderRow::setHorizontalSpacing(int labelToSlider, int sliderToRest) const
+{
+    setRightMargin(nameLayout, labelToSlider);
+    setRightMargin(sliderLayout, sliderToRest);
+    setRightMargin(spinBoxLayout, sliderToRest);
+}
+
+// The label is all that tells a reader of the screen what the row is for, so
+// each child that takes the focus is named after it.
+void SliderRow::setLabelText(const QString &text) const
+{
+    label->setText(text);
+    slider->setAccessibleName(text);
+    spinBox->setAccessibleName(text);
+    minus->setAccessibleName(text + QStringLiteral(" \u2212"));
+    plus->setAccessibleName(text + QStringLiteral(" +"));
+}
+
+void SliderRow::setSliderVisible(bool isVisible) const
+{
+    // With the slider gone the spacer takes the free width, so that the rest
+    // stays packed beside the label.
+    if (isVisible) {
+        lastSpacer->changeSize(0, 20, QSizePolicy::Ignored, QSizePolicy::Minimum);
+    } else {
+        lastSpacer->changeSize(20, 20, QSizePolicy::Expanding, QSizePolicy::Minimum);
+    }
+    slider->setVisible(isVisible);
+}
+
+void SliderRow::setButtonWidthRange(int maximum, int minimum) const
+{
+    plus->setMaximumWidth(maximum);
+    minus->setMaximumWidth(maximum);
+    plus->setMinimumWidth(minimum);
+    minus->setMinimumWidth(minimum);
+}
+
+void SliderRow::setButtonFixedWidth(int width) const
+{
+    plus->setFixedWidth(width);
+    minus->setFixedWidth(width);
+}
+
+void SliderRow::setButtonVisible(bool isVisible) const
+{
+    plus->setVisible(isVisible);
+    minus->setVisible(isVisible);
+}
+
+void SliderRow::setAutoRepeat(bool isRepeating) const
+{
+    plus->setAutoRepeat(isRepeating);
+    minus->setAutoRepeat(isRepeating);
+}
+
+void SliderRow::setAutoRepeatDelay(int milliseconds) const
+{
+    plus->setAutoRepeatDelay(milliseconds);
+    minus->setAutoRepeatDelay(milliseconds);
+}
+
+void SliderRow::setAutoRepeatInterval(int milliseconds) const
+{
+    plus->setAutoRepeatInterval(milliseconds);
+    minus->setAutoRepeatInterval(milliseconds);
+}
+
+// Queued, since the field's own handling of the event still moves the cursor.
+void SliderRow::selectAllOnEntry(QWidget *frame, const QEvent *event) const
+{
+    if (event->type() != QEvent::FocusIn && event->type() != QEvent::MouseButtonPress) {
+        return;
+    }
+    QTimer::singleShot(0, Qt::PreciseTimer, frame, [field = spinBox] {
+        if (field->isEnabled()) {
+            field->selectAll();
+        }
+    });
+}
+
+} // namespace Internal
+} // namespace Widgets
+} // namespace Vantor
