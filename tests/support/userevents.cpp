@@ -1,5 +1,7 @@
 #include "userevents.h"
 
+#include <QtCore/QAbstractEventDispatcher>
+#include <QtGui/QClipboard>
 #include <QtGui/QWheelEvent>
 #include <QtGui/QWindow>
 #include <QtWidgets/QStyle>
@@ -15,6 +17,11 @@ QWindow *windowOf(const QWidget *widget)
 QPoint inWindow(const QWidget *widget, const QPoint &pos)
 {
     return widget->mapTo(widget->window(), pos);
+}
+
+QList<QAbstractEventDispatcher::TimerInfo> timersOf(QObject *object)
+{
+    return QAbstractEventDispatcher::instance()->registeredTimers(object);
 }
 
 // Where the handle of a held slider was moved to last.
@@ -37,6 +44,12 @@ void User::type(const QString &text)
     }
 }
 
+void User::paste(const QString &text)
+{
+    QApplication::clipboard()->setText(text);
+    press(Qt::Key_V, Qt::ControlModifier);
+}
+
 void User::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
@@ -50,8 +63,8 @@ void User::click(QWidget *widget)
 
 void User::turnWheel(QWidget *widget)
 {
-    const QPoint pos = widget->rect().center();
-    const QPoint global = widget->mapToGlobal(pos);
+    const QPoint pos = inWindow(widget, widget->rect().center());
+    const QPoint global = windowOf(widget)->mapToGlobal(pos);
     const QPoint notch(0, QWheelEvent::DefaultDeltasPerStep);
 #if QT_VERSION >= QT_VERSION_CHECK(5, 12, 0)
     QWheelEvent event(pos, global, QPoint(), notch, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
@@ -60,7 +73,9 @@ void User::turnWheel(QWidget *widget)
     QWheelEvent event(pos, global, QPoint(), notch, notch.y(), Qt::Vertical, Qt::NoButton,
                       Qt::NoModifier);
 #endif
-    QApplication::sendEvent(widget, &event);
+    // Only a turn that comes from outside goes on to the parents when ignored.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(windowOf(widget), &event); // sendEvent() would unset it
 }
 
 QPoint User::handleCenter(const QSlider *slider, int position)
@@ -113,4 +128,19 @@ void User::clickGroove(QSlider *slider, bool behind)
     const int edge = behind ? slider->width() - 2 : 1;
     QTest::mouseClick(windowOf(slider), Qt::LeftButton, Qt::NoModifier,
                       inWindow(slider, QPoint(edge, handle.y())));
+}
+
+int samplingInterval(QObject *editor)
+{
+    const auto timers = timersOf(editor);
+    return timers.isEmpty() ? -1 : timers.constFirst().interval;
+}
+
+void tick(QObject *editor)
+{
+    const auto timers = timersOf(editor);
+    for (const auto &timer : timers) {
+        QTimerEvent event(timer.timerId);
+        QApplication::sendEvent(editor, &event);
+    }
 }

@@ -14,7 +14,9 @@ namespace User {
 // Shows the window and waits until it is active; false if it never is.
 bool show(QWidget &window);
 
+// "\n" is the Return key, "\t" Tab, "\b" Backspace.
 void type(const QString &text);
+void paste(const QString &text);
 void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 void click(QWidget *widget);
 // One notch away from the user, with the pointer over the middle of the widget.
@@ -31,6 +33,11 @@ void drag(QSlider *slider, std::initializer_list<int> positions);
 void clickGroove(QSlider *slider, bool behind);
 
 } // namespace User
+
+// The interval of the editor's sampling timer, -1 when none runs. A test gives a
+// long interval and lets the ticks come itself.
+int samplingInterval(QObject *editor);
+void tick(QObject *editor);
 
 // Main program of a test: no display needed, the same look and locale everywhere.
 template <typename Test> int runTest(int argc, char *argv[])
