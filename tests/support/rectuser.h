@@ -19,7 +19,7 @@ using Steps = QVector<QPair<QString, QString>>;
 //   "offset", "scale"        the program chooses the kind of the size lock,
 //   "size lock on" (or off), "ratio 1.5"  switches it, sets its proportion
 //   "range w 0 500", "set 0 0 10 20"  sets a field's range, the whole rectangle
-//   "fields"                 shows what the fields hold, as an entry of the log
+//   "fields", "ranges"       shows what the fields hold, as an entry of the log
 class RectUser
 {
 public:
@@ -99,7 +99,11 @@ private:
         else if (words[0] == QLatin1String("set"))
             m_frame.setValue(number(1), number(2), number(3), number(4));
         else if (action == QLatin1String("fields"))
-            log.add(fields());
+            show([](const Row &row) { return row.spinBox->text(); });
+        else if (action == QLatin1String("ranges"))
+            show([](const Row &row) {
+                return QStringLiteral("%1..%2").arg(row.frame->minimum()).arg(row.frame->maximum());
+            });
         else
             program(words);
     }
@@ -110,12 +114,12 @@ private:
             QStringLiteral(" xy w   h").indexOf(name) * 2);
     }
 
-    QString fields() const
+    template <typename Read> void show(Read read)
     {
         QStringList values;
         for (const Row &row : rows)
-            values.append(row.spinBox->text());
-        return values.join(QLatin1Char(' '));
+            values.append(read(row));
+        log.add(values.join(QLatin1Char(' ')));
     }
 
     Vantor::Widgets::RectEditFrame &m_frame;
