@@ -38,7 +38,11 @@ bool User::show(QWidget &window)
 void User::type(const QString &text)
 {
     for (const QChar c : text) {
-        const Qt::Key key = c.unicode() < 0x80 ? QTest::asciiToKey(c.toLatin1()) : Qt::Key_unknown;
+        Qt::Key key = Qt::Key_unknown;
+        if (c == '\n')
+            key = Qt::Key_Return;
+        else if (c.unicode() < 0x80)
+            key = QTest::asciiToKey(c.toLatin1());
         QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), key, QString(c),
                             Qt::NoModifier);
     }
