@@ -1,0 +1,80 @@
+#include "adjustpage.h"
+
+AdjustPage::AdjustPage(PictureView *view, LogPane *log) :
+    Page(tr("Adjust"), view, log)
+{
+    addHeading(tr("Brightness, reported in three ways"),
+               tr("Drag each handle: the picture follows at every move, once at the end, or "
+                  "ten times a second."));
+    addBrightnessRow(tr("Continuous"));
+    addBrightnessRow(tr("On release"))->setReleaseMode(true);
+    addBrightnessRow(tr("Every 100 ms"))->setTimeSamplingRate(100);
+
+    addHeading(tr("Tone"), tr("Whole numbers, and numbers with two decimals. "
+                              "Type an expression such as 12*3 into a field."));
+    addRow(tr("Contrast"), -100, 100, &PictureAdjustment::contrast);
+    addRow(tr("Gamma"), 0.2, 4.0, &PictureAdjustment::gamma);
+    addRow(tr("Saturation"), 0.0, 3.0, &PictureAdjustment::saturation);
+
+    const int reference = 16;
+    addHeading(tr("Held on one side"),
+               tr("This level may not fall below %1, whatever is dragged or typed.")
+                   .arg(reference));
+    IntRow *black = addRow(tr("Black level"), 0, 255, &PictureAdjustment::blackLevel);
+    black->setValue(reference);
+    black->setValueChangeDirection(IntRow::AllowedToBigger, reference);
+    finish();
+}
+
+AdjustPage::IntRow *AdjustPage::addBrightnessRow(const QString &mode)
+{
+    IntRow *row = addRow(mode, -100, 100, &PictureAdjustment::brightness);
+    m_brightnessRows.append(row);
+    connect(row, &IntRow::valueChanged, this, [this, row](int val) {
+        for (IntRow *other : m_brightnessRows) {
+            if (other != row) {
+                other->setValue(val);
+            }
+        }
+    });
+    return row;
+}
+
+AdjustPage::IntRow *AdjustPage::addRow(const QString &label, int min, int max,
+                                       int PictureAdjustment::*field)
+{
+    auto *row = addEditor<IntRow>();
+    row->setLabelText(label);
+    row->setRange(min, max);
+    row->setPageStep(10);
+    row->setAutoRepeat(true);
+    row->setValue(m_view->adjustment().*field);
+    connect(row, &IntRow::valueChanged, m_log, m_log->receiver(label, QStringLiteral("valueChanged")));
+    connect(row, &IntRow::valueChanged, this, [this, field](int val) {
+        PictureAdjustment adjustment = m_view->adjustment();
+        adjustment.*field = val;
+        m_view->setAdjustment(adjustment);
+    });
+    return row;
+}
+
+AdjustPage::DoubleRow *AdjustPage::addRow(const QString &label, double min, double max,
+                                          double PictureAdjustment::*field)
+{
+    auto *row = addEditor<DoubleRow>();
+    row->setLabelText(label);
+    row->setSingleStep(0.05);
+    row->setDecimals(2);
+    row->setRange(min, max);
+    row->setPageStep(25); // in slider positions, hundredths of the value
+    row->setAutoRepeat(true);
+    row->setValue(m_view->adjustment().*field);
+    connect(row, &DoubleRow::valueChanged, m_log,
+            m_log->receiver(label, QStringLiteral("valueChanged")));
+    connect(row, &DoubleRow::valueChanged, this, [this, field](double val) {
+        PictureAdjustment adjustment = m_view->adjustment();
+        adjustment.*field = val;
+        m_view->setAdjustment(adjustment);
+    });
+    return row;
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "page.h"
+
+// Tints the picture with the three colour editors.
+class ColourPage : public Page
+{
+    Q_OBJECT
+
+public:
+    ColourPage(PictureView *view, LogPane *log);
+
+private:
+    void addGain();
+    void addLift();
+    void addWash();
+};

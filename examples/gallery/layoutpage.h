@@ -1,0 +1,20 @@
+#pragma once
+
+#include "rectpage.h"
+
+#include <layouteditframe.h>
+
+// Places a second picture on the first.
+class LayoutPage : public RectPage
+{
+    Q_OBJECT
+
+public:
+    LayoutPage(PictureView *view, LogPane *log);
+
+    PictureView::Overlay overlay() const override { return PictureView::Overlay::Layer; }
+    void setPictureSize(const QSize &size) override;
+
+private:
+    Vantor::Widgets::LayoutEditFrame *m_editor;
+};

@@ -1,0 +1,60 @@
+#include "logpane.h"
+
+#include <QtCore/QThread>
+#include <QtCore/QTime>
+
+#include <cstdio>
+
+namespace {
+
+LogPane *pane = nullptr;
+QtMessageHandler previousHandler = nullptr;
+
+void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    // The platform without a display says of itself what it does not do.
+    if (message.startsWith(QLatin1String("This plugin does not support"))) {
+        return;
+    }
+    // A message of another thread does not touch the widget.
+    if (pane && pane->thread() == QThread::currentThread()) {
+        pane->record(type == QtDebugMsg ? QStringLiteral("log") : QStringLiteral("log, warning"),
+                     message);
+    }
+    previousHandler(type, context, message);
+}
+
+} // namespace
+
+LogPane::LogPane(QWidget *parent) :
+    QPlainTextEdit(parent)
+{
+    setReadOnly(true);
+    setFocusPolicy(Qt::NoFocus);
+    setLineWrapMode(NoWrap);
+    setMaximumBlockCount(2000);
+    // Only the family is set, so that the size follows the application's font.
+    QFont font;
+    font.setFamily(QStringLiteral("monospace"));
+    font.setStyleHint(QFont::TypeWriter);
+    setFont(font);
+    setPlaceholderText(tr("Each signal and log message appears here as it comes."));
+    setAccessibleName(tr("Signal log"));
+    pane = this;
+    previousHandler = qInstallMessageHandler(handleMessage);
+}
+
+LogPane::~LogPane()
+{
+    qInstallMessageHandler(previousHandler);
+    pane = nullptr;
+}
+
+void LogPane::record(const QString &who, const QString &what)
+{
+    const QString line = QStringLiteral("%1  %2").arg(who, -26).arg(what);
+    appendPlainText(QTime::currentTime().toString(QStringLiteral("hh:mm:ss.zzz  ")) + line);
+    if (m_echo) {
+        std::puts(qPrintable(line));
+    }
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QtWidgets/QPlainTextEdit>
+
+#include <type_traits>
+
+// Shows each signal of the editors with its values as it comes, and Qt's log
+// messages between them in the order in which they happened.
+class LogPane : public QPlainTextEdit
+{
+    Q_OBJECT
+
+public:
+    explicit LogPane(QWidget *parent = nullptr);
+    ~LogPane() override;
+
+    // Everything that is recorded goes to the standard output too.
+    void setEcho(bool echo) { m_echo = echo; }
+    void record(const QString &who, const QString &what);
+
+    // A receiver for any signal whose arguments are numbers or flags.
+    auto receiver(const QString &who, const QString &signal)
+    {
+        return [this, who, signal](auto... values) {
+            const QStringList texts {text(values)...};
+            record(who, signal + QLatin1Char('(') + texts.join(QStringLiteral(", "))
+                       + QLatin1Char(')'));
+        };
+    }
+
+private:
+    template <typename T>
+    static QString text(T value)
+    {
+        if constexpr (std::is_same_v<T, bool>) {
+            return value ? QStringLiteral("true") : QStringLiteral("false");
+        } else {
+            return QString::number(value);
+        }
+    }
+
+    bool m_echo = false;
+};

@@ -1,0 +1,63 @@
+#include "logpane.h"
+#include "mainwindow.h"
+#include "scripteduser.h"
+#include "shots.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QDir>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QStyleFactory>
+
+#include <cstdio>
+#include <cstring>
+
+int main(int argc, char *argv[])
+{
+    // The platform is chosen before the application exists, hence before the
+    // options can be parsed properly.
+    for (int i = 1; i < argc; ++i) {
+        if (std::strncmp(argv[i], "--shots", 7) == 0 && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        }
+    }
+
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("gallery"));
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    // The sheets name their glyphs by this prefix; see the top of a sheet.
+    QDir::addSearchPath(QStringLiteral("vantorslider"), QStringLiteral(":/styles"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("A picture workbench that shows the slider editors at work."));
+    parser.addHelpOption();
+    parser.addPositionalArgument(QStringLiteral("picture"), QStringLiteral("The picture to open."),
+                                 QStringLiteral("[picture]"));
+    const QCommandLineOption shotsOption(
+        QStringLiteral("shots"),
+        QStringLiteral("Write pictures of every page to <folder>, play a scripted user and print "
+                       "the signals."),
+        QStringLiteral("folder"));
+    parser.addOption(shotsOption);
+    parser.process(app);
+
+    if (parser.isSet(shotsOption)) {
+        MainWindow window;
+        window.log()->setEcho(true);
+        window.show();
+        ScriptedUser(window).play();
+    }
+
+    MainWindow window;
+    const QStringList pictures = parser.positionalArguments();
+    const QString error = pictures.isEmpty() ? QString() : window.openPicture(pictures.first());
+    if (!error.isEmpty()) {
+        std::fprintf(stderr, "%s\n", qPrintable(error));
+        return 1;
+    }
+    window.show();
+    if (parser.isSet(shotsOption)) {
+        return takeShots(window, parser.value(shotsOption)) ? 0 : 1;
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QtWidgets/QFrame>
+
+class QGridLayout;
+class QPushButton;
+
+// An on-screen keyboard for the library's spin boxes. It opens below a widget
+// that has the dynamic property "Quelmo_VK" as soon as that gets the focus, and
+// types into it by real key events. It never takes the focus itself: a spin box
+// that lost it would take the entry as finished.
+class NumberPad : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit NumberPad(QWidget *parent);
+
+    void setEnabledByFocus(bool enabled);
+    QPushButton *button(const QString &text) const;
+
+private:
+    void addKey(int row, int column, const QString &text, int key, const QString &name = QString());
+    void followFocus(QWidget *widget);
+    void place(const QWidget &field);
+
+    QGridLayout *m_keys;
+    bool m_isEnabled = false;
+};

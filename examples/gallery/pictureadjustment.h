@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QtGui/QColor>
+#include <QtGui/QImage>
+
+#include <array>
+
+// What the editors say about the picture. The defaults leave it unchanged.
+struct PictureAdjustment
+{
+    int brightness = 0; // -100 to 100
+    int contrast = 0; // -100 to 100
+    double gamma = 1.0;
+    double saturation = 1.0; // 0 is grey
+    int blackLevel = 0; // 0 to 255, the darkest level shown
+    std::array<int, 3> gain = {100, 100, 100}; // percent, red, green, blue
+    std::array<int, 3> lift = {0, 0, 0}; // -100 to 100, added to each channel
+    int liftMaster = 100; // percent of the lift
+    QColor wash = QColor(255, 140, 40);
+    int washOpacity = 0; // percent
+};
+
+// Returns an RGB32 copy of the picture with the adjustment applied. All but
+// the saturation goes through one table for each channel, so that a preview is
+// ready within the time of one frame.
+QImage adjusted(const QImage &picture, const PictureAdjustment &adjustment);

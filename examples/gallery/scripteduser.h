@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtCore/QPoint>
+
+class MainWindow;
+class QPushButton;
+class QSlider;
+
+// Works the window through Qt's own pointer, key and wheel events, as a person
+// would. Rows are named by their labels on the page that is shown.
+class ScriptedUser : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ScriptedUser(MainWindow &window);
+
+    // A tour of every page; what it does and what comes of it is in the log.
+    void play();
+
+    void showPage(const QString &title);
+    void drag(const QString &row, int sliderPosition);
+    void click(const QString &row, const char *button);
+    void clickInto(const QString &row);
+    void type(const QString &row, const QString &text);
+    void click(QWidget *widget);
+
+private:
+    void playAdjust();
+    void playCrop();
+    void playMaskAndLayout();
+    void playColour();
+    void playNumberPad();
+
+    QWidget *row(const QString &label) const;
+    QSlider *slider(const QString &row) const;
+    void say(const QString &what) const;
+    void drag(QWidget *widget, const QPoint &from, const QPoint &to);
+    void turnWheelOver(const QString &row);
+    void toggle(const char *lockButton);
+
+    MainWindow &m_window;
+};

@@ -1,0 +1,145 @@
+#include "theme.h"
+
+#include <QtCore/QFile>
+#include <QtGui/QIcon>
+#include <QtGui/QPalette>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QToolButton>
+
+namespace {
+
+QPalette paletteOf(Theme::Kind kind)
+{
+    if (kind == Theme::None) {
+        return QApplication::style()->standardPalette();
+    }
+    const bool dark = kind == Theme::TouchDark;
+    const QColor window(dark ? 0xff1b1d21 : 0xffeef0f3);
+    const QColor base(dark ? 0xff131417 : 0xffffffff);
+    const QColor button(dark ? 0xff30343b : 0xffdfe3e8);
+    const QColor text(dark ? 0xffe8eaed : 0xff1b1d21);
+    const QColor faint(dark ? 0xff8d939c : 0xff6a7079);
+    const QColor accent(dark ? 0xff4da3ff : 0xff0b5cad);
+
+    QPalette palette(button, window);
+    palette.setColor(QPalette::Window, window);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, window);
+    palette.setColor(QPalette::ToolTipBase, base);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                            QPalette::ToolTipText}) {
+        palette.setColor(role, text);
+        palette.setColor(QPalette::Disabled, role, faint);
+    }
+#if QT_VERSION >= QT_VERSION_CHECK(5, 12, 0)
+    palette.setColor(QPalette::PlaceholderText, faint);
+#endif
+    palette.setColor(QPalette::Highlight, accent);
+    palette.setColor(QPalette::HighlightedText, dark ? QColor(0xff0b0d10) : Qt::white);
+    palette.setColor(QPalette::Link, accent);
+    return palette;
+}
+
+QString read(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        qWarning("Cannot read the style sheet %s.", qPrintable(path));
+    }
+    return QString::fromUtf8(file.readAll());
+}
+
+QIcon glyph(const QString &name, const QString &checked = QString())
+{
+    const QString path = QStringLiteral("vantorslider:glyphs/%1-on-light.svg");
+    QIcon icon(path.arg(name));
+    if (!checked.isEmpty()) {
+        icon.addFile(path.arg(checked), QSize(), QIcon::Normal, QIcon::On);
+    }
+    return icon;
+}
+
+// The editors' buttons have neither text nor icon: without a sheet the host
+// says how they look.
+void setIcons(QWidget *root, bool on)
+{
+    const auto buttons = root->findChildren<QToolButton *>();
+    for (QToolButton *button : buttons) {
+        QIcon icon;
+        if (button->property("isSliderEditSubtract").toBool()) {
+            icon = glyph(QStringLiteral("minus"));
+        } else if (button->property("isSliderEditPlus").toBool()) {
+            icon = glyph(QStringLiteral("plus"));
+        } else if (button->property("lockoutstate").toBool()) {
+            icon = glyph(QStringLiteral("lock-open"), QStringLiteral("lock-closed"));
+        } else {
+            continue;
+        }
+        button->setIcon(on ? icon : QIcon());
+    }
+}
+
+} // namespace
+
+QVector<Theme::Name> Theme::names()
+{
+    return {{QStringLiteral("touch-dark"), tr("Touch, &dark")},
+            {QStringLiteral("touch-light"), tr("Touch, &light")},
+            {QStringLiteral("none"), tr("&None")}};
+}
+
+Theme::Theme(QObject *parent) :
+    QObject(parent), m_font(QApplication::font())
+{
+}
+
+void Theme::adopt(QWidget *root)
+{
+    const auto widgets = root->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        // Labels are left out: their pages fit them to their texts.
+        if (widget->inherits("QSlider") || widget->inherits("QAbstractSpinBox")
+            || widget->inherits("QToolButton")
+            || widget->objectName().startsWith(QLatin1String("frameSpacerLock"))) {
+            m_sizes.insert(widget, {widget->minimumSize(), widget->maximumSize()});
+            connect(widget, &QObject::destroyed, this, [this, widget] { m_sizes.remove(widget); });
+        }
+    }
+    setIcons(root, m_kind == None);
+}
+
+void Theme::apply(Kind kind)
+{
+    m_kind = kind;
+    QApplication::setPalette(paletteOf(kind));
+    if (kind == None) {
+        qApp->setStyleSheet(QString());
+        restoreSizes();
+    } else {
+        qApp->setStyleSheet(read(QStringLiteral("vantorslider:%1.qss").arg(names().at(kind).file))
+                            + read(QStringLiteral(":/gallery/chrome.qss")));
+    }
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        setIcons(window, kind == None);
+    }
+}
+
+void Theme::setFontScale(qreal scale)
+{
+    QFont font = m_font;
+    font.setPointSizeF(m_font.pointSizeF() * scale);
+    QApplication::setFont(font);
+    apply(m_kind);
+}
+
+// A sheet writes its min-width and the like into the widgets, over what their
+// forms have set, and does not put those back when it is taken away.
+void Theme::restoreSizes()
+{
+    for (auto it = m_sizes.cbegin(); it != m_sizes.cend(); ++it) {
+        it.key()->setMinimumSize(it.value().minimum);
+        it.key()->setMaximumSize(it.value().maximum);
+    }
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QtCore/QHash>
+#include <QtCore/QObject>
+#include <QtCore/QSize>
+#include <QtGui/QFont>
+
+class QWidget;
+
+// The look of the program, switched at run time: the palette is the program's
+// own affair, the editors are styled by a sheet of the styles folder.
+class Theme : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum Kind { TouchDark, TouchLight, None };
+
+    struct Name
+    {
+        QString file; // in names of files
+        QString text; // in the menu
+    };
+    static QVector<Name> names(); // in the order of Kind
+
+    explicit Theme(QObject *parent = nullptr);
+
+    // Makes the editors below the widget known to the theme. To be called while
+    // no sheet is on, before the widget is shown.
+    void adopt(QWidget *root);
+
+    void apply(Kind kind);
+    void setFontScale(qreal scale);
+    Kind kind() const { return m_kind; }
+
+private:
+    struct SizeLimits
+    {
+        QSize minimum;
+        QSize maximum;
+    };
+
+    void restoreSizes();
+
+    Kind m_kind = None;
+    const QFont m_font;
+    QHash<QWidget *, SizeLimits> m_sizes;
+};
