@@ -174,8 +174,8 @@ void TestSliderEditFrameDouble::scale()
     QTEST(m_row->slider->minimum(), "lowest");
     QTEST(m_row->slider->maximum(), "highest");
     const double magnification = qMin(std::pow(10, decimals), double(most));
-    QCOMPARE(m_frame->minimum(), m_row->slider->minimum() / magnification);
-    QCOMPARE(m_frame->maximum(), m_row->slider->maximum() / magnification);
+    QCOMPARE(qRound64(m_frame->minimum() * magnification), qint64(m_row->slider->minimum()));
+    QCOMPARE(qRound64(m_frame->maximum() * magnification), qint64(m_row->slider->maximum()));
     QCOMPARE(m_row->log.take(), QStringList());
 }
 
