@@ -4,7 +4,8 @@ EventLog *EventLog::s_current = nullptr;
 
 EventLog::EventLog()
 {
-    Q_ASSERT(!s_current);
+    if (s_current)
+        qFatal("The last event log still lives");
     s_current = this;
     m_previous = qInstallMessageHandler(handleMessage);
 }
