@@ -1,7 +1,6 @@
 #include "adjustpage.h"
 
-AdjustPage::AdjustPage(PictureView *view, LogPane *log) :
-    Page(tr("Adjust"), view, log)
+AdjustPage::AdjustPage(PictureView *view, LogPane *log) : Page(tr("Adjust"), view, log)
 {
     addHeading(tr("Brightness, reported in three ways"),
                tr("Drag each handle: the picture follows at every move, once at the end, or "
@@ -10,16 +9,17 @@ AdjustPage::AdjustPage(PictureView *view, LogPane *log) :
     addBrightnessRow(tr("On release"))->setReleaseMode(true);
     addBrightnessRow(tr("Every 100 ms"))->setTimeSamplingRate(100);
 
-    addHeading(tr("Tone"), tr("Whole numbers, and numbers with two decimals. "
-                              "Type an expression such as 12*3 into a field."));
+    addHeading(tr("Tone"),
+               tr("Whole numbers, and numbers with two decimals. "
+                  "Type an expression such as 12*3 into a field."));
     addRow(tr("Contrast"), -100, 100, &PictureAdjustment::contrast);
     addRow(tr("Gamma"), 0.2, 4.0, &PictureAdjustment::gamma);
     addRow(tr("Saturation"), 0.0, 3.0, &PictureAdjustment::saturation);
 
     const int reference = 16;
-    addHeading(tr("Held on one side"),
-               tr("This level may not fall below %1, whatever is dragged or typed.")
-                   .arg(reference));
+    addHeading(
+        tr("Held on one side"),
+        tr("This level may not fall below %1, whatever is dragged or typed.").arg(reference));
     IntRow *black = addRow(tr("Black level"), 0, 255, &PictureAdjustment::blackLevel);
     black->setValue(reference);
     black->setValueChangeDirection(IntRow::AllowedToBigger, reference);
@@ -49,7 +49,8 @@ AdjustPage::IntRow *AdjustPage::addRow(const QString &label, int min, int max,
     row->setPageStep(10);
     row->setAutoRepeat(true);
     row->setValue(m_view->adjustment().*field);
-    connect(row, &IntRow::valueChanged, m_log, m_log->receiver(label, QStringLiteral("valueChanged")));
+    connect(row, &IntRow::valueChanged, m_log,
+            m_log->receiver(label, QStringLiteral("valueChanged")));
     connect(row, &IntRow::valueChanged, this, [this, field](int val) {
         PictureAdjustment adjustment = m_view->adjustment();
         adjustment.*field = val;

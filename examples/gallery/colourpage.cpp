@@ -21,15 +21,14 @@ void setUpChannels(Editor *editor, int min, int max, const std::array<int, 3> &v
         editor->setRange(types[i], min, max);
         editor->setValue(types[i], values[i]);
     }
-    editor->setVerticalSpacing(4);
+    editor->setVerticalSpacing(0);
     editor->setAutoRepeat(true);
     editor->setLastVerticalSpacerExpanding(false);
 }
 
 } // namespace
 
-ColourPage::ColourPage(PictureView *view, LogPane *log) :
-    Page(tr("Colour"), view, log)
+ColourPage::ColourPage(PictureView *view, LogPane *log) : Page(tr("Colour"), view, log)
 {
     addGain();
     addLift();

@@ -2,12 +2,12 @@
 
 using Vantor::Widgets::CropEditFrame;
 
-CropPage::CropPage(PictureView *view, LogPane *log) :
-    RectPage(tr("Crop"), view, log)
+CropPage::CropPage(PictureView *view, LogPane *log) : RectPage(tr("Crop"), view, log)
 {
-    addHeading(tr("Crop"), tr("The rectangle stays inside the picture. Lock the position to move "
-                              "along a diagonal, the size to keep its proportion; drag the "
-                              "rectangle itself in the picture."));
+    addHeading(tr("Crop"),
+               tr("The rectangle stays inside the picture. Lock the position to move "
+                  "along a diagonal, the size to keep its proportion; drag the "
+                  "rectangle itself in the picture."));
     m_editor = addEditor<CropEditFrame>();
     setUp(m_editor, tr("Crop"), {tr("X"), tr("Y"), tr("Width"), tr("Height")});
     m_editor->setPositionLockEnable(true);

@@ -2,11 +2,11 @@
 
 using Vantor::Widgets::LayoutEditFrame;
 
-LayoutPage::LayoutPage(PictureView *view, LogPane *log) :
-    RectPage(tr("Layout"), view, log)
+LayoutPage::LayoutPage(PictureView *view, LogPane *log) : RectPage(tr("Layout"), view, log)
 {
-    addHeading(tr("Layout"), tr("Places a second picture on the first. The lock of this editor "
-                                "lets width and height grow by the same number of pixels."));
+    addHeading(tr("Layout"),
+               tr("Places a second picture on the first. The lock of this editor "
+                  "lets width and height grow by the same number of pixels."));
     m_editor = addEditor<LayoutEditFrame>();
     setUp(m_editor, tr("Layout"), {tr("X"), tr("Y"), tr("Width"), tr("Height")});
     m_editor->setSizeLockEnable(true, LayoutEditFrame::OffsetLock);

@@ -2,6 +2,7 @@
 
 #include <QtCore/QThread>
 #include <QtCore/QTime>
+#include <QtWidgets/QScrollBar>
 
 #include <cstdio>
 
@@ -26,8 +27,7 @@ void handleMessage(QtMsgType type, const QMessageLogContext &context, const QStr
 
 } // namespace
 
-LogPane::LogPane(QWidget *parent) :
-    QPlainTextEdit(parent)
+LogPane::LogPane(QWidget *parent) : QPlainTextEdit(parent)
 {
     setReadOnly(true);
     setFocusPolicy(Qt::NoFocus);
@@ -52,8 +52,9 @@ LogPane::~LogPane()
 
 void LogPane::record(const QString &who, const QString &what)
 {
-    const QString line = QStringLiteral("%1  %2").arg(who, -26).arg(what);
+    const QString line = QStringLiteral("%1  %2").arg(who, -12).arg(what);
     appendPlainText(QTime::currentTime().toString(QStringLiteral("hh:mm:ss.zzz  ")) + line);
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
     if (m_echo) {
         std::puts(qPrintable(line));
     }

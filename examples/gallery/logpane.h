@@ -23,14 +23,13 @@ public:
     {
         return [this, who, signal](auto... values) {
             const QStringList texts {text(values)...};
-            record(who, signal + QLatin1Char('(') + texts.join(QStringLiteral(", "))
-                       + QLatin1Char(')'));
+            record(who,
+                   signal + QLatin1Char('(') + texts.join(QStringLiteral(", ")) + QLatin1Char(')'));
         };
     }
 
 private:
-    template <typename T>
-    static QString text(T value)
+    template <typename T> static QString text(T value)
     {
         if constexpr (std::is_same_v<T, bool>) {
             return value ? QStringLiteral("true") : QStringLiteral("false");

@@ -16,7 +16,8 @@ int main(int argc, char *argv[])
     // The platform is chosen before the application exists, hence before the
     // options can be parsed properly.
     for (int i = 1; i < argc; ++i) {
-        if (std::strncmp(argv[i], "--shots", 7) == 0 && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        if (std::strncmp(argv[i], "--shots", 7) == 0
+            && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
             qputenv("QT_QPA_PLATFORM", "offscreen");
         }
     }

@@ -25,10 +25,10 @@
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QStackedWidget>
 
-MainWindow::MainWindow() :
-    m_view(new PictureView), m_log(new LogPane), m_stack(new QStackedWidget),
-    m_pageButtons(new QButtonGroup(this)), m_numberPad(new NumberPad(this)),
-    m_theme(new Theme(this))
+MainWindow::MainWindow()
+    : m_view(new PictureView), m_log(new LogPane), m_stack(new QStackedWidget),
+      m_pageButtons(new QButtonGroup(this)), m_numberPad(new NumberPad(this)),
+      m_theme(new Theme(this))
 {
     auto *pageBar = new QWidget;
     pageBar->setObjectName(QStringLiteral("pageBar"));
@@ -111,7 +111,8 @@ void MainWindow::createMenus()
 {
     QMenu *file = menuBar()->addMenu(tr("&File"));
     file->addAction(tr("&Open…"), this, &MainWindow::chooseAndOpen, QKeySequence::Open);
-    file->addAction(tr("&Save cropped picture…"), this, &MainWindow::saveCrop, QKeySequence::Save);
+    file->addAction(tr("&Save cropped picture…"), this, &MainWindow::chooseAndSave,
+                    QKeySequence::Save);
     file->addSeparator();
     file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
 
@@ -136,15 +137,14 @@ void MainWindow::createMenus()
     QMenu *scales = view->addMenu(tr("&Font scale"));
     auto *scaleGroup = new QActionGroup(this);
     for (const qreal scale : {1.0, 1.25, 1.5}) {
-        QAction *action
-            = addChoice(scales, QLocale().toString(scale, 'f', 2), qFuzzyCompare(scale, 1.0));
+        QAction *action =
+            addChoice(scales, QLocale().toString(scale, 'f', 2), qFuzzyCompare(scale, 1.0));
         scaleGroup->addAction(action);
         connect(action, &QAction::triggered, this, [this, scale] { m_theme->setFontScale(scale); });
     }
 
-    connect(addChoice(view, tr("&Right to left"), false), &QAction::toggled, this, [](bool on) {
-        QApplication::setLayoutDirection(on ? Qt::RightToLeft : Qt::LeftToRight);
-    });
+    connect(addChoice(view, tr("&Right to left"), false), &QAction::toggled, m_theme,
+            &Theme::setRightToLeft);
     connect(addChoice(view, tr("Number &pad"), false), &QAction::toggled, m_numberPad,
             &NumberPad::setEnabledByFocus);
 }
@@ -155,10 +155,8 @@ void MainWindow::setPicture(const QImage &picture, const QString &name)
     for (Page *page : qAsConst(m_pages)) {
         page->setPictureSize(picture.size());
     }
-    setWindowTitle(tr("%1 (%2 × %3) — Gallery")
-                       .arg(name)
-                       .arg(picture.width())
-                       .arg(picture.height()));
+    setWindowTitle(
+        tr("%1 (%2 × %3) — Gallery").arg(name).arg(picture.width()).arg(picture.height()));
 }
 
 void MainWindow::chooseAndOpen()
@@ -171,18 +169,22 @@ void MainWindow::chooseAndOpen()
     }
 }
 
-void MainWindow::saveCrop()
+QString MainWindow::saveCrop(const QString &fileName) const
 {
-    const QString fileName
-        = QFileDialog::getSaveFileName(this, tr("Save cropped picture"),
-                                       QStringLiteral("cropped.png"),
-                                       tr("Pictures (*.png *.jpg *.bmp)"));
-    if (fileName.isEmpty()) {
-        return;
-    }
     QImageWriter writer(fileName);
     if (!writer.write(m_view->croppedPicture())) {
-        QMessageBox::critical(this, tr("Save cropped picture"),
-                              tr("%1 cannot be written: %2").arg(fileName, writer.errorString()));
+        return tr("%1 cannot be written: %2").arg(fileName, writer.errorString());
+    }
+    return {};
+}
+
+void MainWindow::chooseAndSave()
+{
+    const QString title = tr("Save cropped picture");
+    const QString fileName = QFileDialog::getSaveFileName(
+        this, title, QStringLiteral("cropped.png"), tr("Pictures (*.png *.jpg *.bmp)"));
+    const QString error = fileName.isEmpty() ? QString() : saveCrop(fileName);
+    if (!error.isEmpty()) {
+        QMessageBox::critical(this, title, error);
     }
 }

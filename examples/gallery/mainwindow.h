@@ -20,8 +20,9 @@ class MainWindow : public QMainWindow
 public:
     MainWindow();
 
-    // Returns what went wrong, in words for the user, or an empty text.
+    // Both return what went wrong, in words for the user, or an empty text.
     QString openPicture(const QString &fileName);
+    QString saveCrop(const QString &fileName) const;
 
     const QVector<Page *> &pages() const { return m_pages; }
     void showPage(int index);
@@ -36,7 +37,7 @@ private:
     void createMenus();
     void setPicture(const QImage &picture, const QString &name);
     void chooseAndOpen();
-    void saveCrop();
+    void chooseAndSave();
 
     PictureView *m_view;
     LogPane *m_log;

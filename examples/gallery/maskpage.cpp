@@ -2,11 +2,11 @@
 
 using Vantor::Widgets::MaskEditFrame;
 
-MaskPage::MaskPage(PictureView *view, LogPane *log) :
-    RectPage(tr("Mask"), view, log)
+MaskPage::MaskPage(PictureView *view, LogPane *log) : RectPage(tr("Mask"), view, log)
 {
-    addHeading(tr("Mask"), tr("Four margins. Top and bottom together never pass the height of the "
-                              "picture, left and right never its width."));
+    addHeading(tr("Mask"),
+               tr("Four margins. Top and bottom together never pass the height of the "
+                  "picture, left and right never its width."));
     m_editor = addEditor<MaskEditFrame>();
     setUp(m_editor, tr("Mask"), {tr("Top"), tr("Bottom"), tr("Left"), tr("Right")});
     finish();

@@ -7,9 +7,9 @@
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QPushButton>
 
-NumberPad::NumberPad(QWidget *parent) :
-    QFrame(parent, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus),
-    m_keys(new QGridLayout(this))
+NumberPad::NumberPad(QWidget *parent)
+    : // No window system makes a window of this type the active one.
+      QFrame(parent, Qt::ToolTip | Qt::WindowDoesNotAcceptFocus), m_keys(new QGridLayout(this))
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setFocusPolicy(Qt::NoFocus);
@@ -91,7 +91,8 @@ void NumberPad::place(const QWidget &field)
     const QRect area(field.mapToGlobal(QPoint()), field.size());
     QPoint corner(area.right() - width() + 1, area.bottom() + gap);
     if (const QWindow *window = field.window()->windowHandle()) {
-        const QRect screen = window->screen()->availableGeometry();
+        const QRect screen =
+            window->screen()->availableGeometry().united(field.window()->geometry());
         if (corner.y() + height() > screen.bottom()) {
             corner.setY(area.top() - gap - height());
         }

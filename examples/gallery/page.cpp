@@ -17,8 +17,8 @@ int textWidth(const QLabel &label)
 
 } // namespace
 
-Page::Page(const QString &title, PictureView *view, LogPane *log) :
-    m_view(view), m_log(log), m_title(title), m_layout(new QVBoxLayout(this))
+Page::Page(const QString &title, PictureView *view, LogPane *log)
+    : m_view(view), m_log(log), m_title(title), m_layout(new QVBoxLayout(this))
 {
     m_layout->setSpacing(6);
 }
@@ -38,8 +38,8 @@ void Page::alignLabels()
 
 void Page::addHeading(const QString &title, const QString &caption)
 {
-    auto *heading = new QLabel(
-        QStringLiteral("<b>%1</b><br><small>%2</small>").arg(title, caption));
+    auto *heading =
+        new QLabel(QStringLiteral("<b>%1</b><br><small>%2</small>").arg(title, caption));
     heading->setWordWrap(true);
     heading->setContentsMargins(4, m_layout->isEmpty() ? 0 : 14, 4, 2);
     m_layout->addWidget(heading);

@@ -26,8 +26,7 @@ public:
 protected:
     void addHeading(const QString &title, const QString &caption);
 
-    template <typename Editor>
-    Editor *addEditor()
+    template <typename Editor> Editor *addEditor()
     {
         auto *editor = new Editor;
         editor->setHorizontalSpacing(labelSpacing, controlSpacing);

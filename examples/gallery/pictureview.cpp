@@ -13,8 +13,7 @@ const QColor outline(255, 204, 77);
 
 } // namespace
 
-PictureView::PictureView(QWidget *parent) :
-    QWidget(parent), m_layerPicture(layerPicture())
+PictureView::PictureView(QWidget *parent) : QWidget(parent), m_layerPicture(layerPicture())
 {
     setMinimumSize(320, 180);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -120,8 +119,8 @@ void PictureView::mouseMoveEvent(QMouseEvent *event)
 void PictureView::rescale()
 {
     if (!m_picture.isNull()) {
-        m_preview = m_picture.scaled(pictureArea().size(), Qt::IgnoreAspectRatio,
-                                     Qt::SmoothTransformation);
+        m_preview =
+            m_picture.scaled(pictureArea().size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         setAdjustment(m_adjustment);
     }
 }

@@ -46,10 +46,7 @@ QPoint inWindow(const QWidget &widget, const QPoint &point)
 
 } // namespace
 
-ScriptedUser::ScriptedUser(MainWindow &window) :
-    m_window(window)
-{
-}
+ScriptedUser::ScriptedUser(MainWindow &window) : m_window(window) { }
 
 void ScriptedUser::play()
 {
@@ -190,10 +187,16 @@ void ScriptedUser::click(QWidget *widget)
     QApplication::processEvents(); // the field selects its text once it is idle
 }
 
+void ScriptedUser::moveAway()
+{
+    const PictureView *view = m_window.view();
+    QTest::mouseMove(m_window.windowHandle(), inWindow(*view, view->rect().center()));
+}
+
 QWidget *ScriptedUser::row(const QString &label) const
 {
-    const auto labels
-        = m_window.currentScrollArea()->findChildren<QLabel *>(QStringLiteral("labelName"));
+    const auto labels =
+        m_window.currentScrollArea()->findChildren<QLabel *>(QStringLiteral("labelName"));
     for (const QLabel *candidate : labels) {
         if (candidate->text() == label) {
             return candidate->parentWidget();
@@ -237,16 +240,20 @@ void ScriptedUser::turnWheelOver(const QString &row)
     bar->setValue(bar->minimum());
     const int value = target->value();
     const int top = bar->value();
-    const QPoint centre = target->rect().center();
-    const QPoint notch(0, -120);
+    const QPoint centre = inWindow(*target, target->rect().center());
+    const QPoint global = m_window.mapToGlobal(centre);
+    const QPoint notch(0, -QWheelEvent::DefaultDeltasPerStep);
 #if QT_VERSION >= QT_VERSION_CHECK(5, 12, 0)
-    QWheelEvent wheel(centre, target->mapToGlobal(centre), QPoint(), notch, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QWheelEvent wheel(centre, global, QPoint(), notch, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
 #else
-    QWheelEvent wheel(centre, target->mapToGlobal(centre), QPoint(), notch, notch.y(),
-                      Qt::Vertical, Qt::NoButton, Qt::NoModifier);
+    QWheelEvent wheel(centre, global, QPoint(), notch, notch.y(), Qt::Vertical, Qt::NoButton,
+                      Qt::NoModifier);
 #endif
-    QApplication::sendEvent(target, &wheel);
+    // Only a turn that comes from outside goes on to the parents when a widget
+    // ignores it, and sendEvent() would mark it as the program's own.
+    QSpontaneKeyEvent::setSpontaneous(&wheel);
+    qApp->notify(m_window.windowHandle(), &wheel);
     say(QStringLiteral("turns the wheel over %1: its value goes from %2 to %3, the page from %4 "
                        "to %5")
             .arg(row)

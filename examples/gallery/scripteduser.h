@@ -25,6 +25,7 @@ public:
     void clickInto(const QString &row);
     void type(const QString &row, const QString &text);
     void click(QWidget *widget);
+    void moveAway(); // from the editors, so that none is drawn as hovered
 
 private:
     void playAdjust();

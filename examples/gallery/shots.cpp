@@ -21,7 +21,7 @@
 
 #include <cstdio>
 #include <functional>
-#include <memory>
+#include <type_traits>
 
 using namespace Vantor::Widgets;
 
@@ -29,8 +29,7 @@ namespace {
 
 const int labelWidth = 80;
 
-template <typename Row>
-QWidget *makeRow(const QString &label)
+template <typename Row> QWidget *makeRow(const QString &label)
 {
     auto *row = new Row;
     row->setLabelText(label);
@@ -48,7 +47,7 @@ Editor *makeComposite(std::initializer_list<std::pair<typename Editor::Type, con
         editor->setLabelFixedWidth(row.first, labelWidth);
     }
     editor->setHorizontalSpacing(12, 8);
-    editor->setVerticalSpacing(4);
+    editor->setVerticalSpacing(std::is_base_of_v<RectEditFrame, Editor> ? 4 : 0);
     editor->setLastVerticalSpacerExpanding(false);
     return editor;
 }
@@ -60,8 +59,8 @@ QWidget *makeEditor(const QString &name)
     using All = RGBAllEditFrame;
     using Opacity = RGBOpacityEditFrame;
     using Rect = RectEditFrame;
-    const std::initializer_list<std::pair<Rect::Type, const char *>> fields
-        = {{Rect::X, "X"}, {Rect::Y, "Y"}, {Rect::Width, "Width"}, {Rect::Height, "Height"}};
+    const std::initializer_list<std::pair<Rect::Type, const char *>> fields = {
+        {Rect::X, "X"}, {Rect::Y, "Y"}, {Rect::Width, "Width"}, {Rect::Height, "Height"}};
 
     const QHash<QString, std::function<QWidget *()>> makers = {
         {QStringLiteral("sliderEditFrame"),
@@ -78,13 +77,13 @@ QWidget *makeEditor(const QString &name)
              return row;
          }},
         {QStringLiteral("rgbEditFrame"),
-         [] { return makeComposite<Rgb>({{Rgb::R, "Red"}, {Rgb::G, "Green"}, {Rgb::B, "Blue"}}); }},
+         [] {
+             return makeComposite<Rgb>({{Rgb::R, "Red"}, {Rgb::G, "Green"}, {Rgb::B, "Blue"}});
+         }},
         {QStringLiteral("rgbAllEditFrame"),
          [] {
-             return makeComposite<All>({{All::R, "Red"},
-                                        {All::G, "Green"},
-                                        {All::B, "Blue"},
-                                        {All::ALL, "Master"}});
+             return makeComposite<All>(
+                 {{All::R, "Red"}, {All::G, "Green"}, {All::B, "Blue"}, {All::ALL, "Master"}});
          }},
         {QStringLiteral("rgbOpacityEditFrame"),
          [] {
@@ -127,10 +126,7 @@ QWidget *makeEditor(const QString &name)
 class Camera
 {
 public:
-    Camera(MainWindow &window, const QString &folder) :
-        m_window(window), m_folder(folder)
-    {
-    }
+    Camera(MainWindow &window, const QString &folder) : m_window(window), m_folder(folder) { }
 
     bool save(const QPixmap &picture, const QString &name)
     {
@@ -142,13 +138,21 @@ public:
         return true;
     }
 
+    // A step up and down on each page, so that its picture has signals in the log.
     bool shootPages(const QString &suffix)
     {
         bool ok = true;
-        for (int i = 0; i < m_window.pages().size(); ++i) {
-            m_window.showPage(i);
+        ScriptedUser user(m_window);
+        for (const Page *page : m_window.pages()) {
+            user.showPage(page->title());
+            QWidget *plus = page->findChild<QWidget *>(QStringLiteral("sliderEditPlus"));
+            user.click(plus);
+            user.click(page->findChild<QWidget *>(QStringLiteral("sliderEditSubtract")));
+            plus->setFocus();
+            plus->clearFocus();
+            user.moveAway();
             QApplication::processEvents();
-            ok &= save(m_window.grab(), m_window.pages().at(i)->title().toLower() + suffix);
+            ok &= save(m_window.grab(), page->title().toLower() + suffix);
         }
         return ok;
     }
@@ -156,10 +160,9 @@ public:
     bool shootEditors(const QString &suffix)
     {
         bool ok = true;
-        for (const char *name :
-             {"sliderEditFrame", "sliderEditFrameDouble", "rgbEditFrame", "rgbAllEditFrame",
-              "rgbOpacityEditFrame", "rectEditFrame", "cropEditFrame", "maskEditFrame",
-              "layoutEditFrame"}) {
+        for (const char *name : {"sliderEditFrame", "sliderEditFrameDouble", "rgbEditFrame",
+                                 "rgbAllEditFrame", "rgbOpacityEditFrame", "rectEditFrame",
+                                 "cropEditFrame", "maskEditFrame", "layoutEditFrame"}) {
             QWidget host;
             auto *layout = new QVBoxLayout(&host);
             layout->addWidget(makeEditor(QLatin1String(name)));
@@ -202,6 +205,12 @@ bool takeShots(MainWindow &window, const QString &folder)
         std::fprintf(stderr, "%s cannot be made.\n", qPrintable(folder));
         return false;
     }
+    ScriptedUser user(window);
+    user.showPage(QStringLiteral("Adjust"));
+    user.type(QStringLiteral("Saturation"), QStringLiteral("6/5="));
+    user.showPage(QStringLiteral("Crop"));
+    user.type(QStringLiteral("Width"), QStringLiteral("12*75\n"));
+
     Camera camera(window, folder);
     bool ok = true;
     const auto names = Theme::names();
@@ -214,9 +223,9 @@ bool takeShots(MainWindow &window, const QString &folder)
         window.theme()->setFontScale(1.5);
         ok &= camera.shootPages(suffix + QStringLiteral("-font150"));
         window.theme()->setFontScale(1.0);
-        QApplication::setLayoutDirection(Qt::RightToLeft);
+        window.theme()->setRightToLeft(true);
         ok &= camera.shootPages(suffix + QStringLiteral("-rtl"));
-        QApplication::setLayoutDirection(Qt::LeftToRight);
+        window.theme()->setRightToLeft(false);
     }
     return ok;
 }

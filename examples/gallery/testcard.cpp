@@ -117,9 +117,9 @@ QImage testCard(const QSize &size)
     painter.setFont(font);
     painter.drawText(QRect(box.left(), box.top() + 20, box.width(), radius / 4 - 24),
                      Qt::AlignCenter, QStringLiteral("TEST CARD"));
-    painter.drawText(
-        QRect(box.left(), centre.y() + radius * 3 / 4, box.width(), radius / 4 - 20),
-        Qt::AlignCenter, QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
+    painter.drawText(QRect(box.left(), centre.y() + radius * 3 / 4, box.width(), radius / 4 - 20),
+                     Qt::AlignCenter,
+                     QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
     return card;
 }
 

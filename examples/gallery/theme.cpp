@@ -27,14 +27,15 @@ QPalette paletteOf(Theme::Kind kind)
     palette.setColor(QPalette::Base, base);
     palette.setColor(QPalette::AlternateBase, window);
     palette.setColor(QPalette::ToolTipBase, base);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
-                            QPalette::ToolTipText}) {
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
         palette.setColor(role, text);
         palette.setColor(QPalette::Disabled, role, faint);
     }
 #if QT_VERSION >= QT_VERSION_CHECK(5, 12, 0)
     palette.setColor(QPalette::PlaceholderText, faint);
 #endif
+    palette.setColor(QPalette::Mid, faint);
     palette.setColor(QPalette::Highlight, accent);
     palette.setColor(QPalette::HighlightedText, dark ? QColor(0xff0b0d10) : Qt::white);
     palette.setColor(QPalette::Link, accent);
@@ -48,6 +49,14 @@ QString read(const QString &path)
         qWarning("Cannot read the style sheet %s.", qPrintable(path));
     }
     return QString::fromUtf8(file.readAll());
+}
+
+// Qt paints the sub-page on the left also where the slider starts on the right.
+QString mirrored(QString sheet)
+{
+    return sheet.replace(QLatin1String("::sub-page"), QLatin1String("::other-page"))
+        .replace(QLatin1String("::add-page"), QLatin1String("::sub-page"))
+        .replace(QLatin1String("::other-page"), QLatin1String("::add-page"));
 }
 
 QIcon glyph(const QString &name, const QString &checked = QString())
@@ -77,6 +86,7 @@ void setIcons(QWidget *root, bool on)
             continue;
         }
         button->setIcon(on ? icon : QIcon());
+        button->setIconSize(QSize(40, 40));
     }
 }
 
@@ -89,9 +99,13 @@ QVector<Theme::Name> Theme::names()
             {QStringLiteral("none"), tr("&None")}};
 }
 
-Theme::Theme(QObject *parent) :
-    QObject(parent), m_font(QApplication::font())
+Theme::Theme(QObject *parent) : QObject(parent), m_font(QApplication::font()) { }
+
+// The next window finds the application as this one did.
+Theme::~Theme()
 {
+    qApp->setStyleSheet(QString());
+    QApplication::setFont(m_font);
 }
 
 void Theme::adopt(QWidget *root)
@@ -117,7 +131,9 @@ void Theme::apply(Kind kind)
         qApp->setStyleSheet(QString());
         restoreSizes();
     } else {
-        qApp->setStyleSheet(read(QStringLiteral("vantorslider:%1.qss").arg(names().at(kind).file))
+        const QString sheet =
+            read(QStringLiteral("vantorslider:%1.qss").arg(names().at(kind).file));
+        qApp->setStyleSheet((QApplication::isRightToLeft() ? mirrored(sheet) : sheet)
                             + read(QStringLiteral(":/gallery/chrome.qss")));
     }
     const auto windows = QApplication::topLevelWidgets();
@@ -131,6 +147,12 @@ void Theme::setFontScale(qreal scale)
     QFont font = m_font;
     font.setPointSizeF(m_font.pointSizeF() * scale);
     QApplication::setFont(font);
+    apply(m_kind);
+}
+
+void Theme::setRightToLeft(bool on)
+{
+    QApplication::setLayoutDirection(on ? Qt::RightToLeft : Qt::LeftToRight);
     apply(m_kind);
 }
 

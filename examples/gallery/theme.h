@@ -24,6 +24,7 @@ public:
     static QVector<Name> names(); // in the order of Kind
 
     explicit Theme(QObject *parent = nullptr);
+    ~Theme() override;
 
     // Makes the editors below the widget known to the theme. To be called while
     // no sheet is on, before the widget is shown.
@@ -31,6 +32,7 @@ public:
 
     void apply(Kind kind);
     void setFontScale(qreal scale);
+    void setRightToLeft(bool on);
     Kind kind() const { return m_kind; }
 
 private:
