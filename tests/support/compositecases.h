@@ -14,12 +14,21 @@ namespace CompositeCases {
 
 // Rows by their type flags.
 using Rows = QMap<int, Row>;
-using Read = std::function<QString(const Row &)>;
 
-inline QString limits(int min, int max)
+inline Rows rowsOf(const QWidget &editor)
 {
-    return QStringLiteral("%1..%2").arg(min).arg(max);
+    const QVector<QPair<int, const char *>> names {
+        {2, "frameR"}, {4, "frameG"}, {8, "frameB"},     {16, "frameAll"},   {16, "frameOpacity"},
+        {2, "frameX"}, {4, "frameY"}, {8, "frameWidth"}, {16, "frameHeight"}};
+    Rows rows;
+    for (const auto &name : names) {
+        if (editor.findChild<QWidget *>(QLatin1String(name.second)))
+            rows.insert(name.first, Row(editor, name.second));
+    }
+    return rows;
 }
+
+using Read = std::function<QString(const Row &)>;
 
 inline QString widths(const QWidget *widget)
 {
@@ -131,9 +140,11 @@ template <typename Frame> QVector<RowOperation<Frame>> rowOperations()
 // Every flag from -2 to 64: a row's own flag changes that row alone, any other
 // value nothing, and is reported in the name of the operation.
 template <typename Frame>
-void checkRowOperation(const RowOperation<Frame> &operation, Frame &frame, const Rows &rows,
-                       const QString &warning, const QString &reporter)
+void checkRowOperation(const RowOperation<Frame> &operation, const QString &warning,
+                       const QString &reporter)
 {
+    Frame frame;
+    const Rows rows = rowsOf(frame);
     QVERIFY(User::show(frame));
     EventLog log;
     log.watch(&frame, &Frame::valueChanged, QStringLiteral("valueChanged"));
@@ -192,9 +203,10 @@ template <typename Frame> QVector<AllRowsOperation<Frame>> allRowsOperations()
     };
 }
 
-template <typename Frame>
-void checkAllRowsOperation(const AllRowsOperation<Frame> &operation, Frame &frame, const Rows &rows)
+template <typename Frame> void checkAllRowsOperation(const AllRowsOperation<Frame> &operation)
 {
+    Frame frame;
+    const Rows rows = rowsOf(frame);
     QVERIFY(User::show(frame));
     EventLog log;
     for (const Row &row : rows)
@@ -207,16 +219,10 @@ void checkAllRowsOperation(const AllRowsOperation<Frame> &operation, Frame &fram
         QCOMPARE(operation.read(row), operation.result);
 }
 
-// Fills the data of a test with one row an operation.
-template <typename Operation> void addOperations(const QVector<Operation> &operations)
+template <typename Frame> void checkVisibility()
 {
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < operations.size(); ++i)
-        QTest::newRow(operations[i].name) << i;
-}
-
-template <typename Frame> void checkVisibility(Frame &frame, const Rows &rows)
-{
+    Frame frame;
+    const Rows rows = rowsOf(frame);
     for (int i = 0; i < 64; ++i) {
         const int types = i * 37 % 64;
         frame.setEditerVisible(types);
@@ -238,9 +244,9 @@ inline QString lastSpacer(const QWidget &editor)
         .arg(QLatin1String(policies.valueToKey(spacer->sizePolicy().verticalPolicy())));
 }
 
-template <typename Frame> void checkLastSpacer(Frame &frame, const char *initial)
+template <typename Frame> void checkLastSpacer()
 {
-    QCOMPARE(lastSpacer(frame), QString::fromLatin1(initial));
+    Frame frame;
     frame.setLastVerticalSpacerExpanding(false);
     QCOMPARE(lastSpacer(frame), QStringLiteral("20x0 Expanding Ignored"));
     frame.setLastVerticalSpacerExpanding(true);
@@ -258,8 +264,10 @@ inline int textWidth(const Row &row, const QString &text)
 }
 
 // Holds the handle of each row in turn.
-template <typename Frame> void checkMousePressed(Frame &frame, const Rows &rows)
+template <typename Frame> void checkMousePressed()
 {
+    Frame frame;
+    const Rows rows = rowsOf(frame);
     QVERIFY(User::show(frame));
     for (const Row &row : rows) {
         QVERIFY(!frame.isMousePressed());
@@ -270,4 +278,29 @@ template <typename Frame> void checkMousePressed(Frame &frame, const Rows &rows)
     QVERIFY(!frame.isMousePressed());
 }
 
+using Check = std::function<void()>;
+
+// Fills the data of a test that runs the column "check". The class whose
+// warnings it shows may be another one's.
+template <typename Frame> void addChecks(const char *reporter)
+{
+    const QByteArray name = QByteArray(Frame::staticMetaObject.className()).split(':').last();
+    const bool isRect = name == "RectEditFrame";
+    for (const auto &operation : rowOperations<Frame>()) {
+        QTest::addRow("%s::%s", name.constData(), operation.name) << Check([=] {
+            checkRowOperation(operation, isRect ? operation.rectWarning : operation.rgbWarning,
+                              QLatin1String(reporter) + QLatin1String("::") + operation.name);
+        });
+    }
+    for (const auto &operation : allRowsOperations<Frame>()) {
+        QTest::addRow("%s::%s", name.constData(), operation.name)
+            << Check([=] { checkAllRowsOperation(operation); });
+    }
+    QTest::addRow("%s::setEditerVisible", name.constData()) << Check(checkVisibility<Frame>);
+    QTest::addRow("%s::setLastVerticalSpacerExpanding", name.constData())
+        << Check(checkLastSpacer<Frame>);
+}
+
 } // namespace CompositeCases
+
+Q_DECLARE_METATYPE(CompositeCases::Check)

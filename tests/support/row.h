@@ -42,6 +42,11 @@ struct Row
     QToolButton *plus = nullptr;
 };
 
+inline QString limits(int min, int max)
+{
+    return QStringLiteral("%1..%2").arg(min).arg(max);
+}
+
 // The messages of an entry that ends with Enter, around the signals that it
 // causes: the key, the loss of the focus, the spin box's own end of editing.
 inline QStringList entered(const QStringList &causedSignals)

@@ -1,0 +1,397 @@
+#include "compositecases.h"
+#include "cropeditframe.h"
+#include "editormodel.h"
+#include "layouteditframe.h"
+#include "maskeditframe.h"
+#include "rectuser.h"
+#include "rgballeditframe.h"
+#include "rgbeditframe.h"
+#include "rgbopacityeditframe.h"
+
+#include <random>
+
+using namespace Vantor::Widgets;
+using CompositeCases::Check;
+
+// A user who does anything, against the model, gesture by gesture. The same
+// seed does the same; VANTORSLIDER_SEED and VANTORSLIDER_GESTURES (a number per
+// editor) choose others.
+class tst_RandomGestures : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void followsTheModel_data();
+    void followsTheModel();
+};
+
+namespace {
+
+int setting(const char *name, int otherwise)
+{
+    return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
+}
+
+// One editor, its user and its model.
+class Session
+{
+public:
+    Session(QWidget &editor, EditUser &user, EditorModel &model)
+        : m_editor(editor), m_user(user), m_model(model),
+          m_random(static_cast<unsigned>(setting("VANTORSLIDER_SEED", 1)))
+    {
+        // What Qt's slider makes of the mouse is the model's input.
+        for (const Row &row : user.rows) {
+            const auto follow = [this, &row](auto signal, auto slot) {
+                QObject::connect(row.slider, signal, row.frame, [this, slot](auto... val) {
+                    m_inputs.append([=](RowModel &model) { (model.*slot)(val...); });
+                });
+            };
+            follow(&QSlider::sliderPressed, &RowModel::sliderPressed);
+            follow(&QSlider::sliderMoved, &RowModel::sliderMoved);
+            follow(&QSlider::sliderReleased, &RowModel::sliderReleased);
+            follow(&QSlider::valueChanged, &RowModel::sliderChanged);
+        }
+    }
+    virtual ~Session() = default;
+
+    void run()
+    {
+        QVERIFY(User::show(m_editor));
+        m_user.log.take();
+        for (int i = 0; i < setting("VANTORSLIDER_GESTURES", 2500); ++i) {
+            const int row = random(0, m_user.rows.size() - 1);
+            const QString gesture = random(0, 9) == 0 ? program() : user(row);
+            const QStringList actual = m_user.log.take();
+            QStringList expected;
+            expected.swap(m_model.log);
+            const QByteArray where =
+                QStringLiteral("gesture %1, row %2, %3: %4\ninstead of %5")
+                    .arg(i)
+                    .arg(row)
+                    .arg(gesture, actual.join(QLatin1Char(' ')), expected.join(QLatin1Char(' ')))
+                    .toUtf8();
+            QVERIFY2(actual == expected, where.constData());
+            for (int j = 0; j < m_user.rows.size(); ++j) {
+                QVERIFY2(m_user.rows[j].spinBox->value() == m_model.rows[j].value, where);
+                QVERIFY2(m_user.rows[j].slider->value() == m_model.rows[j].value, where);
+            }
+            QVERIFY2(actual.filter(QStringLiteral("warning")).isEmpty(), where);
+            QVERIFY2(actual.filter(QRegularExpression("^\\(")).isEmpty() || isPromiseKept(row),
+                     where);
+        }
+    }
+
+protected:
+    int random(int least, int greatest)
+    {
+        return std::uniform_int_distribution<int>(least, greatest)(m_random);
+    }
+
+    virtual QString program() = 0;
+    // What a report of the row leaves true of the whole.
+    virtual bool isPromiseKept(int) const { return true; }
+
+private:
+    QString user(int index)
+    {
+        const Row &row = m_user.rows[index];
+        RowModel &model = m_model.rows[index];
+        const int val = valueFor(model), part = random(0, 100), step = row.frame->singleStep();
+        const QString expression = QStringLiteral("%1-%2").arg(val + part).arg(part);
+        const bool isUp = random(0, 1);
+        switch (random(0, 7)) {
+        case 0:
+        case 1:
+            User::click(isUp ? row.plus : row.minus);
+            model.step(isUp ? step : -step);
+            return QStringLiteral("button");
+        case 2:
+            row.enter(expression);
+            model.enter(val);
+            return expression + QLatin1String(" Enter");
+        case 3:
+            row.type(expression);
+            User::press(Qt::Key_Tab);
+            model.leave(val);
+            return expression + QLatin1String(" Tab");
+        case 4:
+            row.type({});
+            User::press(isUp ? Qt::Key_Up : Qt::Key_Down);
+            User::press(Qt::Key_Return);
+            model.stepInSpinBox(isUp ? step : -step);
+            return QStringLiteral("arrow key");
+        case 5:
+            User::clickGroove(row.slider, isUp);
+            follow(model);
+            return QStringLiteral("groove");
+        case 6:
+            User::turnWheel(isUp ? static_cast<QWidget *>(row.slider) : row.spinBox);
+            return QStringLiteral("wheel");
+        default:
+            User::grabHandle(row.slider);
+            for (int moves = random(0, 4); moves > 0; --moves) {
+                User::moveHandle(row.slider, valueFor(model));
+                if (model.isSampling && random(0, 1)) {
+                    follow(model);
+                    tick(row.frame);
+                    model.tick();
+                }
+            }
+            User::dropHandle(row.slider);
+            follow(model);
+            return QStringLiteral("drag");
+        }
+    }
+
+    // At times beyond the range.
+    int valueFor(const RowModel &row) { return random(row.min - 5, row.max + 5); }
+
+    void follow(RowModel &model)
+    {
+        for (const auto &input : m_inputs)
+            input(model);
+        m_inputs.clear();
+    }
+
+    QWidget &m_editor;
+    EditUser &m_user;
+    EditorModel &m_model;
+    std::mt19937 m_random;
+    QVector<std::function<void(RowModel &)>> m_inputs;
+};
+
+template <typename Frame> class RgbSession : public Session
+{
+public:
+    RgbSession(Frame &frame, EditUser &user, EditorModel &model)
+        : Session(frame, user, model), m_frame(frame), m_user(user), m_model(model)
+    {
+        user.log.watch(&frame, &Frame::valueChanged, QString());
+        for (int i = 0; i < user.rows.size(); ++i) {
+            model.rows[i].setRange(user.rows[i].frame->minimum(), user.rows[i].frame->maximum());
+            model.rows[i].set(user.rows[i].frame->value());
+        }
+    }
+
+protected:
+    // Values beyond the range too, which the rows clamp; a mode.
+    QString program() override
+    {
+        const int i = random(0, m_user.rows.size() - 1), val = random(-20, 300);
+        m_frame.setValue(typename Frame::Type(2 << i), val);
+        m_model.rows[i].set(val);
+        const bool isReleaseMode = random(0, 1), isSampling = random(0, 9) == 0;
+        if (isSampling)
+            m_frame.setTimeSamplingRate(60000); // the ticks come by hand
+        m_frame.setReleaseMode(isReleaseMode);
+        m_frame.setAutoRepeat(false);
+        for (RowModel &row : m_model.rows) {
+            row.isReleaseMode = isReleaseMode;
+            row.isSampling = row.isSampling || isSampling;
+        }
+        return QStringLiteral("program");
+    }
+
+private:
+    Frame &m_frame;
+    EditUser &m_user;
+    EditorModel &m_model;
+};
+
+void setArea(RectEditFrame &frame, const QVector<int> &values)
+{
+    frame.setValue(values[0], values[1], values[2], values[3]);
+}
+
+void setArea(CropEditFrame &frame, const QVector<int> &values)
+{
+    frame.setCropValue(values[0], values[1], values[2], values[3]);
+}
+
+void setArea(MaskEditFrame &frame, const QVector<int> &values)
+{
+    frame.setMaskValue(values[0], values[1], values[2], values[3]);
+}
+
+template <typename Frame> class RectSession : public Session
+{
+public:
+    RectSession(Frame &frame, RectUser &user, RectModel &model)
+        : Session(frame, user, model), m_frame(frame), m_user(user), m_model(model)
+    {
+        newArea();
+    }
+
+protected:
+    QString program() override
+    {
+        RectEditFrame &frame = m_frame;
+        switch (random(0, 6)) {
+        case 0:
+            User::click(m_user.positionLock);
+            m_model.togglePositionLock();
+            return QStringLiteral("position lock");
+        case 1:
+        case 2:
+            User::click(m_user.sizeLock);
+            m_model.setSizeLock(!m_model.isSizeLocked);
+            return QStringLiteral("size lock");
+        case 3: {
+            const bool isOn = random(0, 1);
+            frame.setSizeLock(isOn);
+            m_model.setSizeLock(isOn);
+            return QStringLiteral("size lock by the program");
+        }
+        case 4:
+            m_model.isOffset = random(0, 3) == 0;
+            frame.setSizeLockEnable(
+                true, m_model.isOffset ? RectEditFrame::OffsetLock : RectEditFrame::SizeScaleLock);
+            return QStringLiteral("kind of the size lock");
+        case 5: {
+            const double ratio = random(1, 4000) / 1000.0;
+            frame.setSizeLock(ratio);
+            m_model.setRatio(ratio);
+            return QStringLiteral("ratio");
+        }
+        default:
+            newArea();
+            return QStringLiteral("new area");
+        }
+    }
+
+    bool isPromiseKept(int row) const override
+    {
+        const auto &rows = m_model.rows;
+        const int sum = rows[row].value + rows[m_model.partner(row)].value;
+        if (IsMask)
+            return sum <= m_model.limit(row);
+        const bool isSizeOffset = m_model.isSizeLocked && m_model.isOffset;
+        if (IsCrop && !m_model.isPositionLocked && !isSizeOffset && sum > m_model.limit(row))
+            return false;
+        const qint64 w = m_model.locked[2], h = m_model.locked[3];
+        if (row < 2 || !m_model.isSizeLocked || m_model.isOffset || w <= 0 || h <= 0)
+            return true;
+        const auto isAtLimit = [&](int size) {
+            const int val = rows[size].value;
+            return val == rows[size].min || val == rows[size].max
+                || val + rows[size - 2].value >= m_model.limit(size);
+        };
+        return 2 * qAbs(rows[2].value * h - rows[3].value * w) <= qMax(w, h) || isAtLimit(2)
+            || isAtLimit(3);
+    }
+
+private:
+    static constexpr bool IsCrop = std::is_same<Frame, CropEditFrame>::value;
+    static constexpr bool IsMask = std::is_same<Frame, MaskEditFrame>::value;
+
+    // Another picture: ranges, values within them, a mode.
+    void newArea()
+    {
+        const QVector<int> least {random(0, 40), random(0, 40), random(1, 40), random(1, 40)};
+        const QVector<int> extent {random(100, 900), random(100, 900)};
+        QVector<int> values(4);
+        const bool isReleaseMode = random(0, 2) == 0;
+        for (int i = 0; i < 4; ++i) {
+            RowModel &row = m_model.rows[i];
+            if (IsMask)
+                row.setRange(0, extent[i / 2]);
+            else
+                row.setRange(least[i], i < 2 ? extent[i] - least[i + 2] : extent[i - 2]);
+            row.isReleaseMode = isReleaseMode;
+        }
+        for (int i = 0; i < 4; ++i) {
+            const RowModel &row = m_model.rows[i];
+            const int partner = m_model.partner(i);
+            values[i] = random(
+                row.min, partner > i ? row.max : qMin(row.max, m_model.limit(i) - values[partner]));
+        }
+        setRanges(least, extent);
+        setArea(m_frame, values);
+        m_model.set(values);
+        m_frame.setReleaseMode(isReleaseMode);
+        m_frame.setAutoRepeat(false);
+    }
+
+    void setRanges(const QVector<int> &least, const QVector<int> &extent)
+    {
+        if constexpr (IsMask) {
+            m_frame.setMaskRange(extent[1], extent[0]);
+        } else if constexpr (IsCrop) {
+            m_frame.setCropMinPos(least[0], least[1]);
+            m_frame.setCropMinSize(least[2], least[3]);
+            m_frame.setCropRange(extent[0], extent[1]);
+        } else {
+            for (int i = 0; i < 4; ++i)
+                m_frame.setRange(RectUser::flag(i), m_model.rows[i].min, m_model.rows[i].max);
+        }
+    }
+
+    Frame &m_frame;
+    RectUser &m_user;
+    RectModel &m_model;
+};
+
+template <typename Frame> void playRgb()
+{
+    Frame frame;
+    EditUser user(frame, {}, CompositeCases::rowsOf(frame).values().toVector());
+    EditorModel model(user.rows.size());
+    RgbSession<Frame>(frame, user, model).run();
+}
+
+template <typename Frame> void playRect(Frame &frame, RectUser &user, RectModel::Kind kind)
+{
+    RectModel model(kind);
+    RectSession<Frame>(frame, user, model).run();
+}
+
+void playPlain(RectEditFrame &&frame)
+{
+    RectUser user(frame);
+    playRect(frame, user, RectModel::Plain);
+}
+
+void playCrop()
+{
+    CropEditFrame frame;
+    RectUser user(frame);
+    user.log.watch(&frame, &CropEditFrame::cropValueChanged, QStringLiteral("crop"));
+    playRect(frame, user, RectModel::Crop);
+}
+
+void playMask()
+{
+    MaskEditFrame frame;
+    RectUser user(frame);
+    user.log.watch(&frame, &MaskEditFrame::maskValueChanged, QStringLiteral("mask"));
+    playRect(frame, user, RectModel::Mask);
+}
+
+} // namespace
+
+void tst_RandomGestures::followsTheModel_data()
+{
+    qInfo("seed %d", setting("VANTORSLIDER_SEED", 1));
+    QTest::addColumn<Check>("check");
+    QTest::newRow("RGBEditFrame") << Check(playRgb<RGBEditFrame>);
+    QTest::newRow("RGBAllEditFrame") << Check(playRgb<RGBAllEditFrame>);
+    QTest::newRow("RGBOpacityEditFrame") << Check(playRgb<RGBOpacityEditFrame>);
+    QTest::newRow("RectEditFrame") << Check([] { playPlain(RectEditFrame()); });
+    QTest::newRow("LayoutEditFrame") << Check([] { playPlain(LayoutEditFrame()); });
+    QTest::newRow("CropEditFrame") << Check(playCrop);
+    QTest::newRow("MaskEditFrame") << Check(playMask);
+}
+
+void tst_RandomGestures::followsTheModel()
+{
+    QFETCH(Check, check);
+    check();
+}
+
+int main(int argc, char *argv[])
+{
+    return runTest<tst_RandomGestures>(argc, argv);
+}
+
+#include "tst_randomgestures.moc"
