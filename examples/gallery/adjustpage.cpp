@@ -12,15 +12,15 @@ AdjustPage::AdjustPage(PictureView *view, LogPane *log) : Page(tr("Adjust"), vie
     addHeading(tr("Tone"),
                tr("Whole numbers, and numbers with two decimals. "
                   "Type an expression such as 12*3 into a field."));
-    addRow(tr("Contrast"), -100, 100, &PictureAdjustment::contrast);
-    addRow(tr("Gamma"), 0.2, 4.0, &PictureAdjustment::gamma);
-    addRow(tr("Saturation"), 0.0, 3.0, &PictureAdjustment::saturation);
+    addIntRow(tr("Contrast"), -100, 100, &PictureAdjustment::contrast);
+    addDoubleRow(tr("Gamma"), 0.2, 4.0, &PictureAdjustment::gamma);
+    addDoubleRow(tr("Saturation"), 0.0, 3.0, &PictureAdjustment::saturation);
 
     const int reference = 16;
     addHeading(
         tr("Held on one side"),
         tr("This level may not fall below %1, whatever is dragged or typed.").arg(reference));
-    IntRow *black = addRow(tr("Black level"), 0, 255, &PictureAdjustment::blackLevel);
+    IntRow *black = addIntRow(tr("Black level"), 0, 255, &PictureAdjustment::blackLevel);
     black->setValue(reference);
     black->setValueChangeDirection(IntRow::AllowedToBigger, reference);
     finish();
@@ -28,7 +28,7 @@ AdjustPage::AdjustPage(PictureView *view, LogPane *log) : Page(tr("Adjust"), vie
 
 AdjustPage::IntRow *AdjustPage::addBrightnessRow(const QString &mode)
 {
-    IntRow *row = addRow(mode, -100, 100, &PictureAdjustment::brightness);
+    IntRow *row = addIntRow(mode, -100, 100, &PictureAdjustment::brightness);
     m_brightnessRows.append(row);
     connect(row, &IntRow::valueChanged, this, [this, row](int val) {
         for (IntRow *other : m_brightnessRows) {
@@ -40,42 +40,36 @@ AdjustPage::IntRow *AdjustPage::addBrightnessRow(const QString &mode)
     return row;
 }
 
-AdjustPage::IntRow *AdjustPage::addRow(const QString &label, int min, int max,
-                                       int PictureAdjustment::*field)
+AdjustPage::IntRow *AdjustPage::addIntRow(const QString &label, int min, int max,
+                                          int PictureAdjustment::*field)
 {
     auto *row = addEditor<IntRow>();
-    row->setLabelText(label);
     row->setRange(min, max);
     row->setPageStep(10);
-    row->setAutoRepeat(true);
-    row->setValue(m_view->adjustment().*field);
-    connect(row, &IntRow::valueChanged, m_log,
-            m_log->receiver(label, QStringLiteral("valueChanged")));
-    connect(row, &IntRow::valueChanged, this, [this, field](int val) {
-        PictureAdjustment adjustment = m_view->adjustment();
-        adjustment.*field = val;
-        m_view->setAdjustment(adjustment);
-    });
+    connectRow(row, label, field);
     return row;
 }
 
-AdjustPage::DoubleRow *AdjustPage::addRow(const QString &label, double min, double max,
-                                          double PictureAdjustment::*field)
+AdjustPage::DoubleRow *AdjustPage::addDoubleRow(const QString &label, double min, double max,
+                                                double PictureAdjustment::*field)
 {
     auto *row = addEditor<DoubleRow>();
-    row->setLabelText(label);
     row->setSingleStep(0.05);
     row->setDecimals(2);
     row->setRange(min, max);
     row->setPageStep(25); // in slider positions, hundredths of the value
+    connectRow(row, label, field);
+    return row;
+}
+
+template <typename Row, typename Value>
+void AdjustPage::connectRow(Row *row, const QString &label, Value PictureAdjustment::*field)
+{
+    row->setLabelText(label);
     row->setAutoRepeat(true);
     row->setValue(m_view->adjustment().*field);
-    connect(row, &DoubleRow::valueChanged, m_log,
-            m_log->receiver(label, QStringLiteral("valueChanged")));
-    connect(row, &DoubleRow::valueChanged, this, [this, field](double val) {
-        PictureAdjustment adjustment = m_view->adjustment();
-        adjustment.*field = val;
-        m_view->setAdjustment(adjustment);
+    connect(row, &Row::valueChanged, m_log, m_log->receiver(label, QStringLiteral("valueChanged")));
+    connect(row, &Row::valueChanged, this, [this, field](Value val) {
+        adjust([field, val](PictureAdjustment &adjustment) { adjustment.*field = val; });
     });
-    return row;
 }

@@ -19,9 +19,11 @@ private:
     using DoubleRow = Vantor::Widgets::SliderEditFrameDouble;
 
     IntRow *addBrightnessRow(const QString &mode);
-    IntRow *addRow(const QString &label, int min, int max, int PictureAdjustment::*field);
-    DoubleRow *addRow(const QString &label, double min, double max,
-                      double PictureAdjustment::*field);
+    IntRow *addIntRow(const QString &label, int min, int max, int PictureAdjustment::*field);
+    DoubleRow *addDoubleRow(const QString &label, double min, double max,
+                            double PictureAdjustment::*field);
+    template <typename Row, typename Value>
+    void connectRow(Row *row, const QString &label, Value PictureAdjustment::*field);
 
     QVector<IntRow *> m_brightnessRows;
 };

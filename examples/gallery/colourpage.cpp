@@ -44,9 +44,7 @@ void ColourPage::addGain()
     connect(editor, &RGBEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Gain"), QStringLiteral("valueChanged")));
     connect(editor, &RGBEditFrame::valueChanged, this, [this](int r, int g, int b) {
-        PictureAdjustment adjustment = m_view->adjustment();
-        adjustment.gain = {r, g, b};
-        m_view->setAdjustment(adjustment);
+        adjust([=](PictureAdjustment &adjustment) { adjustment.gain = {r, g, b}; });
     });
 }
 
@@ -61,10 +59,10 @@ void ColourPage::addLift()
     connect(editor, &RGBAllEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Lift"), QStringLiteral("valueChanged")));
     connect(editor, &RGBAllEditFrame::valueChanged, this, [this](int r, int g, int b, int all) {
-        PictureAdjustment adjustment = m_view->adjustment();
-        adjustment.lift = {r, g, b};
-        adjustment.liftMaster = all;
-        m_view->setAdjustment(adjustment);
+        adjust([=](PictureAdjustment &adjustment) {
+            adjustment.lift = {r, g, b};
+            adjustment.liftMaster = all;
+        });
     });
 }
 
@@ -80,9 +78,9 @@ void ColourPage::addWash()
             m_log->receiver(tr("Wash"), QStringLiteral("valueChanged")));
     connect(editor, &RGBOpacityEditFrame::valueChanged, this,
             [this](int r, int g, int b, int opacity) {
-                PictureAdjustment adjustment = m_view->adjustment();
-                adjustment.wash = QColor(r, g, b);
-                adjustment.washOpacity = opacity;
-                m_view->setAdjustment(adjustment);
+                adjust([=](PictureAdjustment &adjustment) {
+                    adjustment.wash = QColor(r, g, b);
+                    adjustment.washOpacity = opacity;
+                });
             });
 }

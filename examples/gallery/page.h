@@ -34,6 +34,14 @@ protected:
         return editor;
     }
 
+    // Lets the given function change the adjustment of the picture.
+    template <typename Change> void adjust(Change change)
+    {
+        PictureAdjustment adjustment = m_view->adjustment();
+        change(adjustment);
+        m_view->setAdjustment(adjustment);
+    }
+
     // Called when all editors are added.
     void finish();
 

@@ -79,13 +79,13 @@ void ScriptedUser::playCrop()
     showPage(QStringLiteral("Crop"));
     type(width, QStringLiteral("12*3\n"));
     type(width, QStringLiteral("900\n"));
-    toggle("toolButtonLockSize");
+    click("toolButtonLockSize");
     say(QStringLiteral("drags the width against the edge of the picture, proportion locked"));
     drag(width, slider(width)->maximum());
-    toggle("toolButtonLockSize");
-    toggle("toolButtonLockPosition");
+    click("toolButtonLockSize");
+    click("toolButtonLockPosition");
     drag(QStringLiteral("X"), 300);
-    toggle("toolButtonLockPosition");
+    click("toolButtonLockPosition");
 
     say(QStringLiteral("drags the rectangle in the picture, which sets the editor silently"));
     PictureView *view = m_window.view();
@@ -101,9 +101,9 @@ void ScriptedUser::playMaskAndLayout()
     click(QStringLiteral("Left"), "sliderEditPlus");
 
     showPage(QStringLiteral("Layout"));
-    toggle("toolButtonLockSize");
+    click("toolButtonLockSize");
     drag(QStringLiteral("Width"), 700);
-    toggle("toolButtonLockSize");
+    click("toolButtonLockSize");
     click(QStringLiteral("X"), "sliderEditSubtract");
 }
 
@@ -264,7 +264,7 @@ void ScriptedUser::turnWheelOver(const QString &row)
     m_window.resize(size);
 }
 
-void ScriptedUser::toggle(const char *lockButton)
+void ScriptedUser::click(const char *lockButton)
 {
     say(QStringLiteral("clicks %1").arg(QLatin1String(lockButton)));
     click(m_window.currentScrollArea()->findChild<QWidget *>(QLatin1String(lockButton)));

@@ -22,6 +22,7 @@ public:
     void showPage(const QString &title);
     void drag(const QString &row, int sliderPosition);
     void click(const QString &row, const char *button);
+    void click(const char *lockButton);
     void clickInto(const QString &row);
     void type(const QString &row, const QString &text);
     void click(QWidget *widget);
@@ -39,7 +40,6 @@ private:
     void say(const QString &what) const;
     void drag(QWidget *widget, const QPoint &from, const QPoint &to);
     void turnWheelOver(const QString &row);
-    void toggle(const char *lockButton);
 
     MainWindow &m_window;
 };
