@@ -425,6 +425,18 @@ void SliderEditFrame::setRange(int min, int max)
     d->ui->slider->setRange(min, max);
 }
 
+/*! Sets the lower end of the range to \a min, raising the upper one to it; as setRange(). */
+void SliderEditFrame::setMinimum(int min)
+{
+    setRange(min, qMax(min, maximum()));
+}
+
+/*! Sets the upper end of the range to \a max, lowering the lower one to it; as setRange(). */
+void SliderEditFrame::setMaximum(int max)
+{
+    setRange(qMin(minimum(), max), max);
+}
+
 /*! The lower end of the range. */
 int SliderEditFrame::minimum() const
 {
@@ -454,6 +466,12 @@ int SliderEditFrame::singleStep()
 void SliderEditFrame::setPageStep(int val)
 {
     d->ui->slider->setPageStep(val);
+}
+
+/*! The step of a click on the slider's groove. */
+int SliderEditFrame::pageStep() const
+{
+    return d->ui->slider->pageStep();
 }
 
 /*! Lets a held button repeat its step, if \a b is true. Each repetition is reported. */

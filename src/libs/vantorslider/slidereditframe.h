@@ -14,6 +14,13 @@ class SliderEditPrivate;
 class VANTORSLIDER_EXPORT SliderEditFrame : public QFrame
 {
     Q_OBJECT
+    // A form applies properties in this order: the range comes before the value.
+    Q_PROPERTY(QString labelText READ labelText WRITE setLabelText)
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
+    Q_PROPERTY(int pageStep READ pageStep WRITE setPageStep)
+    Q_PROPERTY(int value READ value WRITE setValue NOTIFY valueChanged USER true)
 
 public:
     enum ValueChangeDirection : int {
@@ -42,11 +49,14 @@ public:
     void setValue(int val);
     int value();
     void setRange(int min, int max);
+    void setMinimum(int min);
+    void setMaximum(int max);
     int minimum() const;
     int maximum() const;
     void setSingleStep(int val);
     int singleStep();
     void setPageStep(int val);
+    int pageStep() const;
 
     void setAutoRepeat(bool b);
     void setAutoRepeatDelay(int val);

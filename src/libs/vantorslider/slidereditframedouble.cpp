@@ -501,6 +501,12 @@ void SliderEditFrameDouble::setDecimals(int prec)
     }
 }
 
+/*! The number of decimals shown. */
+int SliderEditFrameDouble::decimals() const
+{
+    return d->ui->doubleSpinBox->decimals();
+}
+
 /*!
     Sets the step of buttons, arrow keys and wheel to \a val. The slider's own
     step follows with the next call that sets decimals or a range.
@@ -514,10 +520,22 @@ void SliderEditFrameDouble::setSingleStep(double val)
     d->ui->doubleSpinBox->setSingleStep(val);
 }
 
+/*! The step of the buttons. */
+double SliderEditFrameDouble::singleStep() const
+{
+    return d->ui->doubleSpinBox->singleStep();
+}
+
 /*! Sets the step of a click on the slider's groove to \a val slider positions. */
 void SliderEditFrameDouble::setPageStep(int val)
 {
     d->ui->slider->setPageStep(val);
+}
+
+/*! The step of a click on the slider's groove, in slider positions. */
+int SliderEditFrameDouble::pageStep() const
+{
+    return d->ui->slider->pageStep();
 }
 
 /*! As SliderEditFrame::setAutoRepeat(). */

@@ -14,6 +14,15 @@ class SliderEditDoublePrivate;
 class VANTORSLIDER_EXPORT SliderEditFrameDouble : public QFrame
 {
     Q_OBJECT
+    // A form applies properties in this order: decimals and range come before
+    // the value.
+    Q_PROPERTY(QString labelText READ labelText WRITE setLabelText)
+    Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
+    Q_PROPERTY(double minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(double maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(double singleStep READ singleStep WRITE setSingleStep)
+    Q_PROPERTY(int pageStep READ pageStep WRITE setPageStep)
+    Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged USER true)
 
 public:
     enum ValueChangeDirection : int {
@@ -46,8 +55,11 @@ public:
     double minimum() const;
     double maximum() const;
     void setDecimals(int prec);
+    int decimals() const;
     void setSingleStep(double val);
+    double singleStep() const;
     void setPageStep(int val);
+    int pageStep() const;
 
     void setAutoRepeat(bool b);
     void setAutoRepeatDelay(int val);
