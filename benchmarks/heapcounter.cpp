@@ -1,0 +1,90 @@
+#include "heapcounter.h"
+
+#include <atomic>
+#include <cerrno>
+#include <cstdlib>
+#include <malloc.h>
+
+// The C library's functions under the names by which they stay reachable.
+extern "C" {
+void *__libc_malloc(std::size_t size);
+void *__libc_calloc(std::size_t count, std::size_t size);
+void *__libc_realloc(void *block, std::size_t size);
+void *__libc_memalign(std::size_t alignment, std::size_t size);
+void __libc_free(void *block);
+}
+
+namespace {
+
+std::atomic<std::size_t> s_bytesHeld {0};
+std::atomic<std::size_t> s_allocations {0};
+
+void *counted(void *block)
+{
+    if (block != nullptr) {
+        s_bytesHeld.fetch_add(malloc_usable_size(block), std::memory_order_relaxed);
+        s_allocations.fetch_add(1, std::memory_order_relaxed);
+    }
+    return block;
+}
+
+void release(void *block)
+{
+    if (block != nullptr) {
+        s_bytesHeld.fetch_sub(malloc_usable_size(block), std::memory_order_relaxed);
+    }
+}
+
+} // namespace
+
+HeapCount heapCount()
+{
+    return {s_bytesHeld.load(), s_allocations.load()};
+}
+
+// operator new, libstdc++'s and Qt's alike, comes here as well.
+extern "C" {
+
+void *malloc(std::size_t size)
+{
+    return counted(__libc_malloc(size));
+}
+
+void *calloc(std::size_t count, std::size_t size)
+{
+    return counted(__libc_calloc(count, size));
+}
+
+void *realloc(void *block, std::size_t size)
+{
+    const std::size_t before = block != nullptr ? malloc_usable_size(block) : 0;
+    void *moved = __libc_realloc(block, size);
+    if (moved != nullptr || size == 0) {
+        s_bytesHeld.fetch_sub(before, std::memory_order_relaxed);
+    }
+    return counted(moved);
+}
+
+void *memalign(std::size_t alignment, std::size_t size)
+{
+    return counted(__libc_memalign(alignment, size));
+}
+
+void *aligned_alloc(std::size_t alignment, std::size_t size)
+{
+    return memalign(alignment, size);
+}
+
+int posix_memalign(void **block, std::size_t alignment, std::size_t size)
+{
+    *block = memalign(alignment, size);
+    return *block != nullptr ? 0 : ENOMEM;
+}
+
+void free(void *block)
+{
+    release(block);
+    __libc_free(block);
+}
+
+} // extern "C"

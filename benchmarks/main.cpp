@@ -1,0 +1,477 @@
+// Measures the library's editors against the same work done with bare Qt
+// widgets and prints one table. A figure is a ratio within one run, so it
+// depends little on the machine.
+
+#include "bareeditors.h"
+#include "comparison.h"
+#include "heapcounter.h"
+
+#include "cropeditframe.h"
+#include "rgballeditframe.h"
+#include "rgbopacityeditframe.h"
+#include "slidereditframe.h"
+
+#include <QtCore/QSignalBlocker>
+#include <QtScript/QScriptEngine>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleOptionSlider>
+
+#include <memory>
+
+using namespace Vantor::Widgets;
+
+namespace {
+
+// Editors built in one sample, moves of one drag, keys in one sample and so on:
+// enough that the clock's own time does not show.
+constexpr int batch = 50;
+constexpr int rounds = 41;
+
+QString microseconds(Nanoseconds time)
+{
+    return QStringLiteral("%1 µs").arg(time.count() / 1000, 0, 'f', 2);
+}
+
+Figure ratio(const QString &what, double goal, const Comparison &result)
+{
+    return {what, microseconds(result.ours), microseconds(result.bare), result.ratio, goal};
+}
+
+// Building and heap
+
+template <typename Editor> Nanoseconds buildAndDelete()
+{
+    return timed(batch, [] {
+        for (int i = 0; i < batch; ++i) {
+            const std::unique_ptr<QWidget> editor(new Editor);
+        }
+    });
+}
+
+// What one editor takes, after others have filled what Qt shares between them.
+template <typename Editor> HeapCount heapOf()
+{
+    const Editor first;
+    const HeapCount before = heapCount();
+    const Editor second;
+    const HeapCount after = heapCount();
+    return {after.bytesHeld - before.bytesHeld, after.allocations - before.allocations};
+}
+
+template <typename Editor, typename Bare>
+void compareBuilding(const QString &name, double timeGoal, double heapGoal, int rowCount,
+                     std::vector<Figure> &figures)
+{
+    figures.push_back(ratio(QStringLiteral("Build and delete one ") + name, timeGoal,
+                            compare(rounds, buildAndDelete<Editor>, buildAndDelete<Bare>)));
+    const HeapCount ours = heapOf<Editor>();
+    const HeapCount bare = heapOf<Bare>();
+    const auto kilobytes = [](std::size_t bytes) {
+        return QStringLiteral("%1 kB").arg(double(bytes) / 1000, 0, 'f', 1);
+    };
+    figures.push_back({QStringLiteral("Heap held by one ") + name, kilobytes(ours.bytesHeld),
+                       kilobytes(bare.bytesHeld), double(ours.bytesHeld) / double(bare.bytesHeld),
+                       heapGoal});
+    const auto perRow = [rowCount](const HeapCount &count) {
+        return double(count.allocations) / rowCount;
+    };
+    figures.push_back({QStringLiteral("Allocations a row of one ") + name,
+                       QString::number(perRow(ours)), QString::number(perRow(bare)), perRow(ours),
+                       480});
+}
+
+// A window with one editor in it, shown and active in its turn.
+template <typename Editor> struct Shown
+{
+    Shown()
+    {
+        window.resize(640, 240);
+        auto *layout = new QVBoxLayout(&window);
+        layout->addWidget(editor);
+        window.show();
+        if (!QTest::qWaitForWindowExposed(&window)) {
+            qFatal("The window does not show.");
+        }
+    }
+
+    void activate()
+    {
+        window.activateWindow();
+        QApplication::setActiveWindow(&window);
+    }
+
+    QWidget window;
+    Editor *editor = new Editor;
+};
+
+QSpinBox *spinBoxOf(QWidget *editor)
+{
+    return editor->findChild<QSpinBox *>(QStringLiteral("spinBox"));
+}
+
+QSlider *sliderOf(QWidget *editor)
+{
+    return editor->findChild<QSlider *>(QStringLiteral("slider"));
+}
+
+// Values
+
+Figure compareSetValue()
+{
+    Shown<SliderEditFrame> ours;
+    Shown<BareRow> bare;
+    ours.editor->setRange(0, 1000);
+    bare.editor->setRange(0, 1000);
+    const auto sample = [](auto *editor) {
+        return timed(batch, [editor] {
+            for (int i = 0; i < batch; ++i) {
+                editor->setValue(100 + i);
+            }
+        });
+    };
+    return ratio(
+        QStringLiteral("`setValue` on a row"), 1.05,
+        compare(
+            rounds * 10, [&] { return sample(ours.editor); }, [&] { return sample(bare.editor); }));
+}
+
+// Keys
+
+void sendKey(QWidget *widget, Qt::Key key, const QString &text = QString())
+{
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QApplication::sendEvent(widget, &press);
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QApplication::sendEvent(widget, &release);
+}
+
+// A digit at the end of the text and away again.
+Sample typing(QSpinBox *spinBox, const QString &text)
+{
+    return [spinBox, text] {
+        spinBox->window()->activateWindow();
+        spinBox->setFocus();
+        auto *field = spinBox->findChild<QLineEdit *>();
+        field->setText(text);
+        const Nanoseconds taken = timed(2 * batch, [spinBox] {
+            for (int i = 0; i < batch; ++i) {
+                sendKey(spinBox, Qt::Key_4, QStringLiteral("4"));
+                sendKey(spinBox, Qt::Key_Backspace);
+            }
+        });
+        if (field->text() != text) {
+            qFatal("The keys did not arrive.");
+        }
+        return taken;
+    };
+}
+
+Figure compareShortText()
+{
+    Shown<SliderEditFrame> ours;
+    Shown<BareRow> bare;
+    bare.editor->setRange(0, std::numeric_limits<int>::max());
+    return ratio(QStringLiteral("A key typed into a 12-character expression"), 1.05,
+                 compare(rounds * 4, typing(spinBoxOf(ours.editor), QStringLiteral("12*34+(56-7)")),
+                         typing(spinBoxOf(bare.editor), QStringLiteral("123456789"))));
+}
+
+Figure compareLongText()
+{
+    Shown<SliderEditFrame> ours;
+    Shown<RewritingSpinBox> bare;
+    const QString text = QStringLiteral("12*34+(56-7)+1.5*20-").repeated(20);
+    return ratio(QStringLiteral("A key typed into a 400-character expression, beside a bare field "
+                                "that rewrites its text"),
+                 1.1,
+                 compare(rounds, typing(spinBoxOf(ours.editor), text), typing(bare.editor, text)));
+}
+
+Figure compareEnter()
+{
+    Shown<SliderEditFrame> ours;
+    Shown<BareRow> bare;
+    QSpinBox *field = spinBoxOf(ours.editor);
+    const Sample oursSample = [&] {
+        ours.activate();
+        ours.editor->setValue(7);
+        field->setFocus();
+        field->selectAll();
+        const Nanoseconds taken = timed(1, [field] {
+            sendKey(field, Qt::Key_1, QStringLiteral("1"));
+            sendKey(field, Qt::Key_2, QStringLiteral("2"));
+            sendKey(field, Qt::Key_Asterisk, QStringLiteral("*"));
+            sendKey(field, Qt::Key_3, QStringLiteral("3"));
+            sendKey(field, Qt::Key_Return, QStringLiteral("\r"));
+        });
+        if (ours.editor->value() != 36 || field->hasFocus()) {
+            qFatal("The expression was not evaluated.");
+        }
+        return taken;
+    };
+    QSpinBox *bareField = bare.editor->ui.spinBox;
+    const Sample bareSample = [&] {
+        bare.activate();
+        bare.editor->setValue(7);
+        bareField->setFocus();
+        const Nanoseconds taken = timed(1, [&] {
+            QScriptEngine engine;
+            const QScriptValue result = engine.evaluate(QStringLiteral("12*3"));
+            bareField->setValue(result.toInt32());
+            bare.editor->setFocus(Qt::OtherFocusReason);
+        });
+        if (bareField->value() != 36 || bareField->hasFocus()) {
+            qFatal("The value was not written.");
+        }
+        return taken;
+    };
+    return ratio(QStringLiteral("`12*3` and Enter, beside one evaluation, writing the result and "
+                                "handing over the focus"),
+                 1.08, compare(rounds * 4, oursSample, bareSample));
+}
+
+// Drags
+
+void sendMouse(QSlider *slider, QEvent::Type type, int x)
+{
+    QWidget *window = slider->window();
+    const QPoint pos = slider->mapTo(window, QPoint(x, slider->height() / 2));
+    const bool isMove = type == QEvent::MouseMove;
+    QMouseEvent event(type, pos, window->mapToGlobal(pos), isMove ? Qt::NoButton : Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(window->windowHandle(), &event);
+}
+
+int handleX(const QSlider *slider)
+{
+    QStyleOptionSlider option;
+    option.initFrom(slider);
+    option.minimum = slider->minimum();
+    option.maximum = slider->maximum();
+    option.sliderPosition = slider->sliderPosition();
+    option.state |= QStyle::State_Horizontal;
+    return slider->style()
+        ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
+        .center()
+        .x();
+}
+
+// Drags the handle forth and back, two pixels a move; reports counts what has
+// arrived at the host.
+Sample dragging(QSlider *slider, const int *reports)
+{
+    return [slider, reports] {
+        const int start = handleX(slider);
+        sendMouse(slider, QEvent::MouseButtonPress, start);
+        const int before = *reports;
+        const Nanoseconds taken = timed(2 * batch, [slider, start] {
+            for (int i = 1; i <= batch; ++i) {
+                sendMouse(slider, QEvent::MouseMove, start + 2 * i);
+            }
+            for (int i = batch - 1; i >= 0; --i) {
+                sendMouse(slider, QEvent::MouseMove, start + 2 * i);
+            }
+        });
+        if (*reports != before + 2 * batch) {
+            qFatal("%d moves brought %d reports.", 2 * batch, *reports - before);
+        }
+        sendMouse(slider, QEvent::MouseButtonRelease, start);
+        return taken;
+    };
+}
+
+template <typename Editor, typename Prepare>
+Figure compareDrag(const QString &what, double goal, int maximum, const Prepare &prepare)
+{
+    Shown<Editor> ours;
+    int ourReports = 0;
+    QSlider *ourSlider = sliderOf(prepare(ours.editor, ourReports));
+
+    Shown<BareRow> bare;
+    int bareReports = 0;
+    bare.editor->setRange(0, maximum);
+    bare.editor->setValue(maximum / 10);
+    QSlider *bareSlider = bare.editor->ui.slider;
+    QSpinBox *bareField = bare.editor->ui.spinBox;
+    // The slider's value goes along with the handle, as it does in the library's rows.
+    bareSlider->setTracking(true);
+    QObject::connect(bareSlider, &QSlider::valueChanged, bareField, &QSpinBox::setValue);
+    QObject::connect(bareField, QOverload<int>::of(&QSpinBox::valueChanged), bareField,
+                     [&bareReports] { ++bareReports; });
+
+    return ratio(
+        QStringLiteral("One mouse move of a drag: ") + what, goal,
+        compare(rounds * 4, dragging(ourSlider, &ourReports), dragging(bareSlider, &bareReports)));
+}
+
+QWidget *prepareCrop(CropEditFrame *editor, int &reports, const QString &draggedRow)
+{
+    editor->setCropRange(1000, 1000);
+    editor->setCropValue(100, 100, 100, 100);
+    QObject::connect(editor, &CropEditFrame::cropValueChanged, editor, [&reports] { ++reports; });
+    return editor->findChild<SliderEditFrame *>(draggedRow);
+}
+
+void compareDrags(std::vector<Figure> &figures)
+{
+    figures.push_back(compareDrag<SliderEditFrame>(
+        QStringLiteral("row"), 1.05, 1000, [](SliderEditFrame *editor, int &reports) -> QWidget * {
+            editor->setRange(0, 1000);
+            editor->setValue(100);
+            QObject::connect(editor, &SliderEditFrame::valueChanged, editor,
+                             [&reports] { ++reports; });
+            return editor;
+        }));
+    figures.push_back(compareDrag<RGBAllEditFrame>(
+        QStringLiteral("`RGBAllEditFrame`"), 1.10, 255, [](RGBAllEditFrame *editor, int &reports) {
+            QObject::connect(editor, &RGBAllEditFrame::valueChanged, editor,
+                             [&reports] { ++reports; });
+            return editor->findChild<QWidget *>(QStringLiteral("frameG"));
+        }));
+    figures.push_back(compareDrag<CropEditFrame>(
+        QStringLiteral("`CropEditFrame`"), 1.15, 1000, [](CropEditFrame *editor, int &reports) {
+            return prepareCrop(editor, reports, QStringLiteral("frameX"));
+        }));
+    figures.push_back(compareDrag<CropEditFrame>(
+        QStringLiteral("`CropEditFrame` with the proportional lock"), 2.0, 1000,
+        [](CropEditFrame *editor, int &reports) {
+            QWidget *row = prepareCrop(editor, reports, QStringLiteral("frameWidth"));
+            editor->setSizeLockEnable(true, RectEditFrame::SizeScaleLock);
+            editor->setSizeLock(true);
+            return row;
+        }));
+}
+
+// Panels
+
+template <typename Editor> std::unique_ptr<QWidget> buildPanel(int rowCount)
+{
+    std::unique_ptr<QWidget> panel(new QWidget);
+    auto *layout = new QVBoxLayout(panel.get());
+    for (int i = 0; i < rowCount; ++i) {
+        layout->addWidget(new Editor);
+    }
+    return panel;
+}
+
+// Rules of the kinds that a host's sheet has. Both sides' children match the
+// same ones; most match nothing, as in any sheet of a whole application.
+QString sheetOf200Rules()
+{
+    QStringList rules {
+        QStringLiteral("QFrame { background: #20242a; color: #e0e0e0 }"),
+        QStringLiteral("QLabel#labelName { padding: 2px }"),
+        QStringLiteral("QSpinBox { border: 1px solid #808080; border-radius: 3px }"),
+        QStringLiteral("QSpinBox:focus { border-color: #40a0ff }"),
+        QStringLiteral("QSlider::groove:horizontal { height: 4px; background: #606060 }"),
+        QStringLiteral("QSlider::handle:horizontal { width: 12px; margin: -6px 0; "
+                       "background: #40a0ff }"),
+        QStringLiteral("QToolButton { border: 1px solid #808080 }"),
+        QStringLiteral("QToolButton:pressed { background: #404040 }"),
+        QStringLiteral("QFrame > QToolButton#sliderEditPlus { border-color: #a0a0a0 }"),
+    };
+    while (rules.size() < 200) {
+        rules << QStringLiteral("QFrame#panel%1 > QToolButton:hover { color: #%2 }")
+                     .arg(rules.size())
+                     .arg(rules.size() * 1000, 6, 16, QLatin1Char('0'));
+    }
+    return rules.join(QLatin1Char('\n'));
+}
+
+template <typename Editor> Nanoseconds openPanel(const QString &sheet)
+{
+    constexpr int rowCount = 250;
+    return timed(1, [&sheet] {
+        const std::unique_ptr<QWidget> panel = buildPanel<Editor>(rowCount);
+        panel->setStyleSheet(sheet);
+        panel->ensurePolished();
+        panel->resize(640, panel->sizeHint().height());
+        panel->setAttribute(Qt::WA_DontShowOnScreen);
+        panel->show();
+        panel->grab();
+    });
+}
+
+void comparePanels(std::vector<Figure> &figures)
+{
+    const auto panel = [](const QString &what, double goal, const QString &sheet) {
+        return ratio(QStringLiteral("A panel of 250 rows built, polished, laid out and drawn, ")
+                         + what,
+                     goal,
+                     compare(
+                         rounds / 4, [&sheet] { return openPanel<SliderEditFrame>(sheet); },
+                         [&sheet] { return openPanel<BareRow>(sheet); }));
+    };
+    figures.push_back(panel(QStringLiteral("plain"), 1.25, QString()));
+    figures.push_back(
+        panel(QStringLiteral("with a style sheet of 200 rules"), 1.10, sheetOf200Rules()));
+}
+
+template <typename Editor> Nanoseconds buildRows(int rowCount)
+{
+    constexpr int rowsPerSample = 1000;
+    return timed(rowsPerSample, [rowCount] {
+        for (int i = 0; i < rowsPerSample / rowCount; ++i) {
+            const std::unique_ptr<QWidget> panel = buildPanel<Editor>(rowCount);
+            // A child that is deleted with events in the queue searches all of it.
+            QCoreApplication::sendPostedEvents();
+        }
+    });
+}
+
+// How much dearer a row is in a large panel than in one of ten: layouts and
+// queued events of Qt make it so, and the library may not add to that.
+Figure compareGrowth(int rowCount)
+{
+    const Comparison ours = compare(
+        rounds / 2, [rowCount] { return buildRows<SliderEditFrame>(rowCount); },
+        [] { return buildRows<SliderEditFrame>(10); });
+    const Comparison bare = compare(
+        rounds / 2, [rowCount] { return buildRows<BareRow>(rowCount); },
+        [] { return buildRows<BareRow>(10); });
+    return {QStringLiteral("Growth of the cost of a row from 10 to %1 rows").arg(rowCount),
+            QString::number(ours.ratio, 'f', 2), QString::number(bare.ratio, 'f', 2),
+            ours.ratio / bare.ratio, 1.10};
+}
+
+void discardMessages(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    Q_UNUSED(context)
+    if (type == QtFatalMsg) {
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+    }
+}
+
+} // namespace
+
+// Says by its exit code whether every goal is met.
+int main(int argc, char *argv[])
+{
+    QApplication app(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    // The blinking cursor's timer is no part of any of this.
+    QApplication::setCursorFlashTime(0);
+    // The entry's two debug messages would be written to the terminal.
+    qInstallMessageHandler(discardMessages);
+
+    std::vector<Figure> figures;
+    compareBuilding<SliderEditFrame, BareRow>(QStringLiteral("`SliderEditFrame`"), 1.65, 1.27, 1,
+                                              figures);
+    compareBuilding<RGBOpacityEditFrame, BareRows>(QStringLiteral("`RGBOpacityEditFrame`"), 2.0,
+                                                   1.40, 4, figures);
+    compareBuilding<CropEditFrame, BarePanels>(QStringLiteral("`CropEditFrame`"), 1.6, 1.33, 4,
+                                               figures);
+    figures.push_back(compareSetValue());
+    figures.push_back(compareShortText());
+    figures.push_back(compareLongText());
+    figures.push_back(compareEnter());
+    compareDrags(figures);
+    comparePanels(figures);
+    figures.push_back(compareGrowth(100));
+    figures.push_back(compareGrowth(1000));
+    return printTable(figures) == 0 ? 0 : 1;
+}
