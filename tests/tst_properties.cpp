@@ -79,9 +79,6 @@ void TestProperties::silentWrites_data()
         << Settings {{"value", 50}, {"maximum", -3}}
         << "labelText= minimum=-3 maximum=-3 singleStep=1 pageStep=10 value=-3" << QString();
 }
-<< "labelText= minimum=-3 maximum=-3 singleStep=1 pageStep=10 value=-3"
-    << "labelText= decimals=2 minimum=-3 maximum=-3 singleStep=1 pageStep=10 value=-3";
-}
 
 template <typename Frame> void compareWrites(const Settings &settings, const QString &expected)
 {
