@@ -202,6 +202,9 @@ template <typename Frame> void addSequences()
             [=](Row &row) {
                 hold(row);
                 row.frame->setEnabled(false);
+                row.frame->setEnabled(true);
+                User::moveHandle(row.slider, 70); // held by nobody any more
+                QCOMPARE(row.slider->sliderPosition(), 40);
                 QCOMPARE(samplingInterval(row.frame), -1);
                 row.drop();
             },
@@ -250,6 +253,16 @@ template <typename Frame> void addSequences()
                             << "drop",
         30);
 
+    add(
+        "a host's value in a drag",
+        [](Row &row) {
+            row.setMode(Sampled);
+            row.hold({});
+            row.frame->setValue(50 * Row::unit);
+            row.drop();
+        },
+        {"drop"}, 50);
+
     const auto direct = [add](const char *name, int directions, const QStringList &log, int end) {
         // A receiver finds the children updated.
         add(
@@ -257,6 +270,10 @@ template <typename Frame> void addSequences()
             [directions](Row &row) {
                 row.frame->setRange(0, 200 * Row::unit);
                 row.frame->setValue(100 * Row::unit);
+                QObject::connect(
+                    row.frame, &Frame::valueChanged, row.frame, [&row](typename Row::Value value) {
+                        QCOMPARE(row.slider->value(), qRound(double(value) / Row::unit));
+                    });
                 row.frame->setValueChangeDirection(directions, int(100 * Row::unit));
                 row.drag({90, 95, 120, 130});
             },
