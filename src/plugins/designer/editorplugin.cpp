@@ -1,0 +1,63 @@
+#include "editorplugin.h"
+
+#include <QtGui/QIcon>
+
+EditorPlugin::EditorPlugin(const EditorDescription &description, QObject *parent)
+    : QObject(parent), m_description(description)
+{
+}
+
+QString EditorPlugin::name() const
+{
+    return m_description.className;
+}
+
+QString EditorPlugin::group() const
+{
+    return QStringLiteral("Vantor Editors");
+}
+
+QString EditorPlugin::toolTip() const
+{
+    return m_description.toolTip;
+}
+
+QString EditorPlugin::whatsThis() const
+{
+    return m_description.toolTip;
+}
+
+QString EditorPlugin::includeFile() const
+{
+    return m_description.includeFile;
+}
+
+QIcon EditorPlugin::icon() const
+{
+    return QIcon(QStringLiteral(":/vantorslider/icons/%1.svg").arg(shortName().toLower()));
+}
+
+// The rows inside are the editor's own: nothing can be dropped into it.
+bool EditorPlugin::isContainer() const
+{
+    return false;
+}
+
+QWidget *EditorPlugin::createWidget(QWidget *parent)
+{
+    return m_description.create(parent);
+}
+
+QString EditorPlugin::domXml() const
+{
+    QString objectName = shortName();
+    objectName[0] = objectName[0].toLower();
+    return QStringLiteral("<ui language=\"c++\" displayname=\"%1\">"
+                          "<widget class=\"%2\" name=\"%3\">%4</widget></ui>")
+        .arg(shortName(), name(), objectName, m_description.properties);
+}
+
+QString EditorPlugin::shortName() const
+{
+    return name().section(QStringLiteral("::"), -1);
+}
