@@ -245,13 +245,14 @@ template <typename Frame> void addSequences()
             User::moveHandle(row.slider, 50);
             User::moveHandle(row.slider, 30);
             row.tick();
+            User::moveHandle(row.slider, 40);
+            row.tick();
             row.drop();
             QCOMPARE(samplingInterval(row.frame), -1);
         },
-        QStringList("tick") << "tick" << at({30}) << "tick"
-                            << "tick"
-                            << "drop",
-        30);
+        QStringList({"tick", "tick"}) + at({30}) + QStringList({"tick", "tick", "tick"}) + at({40})
+            + QStringList("drop"),
+        40);
 
     add(
         "a host's value in a drag",
