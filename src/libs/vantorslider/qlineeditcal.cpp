@@ -40,7 +40,19 @@ LineEditCal::LineEditCal(QWidget *parent)
 */
 void LineEditCal::setInitialResult(const float &result)
 {
-    m_beforeResult = QString::number(static_cast<double>(result), 'g', 6);
+    m_initialResult = result;
+    m_isInitialResultPending = true;
+}
+
+// A drag hands over a result at every move; its text is needed only when
+// somebody types.
+const QString &LineEditCal::beforeResult()
+{
+    if (m_isInitialResultPending) {
+        m_beforeResult = QString::number(static_cast<double>(m_initialResult), 'g', 6);
+        m_isInitialResultPending = false;
+    }
+    return m_beforeResult;
 }
 
 /*! Sets the number of decimals of a shown result to \a remainSeveral. */
@@ -74,7 +86,7 @@ void LineEditCal::setSuffix(bool bSuffix)
 */
 void LineEditCal::setSlotEditingFinished()
 {
-    if (text() != m_beforeResult) {
+    if (text() != beforeResult()) {
         setShowResult(text());
     }
 }
@@ -85,7 +97,7 @@ void LineEditCal::setSlotEditingFinished()
 */
 void LineEditCal::onSlotTextChanged(QString text)
 {
-    if (text == m_beforeResult || m_isEvaluating) {
+    if (text == beforeResult() || m_isEvaluating) {
         return;
     }
     if (text.isEmpty()) {
@@ -135,37 +147,53 @@ void LineEditCal::setExpressionFormat(QString strText)
 
 // Splits the text at its marks; between two marks, before the first and after
 // the last stands a number token, which may be empty. The decimal rule finds
-// a token's earlier state by its index, so all of them count.
+// a token's earlier state by its index, so all of them count. Most tokens are
+// what they were: the list is brought up to date in place.
 void LineEditCal::setIntereptString(QString &strText, bool &bCursor)
 {
     const CalculatorPatterns &patterns = CalculatorPatterns::instance();
-    std::vector<QString> tokens;
-    QString number;
-    const auto appendNumber = [&] {
-        if (!number.isEmpty()) {
-            setStringFormat(number, bCursor);
-            if (setRadixPointSeveral(number, static_cast<int>(tokens.size()))) {
+    std::vector<QString> &tokens = m_vecStringResults;
+    std::size_t count = 0;
+    const auto takeToken = [&](const QStringRef &text, bool isMark) {
+        if (count < tokens.size() && tokens[count] == text) {
+            // It was corrected before, but its limit of decimals may be new.
+            if (!isMark && setRadixPointSeveral(tokens[count], static_cast<int>(count))) {
+                bCursor = true;
+            }
+            ++count;
+            return;
+        }
+        QString token = text.toString();
+        if (!isMark && !token.isEmpty()) {
+            setStringFormat(token, bCursor);
+            if (setRadixPointSeveral(token, static_cast<int>(count))) {
                 bCursor = true;
             }
         }
-        tokens.push_back(number);
-        number.clear();
-    };
-    for (const QChar character : qAsConst(strText)) {
-        if (patterns.isMark(character)) {
-            appendNumber();
-            tokens.emplace_back(character);
+        if (count == tokens.size()) {
+            tokens.push_back(token);
         } else {
-            number.append(character);
+            tokens[count] = token;
+        }
+        ++count;
+    };
+    int start = 0;
+    for (int end = 0; end < strText.length(); ++end) {
+        if (patterns.isMark(strText.at(end))) {
+            takeToken(QStringRef(&strText, start, end - start), false);
+            takeToken(QStringRef(&strText, end, 1), true);
+            start = end + 1;
         }
     }
-    appendNumber();
+    takeToken(QStringRef(&strText, start, strText.length() - start), false);
+    tokens.resize(count);
 
-    strText.clear();
-    for (const QString &token : tokens) {
-        strText.append(token);
+    if (bCursor) {
+        strText.clear();
+        for (const QString &token : tokens) {
+            strText.append(token);
+        }
     }
-    m_vecStringResults = std::move(tokens);
 }
 
 void LineEditCal::setStringFormat(QString &strText, bool &bFormat)
@@ -208,7 +236,7 @@ void LineEditCal::setShowResult(const QString &strText)
     if (!Internal::isTypedExpression(strText)) {
         // Events come in while it is evaluated: what interprets the field
         // meanwhile must find a number, not the script.
-        setResultText(m_beforeResult);
+        setResultText(beforeResult());
     }
     const QPointer<LineEditCal> self(this);
     m_isEvaluating = true;
@@ -222,7 +250,7 @@ void LineEditCal::setShowResult(const QString &strText)
         return;
     }
     if (!result) {
-        setResultText(m_beforeResult);
+        setResultText(beforeResult());
         return;
     }
     // A text that is no number counts as 0; NaN passes both comparisons.
@@ -235,6 +263,7 @@ void LineEditCal::setShowResult(const QString &strText)
     }
     m_beforeText = QString::number(static_cast<double>(value), 'f', m_remainSeveral);
     m_beforeResult = m_beforeText;
+    m_isInitialResultPending = false;
     setResultText(m_beforeText);
 }
 

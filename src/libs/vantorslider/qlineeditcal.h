@@ -37,6 +37,7 @@ private:
     bool setRadixPointSeveral(QString &strText, const int &index);
     void setShowResult(const QString &strText);
     void setResultText(QString text);
+    const QString &beforeResult();
 
     int m_cursorPosition = 0;
     std::vector<QString> m_vecStringResults;
@@ -52,6 +53,8 @@ private:
     float m_maxNum = 10000.0F;
     bool m_bSuffix = false;
     bool m_btnFirstPress = true;
+    float m_initialResult = 0.0F;
+    bool m_isInitialResultPending = false;
     bool m_isEvaluating = false;
     bool m_isOrphaned = false;
 };

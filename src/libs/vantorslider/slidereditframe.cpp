@@ -33,6 +33,7 @@ public:
     void stopSamplingTimer();
     void sample();
     void emitValueChanged(int val);
+    void showInSpinBox(int val);
 
     SliderRow row() const { return {*ui, ui->spinBox}; }
 
@@ -51,6 +52,9 @@ public:
     int m_readValue = 0;
     int m_valueChangeDirection = SliderEditFrame::AllowedToAny;
     bool m_isSampleInDelivery = false;
+    // What the spin box held and showed after it was last set.
+    int m_shownValue = 0;
+    QString m_shownText;
 
 private Q_SLOTS:
     void slotSpinBoxEditingFinished();
@@ -136,6 +140,20 @@ void SliderEditPrivate::emitValueChanged(int val)
         m_pSliderEditer->setValue(val);
     }
     Q_EMIT m_pSliderEditer->valueChanged(val);
+}
+
+// Composite editors set all their rows at every move of one. The text decides
+// as well: a failed entry may show another number than the value.
+void SliderEditPrivate::showInSpinBox(int val)
+{
+    SliderEditSpinBox *spinBox = ui->spinBox;
+    if (val == m_shownValue && val == spinValue() && spinBox->text() == m_shownText) {
+        return;
+    }
+    const QSignalBlocker blocker(spinBox);
+    spinBox->setValue(val);
+    m_shownValue = spinValue();
+    m_shownText = spinBox->text();
 }
 
 void SliderEditPrivate::report(int val)
@@ -393,10 +411,7 @@ void SliderEditFrame::setSliderProperty(const char *name, const QVariant &value)
 void SliderEditFrame::setValue(int val)
 {
     d->m_nLastValue = val;
-    {
-        const QSignalBlocker blocker(d->ui->spinBox);
-        d->ui->spinBox->setValue(val);
-    }
+    d->showInSpinBox(val);
     {
         const QSignalBlocker blocker(d->ui->slider);
         d->ui->slider->setValue(val);
