@@ -26,6 +26,8 @@ private Q_SLOTS:
     void wholeRectangle();
     void locks_data();
     void locks();
+    void hiddenLocksStay();
+    void lockIsReportedWhenItIsOn();
     void anyRangeIsSafe();
     void layoutIsARectangle();
 
@@ -225,7 +227,9 @@ void tst_RectEditFrame::locks_data()
     QTest::newRow("halves round away from zero")
         << "set 0 0 4 2 | size lock on: sizeLock(true) | w=3: h(2) w(3) (0,0,3,2) | "
            "set 0 0 3 2 | size lock on | w=5: h(3) w(5) (0,0,5,3) | set 0 0 2 4 | "
-           "size lock on | h=3: w(2) h(3) (0,0,2,3)";
+           "size lock on | h=3: w(2) h(3) (0,0,2,3) | range w -9 9 | range h -9 9 | "
+           "set 0 0 4 2 | size lock on | w=-3: h(-2) w(-3) (0,0,-3,-2) | "
+           "h=-1: w(-2) h(-1) (0,0,-2,-1)";
     QTest::newRow("ratio")
         << "ratio 7 | set 0 0 100 100 | size lock on: sizeLock(true) | "
            "w=50: h(50) w(50) (0,0,50,50) | ratio 1.5 | w=300: h(200) w(300) (0,0,300,200) | "
@@ -239,14 +243,15 @@ void tst_RectEditFrame::locks_data()
            "w=400: h(175) w(350) (150,0,350,175) | range w 0 600 | "
            "w+: h(175) w(350) (150,0,350,175) | size lock on | "
            "w+: h(176) w(351) (150,0,351,176) | w=500: h(250) w(500) (150,0,500,250) | "
-           "w+: h(250) w(500) (150,0,500,250) | size lock off: sizeLock(false) | "
-           "w=520: w(520) (150,0,520,250)";
+           "w+: h(250) w(500) (150,0,500,250) | set 100 0 500 250 | "
+           "w+: h(250) w(500) (100,0,500,250) | size lock off: sizeLock(false) | "
+           "w=520: w(520) (100,0,520,250)";
     QTest::newRow("proportion stops at the area's lower edge")
         << "range y 50 1000 | range h 0 450 | set 0 150 100 200 | "
            "size lock on: sizeLock(true) | h=400: w(175) h(350) (0,150,175,350) | "
            "h+: w(175) h(350) (0,150,175,350) | h=348: w(174) h(348) (0,150,174,348) | "
-           "h+: w(175) h(349) (0,150,175,349) | h+: w(175) h(350) (0,150,175,350) | "
-           "h+: w(175) h(350) (0,150,175,350)";
+           "size lock on | h=350: w(175) h(350) (0,150,175,350) | set 0 100 175 350 | "
+           "h+: w(175) h(350) (0,100,175,350)";
     QTest::newRow("a width stops where its height meets the lower edge")
         << "range h 0 500 | set 0 100 100 200 | size lock on: sizeLock(true) | "
            "w=300: h(400) w(200) (0,100,200,400) | w+: h(400) w(200) (0,100,200,400) | "
@@ -310,6 +315,23 @@ void tst_RectEditFrame::locks()
         m_frame->setRange(type, 0, 1000);
     m_frame->setValue(0, 0, 0, 0);
     RectUser(*m_frame).check(steps);
+}
+
+void tst_RectEditFrame::hiddenLocksStay()
+{
+    RectUser user(*m_frame);
+    user.check("set 10 20 40 20 | lock position: positionLock(true) | lock size: sizeLock(true)");
+    m_frame->setPositionLockEnable(false);
+    m_frame->setSizeLockEnable(false, RectEditFrame::SizeScaleLock);
+    user.check("x+: x(11) (11,21,40,20) | w=20: h(10) w(20) (11,21,20,10)");
+}
+
+// A host may choose its own proportion the moment that the user locks the size.
+void tst_RectEditFrame::lockIsReportedWhenItIsOn()
+{
+    RectUser user(*m_frame);
+    connect(m_frame, &RectEditFrame::sizeLockChanged, [this] { m_frame->setSizeLock(qreal(4)); });
+    user.check("set 0 0 40 20 | lock size: sizeLock(true) | w=20: h(5) w(20) (0,0,20,5)");
 }
 
 // Under a sanitizer no sum or product of any range may overflow; everywhere each
