@@ -32,9 +32,14 @@ QString EditorPlugin::includeFile() const
     return m_description.includeFile;
 }
 
+// The widget box shows no icon that names no size, as one from a drawing.
 QIcon EditorPlugin::icon() const
 {
-    return QIcon(QStringLiteral(":/vantorslider/icons/%1.svg").arg(shortName().toLower()));
+    const QIcon drawing(QStringLiteral(":/vantorslider/icons/%1.svg").arg(shortName().toLower()));
+    QIcon icon;
+    for (const int size : {22, 44})
+        icon.addPixmap(drawing.pixmap(size, size));
+    return icon;
 }
 
 // The rows inside are the editor's own: nothing can be dropped into it.
