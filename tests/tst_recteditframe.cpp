@@ -243,7 +243,7 @@ void tst_RectEditFrame::locks_data()
            "w=400: h(175) w(350) (150,0,350,175) | range w 0 600 | "
            "w+: h(175) w(350) (150,0,350,175) | size lock on | "
            "w+: h(176) w(351) (150,0,351,176) | w=500: h(250) w(500) (150,0,500,250) | "
-           "w+: h(250) w(500) (150,0,500,250) | set 100 0 500 250 | "
+           "set 100 0 500 250 | "
            "w+: h(250) w(500) (100,0,500,250) | size lock off: sizeLock(false) | "
            "w=520: w(520) (100,0,520,250)";
     QTest::newRow("proportion stops at the area's lower edge")
