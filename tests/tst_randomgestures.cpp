@@ -199,21 +199,6 @@ private:
     EditorModel &m_model;
 };
 
-void setArea(RectEditFrame &frame, const QVector<int> &values)
-{
-    frame.setValue(values[0], values[1], values[2], values[3]);
-}
-
-void setArea(CropEditFrame &frame, const QVector<int> &values)
-{
-    frame.setCropValue(values[0], values[1], values[2], values[3]);
-}
-
-void setArea(MaskEditFrame &frame, const QVector<int> &values)
-{
-    frame.setMaskValue(values[0], values[1], values[2], values[3]);
-}
-
 template <typename Frame> class RectSession : public Session
 {
 public:
@@ -306,25 +291,22 @@ private:
             values[i] = random(
                 row.min, partner > i ? row.max : qMin(row.max, m_model.limit(i) - values[partner]));
         }
-        setRanges(least, extent);
-        setArea(m_frame, values);
-        m_model.set(values);
-        m_frame.setReleaseMode(isReleaseMode);
-        m_frame.setAutoRepeat(false);
-    }
-
-    void setRanges(const QVector<int> &least, const QVector<int> &extent)
-    {
         if constexpr (IsMask) {
             m_frame.setMaskRange(extent[1], extent[0]);
+            m_frame.setMaskValue(values[0], values[1], values[2], values[3]);
         } else if constexpr (IsCrop) {
             m_frame.setCropMinPos(least[0], least[1]);
             m_frame.setCropMinSize(least[2], least[3]);
             m_frame.setCropRange(extent[0], extent[1]);
+            m_frame.setCropValue(values[0], values[1], values[2], values[3]);
         } else {
             for (int i = 0; i < 4; ++i)
                 m_frame.setRange(RectUser::flag(i), m_model.rows[i].min, m_model.rows[i].max);
+            m_frame.setValue(values[0], values[1], values[2], values[3]);
         }
+        m_model.set(values);
+        m_frame.setReleaseMode(isReleaseMode);
+        m_frame.setAutoRepeat(false);
     }
 
     Frame &m_frame;
@@ -340,32 +322,20 @@ template <typename Frame> void playRgb()
     RgbSession<Frame>(frame, user, model).run();
 }
 
-template <typename Frame> void playRect(Frame &frame, RectUser &user, RectModel::Kind kind)
+template <typename Frame> void playRect()
 {
+    Frame frame;
+    RectUser user(frame);
+    auto kind = RectModel::Plain;
+    if constexpr (std::is_same<Frame, CropEditFrame>::value) {
+        user.log.watch(&frame, &Frame::cropValueChanged, QStringLiteral("crop"));
+        kind = RectModel::Crop;
+    } else if constexpr (std::is_same<Frame, MaskEditFrame>::value) {
+        user.log.watch(&frame, &Frame::maskValueChanged, QStringLiteral("mask"));
+        kind = RectModel::Mask;
+    }
     RectModel model(kind);
     RectSession<Frame>(frame, user, model).run();
-}
-
-void playPlain(RectEditFrame &&frame)
-{
-    RectUser user(frame);
-    playRect(frame, user, RectModel::Plain);
-}
-
-void playCrop()
-{
-    CropEditFrame frame;
-    RectUser user(frame);
-    user.log.watch(&frame, &CropEditFrame::cropValueChanged, QStringLiteral("crop"));
-    playRect(frame, user, RectModel::Crop);
-}
-
-void playMask()
-{
-    MaskEditFrame frame;
-    RectUser user(frame);
-    user.log.watch(&frame, &MaskEditFrame::maskValueChanged, QStringLiteral("mask"));
-    playRect(frame, user, RectModel::Mask);
 }
 
 } // namespace
@@ -377,10 +347,10 @@ void tst_RandomGestures::followsTheModel_data()
     QTest::newRow("RGBEditFrame") << Check(playRgb<RGBEditFrame>);
     QTest::newRow("RGBAllEditFrame") << Check(playRgb<RGBAllEditFrame>);
     QTest::newRow("RGBOpacityEditFrame") << Check(playRgb<RGBOpacityEditFrame>);
-    QTest::newRow("RectEditFrame") << Check([] { playPlain(RectEditFrame()); });
-    QTest::newRow("LayoutEditFrame") << Check([] { playPlain(LayoutEditFrame()); });
-    QTest::newRow("CropEditFrame") << Check(playCrop);
-    QTest::newRow("MaskEditFrame") << Check(playMask);
+    QTest::newRow("RectEditFrame") << Check(playRect<RectEditFrame>);
+    QTest::newRow("LayoutEditFrame") << Check(playRect<LayoutEditFrame>);
+    QTest::newRow("CropEditFrame") << Check(playRect<CropEditFrame>);
+    QTest::newRow("MaskEditFrame") << Check(playRect<MaskEditFrame>);
 }
 
 void tst_RandomGestures::followsTheModel()
