@@ -23,7 +23,7 @@ using Internal::CalculatorPatterns;
     character or by setSlotEditingFinished().
 */
 
-// A copy of a std::regex shares its compiled automaton.
+// The patterns are compiled once for the process.
 LineEditCal::LineEditCal(QWidget *parent)
     : QLineEdit(parent), m_regex(CalculatorPatterns::instance().character),
       m_regexMark(CalculatorPatterns::instance().mark),
@@ -86,6 +86,7 @@ void LineEditCal::setSuffix(bool bSuffix)
 */
 void LineEditCal::setSlotEditingFinished()
 {
+    const Internal::Survival::Scope scope(m_survival);
     if (text() != beforeResult()) {
         setShowResult(text());
     }
@@ -108,8 +109,10 @@ void LineEditCal::onSlotTextChanged(QString text)
     if (text.endsWith(QLatin1Char('='))) {
         text.chop(1);
         const QPointer<LineEditCal> self(this);
+        // QLineEdit's own functions above this one go on with the field.
+        const Internal::Survival::Scope scope(m_survival);
         setShowResult(text);
-        if (self && !m_isOrphaned) {
+        if (self && !m_survival.isOrphaned()) {
             Q_EMIT signalsResult();
         }
         return;
@@ -245,8 +248,7 @@ void LineEditCal::setShowResult(const QString &strText)
         return;
     }
     m_isEvaluating = false;
-    if (m_isOrphaned) {
-        deleteLater();
+    if (m_survival.isOrphaned()) {
         return;
     }
     if (!result) {
@@ -270,19 +272,6 @@ void LineEditCal::setShowResult(const QString &strText)
 void LineEditCal::setResultText(QString text)
 {
     QLineEdit::setText(text);
-}
-
-/*!
-    Called by the spin box's destructor. A field in the middle of an
-    evaluation has QLineEdit's own functions above it, which work on after it:
-    it leaves its dying parent and deletes itself when the evaluation is over.
-*/
-void LineEditCal::outliveParent()
-{
-    if (m_isEvaluating) {
-        m_isOrphaned = true;
-        setParent(nullptr);
-    }
 }
 
 } // namespace Widgets

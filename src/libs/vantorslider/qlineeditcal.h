@@ -1,5 +1,7 @@
 #pragma once
 
+#include "slidereditframe_p.h"
+
 #include <QtWidgets/QLineEdit>
 
 #include <regex>
@@ -21,7 +23,7 @@ public:
     void setLineEditMinOrMax(const float &min, const float &max);
     void setSuffix(bool bSuffix);
     void setSlotEditingFinished();
-    void outliveParent();
+    void outliveParent() { m_survival.outliveParent(); }
 
 Q_SIGNALS:
     void signalsResult();
@@ -43,10 +45,10 @@ private:
     std::vector<QString> m_vecStringResults;
     QString m_beforeText;
     QString m_beforeResult;
-    std::regex m_regex;
-    std::regex m_regexMark;
-    std::regex m_regexFourOperation;
-    std::regex m_regexstr;
+    const std::regex &m_regex;
+    const std::regex &m_regexMark;
+    const std::regex &m_regexFourOperation;
+    const std::regex &m_regexstr;
     int m_remainSeveral = 0;
     int m_inputSeveral = 2;
     float m_minNum = -10000.0F;
@@ -56,7 +58,7 @@ private:
     float m_initialResult = 0.0F;
     bool m_isInitialResultPending = false;
     bool m_isEvaluating = false;
-    bool m_isOrphaned = false;
+    Internal::Survival m_survival {this};
 };
 
 } // namespace Widgets

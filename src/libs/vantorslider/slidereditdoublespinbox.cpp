@@ -100,6 +100,12 @@ void SliderEditDoubleSpinBox::onSlotResultFinished()
     Q_EMIT editingFinished();
 }
 
+bool SliderEditDoubleSpinBox::event(QEvent *event)
+{
+    const Internal::Survival::Scope scope(m_survival);
+    return QDoubleSpinBox::event(event);
+}
+
 void SliderEditDoubleSpinBox::mousePressEvent(QMouseEvent *event)
 {
     QDoubleSpinBox::mousePressEvent(event);

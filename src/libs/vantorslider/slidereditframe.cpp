@@ -6,7 +6,6 @@
 #include "sliderrow_p.h"
 #include "ui_slidereditframe.h"
 
-#include <QtCore/QDebug>
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtCore/QTimerEvent>
@@ -164,7 +163,7 @@ void SliderEditPrivate::report(int val)
 
 void SliderEditPrivate::slotSpinBoxEditingFinished()
 {
-    qDebug() << "SpinBox editing finished";
+    qDebug("SpinBox editing finished");
     const QPointer<SliderEditPrivate> self(this);
     ui->spinBox->setSlotEditingFinished();
     if (self && spinValue() != m_nLastValue) {
@@ -178,7 +177,7 @@ void SliderEditPrivate::slotSpinBoxEditingFinished()
 void SliderEditPrivate::slotSpinBoxEnterFinished()
 {
     m_pSliderEditer->setFocus(Qt::OtherFocusReason);
-    qDebug() << "SpinBox lose focus.";
+    qDebug("SpinBox lose focus.");
 }
 
 void SliderEditPrivate::slotButtonSubtractClicked()
@@ -315,8 +314,11 @@ SliderEditFrame::SliderEditFrame(QWidget *parent)
 
 SliderEditFrame::~SliderEditFrame()
 {
+    auto *slider = d->ui->slider;
+    auto *spinBox = d->ui->spinBox;
     delete d;
     d = nullptr;
+    Internal::outlive(this, slider, spinBox);
 }
 
 /*!

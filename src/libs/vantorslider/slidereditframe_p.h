@@ -11,6 +11,46 @@ namespace Widgets {
 
 class LineEditCal;
 
+namespace Internal {
+
+// Qt's own code above a signal goes on with the widget that emitted it. Where the
+// editor around the widget is deleted in the signal, the widget leaves it and
+// deletes itself once all that it is in the middle of is over.
+class Survival
+{
+public:
+    // Something that the widget is in the middle of.
+    class Scope
+    {
+    public:
+        explicit Scope(Survival &survival);
+        ~Scope();
+        Scope(const Scope &) = delete;
+        Scope &operator=(const Scope &) = delete;
+
+    private:
+        friend class Survival;
+        Survival *m_survival;
+        Scope *m_outer;
+    };
+
+    explicit Survival(QWidget *widget) : m_widget(widget) { }
+    ~Survival();
+    Survival(const Survival &) = delete;
+    Survival &operator=(const Survival &) = delete;
+
+    // To be called before the parent deletes its children.
+    void outliveParent();
+    bool isOrphaned() const { return m_isOrphaned; }
+
+private:
+    QWidget *m_widget;
+    Scope *m_innermost = nullptr;
+    bool m_isOrphaned = false;
+};
+
+} // namespace Internal
+
 class SliderEditSlider : public QSlider
 {
     Q_OBJECT
@@ -19,8 +59,10 @@ public:
     explicit SliderEditSlider(QWidget *parent = nullptr);
 
     bool isMousePressed() const;
+    void outliveParent() { m_survival.outliveParent(); }
 
 protected:
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -34,6 +76,7 @@ private:
     void releasePointer();
 
     bool m_isMousePressed = false;
+    Internal::Survival m_survival {this};
 };
 
 class VANTORSLIDER_EXPORT SliderEditSpinBox : public QSpinBox
@@ -49,6 +92,7 @@ public:
     void setSpinBoxCal(const int &result, const int &max, const int &min, const int &retainResult,
                        const int &retainDecimal);
     void setSlotEditingFinished();
+    void outliveParent() { m_survival.outliveParent(); }
 
 Q_SIGNALS:
     void enterFinished();
@@ -57,6 +101,7 @@ protected Q_SLOTS:
     void onSlotResultFinished();
 
 protected:
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -66,6 +111,7 @@ protected:
 private:
     bool m_isWheelEnabled = false;
     LineEditCal *m_pLineEditCal;
+    Internal::Survival m_survival {this};
 };
 
 class VANTORSLIDER_EXPORT SliderEditDoubleSpinBox : public QDoubleSpinBox
@@ -82,6 +128,7 @@ public:
                        const int &retainResult, const int &retainDecimal, const bool &bSuffix);
     void setSlotEditingFinished();
     void setSuffixShow();
+    void outliveParent() { m_survival.outliveParent(); }
 
 Q_SIGNALS:
     void enterFinished();
@@ -90,6 +137,7 @@ protected Q_SLOTS:
     void onSlotResultFinished();
 
 protected:
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -99,6 +147,7 @@ protected:
 private:
     bool m_isWheelEnabled = false;
     LineEditCal *m_pLineEditCal;
+    Internal::Survival m_survival {this};
     QString m_strSuffix;
     bool m_btnFirstPress = true;
 };

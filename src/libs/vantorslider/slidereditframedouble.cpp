@@ -309,8 +309,11 @@ SliderEditFrameDouble::SliderEditFrameDouble(QWidget *parent)
 
 SliderEditFrameDouble::~SliderEditFrameDouble()
 {
+    auto *slider = d->ui->slider;
+    auto *spinBox = d->ui->doubleSpinBox;
     delete d;
     d = nullptr;
+    Internal::outlive(this, slider, spinBox);
 }
 
 /*! As SliderEditFrame::setHorizontalSpacing(). */

@@ -15,12 +15,23 @@ SliderEditSlider::SliderEditSlider(QWidget *parent) : QSlider(parent) { }
 
 /*!
     True from a button press on the slider until the release, until the
-    pointer leaves the slider or until the slider loses the focus, is hidden or
-    disabled, whichever comes first.
+    pointer leaves the slider or until the slider loses the focus, is hidden,
+    disabled or blocked by a dialog, whichever comes first.
 */
 bool SliderEditSlider::isMousePressed() const
 {
     return m_isMousePressed;
+}
+
+bool SliderEditSlider::event(QEvent *event)
+{
+    const Internal::Survival::Scope scope(m_survival);
+    const bool isHandled = QSlider::event(event);
+    // A modal dialog takes the pointer away: the release goes to it.
+    if (event->type() == QEvent::WindowBlocked) {
+        releasePointer();
+    }
+    return isHandled;
 }
 
 void SliderEditSlider::mousePressEvent(QMouseEvent *event)
@@ -71,7 +82,7 @@ void SliderEditSlider::changeEvent(QEvent *event)
     }
 }
 
-// No release follows once the slider is hidden or disabled under the pointer:
+// No release follows once the slider is hidden, disabled or blocked under the pointer:
 // the drag ends here, as a release does, so that its last value is reported
 // and the sampling stops.
 void SliderEditSlider::releasePointer()

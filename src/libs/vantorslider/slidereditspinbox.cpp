@@ -82,6 +82,12 @@ void SliderEditSpinBox::onSlotResultFinished()
     Q_EMIT enterFinished();
 }
 
+bool SliderEditSpinBox::event(QEvent *event)
+{
+    const Internal::Survival::Scope scope(m_survival);
+    return QSpinBox::event(event);
+}
+
 void SliderEditSpinBox::mousePressEvent(QMouseEvent *event)
 {
     QSpinBox::mousePressEvent(event);
