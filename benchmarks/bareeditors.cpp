@@ -13,7 +13,6 @@ BareRow::BareRow(QWidget *parent) : QFrame(parent)
     ui.sliderEditPlus->setFocusPolicy(Qt::StrongFocus);
     ui.spinBox->setAttribute(Qt::WA_AcceptTouchEvents);
     ui.spinBox->setFocusPolicy(Qt::StrongFocus);
-    ui.spinBox->setLocale(QLocale::c());
 }
 
 void BareRow::setRange(int min, int max)
@@ -53,7 +52,6 @@ BarePanels::BarePanels(QWidget *parent) : QFrame(parent)
 
 RewritingSpinBox::RewritingSpinBox(QWidget *parent) : QSpinBox(parent)
 {
-    setLocale(QLocale::c());
     setButtonSymbols(QAbstractSpinBox::NoButtons);
     setKeyboardTracking(false);
     auto *field = new QLineEdit;

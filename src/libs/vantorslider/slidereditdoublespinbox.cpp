@@ -27,7 +27,7 @@ namespace Widgets {
 SliderEditDoubleSpinBox::SliderEditDoubleSpinBox(QWidget *parent)
     : QDoubleSpinBox(parent), m_pLineEditCal(new LineEditCal)
 {
-    Internal::setUpCalculatorSpinBox(this, "Vk_NumberFloat");
+    Internal::setUpCalculatorSpinBox(this, QStringLiteral("Vk_NumberFloat"));
     setLineEdit(m_pLineEditCal);
     connect(m_pLineEditCal, &LineEditCal::signalsResult, this,
             &SliderEditDoubleSpinBox::onSlotResultFinished);

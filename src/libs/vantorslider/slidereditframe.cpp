@@ -10,6 +10,8 @@
 #include <QtCore/QSignalBlocker>
 #include <QtCore/QTimerEvent>
 
+#include <optional>
+
 namespace Vantor {
 namespace Widgets {
 
@@ -52,7 +54,7 @@ public:
     int m_valueChangeDirection = SliderEditFrame::AllowedToAny;
     bool m_isSampleInDelivery = false;
     // What the spin box held and showed after it was last set.
-    int m_shownValue = 0;
+    std::optional<int> m_shownValue;
     QString m_shownText;
 
 private Q_SLOTS:

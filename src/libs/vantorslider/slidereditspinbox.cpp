@@ -24,7 +24,7 @@ namespace Widgets {
 SliderEditSpinBox::SliderEditSpinBox(QWidget *parent)
     : QSpinBox(parent), m_pLineEditCal(new LineEditCal)
 {
-    Internal::setUpCalculatorSpinBox(this, "Vk_Number");
+    Internal::setUpCalculatorSpinBox(this, QStringLiteral("Vk_Number"));
     setLineEdit(m_pLineEditCal);
     connect(m_pLineEditCal, &LineEditCal::signalsResult, this,
             &SliderEditSpinBox::onSlotResultFinished);
