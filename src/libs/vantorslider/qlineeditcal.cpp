@@ -6,6 +6,8 @@
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 
+#include <algorithm>
+
 namespace Vantor {
 namespace Widgets {
 
@@ -157,8 +159,12 @@ void LineEditCal::setIntereptString(QString &strText, bool &bCursor)
     const CalculatorPatterns &patterns = CalculatorPatterns::instance();
     std::vector<QString> &tokens = m_vecStringResults;
     std::size_t count = 0;
+    const auto isUnchanged = [&](const QStringRef &text) {
+        return count < tokens.size() && tokens[count].length() == text.length()
+            && std::equal(text.cbegin(), text.cend(), tokens[count].cbegin());
+    };
     const auto takeToken = [&](const QStringRef &text, bool isMark) {
-        if (count < tokens.size() && tokens[count] == text) {
+        if (isUnchanged(text)) {
             // It was corrected before, but its limit of decimals may be new.
             if (!isMark && setRadixPointSeveral(tokens[count], static_cast<int>(count))) {
                 bCursor = true;
