@@ -42,7 +42,8 @@ HeapCount heapCount()
     return {s_bytesHeld.load(), s_allocations.load()};
 }
 
-// operator new, libstdc++'s and Qt's alike, comes here as well.
+// Parameters are named as in the C library. operator new, libstdc++'s and Qt's alike, comes here as
+// well.
 extern "C" {
 
 void *malloc(std::size_t size)
@@ -50,15 +51,15 @@ void *malloc(std::size_t size)
     return counted(__libc_malloc(size));
 }
 
-void *calloc(std::size_t count, std::size_t size)
+void *calloc(std::size_t nmemb, std::size_t size)
 {
-    return counted(__libc_calloc(count, size));
+    return counted(__libc_calloc(nmemb, size));
 }
 
-void *realloc(void *block, std::size_t size)
+void *realloc(void *ptr, std::size_t size)
 {
-    const std::size_t before = block != nullptr ? malloc_usable_size(block) : 0;
-    void *moved = __libc_realloc(block, size);
+    const std::size_t before = ptr != nullptr ? malloc_usable_size(ptr) : 0;
+    void *moved = __libc_realloc(ptr, size);
     if (moved != nullptr || size == 0) {
         s_bytesHeld.fetch_sub(before, std::memory_order_relaxed);
     }
@@ -75,16 +76,16 @@ void *aligned_alloc(std::size_t alignment, std::size_t size)
     return memalign(alignment, size);
 }
 
-int posix_memalign(void **block, std::size_t alignment, std::size_t size)
+int posix_memalign(void **memptr, std::size_t alignment, std::size_t size)
 {
-    *block = memalign(alignment, size);
-    return *block != nullptr ? 0 : ENOMEM;
+    *memptr = memalign(alignment, size);
+    return *memptr != nullptr ? 0 : ENOMEM;
 }
 
-void free(void *block)
+void free(void *ptr)
 {
-    release(block);
-    __libc_free(block);
+    release(ptr);
+    __libc_free(ptr);
 }
 
 } // extern "C"
