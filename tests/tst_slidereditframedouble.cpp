@@ -50,6 +50,8 @@ private Q_SLOTS:
     void freshFrame();
     void locale();
     void calculator();
+    void entryBeyondText_data();
+    void entryBeyondText();
     void precision();
     void selectAll() { SliderEditCases::compareSelectAll(*m_row); }
 
@@ -247,6 +249,55 @@ void TestSliderEditFrameDouble::locale()
 }
 
 // The calculator learns a value and new bounds from setValue() alone, as floats.
+// The calculator's text is clamped in float and has two decimals: it may lie
+// beyond the range, or stand beside a suffix. No entry may be lost in it or jump.
+void TestSliderEditFrameDouble::entryBeyondText_data()
+{
+    QTest::addColumn<int>("decimals");
+    QTest::addColumn<double>("max");
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<double>("value");
+    QTest::newRow("above in float") << 2 << 999999.99 << ""
+                                    << "2000000\n"
+                                    << 999999.99;
+    QTest::newRow("above by decimals") << 3 << 0.996 << ""
+                                       << "5\n"
+                                       << 0.996;
+    QTest::newRow("not a number") << 2 << 1.0 << ""
+                                  << "0/0\n"
+                                  << 0.1;
+    QTest::newRow("suffix, Enter") << 2 << 100.0 << "mm"
+                                   << "10/4\n"
+                                   << 2.5;
+    QTest::newRow("suffix, Tab") << 2 << 100.0 << "mm"
+                                 << "7\t" << 7.0;
+    QTest::newRow("suffix, equals") << 2 << 100.0 << "mm"
+                                    << "1/4=\n"
+                                    << 0.25;
+    QTest::newRow("suffix, failing") << 2 << 100.0 << "mm"
+                                     << "1/0\n"
+                                     << 0.1;
+}
+
+void TestSliderEditFrameDouble::entryBeyondText()
+{
+    QFETCH(int, decimals);
+    QFETCH(double, max);
+    QFETCH(QString, suffix);
+    QFETCH(QString, typed);
+    QFETCH(double, value);
+    m_row->frame->setDecimals(decimals);
+    m_row->frame->setRange(0, max);
+    qobject_cast<QDoubleSpinBox *>(m_row->spinBox)->setSuffix(suffix);
+    m_row->frame->setValue(0.1);
+    m_row->type(typed);
+    QVERIFY(qAbs(m_row->frame->value() - value) < 1e-7);
+    QVERIFY(m_row->spinBox->text().endsWith(suffix));
+    const int reports = value == 0.1 ? 0 : 1;
+    QCOMPARE(m_row->log.take().filter("valueChanged").size(), reports);
+}
+
 void TestSliderEditFrameDouble::calculator()
 {
     const auto textAfter = [this](double value, const QString &typed) {

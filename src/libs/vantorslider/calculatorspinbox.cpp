@@ -1,5 +1,7 @@
 #include "calculatorspinbox_p.h"
 
+#include "saturation_p.h"
+
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QAbstractSpinBox>
 
@@ -34,6 +36,11 @@ void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard)
     LocaleChangeFilter filter;
     spinBox->installEventFilter(&filter);
     spinBox->setLocale(QLocale::c());
+}
+
+QString calculatorText(double value)
+{
+    return QString::number(static_cast<double>(saturatedFloat(value)), 'g', 6);
 }
 
 bool isFinishingKey(const QKeyEvent *event)

@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QtCore/QtGlobal>
+#include <QtCore/QLocale>
+
+#include <cmath>
 
 QT_BEGIN_NAMESPACE
 class QAbstractSpinBox;
@@ -12,12 +14,39 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
+// How the calculator shows a value that it was handed.
+QString calculatorText(double value);
+
 // What the two calculator spin boxes share without a common base of their own.
 
 // keyboard: the kind of on-screen keyboard that the host is to show.
 void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard);
 
 bool isFinishingKey(const QKeyEvent *event);
+
+// The number that the text of a calculator spin box stands for. Qt takes the
+// range's start for what it can't read and for what is out of range, which the
+// calculator's result may be: it is clamped in float, to the range of the last
+// setSpinBoxCal(), and rounded to its own decimals. Here the nearer end is taken,
+// and what is no number leaves the value.
+template <typename SpinBox> double numberFromText(const SpinBox *spinBox, QString text)
+{
+    if (text.startsWith(spinBox->prefix())) {
+        text.remove(0, spinBox->prefix().length());
+    }
+    if (text.endsWith(spinBox->suffix())) {
+        text.chop(spinBox->suffix().length());
+    }
+    const double value = spinBox->value();
+    bool isNumber = false;
+    const double number = QLocale::c().toDouble(text, &isNumber);
+    // A failed entry shows the value in six digits: 1234567 as 1.23457e+06.
+    const bool isValueInShort = text == calculatorText(value);
+    if (!isNumber || std::isnan(number) || isValueInShort) {
+        return value;
+    }
+    return qBound<double>(spinBox->minimum(), number, spinBox->maximum());
+}
 
 } // namespace Internal
 } // namespace Widgets

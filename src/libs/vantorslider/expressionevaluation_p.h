@@ -14,7 +14,8 @@ namespace Internal {
 // processed: the caller must expect to be deleted meanwhile.
 std::optional<QString> evaluateExpression(const QString &expression);
 
-// Whether evaluateExpression() may process events for this text.
+// Whether the text is made of typed characters alone: evaluateExpression()
+// processes no events for it.
 bool isTypedExpression(const QString &expression);
 
 } // namespace Internal

@@ -1,6 +1,7 @@
 #include "qlineeditcal.h"
 
 #include "calculatorpatterns_p.h"
+#include "calculatorspinbox_p.h"
 #include "expressionevaluation_p.h"
 
 #include <QtCore/QPointer>
@@ -25,7 +26,7 @@ using Internal::CalculatorPatterns;
     character or by setSlotEditingFinished().
 */
 
-// The patterns are compiled once for the process.
+// A copy of a std::regex shares its compiled automaton.
 LineEditCal::LineEditCal(QWidget *parent)
     : QLineEdit(parent), m_regex(CalculatorPatterns::instance().character),
       m_regexMark(CalculatorPatterns::instance().mark),
@@ -51,7 +52,7 @@ void LineEditCal::setInitialResult(const float &result)
 const QString &LineEditCal::beforeResult()
 {
     if (m_isInitialResultPending) {
-        m_beforeResult = QString::number(static_cast<double>(m_initialResult), 'g', 6);
+        m_beforeResult = Internal::calculatorText(static_cast<double>(m_initialResult));
         m_isInitialResultPending = false;
     }
     return m_beforeResult;
@@ -88,7 +89,6 @@ void LineEditCal::setSuffix(bool bSuffix)
 */
 void LineEditCal::setSlotEditingFinished()
 {
-    const Internal::Survival::Scope scope(m_survival);
     if (text() != beforeResult()) {
         setShowResult(text());
     }
@@ -111,10 +111,8 @@ void LineEditCal::onSlotTextChanged(QString text)
     if (text.endsWith(QLatin1Char('='))) {
         text.chop(1);
         const QPointer<LineEditCal> self(this);
-        // QLineEdit's own functions above this one go on with the field.
-        const Internal::Survival::Scope scope(m_survival);
         setShowResult(text);
-        if (self && !m_survival.isOrphaned()) {
+        if (self && m_pSurvivor == nullptr) {
             Q_EMIT signalsResult();
         }
         return;
@@ -242,19 +240,20 @@ void LineEditCal::setShowResult(const QString &strText)
     if (m_isEvaluating) {
         return;
     }
+    const QPointer<LineEditCal> self(this);
+    m_isEvaluating = true;
     if (!Internal::isTypedExpression(strText)) {
         // Events come in while it is evaluated: what interprets the field
         // meanwhile must find a number, not the script.
         setResultText(beforeResult());
     }
-    const QPointer<LineEditCal> self(this);
-    m_isEvaluating = true;
     const std::optional<QString> result = Internal::evaluateExpression(strText);
     if (!self) {
         return;
     }
     m_isEvaluating = false;
-    if (m_survival.isOrphaned()) {
+    if (m_pSurvivor != nullptr) {
+        m_pSurvivor->deleteLater();
         return;
     }
     if (!result) {
@@ -278,6 +277,20 @@ void LineEditCal::setShowResult(const QString &strText)
 void LineEditCal::setResultText(QString text)
 {
     QLineEdit::setText(text);
+}
+
+/*!
+    Called when the editor around the field is deleted. A field in the middle
+    of an evaluation has Qt's own functions above it, which work on after it:
+    \a survivor, the field or the spin box that holds it, leaves its dying
+    parent and is deleted when the evaluation is over.
+*/
+void LineEditCal::outliveParent(QWidget *survivor)
+{
+    if (m_isEvaluating && m_pSurvivor == nullptr) {
+        m_pSurvivor = survivor;
+        survivor->setParent(nullptr);
+    }
 }
 
 } // namespace Widgets

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "slidereditframe_p.h"
-
 #include <QtWidgets/QLineEdit>
 
 #include <regex>
@@ -23,7 +21,7 @@ public:
     void setLineEditMinOrMax(const float &min, const float &max);
     void setSuffix(bool bSuffix);
     void setSlotEditingFinished();
-    void outliveParent() { m_survival.outliveParent(); }
+    void outliveParent(QWidget *survivor);
 
 Q_SIGNALS:
     void signalsResult();
@@ -45,10 +43,10 @@ private:
     std::vector<QString> m_vecStringResults;
     QString m_beforeText;
     QString m_beforeResult;
-    const std::regex &m_regex;
-    const std::regex &m_regexMark;
-    const std::regex &m_regexFourOperation;
-    const std::regex &m_regexstr;
+    std::regex m_regex;
+    std::regex m_regexMark;
+    std::regex m_regexFourOperation;
+    std::regex m_regexstr;
     int m_remainSeveral = 0;
     int m_inputSeveral = 2;
     float m_minNum = -10000.0F;
@@ -58,7 +56,8 @@ private:
     float m_initialResult = 0.0F;
     bool m_isInitialResultPending = false;
     bool m_isEvaluating = false;
-    Internal::Survival m_survival {this};
+    // What is deleted in place of its parent when an evaluation is over.
+    QWidget *m_pSurvivor = nullptr;
 };
 
 } // namespace Widgets

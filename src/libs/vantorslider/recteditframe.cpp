@@ -703,8 +703,8 @@ void RectEditFrame::setSizeLock(bool bLock)
 
 /*!
     Makes \a ratio, width by height, the proportion of the size lock. It lasts
-    until the lock is switched on again. One that is not above 0 leaves the
-    fields untied.
+    until the lock is switched on again. With one that is not above 0 the width
+    is free, and a change of the height sends the width to its minimum.
 */
 void RectEditFrame::setSizeLock(qreal ratio)
 {

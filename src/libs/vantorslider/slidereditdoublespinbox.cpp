@@ -4,6 +4,7 @@
 #include "qlineeditcal.h"
 
 #include <QtCore/QPointer>
+#include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
 
 namespace Vantor {
@@ -35,7 +36,7 @@ SliderEditDoubleSpinBox::SliderEditDoubleSpinBox(QWidget *parent)
 
 SliderEditDoubleSpinBox::~SliderEditDoubleSpinBox()
 {
-    m_pLineEditCal->outliveParent();
+    m_pLineEditCal->outliveParent(m_pLineEditCal);
 }
 
 /*! Accepts every text and changes neither \a text nor \a pos. */
@@ -44,6 +45,15 @@ QValidator::State SliderEditDoubleSpinBox::validate(QString &text, int &pos) con
     Q_UNUSED(text)
     Q_UNUSED(pos)
     return QValidator::Acceptable;
+}
+
+/*!
+    The number that \a text stands for: out of range the nearer end, and the
+    value as it is where \a text is no number.
+*/
+double SliderEditDoubleSpinBox::valueFromText(const QString &text) const
+{
+    return Internal::numberFromText(this, text);
 }
 
 /*!
@@ -79,31 +89,38 @@ void SliderEditDoubleSpinBox::setSpinBoxCal(const float &result, const float &ma
 void SliderEditDoubleSpinBox::setSlotEditingFinished()
 {
     const QPointer<SliderEditDoubleSpinBox> self(this);
-    m_pLineEditCal->setSlotEditingFinished();
+    // With its suffix a text is no expression: its entry was evaluated before.
+    if (suffix().isEmpty()) {
+        m_pLineEditCal->setSlotEditingFinished();
+    }
     if (self) {
         setSuffixShow();
     }
 }
 
-/*! Shows again the suffix that was removed when the field got the focus. */
+/*!
+    Shows again the suffix that was removed when the field got the focus. The
+    text stays, for the entry in it may not have been interpreted yet.
+*/
 void SliderEditDoubleSpinBox::setSuffixShow()
 {
-    if (!m_strSuffix.isEmpty()) {
-        setSuffix(m_strSuffix);
-        m_btnFirstPress = true;
+    if (m_strSuffix.isEmpty()) {
+        return;
     }
+    QString entry = text();
+    if (!entry.endsWith(m_strSuffix)) {
+        entry += m_strSuffix;
+    }
+    setSuffix(m_strSuffix);
+    m_btnFirstPress = true;
+    const QSignalBlocker blocker(m_pLineEditCal);
+    m_pLineEditCal->setText(entry);
 }
 
 /*! Called when an expression that ended in "=" has been evaluated. */
 void SliderEditDoubleSpinBox::onSlotResultFinished()
 {
     Q_EMIT editingFinished();
-}
-
-bool SliderEditDoubleSpinBox::event(QEvent *event)
-{
-    const Internal::Survival::Scope scope(m_survival);
-    return QDoubleSpinBox::event(event);
 }
 
 void SliderEditDoubleSpinBox::mousePressEvent(QMouseEvent *event)
@@ -141,7 +158,11 @@ void SliderEditDoubleSpinBox::focusInEvent(QFocusEvent *event)
         number.remove(m_strSuffix);
         setSuffix(QString());
         m_btnFirstPress = false;
+        const QPointer<SliderEditDoubleSpinBox> self(this);
         setValue(static_cast<double>(number.toFloat()));
+        if (!self) {
+            return;
+        }
     }
     QDoubleSpinBox::focusInEvent(event);
 }

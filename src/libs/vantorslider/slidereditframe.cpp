@@ -10,8 +10,6 @@
 #include <QtCore/QSignalBlocker>
 #include <QtCore/QTimerEvent>
 
-#include <optional>
-
 namespace Vantor {
 namespace Widgets {
 
@@ -53,9 +51,8 @@ public:
     int m_readValue = 0;
     int m_valueChangeDirection = SliderEditFrame::AllowedToAny;
     bool m_isSampleInDelivery = false;
-    // What the spin box held and showed after it was last set.
-    std::optional<int> m_shownValue;
-    QString m_shownText;
+    // The user moved the handle meanwhile: the next tick has something to report.
+    bool m_isMovedInDelivery = false;
 
 private Q_SLOTS:
     void slotSpinBoxEditingFinished();
@@ -125,15 +122,19 @@ void SliderEditPrivate::sample()
     }
     const QPointer<SliderEditPrivate> self(this);
     m_isSampleInDelivery = true;
+    m_isMovedInDelivery = false;
+    m_nLastTimerValue = spinValue();
     emitValueChanged(spinValue());
     if (self) {
         m_isSampleInDelivery = false;
-        m_nLastTimerValue = spinValue();
+        if (!m_isMovedInDelivery) {
+            m_nLastTimerValue = spinValue();
+        }
     }
 }
 
-// The direction filter. The receiver may delete the frame: nothing of it is
-// touched after the signal, here and wherever this is called last.
+// The direction filter. Nothing of the frame is touched after the signal, here
+// and wherever this is called last: the receiver may have deleted it.
 void SliderEditPrivate::emitValueChanged(int val)
 {
     if (!isAnyDirectionAllowed(m_valueChangeDirection)) {
@@ -147,14 +148,11 @@ void SliderEditPrivate::emitValueChanged(int val)
 // as well: a failed entry may show another number than the value.
 void SliderEditPrivate::showInSpinBox(int val)
 {
-    SliderEditSpinBox *spinBox = ui->spinBox;
-    if (val == m_shownValue && val == spinValue() && spinBox->text() == m_shownText) {
+    if (val == spinValue() && ui->spinBox->text() == QString::number(val)) {
         return;
     }
-    const QSignalBlocker blocker(spinBox);
-    spinBox->setValue(val);
-    m_shownValue = spinValue();
-    m_shownText = spinBox->text();
+    const QSignalBlocker blocker(ui->spinBox);
+    ui->spinBox->setValue(val);
 }
 
 void SliderEditPrivate::report(int val)
@@ -223,6 +221,7 @@ void SliderEditPrivate::slotSliderMoved(int val)
         emitValueChanged(spinValue());
     } else if (val != m_nLastTimerValue) {
         m_isTimeSamplingValueChanged = true;
+        m_isMovedInDelivery = true;
     }
 }
 
@@ -303,6 +302,9 @@ void SliderEditPrivate::slotSliderPressed()
     When it is emitted during a drag is decided by setReleaseMode() and
     setTimeSamplingRate(). A value held at the reference of
     setValueChangeDirection() is emitted on every attempt to pass it.
+
+    A receiver that does away with the editor calls deleteLater(): above the
+    signal may stand functions of QSlider or QSpinBox that go on with it.
 */
 
 /*! Builds a row with Qt's default range of a spin box, 0 to 99. Emits nothing. */
@@ -316,11 +318,10 @@ SliderEditFrame::SliderEditFrame(QWidget *parent)
 
 SliderEditFrame::~SliderEditFrame()
 {
-    auto *slider = d->ui->slider;
-    auto *spinBox = d->ui->spinBox;
+    const Internal::SliderRow row = d->row();
     delete d;
     d = nullptr;
-    Internal::outlive(this, slider, spinBox);
+    row.outliveEditor(this);
 }
 
 /*!
@@ -390,7 +391,10 @@ void SliderEditFrame::setSpinBoxWheelEnable(bool b)
     d->ui->spinBox->setWheelEnable(b);
 }
 
-/*! Shows or hides the slider; without it the other children stay packed beside the label. */
+/*!
+    Shows or hides the slider; without it the other children stay packed beside
+    the label. Hiding it ends a drag, whose last value is reported then.
+*/
 void SliderEditFrame::setSliderVisible(bool b)
 {
     d->row().setSliderVisible(b);
@@ -441,7 +445,7 @@ void SliderEditFrame::setRange(int min, int max)
         d->ui->spinBox->setRange(min, max);
     }
     const QSignalBlocker blocker(d->ui->slider);
-    d->ui->slider->setRange(min, max);
+    d->ui->slider->setScale(min, max);
 }
 
 /*! Sets the lower end of the range to \a min, raising the upper one to it; as setRange(). */

@@ -60,6 +60,8 @@ public:
     double m_readValue = 0.0;
     int m_valueChangeDirection = SliderEditFrameDouble::AllowedToAny;
     bool m_isSampleInDelivery = false;
+    // The user moved the handle meanwhile: the next tick has something to report.
+    bool m_isMovedInDelivery = false;
 
 private Q_SLOTS:
     void slotSpinBoxEditingFinished();
@@ -131,15 +133,19 @@ void SliderEditDoublePrivate::sample()
     }
     const QPointer<SliderEditDoublePrivate> self(this);
     m_isSampleInDelivery = true;
+    m_isMovedInDelivery = false;
+    m_nLastTimerValue = toPosition(spinValue());
     emitValueChanged(spinValue());
     if (self) {
         m_isSampleInDelivery = false;
-        m_nLastTimerValue = toPosition(spinValue());
+        if (!m_isMovedInDelivery) {
+            m_nLastTimerValue = toPosition(spinValue());
+        }
     }
 }
 
-// The direction filter. The receiver may delete the frame: nothing of it is
-// touched after the signal, here and wherever this is called last.
+// The direction filter. Nothing of the frame is touched after the signal, here
+// and wherever this is called last: the receiver may have deleted it.
 void SliderEditDoublePrivate::emitValueChanged(double val)
 {
     if (!isAnyDirectionAllowed(m_valueChangeDirection)) {
@@ -217,6 +223,7 @@ void SliderEditDoublePrivate::slotSliderMoved(int pos)
         emitValueChanged(spinValue());
     } else if (pos != m_nLastTimerValue) {
         m_isTimeSamplingValueChanged = true;
+        m_isMovedInDelivery = true;
     }
 }
 
@@ -309,11 +316,10 @@ SliderEditFrameDouble::SliderEditFrameDouble(QWidget *parent)
 
 SliderEditFrameDouble::~SliderEditFrameDouble()
 {
-    auto *slider = d->ui->slider;
-    auto *spinBox = d->ui->doubleSpinBox;
+    const Internal::SliderRow row = d->row();
     delete d;
     d = nullptr;
-    Internal::outlive(this, slider, spinBox);
+    row.outliveEditor(this);
 }
 
 /*! As SliderEditFrame::setHorizontalSpacing(). */
@@ -447,7 +453,7 @@ void SliderEditFrameDouble::setMinimum(double min)
     // Without decimals the slider stands at the spin box's rounded bound already.
     if (d->m_nPrecision != 0) {
         const QSignalBlocker blocker(d->ui->slider);
-        d->ui->slider->setMinimum(d->toPosition(min));
+        d->ui->slider->setScale(d->toPosition(min), d->ui->slider->maximum());
     }
 }
 
@@ -464,7 +470,8 @@ void SliderEditFrameDouble::setMaximum(double max)
     setDecimals(d->m_nPrecision);
     if (d->m_nPrecision != 0) {
         const QSignalBlocker blocker(d->ui->slider);
-        d->ui->slider->setMaximum(d->toPosition(max));
+        const int highest = d->toPosition(max);
+        d->ui->slider->setScale(qMin(d->ui->slider->minimum(), highest), highest);
     }
 }
 
@@ -498,7 +505,7 @@ void SliderEditFrameDouble::setDecimals(int prec)
     d->ui->doubleSpinBox->setRange(d->toValue(lowest), d->toValue(highest));
 
     const QSignalBlocker sliderBlocker(d->ui->slider);
-    d->ui->slider->setRange(lowest, highest);
+    d->ui->slider->setScale(lowest, highest);
     if (d->m_dSingleStep > d->m_nMinPrecision) {
         d->ui->slider->setSingleStep(d->toPosition(d->m_dSingleStep));
     }

@@ -23,9 +23,18 @@ bool SliderEditSlider::isMousePressed() const
     return m_isMousePressed;
 }
 
+/*!
+    As setRange(), except that a scale of exactly 2 to the 31st steps begins one
+    later: Qt's styles divide by its length in 32 bits, and that one is 0 there.
+*/
+void SliderEditSlider::setScale(int min, int max)
+{
+    const bool isDivisorZero = qint64(max) - min == qint64(1) << 31;
+    setRange(isDivisorZero ? min + 1 : min, max);
+}
+
 bool SliderEditSlider::event(QEvent *event)
 {
-    const Internal::Survival::Scope scope(m_survival);
     const bool isHandled = QSlider::event(event);
     // A modal dialog takes the pointer away: the release goes to it.
     if (event->type() == QEvent::WindowBlocked) {
@@ -82,9 +91,9 @@ void SliderEditSlider::changeEvent(QEvent *event)
     }
 }
 
-// No release follows once the slider is hidden, disabled or blocked under the pointer:
-// the drag ends here, as a release does, so that its last value is reported
-// and the sampling stops.
+// No release follows once the slider is hidden, disabled or blocked under the
+// pointer: the drag ends here, as a release does, so that its last value is
+// reported and the sampling stops.
 void SliderEditSlider::releasePointer()
 {
     m_isMousePressed = false;

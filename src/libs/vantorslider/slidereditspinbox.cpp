@@ -2,6 +2,7 @@
 
 #include "calculatorspinbox_p.h"
 #include "qlineeditcal.h"
+#include "saturation_p.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
@@ -32,7 +33,7 @@ SliderEditSpinBox::SliderEditSpinBox(QWidget *parent)
 
 SliderEditSpinBox::~SliderEditSpinBox()
 {
-    m_pLineEditCal->outliveParent();
+    m_pLineEditCal->outliveParent(m_pLineEditCal);
 }
 
 /*! Accepts every text and changes neither \a text nor \a pos. */
@@ -41,6 +42,15 @@ QValidator::State SliderEditSpinBox::validate(QString &text, int &pos) const
     Q_UNUSED(text)
     Q_UNUSED(pos)
     return QValidator::Acceptable;
+}
+
+/*!
+    The number that \a text stands for, rounded to a whole one: out of range the
+    nearer end, and the value as it is where \a text is no number.
+*/
+int SliderEditSpinBox::valueFromText(const QString &text) const
+{
+    return Internal::saturatedInt(std::round(Internal::numberFromText(this, text)));
 }
 
 /*!
@@ -80,12 +90,6 @@ void SliderEditSpinBox::setSlotEditingFinished()
 void SliderEditSpinBox::onSlotResultFinished()
 {
     Q_EMIT enterFinished();
-}
-
-bool SliderEditSpinBox::event(QEvent *event)
-{
-    const Internal::Survival::Scope scope(m_survival);
-    return QSpinBox::event(event);
 }
 
 void SliderEditSpinBox::mousePressEvent(QMouseEvent *event)

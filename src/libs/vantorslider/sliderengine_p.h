@@ -27,15 +27,6 @@ template <typename Value> Value heldValue(int directions, Value reference, Value
     return qMin(val, reference);
 }
 
-// The last that an editor does in its destructor, when its engine is gone.
-template <typename SpinBox>
-void outlive(QWidget *editor, SliderEditSlider *slider, SpinBox *spinBox)
-{
-    spinBox->removeEventFilter(editor);
-    slider->outliveParent();
-    spinBox->outliveParent();
-}
-
 // The thirteen connections of an engine to its row's children. Their order is
 // the order in which the slots of one sender run. An engine makes it a friend,
 // for its slots are private.

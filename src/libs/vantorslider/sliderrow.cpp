@@ -1,8 +1,10 @@
 #include "sliderrow_p.h"
 
+#include "qlineeditcal.h"
 #include "slidereditframe_p.h"
 
 #include <QtCore/QEvent>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTimer>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QSpacerItem>
@@ -41,6 +43,14 @@ void SliderRow::prepare(QWidget *frame) const
     spinBox->installEventFilter(frame);
 }
 
+void SliderRow::outliveEditor(QWidget *frame) const
+{
+    if (auto *field = spinBox->findChild<LineEditCal *>()) {
+        spinBox->removeEventFilter(frame);
+        field->outliveParent(spinBox);
+    }
+}
+
 void SliderRow::setHorizontalSpacing(int labelToSlider, int sliderToRest) const
 {
     setRightMargin(nameLayout, labelToSlider);
@@ -53,10 +63,13 @@ void SliderRow::setHorizontalSpacing(int labelToSlider, int sliderToRest) const
 void SliderRow::setLabelText(const QString &text) const
 {
     label->setText(text);
-    slider->setAccessibleName(text);
-    spinBox->setAccessibleName(text);
-    minus->setAccessibleName(text + QStringLiteral(" \u2212"));
-    plus->setAccessibleName(text + QStringLiteral(" +"));
+    // The label draws "&" as the mark of a shortcut and "&&" as "&".
+    const QString name =
+        QString(text).replace(QRegularExpression(QStringLiteral("&(.?)")), QStringLiteral("\\1"));
+    slider->setAccessibleName(name);
+    spinBox->setAccessibleName(name);
+    minus->setAccessibleName(name + QStringLiteral(" \u2212"));
+    plus->setAccessibleName(name + QStringLiteral(" +"));
 }
 
 void SliderRow::setSliderVisible(bool isVisible) const
