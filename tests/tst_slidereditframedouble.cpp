@@ -174,6 +174,8 @@ void TestSliderEditFrameDouble::scale_data()
     row("half away from zero", 1, -10, 10, -2.25, "-2.3 -23", "-10 10 -100 100");
     row("no decimals", 0, -3, 12, 5, "5 5", "-3 12 -3 12");
     row("no decimals, broken bounds", 0, 0.6, 9.4, 5.5, "6 6", "1 9 1 9");
+    row("below the old range", 2, -5, -3, -4, "-4.00 -400", "-5 -3 -500 -300");
+    row("above the old range", 2, 3, 5, 4, "4.00 400", "3 5 300 500");
     row("past int", 2, -1e9, 1e9, 1e300, "21474836.47 2147483647",
         "-21474836.48 21474836.47 -2147483648 2147483647");
 }
@@ -201,6 +203,10 @@ void TestSliderEditFrameDouble::scale()
     frame.setRange(0, 0);
     frame.setMinimum(minimum);
     frame.setMaximum(maximum);
+    QTEST(range(), "range");
+    frame.setRange(0, 0);
+    frame.setMaximum(maximum);
+    frame.setMinimum(minimum);
     QTEST(range(), "range");
     QCOMPARE(m_row->log.take(), QStringList());
 }

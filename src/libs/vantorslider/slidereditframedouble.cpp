@@ -447,7 +447,13 @@ void SliderEditFrameDouble::setMinimum(double min)
     }
     {
         const QSignalBlocker blocker(d->ui->doubleSpinBox);
-        d->ui->doubleSpinBox->setMinimum(min + d->m_nMinPrecision);
+        const double bound = min + d->m_nMinPrecision;
+        if (bound > maximum()) {
+            // Qt moves the other end along too, but forgets it at the next change
+            // of decimals.
+            d->ui->doubleSpinBox->setMaximum(bound);
+        }
+        d->ui->doubleSpinBox->setMinimum(bound);
     }
     setDecimals(d->m_nPrecision);
     // Without decimals the slider stands at the spin box's rounded bound already.
@@ -465,7 +471,11 @@ void SliderEditFrameDouble::setMaximum(double max)
     }
     {
         const QSignalBlocker blocker(d->ui->doubleSpinBox);
-        d->ui->doubleSpinBox->setMaximum(max + d->m_nMinPrecision);
+        const double bound = max + d->m_nMinPrecision;
+        if (bound < minimum()) {
+            d->ui->doubleSpinBox->setMinimum(bound);
+        }
+        d->ui->doubleSpinBox->setMaximum(bound);
     }
     setDecimals(d->m_nPrecision);
     if (d->m_nPrecision != 0) {
