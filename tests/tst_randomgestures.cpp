@@ -3,7 +3,6 @@
 #include "editormodel.h"
 #include "layouteditframe.h"
 #include "maskeditframe.h"
-#include "rectuser.h"
 #include "rgballeditframe.h"
 #include "rgbeditframe.h"
 #include "rgbopacityeditframe.h"
@@ -73,7 +72,7 @@ public:
                     .toUtf8();
             QVERIFY2(actual == expected, where.constData());
             for (int j = 0; j < m_user.rows.size(); ++j) {
-                QVERIFY2(m_user.rows[j].spinBox->value() == m_model.rows[j].value, where);
+                QVERIFY2(m_user.rows[j].frame->value() == m_model.rows[j].value, where);
                 QVERIFY2(m_user.rows[j].slider->value() == m_model.rows[j].value, where);
             }
             QVERIFY2(actual.filter(QStringLiteral("warning")).isEmpty(), where);
@@ -107,7 +106,7 @@ private:
             model.step(isUp ? step : -step);
             return QStringLiteral("button");
         case 2:
-            row.enter(expression);
+            row.type(expression + '\n');
             model.enter(val);
             return expression + QLatin1String(" Enter");
         case 3:

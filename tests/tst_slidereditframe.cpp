@@ -1,4 +1,3 @@
-#include "row.h"
 #include "slidereditcases.h"
 #include "slidereditframe.h"
 

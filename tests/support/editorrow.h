@@ -1,12 +1,8 @@
 #pragma once
 
 #include "eventlog.h"
-#include "userevents.h"
+#include "row.h"
 
-#include <QtWidgets/QAbstractSpinBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
 #include <functional>
@@ -36,7 +32,7 @@ enum Mode { Continuous, Released, Sampled, SampledReleased };
 
 // A slider editor on a page, its children and the log of its signal. The slider
 // goes from 0 to 100 and stands at 10; a step is one position.
-template <typename Frame> struct EditorRow
+template <typename Frame> struct EditorRow : EditorParts<Frame>
 {
     using Value = decltype(std::declval<Frame>().value());
     static constexpr bool isInt = std::is_integral_v<Value>;
@@ -44,16 +40,13 @@ template <typename Frame> struct EditorRow
 
     EventLog log;
     Page page {log};
-    Frame *frame = new Frame(&page);
-    QLabel *label = frame->template findChild<QLabel *>("labelName");
-    QSlider *slider = frame->template findChild<QSlider *>("slider");
-    QAbstractSpinBox *spinBox = frame->template findChild<QAbstractSpinBox *>();
-    QLineEdit *field = spinBox->template findChild<QLineEdit *>();
-    QToolButton *minus = frame->template findChild<QToolButton *>("sliderEditSubtract");
-    QToolButton *plus = frame->template findChild<QToolButton *>("sliderEditPlus");
+    using EditorParts<Frame>::frame;
+    using EditorParts<Frame>::slider;
+    using EditorParts<Frame>::spinBox;
 
     EditorRow()
     {
+        EditorParts<Frame>::operator=(EditorParts<Frame>(new Frame(&page)));
         page.layout()->addWidget(frame);
         log.watch(frame, &Frame::valueChanged, "valueChanged");
         frame->setSingleStep(unit);
@@ -61,13 +54,6 @@ template <typename Frame> struct EditorRow
         frame->setValue(10 * unit);
     }
 
-    // Types over what the field shows.
-    void type(const QString &text)
-    {
-        User::click(spinBox);
-        QCoreApplication::processEvents(); // the field selects its text a moment later
-        User::type(text);
-    }
     void hold(std::initializer_list<int> positions)
     {
         User::grabHandle(slider);

@@ -1,51 +1,42 @@
 #pragma once
 
-#include "slidereditframe.h"
 #include "userevents.h"
 
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QToolButton>
 
-// One row of a composite editor and what a user finds in it.
-struct Row
+// A slider editor and what a user finds in it.
+template <typename Frame> struct EditorParts
 {
-    Row() = default;
-    Row(const QWidget &editor, const char *name)
-        : frame(editor.findChild<Vantor::Widgets::SliderEditFrame *>(QLatin1String(name))),
-          label(frame->findChild<QLabel *>(QStringLiteral("labelName"))),
-          slider(frame->findChild<QSlider *>(QStringLiteral("slider"))),
-          spinBox(frame->findChild<QSpinBox *>(QStringLiteral("spinBox"))),
-          minus(frame->findChild<QToolButton *>(QStringLiteral("sliderEditSubtract"))),
-          plus(frame->findChild<QToolButton *>(QStringLiteral("sliderEditPlus")))
+    EditorParts() = default;
+    explicit EditorParts(Frame *editor)
+        : frame(editor), label(editor->template findChild<QLabel *>("labelName")),
+          slider(editor->template findChild<QSlider *>("slider")),
+          spinBox(editor->template findChild<QAbstractSpinBox *>()),
+          field(spinBox->template findChild<QLineEdit *>()),
+          minus(editor->template findChild<QToolButton *>("sliderEditSubtract")),
+          plus(editor->template findChild<QToolButton *>("sliderEditPlus"))
     {
     }
 
-    // Types over what the field shows, without finishing the entry.
+    // Types over what the field shows.
     void type(const QString &text) const
     {
         User::click(spinBox);
         QCoreApplication::processEvents(); // the field selects its text a moment later
         User::type(text);
     }
-    void enter(const QString &text) const
-    {
-        type(text);
-        User::press(Qt::Key_Return);
-    }
 
-    Vantor::Widgets::SliderEditFrame *frame = nullptr;
+    Frame *frame = nullptr;
     QLabel *label = nullptr;
     QSlider *slider = nullptr;
-    QSpinBox *spinBox = nullptr;
+    QAbstractSpinBox *spinBox = nullptr;
+    QLineEdit *field = nullptr;
     QToolButton *minus = nullptr;
     QToolButton *plus = nullptr;
 };
-
-inline QString limits(int min, int max)
-{
-    return QStringLiteral("%1..%2").arg(min).arg(max);
-}
 
 // The messages of an entry that ends with Enter, around the signals that it
 // causes: the key, the loss of the focus, the spin box's own end of editing.
