@@ -8,7 +8,6 @@
 using Vantor::Widgets::SliderEditFrameDouble;
 
 using DoubleRow = EditorRow<SliderEditFrameDouble>;
-Q_DECLARE_METATYPE(Action<SliderEditFrameDouble>)
 
 namespace {
 
@@ -53,6 +52,7 @@ private Q_SLOTS:
     void entryBeyondText_data();
     void entryBeyondText();
     void precision();
+    void autoRepeat() { SliderEditCases::compareAutoRepeat(*m_row); }
     void selectAll() { SliderEditCases::compareSelectAll(*m_row); }
 
 private:
@@ -68,14 +68,15 @@ void TestSliderEditFrameDouble::init()
 
 void TestSliderEditFrameDouble::form()
 {
-    QCOMPARE(m_row->frame->objectName(), QString("SliderEditFrameDouble"));
-    SliderEditCases::compareForm(*m_row, "Vk_NumberFloat",
-                                 "horizontalLayout_2 0 [0 0 0 0] {"
-                                 "nameLayout 0 [0 0 0 0] {labelName 80..80x0..16777215}, "
-                                 "sliderLayout 0 [0 0 0 0] {slider 0..16777215x0..16777215}, "
-                                 "spinBoxLayout 0 [0 0 0 0] {doubleSpinBox 65..65x30..30}, "
-                                 "buttonLayout 0 [0 0 0 0] {sliderEditSubtract 51..51x32..32, "
-                                 "sliderEditPlus 51..51x32..32, spacer 0 policy 0}}");
+    SliderEditCases::compareForm(
+        *m_row,
+        "horizontalLayout_2 0 [0 0 0 0] {"
+        "nameLayout 0 [0 0 0 0] {labelName 80..80x0..max}, "
+        "sliderLayout 0 [0 0 0 0] {slider 0..maxx0..max}, "
+        "spinBoxLayout 0 [0 0 0 0] {doubleSpinBox 65..65x30..30 Quelmo_VK=Vk_NumberFloat}, "
+        "buttonLayout 0 [0 0 0 0] {sliderEditSubtract 51..51x32..32 "
+        "isSliderEditSubtract=true, sliderEditPlus 51..51x32..32 "
+        "isSliderEditPlus=true, spacer 0 policy 0}}");
 }
 
 void TestSliderEditFrameDouble::silence()
@@ -94,66 +95,34 @@ void TestSliderEditFrameDouble::silence()
 
 void TestSliderEditFrameDouble::sequence_data()
 {
-    SliderEditCases::addSequences<SliderEditFrameDouble>();
-    const auto add = SliderEditCases::addSequence<SliderEditFrameDouble>;
+    SliderEditCases::addSequences();
+    using SliderEditCases::addRow;
     // No message goes to Qt's log.
-    const auto typed = [add](const QString &text, const QStringList &log, const QString &shown) {
-        add(
-            "type " + text,
-            [text](DoubleRow &row) {
-                row.type(text);
-                QCOMPARE(row.frame->hasFocus(), text.endsWith('\n'));
-            },
-            log, shown);
+    const auto typed = [](const QString &text, const QString &report, const QString &shown) {
+        const QString focus = text.endsWith('\n') ? "editor" : "other";
+        addRow("type " + text.simplified(),
+               "type " + text + report + " | focused: " + focus + " | shown: " + shown);
     };
-    typed("1/4\n", reports({0.25}), "0.25 25");
-    typed("1/4\t", reports({0.25}), "0.25 25");
-    typed("1/4=", {}, "0.25 10"); // the focus stays, so does the value
-    typed("1/4=\t", reports({0.25}), "0.25 25");
-    typed("0.259\n", reports({0.25}), "0.25 25");
-    typed("0.1\n", {}, "0.10 10");
-    typed("9\n", reports({1.0}), "1.00 100");
-    typed("1/0\n", {}, "0.10 10");
-
-    add(
-        "the spin box follows in release mode",
-        [](DoubleRow &row) {
-            row.setMode(Released);
-            row.hold({20, 40});
-            row.log.add(row.shown());
-            row.drop();
-        },
-        QStringList({"0.40 40", "drop"}) + reports({0.4}), "0.40 40");
-
-    const auto button = [add](const char *name, bool isPlus, double value, double bound,
-                              const QStringList &log, const QString &shown) {
-        add(
-            name,
-            [=](DoubleRow &row) {
-                row.frame->setSingleStep(0.1);
-                if (isPlus)
-                    row.frame->setMaximum(bound);
-                else
-                    row.frame->setMinimum(bound);
-                row.frame->setValue(value);
-                row.click(isPlus ? row.plus : row.minus);
-            },
-            log, shown);
-    };
-    button("plus onto the maximum", true, 0.9, 1.0, reports({1.0}), "1.00 100");
+    typed("1/4\n", ": 25", "=25");
+    typed("1/4\t", ": 25", "=25");
+    typed("1/4=", "", "0.25/10"); // the focus stays, so does the value
+    typed("1/4=\t", ": 25", "=25");
+    typed("0.259\n", ": 25", "=25");
+    typed("0.1\n", "", "=10");
+    typed("9\n", ": 100", "=100");
+    typed("1/0\n", "", "=10");
+    addRow("the spin box follows in release mode", "released | hold 20 40 | shown: =40 | drop: 40");
+    addRow("plus at the maximum", "step 10 | value 90 | plus: 100 | value 95 | plus | shown: =95");
+    addRow("minus onto the minimum", "step 10 | minus: 0 | shown: =0");
     // 0.2 + 0.1 comes out just above 0.3, 0.3 - 0.1 just below 0.2.
-    button("plus within the tolerance", true, 0.2, 0.3, reports({0.3}), "0.30 30");
-    button("plus past the maximum", true, 0.95, 1.0, {}, "0.95 95");
-    button("minus onto the minimum", false, 0.1, 0.0, reports({0.0}), "0.00 0");
-    button("minus without tolerance", false, 0.3, 0.2, {}, "0.30 30");
+    addRow("plus within the tolerance", "step 10 | range 0 30 | value 20 | plus: 30 | shown: =30");
+    addRow("minus without tolerance", "step 10 | range 20 99 | value 30 | minus | shown: =30");
 }
 
 void TestSliderEditFrameDouble::sequence()
 {
-    QFETCH(Action<SliderEditFrameDouble>, action);
-    action(*m_row);
-    QTEST(m_row->log.take(), "log");
-    QTEST(m_row->shown(), "shown");
+    QFETCH(QString, steps);
+    SliderEditCases::play(*m_row, steps);
 }
 
 void TestSliderEditFrameDouble::scale_data()
@@ -254,7 +223,6 @@ void TestSliderEditFrameDouble::locale()
     }
 }
 
-// The calculator learns a value and new bounds from setValue() alone, as floats.
 // The calculator's text is clamped in float and has two decimals: it may lie
 // beyond the range, or stand beside a suffix. No entry may be lost in it or jump.
 void TestSliderEditFrameDouble::entryBeyondText_data()
@@ -264,26 +232,17 @@ void TestSliderEditFrameDouble::entryBeyondText_data()
     QTest::addColumn<QString>("suffix");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<double>("value");
-    QTest::newRow("above in float") << 2 << 999999.99 << ""
-                                    << "2000000\n"
-                                    << 999999.99;
-    QTest::newRow("above by decimals") << 3 << 0.996 << ""
-                                       << "5\n"
-                                       << 0.996;
-    QTest::newRow("not a number") << 2 << 1.0 << ""
-                                  << "0/0\n"
-                                  << 0.1;
-    QTest::newRow("suffix, Enter") << 2 << 100.0 << "mm"
-                                   << "10/4\n"
-                                   << 2.5;
-    QTest::newRow("suffix, Tab") << 2 << 100.0 << "mm"
-                                 << "7\t" << 7.0;
-    QTest::newRow("suffix, equals") << 2 << 100.0 << "mm"
-                                    << "1/4=\n"
-                                    << 0.25;
-    QTest::newRow("suffix, failing") << 2 << 100.0 << "mm"
-                                     << "1/0\n"
-                                     << 0.1;
+    const auto row = [](const char *name, int decimals, double max, const char *suffix,
+                        const char *typed, double value) {
+        QTest::newRow(name) << decimals << max << suffix << typed << value;
+    };
+    row("above in float", 2, 999999.99, "", "2000000\n", 999999.99);
+    row("above by decimals", 3, 0.996, "", "5\n", 0.996);
+    row("not a number", 2, 1.0, "", "0/0\n", 0.1);
+    row("suffix, Enter", 2, 100.0, "mm", "10/4\n", 2.5);
+    row("suffix, Tab", 2, 100.0, "mm", "7\t", 7.0);
+    row("suffix, equals", 2, 100.0, "mm", "1/4=\n", 0.25);
+    row("suffix, failing", 2, 100.0, "mm", "1/0\n", 0.1);
 }
 
 void TestSliderEditFrameDouble::entryBeyondText()
@@ -304,6 +263,7 @@ void TestSliderEditFrameDouble::entryBeyondText()
     QCOMPARE(m_row->log.take().filter("valueChanged").size(), reports);
 }
 
+// The calculator learns a value and new bounds from setValue() alone, as floats.
 void TestSliderEditFrameDouble::calculator()
 {
     const auto textAfter = [this](double value, const QString &typed) {

@@ -5,7 +5,6 @@
 
 #include <QtWidgets/QVBoxLayout>
 
-#include <functional>
 #include <type_traits>
 
 // The page around the widget under test. What reaches it is in the log.
@@ -92,8 +91,6 @@ template <typename Frame> struct EditorRow : EditorParts<Frame>
     // The spin box's text and the slider's value.
     QString shown() const { return spinBox->text() + ' ' + QString::number(slider->value()); }
 };
-
-template <typename Frame> using Action = std::function<void(EditorRow<Frame> &)>;
 
 template <typename Value> QStringList reports(std::initializer_list<Value> values)
 {
