@@ -135,8 +135,8 @@ void compareSilence(EditorRow<Frame> &row, const std::function<void()> &callSett
 
 // Plays "hold 20 60: 20 60 | drop": what is done and, behind the colon, what
 // comes of it. Numbers are slider positions, of reports too; "=40" is a spin box
-// and a slider that show it, "=40/39" where they differ, "finished" and "left" are the messages of
-// an entry, "page" is an event that reached the page. All else stands in the log as it is written.
+// and a slider that show it, "=40/39" where they differ. "finished" and "left"
+// are the messages of an entry, "page" a turn of the wheel that reached the page.
 template <typename Frame> void play(EditorRow<Frame> &row, const QString &steps)
 {
     using Row = EditorRow<Frame>;
