@@ -15,7 +15,6 @@ private Q_SLOTS:
     void cleanup();
     void editing_data();
     void editing();
-    void results_data();
     void results();
     void decimalsOfEditedResult();
     void order();
@@ -117,42 +116,26 @@ void TestLineEditCal::editing()
     QTEST(int(m_log->take().size()), "results");
 }
 
-void TestLineEditCal::results_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<int>("decimals");
-    QTest::addColumn<float>("minimum");
-    QTest::addColumn<float>("maximum");
-    QTest::addColumn<float>("before");
-    QTest::addColumn<QString>("text");
-
-    const auto row = [](const char *typed, int decimals, float minimum, float maximum, float before,
-                        const char *text) {
-        QTest::newRow(text) << typed << decimals << minimum << maximum << before << text;
-    };
-    row("12*3=", 2, -100, 100, 8, "36.00");
-    row("2/3=", 2, -100, 100, 8, "0.67");
-    row("0.1+0.2=", 2, -100, 100, 8, "0.30");
-    row("16777217=", 0, -1e9F, 1e9F, 8, "16777216");
-    row("=", 0, 3, 9, 8, "3");
-    row("=", 1, -9, -3, 8, "-3.0");
-    row("7=", 0, 5, 1, 8, "5"); // inverted: the minimum wins
-    row("1/0=", 2, -100, 100, 2.5F, "2.5");
-    row("1/0=", 2, -100, 100, 1234567, "1.23457e+06");
-}
-
 void TestLineEditCal::results()
 {
-    QFETCH(QString, typed);
-    QFETCH(int, decimals);
-    QFETCH(float, minimum);
-    QFETCH(float, maximum);
-    QFETCH(float, before);
-    m_field->setResultsRadixPointSeveral(decimals);
-    m_field->setLineEditMinOrMax(minimum, maximum);
-    m_field->setInitialResult(before);
-    User::type(typed);
-    QTEST(m_field->text(), "text");
+    const auto check = [this](const char *typed, int decimals, float minimum, float maximum,
+                              float before, const char *text) {
+        m_field->clear();
+        m_field->setResultsRadixPointSeveral(decimals);
+        m_field->setLineEditMinOrMax(minimum, maximum);
+        m_field->setInitialResult(before);
+        User::type(typed);
+        QCOMPARE(m_field->text(), QString(text));
+    };
+    check("12*3=", 2, -100, 100, 8, "36.00");
+    check("2/3=", 2, -100, 100, 8, "0.67");
+    check("0.1+0.2=", 2, -100, 100, 8, "0.30");
+    check("16777217=", 0, -1e9F, 1e9F, 8, "16777216");
+    check("=", 0, 3, 9, 8, "3");
+    check("=", 1, -9, -3, 8, "-3.0");
+    check("7=", 0, 5, 1, 8, "5"); // inverted: the minimum wins
+    check("1/0=", 2, -100, 100, 2.5F, "2.5");
+    check("1/0=", 2, -100, 100, 1234567, "1.23457e+06");
 }
 
 // The decimal rule looks back at the tokens of the last filtering pass, which a

@@ -15,8 +15,6 @@ class tst_RGBEditFrames : public QObject
 
 private Q_SLOTS:
     void form();
-    void values_data();
-    void values();
     void rows_data();
     void rows();
     void blockKeepsItsRows();
@@ -91,7 +89,7 @@ template <typename Frame> Check checkValues(const QString &steps)
 
 } // namespace
 
-void tst_RGBEditFrames::values_data()
+void tst_RGBEditFrames::rows_data()
 {
     QTest::addColumn<Check>("check");
     QTest::newRow("RGBEditFrame") << checkValues<RGBEditFrame>(
@@ -106,17 +104,6 @@ void tst_RGBEditFrames::values_data()
         "ranges: 0..255 0..255 0..255 0..100 | values: 50 50 50 100 | f=40: (50,50,50,40) | "
         "r=255: (255,50,50,40) | set f 150 | values: 255 50 50 100 | f-: (255,50,50,99) | "
         "g-: (255,49,50,99)");
-}
-
-void tst_RGBEditFrames::values()
-{
-    QFETCH(Check, check);
-    check();
-}
-
-void tst_RGBEditFrames::rows_data()
-{
-    QTest::addColumn<Check>("check");
     CompositeCases::addChecks<RGBEditFrame>("RGBEditFrame");
     CompositeCases::addChecks<RGBAllEditFrame>("RGBEditFrame");
     CompositeCases::addChecks<RGBOpacityEditFrame>("RGBEditFrame");

