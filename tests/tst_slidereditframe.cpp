@@ -21,7 +21,6 @@ private Q_SLOTS:
     void sequence();
     void autoRepeat() { SliderEditCases::compareAutoRepeat(*m_row); }
     void samplingInRealTime();
-    void press();
     void selectAll() { SliderEditCases::compareSelectAll(*m_row); }
 
 private:
@@ -101,6 +100,9 @@ void TestSliderEditFrame::sequence_data()
         addRow(QString(mode) + " reports once",
                QString(mode) + " | hold 20 40 | tick | shown: 10/10 | drop: 40 | shown: =40");
     }
+    for (const QString end : {"drop", "focus", "hide", "disable", "leave"})
+        addRow("pressed until " + end,
+               "pressed: no | hold | pressed: yes | " + end + " | pressed: no");
     const QString small = "range 0 255 | step 5 | value ";
     const QString wide = "range -2147483648 2147483647 | step 5 | value ";
     addRow("minus at the minimum", small + "5 | minus: 0 | value 3 | minus | shown: =3");
@@ -123,31 +125,6 @@ void TestSliderEditFrame::samplingInRealTime()
     QTRY_COMPARE(log += m_row->log.take(), reports({40}));
     m_row->drop();
     QCOMPARE(m_row->log.take(), QStringList("drop"));
-}
-
-void TestSliderEditFrame::press()
-{
-    const SliderEditFrame &frame = *m_row->frame;
-    const std::function<void()> ends[] = {
-        [this] { m_row->drop(); },
-        [this] { m_row->plus->setFocus(); },
-        [this] { m_row->slider->hide(); },
-        [this] { m_row->frame->setEnabled(false); },
-        [this] {
-            QEvent leave(QEvent::Leave);
-            QApplication::sendEvent(m_row->slider, &leave);
-        },
-    };
-    for (const auto &end : ends) {
-        m_row->slider->show();
-        m_row->frame->setEnabled(true);
-        QVERIFY(!frame.isMousePressed());
-        m_row->hold({});
-        QVERIFY(frame.isMousePressed());
-        end();
-        QVERIFY(!frame.isMousePressed());
-        m_row->drop();
-    }
 }
 
 int main(int argc, char *argv[])

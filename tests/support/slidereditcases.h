@@ -163,7 +163,7 @@ template <typename Frame> void play(EditorRow<Frame> &row, const QString &steps)
         const QStringList words = step.section(": ", 0, 0).split(' ');
         const auto number = [&words](int i) { return words.value(i).toInt(); };
         const auto value = [&](int i) { return number(i) * Row::unit; };
-        const QMap<QString, std::function<void()>> actions {
+        QMap<QString, std::function<void()>> actions {
             {"released", [&] { row.frame->setReleaseMode(true); }},
             {"sampled", [&] { row.frame->setTimeSamplingRate(60000); }},
             {"tick", [&] { tick(row.frame); }},
@@ -173,6 +173,11 @@ template <typename Frame> void play(EditorRow<Frame> &row, const QString &steps)
             {"drop", [&] { User::dropHandle(row.slider); }},
             {"groove", [&] { User::clickGroove(row.slider, number(1) > 0); }},
             {"hide", [&] { row.frame->setSliderVisible(false); }},
+            {"leave",
+             [&] {
+                 QEvent leave(QEvent::Leave);
+                 QApplication::sendEvent(row.slider, &leave);
+             }},
             {"disable", [&] { row.frame->setEnabled(false); }},
             {"enable", [&] { row.frame->setEnabled(true); }},
             {"plus", [&] { User::click(row.plus); }},
@@ -195,6 +200,8 @@ template <typename Frame> void play(EditorRow<Frame> &row, const QString &steps)
             {"direction", [&] { row.frame->setValueChangeDirection(number(1), int(value(2))); }},
             {"shown", [&] { row.log.add(row.shown().replace(' ', '/')); }},
             {"focused", [&] { row.log.add(row.frame->hasFocus() ? "editor" : "other"); }}};
+        if constexpr (Row::isInt)
+            actions["pressed"] = [&] { row.log.add(row.frame->isMousePressed() ? "yes" : "no"); };
         QVERIFY2(actions.contains(words[0]), qPrintable(step));
         actions[words[0]]();
         if (words[0] == "hold" || words[0] == "move") {
