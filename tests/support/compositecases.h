@@ -169,8 +169,8 @@ void checkOperation(const Operation<Frame> &operation, const QString &reporter)
             warnings.append(QStringLiteral("warning: %1 has failed. The type  %2  is invalid.")
                                 .arg(operation.warning)
                                 .arg(flag));
-            QVERIFY2(log.lastContext().function.contains(reporter + "::" + operation.name + '('),
-                     qPrintable(log.lastContext().function));
+            QVERIFY2(log.lastFunction().contains(reporter + "::" + operation.name + '('),
+                     qPrintable(log.lastFunction()));
         }
         QCOMPARE(log.take(), warnings);
         frame.setEditerVisible(30);

@@ -36,7 +36,6 @@ void EventLog::handleMessage(QtMsgType type, const QMessageLogContext &context,
         : type == QtInfoMsg                     ? "info: "
         : type == QtWarningMsg                  ? "warning: "
                                                 : "critical: ";
-    s_current->m_context = {QString::fromUtf8(context.file), QString::fromUtf8(context.function),
-                            QString::fromUtf8(context.category), context.line};
+    s_current->m_function = QString::fromUtf8(context.function);
     s_current->add(QLatin1String(kind) + message);
 }

@@ -10,15 +10,6 @@
 class EventLog
 {
 public:
-    // Where the last message said that it comes from.
-    struct Context
-    {
-        QString file;
-        QString function;
-        QString category;
-        int line = 0;
-    };
-
     EventLog();
     ~EventLog();
     EventLog(const EventLog &) = delete;
@@ -37,7 +28,8 @@ public:
     void add(const QString &entry) { m_entries.append(entry); }
     // The entries since the last call.
     QStringList take();
-    Context lastContext() const { return m_context; }
+    // Where the last message said that it comes from.
+    QString lastFunction() const { return m_function; }
 
 private:
     template <typename T> static QString toText(const T &value)
@@ -52,6 +44,6 @@ private:
     static EventLog *s_current;
     QObject m_receiver;
     QStringList m_entries;
-    Context m_context;
+    QString m_function;
     QtMessageHandler m_previous = nullptr;
 };

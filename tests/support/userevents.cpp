@@ -118,14 +118,6 @@ void User::dropHandle(QSlider *slider)
     QTest::mouseRelease(windowOf(slider), Qt::LeftButton, Qt::NoModifier, s_handlePos);
 }
 
-void User::drag(QSlider *slider, std::initializer_list<int> positions)
-{
-    grabHandle(slider);
-    for (const int position : positions)
-        moveHandle(slider, position);
-    dropHandle(slider);
-}
-
 void User::clickGroove(QSlider *slider, bool behind)
 {
     const QPoint handle = handleCenter(slider, slider->sliderPosition());

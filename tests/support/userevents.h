@@ -5,8 +5,6 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QSlider>
 
-#include <initializer_list>
-
 // What a user does, as the window system reports it: mouse events enter by the
 // window, keys go to the widget with the focus.
 namespace User {
@@ -27,8 +25,6 @@ QPoint handleCenter(const QSlider *slider, int position);
 void grabHandle(QSlider *slider);
 void moveHandle(QSlider *slider, int position);
 void dropHandle(QSlider *slider);
-// Takes the handle, moves it over the positions and lets it go at the last.
-void drag(QSlider *slider, std::initializer_list<int> positions);
 // A click on the groove before (false) or behind (true) the handle.
 void clickGroove(QSlider *slider, bool behind);
 
