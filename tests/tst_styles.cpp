@@ -1,0 +1,134 @@
+#include "recteditframe.h"
+#include "userevents.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QRegularExpression>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QSlider>
+#include <QtWidgets/QStyleOptionSlider>
+#include <QtWidgets/QToolButton>
+
+#include <cmath>
+
+using Vantor::Widgets::RectEditFrame;
+
+// The touch themes: readable, and large enough for a finger.
+class TestStyles : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QDir::addSearchPath("vantorslider", STYLES_DIR); }
+    void contrast_data() { sheets(); }
+    void contrast();
+    void largeFont_data() { sheets(); }
+    void largeFont();
+
+private:
+    static void sheets();
+    static QString sheet();
+};
+
+void TestStyles::sheets()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("dark") << "touch-dark";
+    QTest::newRow("light") << "touch-light";
+}
+
+QString TestStyles::sheet()
+{
+    QFETCH(QString, name);
+    QFile file("vantorslider:" + name + ".qss");
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+// Relative luminance and contrast as the accessibility guidelines (WCAG 2) define them.
+static double luminance(const QColor &color)
+{
+    const auto linear = [](double channel) {
+        return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+        + 0.0722 * linear(color.blueF());
+}
+
+static double contrastOf(const QColor &a, const QColor &b)
+{
+    const double first = luminance(a);
+    const double second = luminance(b);
+    return (qMax(first, second) + 0.05) / (qMin(first, second) + 0.05);
+}
+
+// A text's colour and its background stand in one rule.
+void TestStyles::contrast()
+{
+    const QString text = sheet();
+    const QRegularExpression rule("\\{[^}]*\\}");
+    int pairs = 0;
+    for (auto rules = rule.globalMatch(text); rules.hasNext();) {
+        const QString body = rules.next().captured();
+        for (const QString prefix : {"", "selection-"}) {
+            const auto color = [&](const QString &property) {
+                const QRegularExpression one("[\\s;{]" + prefix + property + ": (#[0-9a-f]{6});");
+                return QColor(one.match(body).captured(1));
+            };
+            const QColor ink = color("color");
+            const QColor paper = color("background-color");
+            if (ink.isValid() && paper.isValid()) {
+                ++pairs;
+                QVERIFY2(contrastOf(ink, paper) >= 4.5, qPrintable(body));
+            }
+        }
+    }
+    QVERIFY(pairs >= 7);
+}
+
+void TestStyles::largeFont()
+{
+    RectEditFrame editor;
+    QFont font = editor.font();
+    font.setPointSizeF(font.pointSizeF() * 1.5);
+    editor.setFont(font);
+    editor.setStyleSheet(sheet());
+    editor.setPositionLockEnable(true);
+    editor.setSizeLockEnable(true, RectEditFrame::SizeScaleLock);
+    for (const auto type :
+         {RectEditFrame::X, RectEditFrame::Y, RectEditFrame::Width, RectEditFrame::Height}) {
+        editor.setLabelText(type, "Height");
+        editor.setRange(type, -1920, 1920);
+        editor.setValue(type, -1920);
+    }
+    QVERIFY(User::show(editor));
+
+    const QSize finger(48, 48);
+    const auto buttons = editor.findChildren<QToolButton *>();
+    QCOMPARE(buttons.size(), 10);
+    for (const QToolButton *button : buttons)
+        QCOMPARE(button->size().expandedTo(finger), button->size());
+    for (QSlider *slider : editor.findChildren<QSlider *>()) {
+        QStyleOptionSlider option;
+        option.initFrom(slider);
+        option.orientation = Qt::Horizontal;
+        option.state |= QStyle::State_Horizontal;
+        option.minimum = slider->minimum();
+        option.maximum = slider->maximum();
+        const QRect handle = slider->style()->subControlRect(QStyle::CC_Slider, &option,
+                                                             QStyle::SC_SliderHandle, slider);
+        QCOMPARE(handle.size().expandedTo(finger), handle.size());
+    }
+    for (const QLabel *label : editor.findChildren<QLabel *>("labelName"))
+        QCOMPARE(label->size().expandedTo(label->sizeHint()), label->size());
+    for (const QLineEdit *field : editor.findChildren<QLineEdit *>()) {
+        const QRect text = field->fontMetrics().boundingRect(field->text());
+        QCOMPARE(field->size().expandedTo(text.size()), field->size());
+    }
+}
+
+int main(int argc, char *argv[])
+{
+    return runTest<TestStyles>(argc, argv);
+}
+
+#include "tst_styles.moc"
