@@ -1,5 +1,5 @@
-#include "maskeditframe.h"
 #include "edituser.h"
+#include "maskeditframe.h"
 
 using Vantor::Widgets::MaskEditFrame;
 
