@@ -202,6 +202,11 @@ void tst_RectEditFrame::locks_data()
            "set 100 0 500 250 | "
            "w+: h(250) w(500) (100,0,500,250) | size lock off: sizeLock(false) | "
            "w=520: w(520) (100,0,520,250)";
+    QTest::newRow("proportion stops at the area's lower edge")
+        << "range y 50 1000 | range h 0 450 | set 0 150 100 200 | "
+           "size lock on: sizeLock(true) | h=350: w(175) h(350) (0,150,175,350) | "
+           "set 0 100 175 350 | h+: w(175) h(350) (0,100,175,350) | size lock on | "
+           "h+: w(176) h(351) (0,100,176,351)";
     // The width limit is tested with the height as it was typed: 300, not the
     // 100 that the lower edge leaves.
     QTest::newRow("the width limit sees the height as typed")
