@@ -94,6 +94,9 @@ void TestSliderEditFrame::sequence_data()
            "type 250\n: finished finished 250 finished left | shown: =250");
     addRow("a clamped value is reported when editing ends",
            "value 500 | type \t: finished 100 finished | shown: =100");
+    addRow("a failed entry after the range shrank",
+           "range 0 243 | value 243 | range 0 191 | "
+           "type 1/0\n: finished 191 finished finished left | shown: =191");
     addRow("typing past the direction",
            "direction 4 10 | type 40\n: finished finished 10 finished left | shown: =10");
     for (const char *mode : {"released", "sampled | released"}) {
