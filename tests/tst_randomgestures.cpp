@@ -10,7 +10,6 @@
 #include <random>
 
 using namespace Vantor::Widgets;
-using CompositeCases::Check;
 
 // A user who does anything, against the model, gesture by gesture. The same
 // seed does the same; VANTORSLIDER_SEED and VANTORSLIDER_GESTURES (a number per
@@ -64,12 +63,11 @@ public:
             const QStringList actual = m_user.log.take();
             QStringList expected;
             expected.swap(m_model.log);
-            const QByteArray where =
-                QStringLiteral("gesture %1, row %2, %3: %4\ninstead of %5")
-                    .arg(i)
-                    .arg(row)
-                    .arg(gesture, actual.join(QLatin1Char(' ')), expected.join(QLatin1Char(' ')))
-                    .toUtf8();
+            const QByteArray where = QStringLiteral("gesture %1, row %2, %3: %4\ninstead of %5")
+                                         .arg(i)
+                                         .arg(row)
+                                         .arg(gesture, actual.join(' '), expected.join(' '))
+                                         .toUtf8();
             QVERIFY2(actual == expected, where.constData());
             for (int j = 0; j < m_user.rows.size(); ++j) {
                 QVERIFY2(m_user.rows[j].frame->value() == m_model.rows[j].value, where);
@@ -100,29 +98,29 @@ private:
         case 1:
             User::click(isUp ? row.plus : row.minus);
             model.step(isUp ? step : -step);
-            return QStringLiteral("button");
+            return "button";
         case 2:
             row.type(expression + '\n');
             model.enter(val);
-            return expression + QLatin1String(" Enter");
+            return expression + " Enter";
         case 3:
             row.type(expression);
             User::press(Qt::Key_Tab);
             model.leave(val);
-            return expression + QLatin1String(" Tab");
+            return expression + " Tab";
         case 4:
             row.type({});
             User::press(isUp ? Qt::Key_Up : Qt::Key_Down);
             User::press(Qt::Key_Return);
             model.stepInSpinBox(isUp ? step : -step);
-            return QStringLiteral("arrow key");
+            return "arrow key";
         case 5:
             User::clickGroove(row.slider, isUp);
             follow(model);
-            return QStringLiteral("groove");
+            return "groove";
         case 6:
             User::turnWheel(isUp ? static_cast<QWidget *>(row.slider) : row.spinBox);
-            return QStringLiteral("wheel");
+            return "wheel";
         default:
             User::grabHandle(row.slider);
             for (int moves = random(0, 4); moves > 0; --moves) {
@@ -135,7 +133,7 @@ private:
             }
             User::dropHandle(row.slider);
             follow(model);
-            return QStringLiteral("drag");
+            return "drag";
         }
     }
 
@@ -185,7 +183,7 @@ protected:
             row.isReleaseMode = isReleaseMode;
             row.isSampling = row.isSampling || isSampling;
         }
-        return QStringLiteral("program");
+        return "program";
     }
 
 private:
@@ -211,32 +209,32 @@ protected:
         case 0:
             User::click(m_user.positionLock);
             m_model.togglePositionLock();
-            return QStringLiteral("position lock");
+            return "position lock";
         case 1:
         case 2:
             User::click(m_user.sizeLock);
             m_model.setSizeLock(!m_model.isSizeLocked);
-            return QStringLiteral("size lock");
+            return "size lock";
         case 3: {
             const bool isOn = random(0, 1);
             frame.setSizeLock(isOn);
             m_model.setSizeLock(isOn);
-            return QStringLiteral("size lock by the program");
+            return "size lock by the program";
         }
         case 4:
             m_model.isOffset = random(0, 3) == 0;
             frame.setSizeLockEnable(
                 true, m_model.isOffset ? RectEditFrame::OffsetLock : RectEditFrame::SizeScaleLock);
-            return QStringLiteral("kind of the size lock");
+            return "kind of the size lock";
         case 5: {
             const double ratio = random(1, 4000) / 1000.0;
             frame.setSizeLock(ratio);
             m_model.setRatio(ratio);
-            return QStringLiteral("ratio");
+            return "ratio";
         }
         default:
             newArea();
-            return QStringLiteral("new area");
+            return "new area";
         }
     }
 
@@ -247,7 +245,9 @@ private:
     // Another picture: ranges, values within them, a mode.
     void newArea()
     {
-        const QVector<int> least {random(0, 40), random(0, 40), random(1, 40), random(1, 40)};
+        QVector<int> least;
+        for (int i = 0; i < 4; ++i)
+            least.append(QVector<int> {-9, 0, 1, 30}[random(0, 3)]);
         const QVector<int> extent {random(100, 900), random(100, 900)};
         QVector<int> values(4);
         const bool isReleaseMode = random(0, 2) == 0;

@@ -1,5 +1,4 @@
 #include "compositecases.h"
-#include "edituser.h"
 #include "layouteditframe.h"
 
 using Vantor::Widgets::LayoutEditFrame;
@@ -46,33 +45,32 @@ void tst_RectEditFrame::cleanup()
 // The lock buttons take the places that are kept for them.
 void tst_RectEditFrame::lockButtons()
 {
-    const auto places = [this] {
+    const auto places = [this](const QStringList &names) {
         QStringList texts;
-        for (const char *name : {"toolButtonLockPosition", "toolButtonLockSize",
-                                 "frameSpacerLockPosition", "frameSpacerLockSize"}) {
+        for (const QString &name : names) {
             const auto *place = m_frame->findChild<QWidget *>(name);
-            QString text = place->isHidden() ? "hidden" : limits(place->width(), place->height());
+            texts.append(place->isHidden() ? "hidden" : limits(place->width(), place->height()));
             for (const QByteArray &property : place->dynamicPropertyNames())
-                text += ' ' + property + '=' + place->property(property).toString();
-            texts.append(text);
+                texts.append(property + '=' + place->property(property).toString());
         }
-        return texts.join(", ");
+        return texts.join(' ');
     };
+    const QStringList buttons {"toolButtonLockPosition", "toolButtonLockSize"};
+    const QStringList spacers {"frameSpacerLockPosition", "frameSpacerLockSize"};
     QCOMPARE(m_frame->objectName(), QString("RectEditFrame"));
     QCOMPARE(m_frame->property("isSliderFrame"), QVariant(true));
     QVERIFY(User::show(*m_frame));
     const int before = m_rows[RectEditFrame::X].frame->width();
-    QCOMPARE(places(),
-             QString("hidden lockoutstate=true isLockPositionFrame=true, "
-                     "hidden lockoutstate=true, "
-                     "38..60 isLockPositionFrame=true, 38..60"));
+    const QString buttonTexts =
+        "%1 lockoutstate=true isLockPositionFrame=true %1 lockoutstate=true";
+    const QString spacerTexts = "%1 isLockPositionFrame=true %1";
+    QCOMPARE(places(buttons), buttonTexts.arg("hidden"));
+    QCOMPARE(places(spacers), spacerTexts.arg("38..60"));
     m_frame->setPositionLockEnable(true);
     m_frame->setSizeLockEnable(true, RectEditFrame::SizeScaleLock);
     QCoreApplication::processEvents();
-    QCOMPARE(places(),
-             QString("38..60 lockoutstate=true isLockPositionFrame=true, "
-                     "38..60 lockoutstate=true, "
-                     "hidden isLockPositionFrame=true, hidden"));
+    QCOMPARE(places(buttons), buttonTexts.arg("38..60"));
+    QCOMPARE(places(spacers), spacerTexts.arg("hidden"));
     for (const Row &row : m_rows)
         QCOMPARE(row.frame->width(), before);
 }
@@ -92,7 +90,7 @@ void tst_RectEditFrame::rows_data()
 
 void tst_RectEditFrame::rows()
 {
-    QFETCH(CompositeCases::Check, check);
+    QFETCH(Check, check);
     check();
 }
 
@@ -150,90 +148,55 @@ void tst_RectEditFrame::spacing()
 
 void tst_RectEditFrame::wholeRectangle()
 {
-    RectUser user(*m_frame);
-    const QRect rect(10, 20, 30, 40);
-    m_frame->setValue(rect);
-    QRect read;
-    m_frame->value(read);
-    QCOMPARE(read, rect);
+    m_frame->setValue(QRect(10, 20, 30, 40));
+    QRect rect;
+    m_frame->value(rect);
+    QCOMPARE(rect, QRect(10, 20, 30, 40));
     int x = 0, y = 0, w = 0, h = 0;
     m_frame->value(x, y, w, h);
-    QCOMPARE(QList<int>({x, y, w, h}), QList<int>({10, 20, 30, 40}));
-    user.check("set 1 2 3 400 | fields: 1 2 3 99 | range x 5 50 | fields: 5 2 3 99 | "
-               "set 5 2 3 99 | y=7: y(7) (5,7,3,99) | x=2*10: x(20) (20,7,3,99) | "
-               "w+: w(4) (20,7,4,99) | h+ | h-: h(98) (20,7,4,98)");
+    QCOMPARE(QRect(x, y, w, h), rect);
+    RectUser(*m_frame).check("set 1 2 3 400 | fields: 1 2 3 99 | range x 5 50 | "
+                             "fields: 5 2 3 99 | y=7: y(7) (5,7,3,99)");
 }
 
 void tst_RectEditFrame::locks_data()
 {
     QTest::addColumn<QString>("steps");
 
-    QTest::newRow("position stops at y's maximum")
+    // What the random gestures come across too is here by one example.
+    QTest::newRow("position")
         << "range y 0 30 | set 10 20 1 1 | lock position: positionLock(true) | "
-           "x=25: x(25) (25,30,1,1) | x+: x(25) (25,30,1,1) | x=20: x(20) (20,30,1,1) | "
-           "x+: x(20) (20,30,1,1) | x-: x(19) (19,29,1,1) | x=21: x(21) (21,30,1,1) | "
-           "lock position: positionLock(false) | x=40: x(40) (40,30,1,1)";
-    QTest::newRow("position does not stop at a minimum")
-        << "range y 15 1000 | set 10 20 1 1 | lock position: positionLock(true) | "
-           "x=2: x(2) (2,15,1,1) | x-: x(1) (1,15,1,1) | x+: x(2) (2,15,1,1)";
+           "x=15: x(15) (15,25,1,1) | x=25: x(25) (25,30,1,1) | x+: x(25) (25,30,1,1) | "
+           "x-: x(24) (24,30,1,1) | lock position: positionLock(false) | x=40: x(40) (40,30,1,1)";
     QTest::newRow("offset")
         << "offset | set 0 0 100 50 | lock size: sizeLock(true) | w=120: w(120) (0,0,120,70) | "
            "h=60: h(60) (0,0,110,60) | scale | w=80: h(40) w(80) (0,0,80,40) | "
            "size lock off: sizeLock(false) | w=1: w(1) (0,0,1,40)";
     QTest::newRow("halves round away from zero")
         << "set 0 0 4 2 | size lock on: sizeLock(true) | w=3: h(2) w(3) (0,0,3,2) | "
-           "set 0 0 3 2 | size lock on | w=5: h(3) w(5) (0,0,5,3) | set 0 0 2 4 | "
-           "size lock on | h=3: w(2) h(3) (0,0,2,3) | range w -9 9 | range h -9 9 | "
-           "set 0 0 4 2 | size lock on | w=-3: h(-2) w(-3) (0,0,-3,-2) | "
-           "h=-1: w(-2) h(-1) (0,0,-2,-1)";
+           "range w -9 9 | range h -9 9 | set 0 0 4 2 | size lock on | "
+           "w=-3: h(-2) w(-3) (0,0,-3,-2) | h=-1: w(-2) h(-1) (0,0,-2,-1)";
     QTest::newRow("ratio")
         << "ratio 7 | set 0 0 100 100 | size lock on: sizeLock(true) | "
            "w=50: h(50) w(50) (0,0,50,50) | ratio 1.5 | w=300: h(200) w(300) (0,0,300,200) | "
            "ratio 0.3333 | h=500: w(167) h(500) (0,0,167,500) | ratio 0.6667 | "
-           "h=300: w(200) h(300) (0,0,200,300) | h=500: w(334) h(500) (0,0,334,500) | "
-           "ratio 0.0004 | w=50: w(50) (0,0,50,500) | ratio -2 | w=60: w(60) (0,0,60,500)";
-    QTest::newRow("proportion stops at the area's right edge")
+           "h=300: w(200) h(300) (0,0,200,300) | h=500: w(334) h(500) (0,0,334,500) | ratio 0.0004 "
+           "| w=50: w(50) (0,0,50,500) | "
+           "ratio -2 | w=60: w(60) (0,0,60,500)";
+    QTest::newRow("proportion stops at the area's edge")
         << "range x 50 1000 | range w 0 450 | set 150 0 200 100 | "
            "size lock on: sizeLock(true) | w=400: h(175) w(350) (150,0,350,175) | "
-           "w+: h(175) w(350) (150,0,350,175) | w=300: h(150) w(300) (150,0,300,150) | "
-           "w=400: h(175) w(350) (150,0,350,175) | range w 0 600 | "
-           "w+: h(175) w(350) (150,0,350,175) | size lock on | "
+           "range w 0 600 | w+: h(175) w(350) (150,0,350,175) | size lock on | "
            "w+: h(176) w(351) (150,0,351,176) | w=500: h(250) w(500) (150,0,500,250) | "
-           "set 100 0 500 250 | "
-           "w+: h(250) w(500) (100,0,500,250) | size lock off: sizeLock(false) | "
-           "w=520: w(520) (100,0,520,250)";
-    QTest::newRow("proportion stops at the area's lower edge")
-        << "range y 50 1000 | range h 0 450 | set 0 150 100 200 | "
-           "size lock on: sizeLock(true) | h=350: w(175) h(350) (0,150,175,350) | "
-           "set 0 100 175 350 | h+: w(175) h(350) (0,100,175,350) | size lock on | "
-           "h+: w(176) h(351) (0,100,176,351)";
-    // The width limit is tested with the height as it was typed: 300, not the
-    // 100 that the lower edge leaves.
-    QTest::newRow("the width limit sees the height as typed")
-        << "range w 0 400 | range h 0 300 | set 150 200 50 50 | size lock on: sizeLock(true) | "
-           "h=300: w(250) h(250) (150,200,250,250)";
-    QTest::newRow("the height limit sees the width as held")
-        << "range w 0 300 | range h 0 400 | set 200 150 50 50 | size lock on: sizeLock(true) | "
-           "w=300: h(100) w(100) (200,150,100,100)";
-    QTest::newRow("a partner below its minimum holds the width")
-        << "range h 50 1000 | set 0 0 200 100 | size lock on: sizeLock(true) | "
-           "w=20: h(100) w(200) (0,0,200,100) | w=100: h(50) w(100) (0,0,100,50)";
-    QTest::newRow("a partner below its minimum holds the height")
-        << "range w 50 1000 | set 0 0 100 200 | size lock on: sizeLock(true) | "
-           "h=20: w(100) h(200) (0,0,100,200) | h=100: w(50) h(100) (0,0,50,100)";
+           "set 100 0 500 250 | w+: h(250) w(500) (100,0,500,250)";
     QTest::newRow("basis without width")
         << "set 0 0 0 100 | size lock on: sizeLock(true) | w=50: w(50) (0,0,50,100) | "
-           "h=60: w(0) h(60) (0,0,0,60) | range w 10 500 | h=70: w(0) h(70) (0,0,10,70) | "
-           "range w 0 0 | h=80: w(0) h(80) (0,0,0,80)";
+           "range w 10 500 | h=70: w(0) h(70) (0,0,10,70) | range w 0 0 | "
+           "h=80: w(0) h(80) (0,0,0,80)";
     QTest::newRow("basis without height")
         << "set 0 0 100 0 | size lock on: sizeLock(true) | h=50: h(50) (0,0,100,50) | "
-           "w=60: h(0) w(60) (0,0,60,0) | range h 10 500 | w=70: h(0) w(70) (0,0,70,10) | "
-           "range h 0 0 | w=80: h(0) w(80) (0,0,80,0)";
-    QTest::newRow("switching reports the button's changes only")
-        << "set 0 0 200 100 | size lock off | size lock on: sizeLock(true) | set 0 0 100 100 | "
-           "w=50: h(25) w(50) (0,0,50,25) | set 0 0 100 100 | size lock on | "
-           "w=50: h(50) w(50) (0,0,50,50) | lock size: sizeLock(false) | "
-           "lock size: sizeLock(true) | size lock off: sizeLock(false)";
+           "range h 10 500 | w=70: h(0) w(70) (0,0,70,10) | range h 0 0 | "
+           "w=80: h(0) w(80) (0,0,80,0)";
     // Floats hold these numbers exactly, so the fields can be typed into.
     QTest::newRow("position saturates")
         << "range x -2147483648 2147483647 | range y -2147483648 2147483647 | "
@@ -241,13 +204,9 @@ void tst_RectEditFrame::locks_data()
            "x=1500000000: x(1500000000) (1500000000,2147483647,1,1) | "
            "x+: x(1500000000) (1500000000,2147483647,1,1) | set -2000000000 2000000000 1 1 | "
            "y=-1500000000: y(-1500000000) (-2147483648,-1500000000,1,1)";
-    QTest::newRow("offset saturates")
-        << "offset | range w -2147483648 2147483647 | range h -2147483648 2147483647 | "
-           "set 0 0 -2000000000 2000000000 | lock size: sizeLock(true) | "
-           "w=1500000000: w(1500000000) (0,0,1500000000,2147483647)";
     QTest::newRow("products leave 32 bits")
         << "range w 0 2147483647 | range h 0 2147483647 | set 0 0 2000000000 1000000000 | "
-           "lock size: sizeLock(true) | "
+           "size lock on: sizeLock(true) | "
            "w=1000000000: h(500000000) w(1000000000) (0,0,1000000000,500000000) | "
            "h=1000000000: w(2000000000) h(1000000000) (0,0,2000000000,1000000000) | "
            "set 0 0 1 2000000000 | size lock on | "
@@ -290,9 +249,6 @@ void tst_RectEditFrame::layoutIsARectangle()
     QCOMPARE(layout.metaObject()->className(), "Vantor::Widgets::LayoutEditFrame");
     QCOMPARE(layout.metaObject()->methodCount(), RectEditFrame::staticMetaObject.methodCount());
     QVERIFY(qobject_cast<RectEditFrame *>(&layout));
-    RectUser(layout).check(
-        "set 10 20 40 20 | lock position: positionLock(true) | x=15: x(15) (15,25,40,20) | "
-        "lock size: sizeLock(true) | w=2*10: h(10) w(20) (15,25,20,10)");
 }
 
 int main(int argc, char *argv[])

@@ -3,7 +3,6 @@
 #include "rgbeditframe.h"
 #include "rgbopacityeditframe.h"
 
-using CompositeCases::Check;
 using Vantor::Widgets::RGBAllEditFrame;
 using Vantor::Widgets::RGBEditFrame;
 using Vantor::Widgets::RGBOpacityEditFrame;

@@ -1,5 +1,4 @@
-#include "slidereditcases.h"
-#include "slidereditframedouble.h"
+#include "editorrow.h"
 
 #include <QtWidgets/QDoubleSpinBox>
 
@@ -14,23 +13,17 @@ namespace {
 // An explicit instantiation may name private members: it lends them to this
 // test without a friend in the class.
 using FloatOperation = int (SliderEditFrameDouble::*)(float);
-struct Precision
+QPair<FloatOperation, FloatOperation> privateOperations();
+template <FloatOperation first, FloatOperation second> struct Lend
 {
-    friend FloatOperation operation(Precision);
+    friend QPair<FloatOperation, FloatOperation> privateOperations() { return {first, second}; }
 };
-struct Magnification
-{
-    friend FloatOperation operation(Magnification);
-};
-template <typename Name, FloatOperation member> struct Lend
-{
-    friend FloatOperation operation(Name) { return member; }
-};
-template struct Lend<Precision, &SliderEditFrameDouble::getPrecision>;
-template struct Lend<Magnification, &SliderEditFrameDouble::getMagnification>;
+template struct Lend<&SliderEditFrameDouble::getPrecision,
+                     &SliderEditFrameDouble::getMagnification>;
 
 } // namespace
 
+// What the integer editor has no like of: decimals and the scale of the slider.
 class TestSliderEditFrameDouble : public QObject
 {
     Q_OBJECT
@@ -38,11 +31,6 @@ class TestSliderEditFrameDouble : public QObject
 private Q_SLOTS:
     void init();
     void cleanup() { m_row.reset(); }
-    void form();
-    void setters() { SliderEditCases::compareSetters(*m_row); }
-    void silence();
-    void sequence_data();
-    void sequence();
     void scale_data();
     void scale();
     void fineScale();
@@ -52,8 +40,6 @@ private Q_SLOTS:
     void entryBeyondText_data();
     void entryBeyondText();
     void precision();
-    void autoRepeat() { SliderEditCases::compareAutoRepeat(*m_row); }
-    void selectAll() { SliderEditCases::compareSelectAll(*m_row); }
 
 private:
     std::unique_ptr<DoubleRow> m_row;
@@ -64,65 +50,6 @@ void TestSliderEditFrameDouble::init()
     m_row = std::make_unique<DoubleRow>();
     QVERIFY(User::show(m_row->page));
     QCOMPARE(m_row->log.take(), QStringList());
-}
-
-void TestSliderEditFrameDouble::form()
-{
-    SliderEditCases::compareForm(
-        *m_row,
-        "horizontalLayout_2 0 [0 0 0 0] {"
-        "nameLayout 0 [0 0 0 0] {labelName 80..80x0..max}, "
-        "sliderLayout 0 [0 0 0 0] {slider 0..maxx0..max}, "
-        "spinBoxLayout 0 [0 0 0 0] {doubleSpinBox 65..65x30..30 Quelmo_VK=Vk_NumberFloat}, "
-        "buttonLayout 0 [0 0 0 0] {sliderEditSubtract 51..51x32..32 "
-        "isSliderEditSubtract=true, sliderEditPlus 51..51x32..32 "
-        "isSliderEditPlus=true, spacer 0 policy 0}}");
-}
-
-void TestSliderEditFrameDouble::silence()
-{
-    SliderEditFrameDouble &frame = *m_row->frame;
-    SliderEditCases::compareSilence<SliderEditFrameDouble, QDoubleSpinBox>(*m_row, [&frame] {
-        frame.setValue(0.96);
-        frame.setMaximum(0.88);
-        frame.setRange(0, 0.77);
-        frame.setDecimals(1);
-        frame.setMinimum(0.9);
-        frame.setDecimals(2);
-    });
-    QCOMPARE(m_row->shown(), QString("0.90 90"));
-}
-
-void TestSliderEditFrameDouble::sequence_data()
-{
-    SliderEditCases::addSequences();
-    using SliderEditCases::addRow;
-    // No message goes to Qt's log.
-    const auto typed = [](const QString &text, const QString &report, const QString &shown) {
-        const QString focus = text.endsWith('\n') ? "editor" : "other";
-        addRow("type " + text.simplified(),
-               "type " + text + report + " | focused: " + focus + " | shown: " + shown);
-    };
-    typed("1/4\n", ": 25", "=25");
-    typed("1/4\t", ": 25", "=25");
-    typed("1/4=", "", "0.25/10"); // the focus stays, so does the value
-    typed("1/4=\t", ": 25", "=25");
-    typed("0.259\n", ": 25", "=25");
-    typed("0.1\n", "", "=10");
-    typed("9\n", ": 100", "=100");
-    typed("1/0\n", "", "=10");
-    addRow("the spin box follows in release mode", "released | hold 20 40 | shown: =40 | drop: 40");
-    addRow("plus at the maximum", "step 10 | value 90 | plus: 100 | value 95 | plus | shown: =95");
-    addRow("minus onto the minimum", "step 10 | minus: 0 | shown: =0");
-    // 0.2 + 0.1 comes out just above 0.3, 0.3 - 0.1 just below 0.2.
-    addRow("plus within the tolerance", "step 10 | range 0 30 | value 20 | plus: 30 | shown: =30");
-    addRow("minus without tolerance", "step 10 | range 20 99 | value 30 | minus | shown: =30");
-}
-
-void TestSliderEditFrameDouble::sequence()
-{
-    QFETCH(QString, steps);
-    SliderEditCases::play(*m_row, steps);
 }
 
 void TestSliderEditFrameDouble::scale_data()
@@ -219,7 +146,7 @@ void TestSliderEditFrameDouble::locale()
         QLocale::setDefault(QLocale::c());
         QCOMPARE(m_row->shown(), QString("0.10 10"));
         m_row->type("1/4\n");
-        QCOMPARE(m_row->log.take(), reports({0.25}));
+        QCOMPARE(m_row->log.take(), QStringList(m_row->report(25)));
     }
 }
 
@@ -282,6 +209,7 @@ void TestSliderEditFrameDouble::calculator()
 
 void TestSliderEditFrameDouble::precision()
 {
+    const auto [precision, magnification] = privateOperations();
     struct
     {
         float number;
@@ -290,9 +218,8 @@ void TestSliderEditFrameDouble::precision()
     } const cases[] = {
         {0.25F, 2, 100}, {-7.125F, 3, 1000}, {3.0F, 1, 10}, {0.1F, 1, 10}, {1e-11F, 0, 1000000000}};
     for (const auto &expected : cases) {
-        QCOMPARE((m_row->frame->*operation(Precision()))(expected.number), expected.precision);
-        QCOMPARE((m_row->frame->*operation(Magnification()))(expected.number),
-                 expected.magnification);
+        QCOMPARE((m_row->frame->*precision)(expected.number), expected.precision);
+        QCOMPARE((m_row->frame->*magnification)(expected.number), expected.magnification);
     }
 }
 

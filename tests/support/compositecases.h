@@ -14,40 +14,18 @@ using Rows = QMap<int, Row>;
 
 inline Rows rowsOf(const QWidget &editor)
 {
-    const QVector<QPair<int, const char *>> names {
-        {2, "frameR"}, {4, "frameG"}, {8, "frameB"},     {16, "frameAll"},   {16, "frameOpacity"},
-        {2, "frameX"}, {4, "frameY"}, {8, "frameWidth"}, {16, "frameHeight"}};
+    const QVector<QStringList> names {{"frameR", "frameX"},
+                                      {"frameG", "frameY"},
+                                      {"frameB", "frameWidth"},
+                                      {"frameAll", "frameOpacity", "frameHeight"}};
     Rows rows;
-    for (const auto &name : names) {
-        if (editor.findChild<QWidget *>(QLatin1String(name.second)))
-            rows.insert(name.first, rowOf(editor, name.second));
+    for (int i = 0; i < names.size(); ++i) {
+        for (const QString &name : names[i]) {
+            if (editor.findChild<QWidget *>(name))
+                rows.insert(2 << i, rowOf(editor, name));
+        }
     }
     return rows;
-}
-
-// What the row does while its handle is away from the value, held by the user.
-inline QString drag(const Row &row)
-{
-    bool isReported = false;
-    const int before = row.frame->value();
-    const auto connection =
-        QObject::connect(row.frame, &Vantor::Widgets::SliderEditFrame::valueChanged, row.frame,
-                         [&isReported] { isReported = true; });
-    User::grabHandle(row.slider);
-    User::moveHandle(row.slider, row.slider->maximum());
-    const QString report = QLatin1String(row.frame->value() == before ? "kept" : "followed")
-        + QLatin1String(isReported ? ",reported" : ",silent");
-    QObject::disconnect(connection);
-    User::dropHandle(row.slider);
-    return report;
-}
-
-inline QString wheel(const Row &row)
-{
-    row.frame->setValue(20);
-    User::click(row.spinBox);
-    User::turnWheel(row.spinBox);
-    return QLatin1String(row.frame->value() == 20 ? "stays" : "turns");
 }
 
 // A row as host and user find it. Drag and wheel are slow to try out.
@@ -59,7 +37,7 @@ inline Settings settingsOf(const Row &row, bool withGestures)
         return limits(widget->minimumWidth(), widget->maximumWidth());
     };
     const auto right = [&row](const char *layout) {
-        return row.frame->findChild<QLayout *>(QLatin1String(layout))->contentsMargins().right();
+        return row.frame->findChild<QLayout *>(layout)->contentsMargins().right();
     };
     const auto both = [](const auto &first, const auto &second) {
         return QStringLiteral("%1,%2").arg(first).arg(second);
@@ -81,8 +59,17 @@ inline Settings settingsOf(const Row &row, bool withGestures)
     User::click(row.plus);
     settings["plus"] = QString::number(row.frame->value());
     if (withGestures) {
-        settings["drag"] = drag(row);
-        settings["wheel"] = wheel(row);
+        // While the user holds the handle away from the value.
+        row.frame->setValue(20);
+        User::grabHandle(row.slider);
+        User::moveHandle(row.slider, row.slider->maximum());
+        settings["drag"] = row.frame->value() == 20 ? "kept" : "followed";
+        settings["sampling"] = QString::number(samplingInterval(row.frame));
+        User::dropHandle(row.slider);
+        row.frame->setValue(20);
+        User::click(row.spinBox);
+        User::turnWheel(row.spinBox);
+        settings["wheel"] = row.frame->value() == 20 ? "stays" : "turns";
     }
     row.frame->setValue(value);
     return settings;
@@ -124,25 +111,17 @@ template <typename Frame> QVector<Operation<Frame>> operations()
          [](F &f, T t) { f.setRange(t, 0, 110); }, "range=0..110"},
         {"setSingleStep", set + "single step", [](F &f, T t) { f.setSingleStep(t, 3); }, "plus=23"},
         {"setPageStep", set + "page step", [](F &f, T t) { f.setPageStep(t, 7); }, "pageStep=7"},
-        {"setHorizontalSpacing",
-         {},
-         [](F &f, T) { f.setHorizontalSpacing(17, 23); },
+        {"setHorizontalSpacing", "", [](F &f, T) { f.setHorizontalSpacing(17, 23); },
          "spacings=17,23"},
-        {"setSpinBoxWheelEnable",
-         {},
-         [](F &f, T) { f.setSpinBoxWheelEnable(true); },
+        {"setSpinBoxWheelEnable", "", [](F &f, T) { f.setSpinBoxWheelEnable(true); },
          "wheel=turns"},
-        {"setAutoRepeat", {}, [](F &f, T) { f.setAutoRepeat(true); }, "repeat=1,1"},
-        {"setAutoRepeatDelay", {}, [](F &f, T) { f.setAutoRepeatDelay(321); }, "delay=321,321"},
-        {"setAutoRepeatInterval",
-         {},
-         [](F &f, T) { f.setAutoRepeatInterval(45); },
+        {"setAutoRepeat", "", [](F &f, T) { f.setAutoRepeat(true); }, "repeat=1,1"},
+        {"setAutoRepeatDelay", "", [](F &f, T) { f.setAutoRepeatDelay(321); }, "delay=321,321"},
+        {"setAutoRepeatInterval", "", [](F &f, T) { f.setAutoRepeatInterval(45); },
          "interval=45,45"},
-        {"setReleaseMode", {}, [](F &f, T) { f.setReleaseMode(true); }, "drag=kept,silent"},
-        {"setTimeSamplingRate",
-         {},
-         [](F &f, T) { f.setTimeSamplingRate(60000); },
-         "drag=followed,silent repeat=1,1"},
+        {"setReleaseMode", "", [](F &f, T) { f.setReleaseMode(true); }, "drag=kept"},
+        {"setTimeSamplingRate", "", [](F &f, T) { f.setTimeSamplingRate(60000); },
+         "sampling=60000 repeat=1,1"},
     };
 }
 
@@ -166,9 +145,8 @@ void checkOperation(const Operation<Frame> &operation, const QString &reporter)
         operation.call(frame, static_cast<typename Frame::Type>(flag));
         QStringList warnings;
         if (!isForAll && !rows.contains(flag)) {
-            warnings.append(QStringLiteral("warning: %1 has failed. The type  %2  is invalid.")
-                                .arg(operation.warning)
-                                .arg(flag));
+            warnings.append("warning: " + operation.warning + " has failed. The type  "
+                            + QString::number(flag) + "  is invalid.");
             QVERIFY2(log.lastFunction().contains(reporter + "::" + operation.name + '('),
                      qPrintable(log.lastFunction()));
         }
@@ -233,8 +211,6 @@ template <typename Frame> void checkMousePressed()
     QVERIFY(!frame.isMousePressed());
 }
 
-using Check = std::function<void()>;
-
 // Fills the data of a test that runs the column "check". The class whose
 // warnings it shows may be another one's.
 template <typename Frame>
@@ -251,5 +227,3 @@ void addChecks(const char *reporter, const QVector<Operation<Frame>> &furtherOpe
 }
 
 } // namespace CompositeCases
-
-Q_DECLARE_METATYPE(CompositeCases::Check)

@@ -1,11 +1,48 @@
 #pragma once
 
 #include "eventlog.h"
-#include "row.h"
+#include "slidereditframe.h"
+#include "slidereditframedouble.h"
+#include "userevents.h"
 
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QSpinBox>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
-#include <type_traits>
+#include <functional>
+
+// A slider editor and what a user finds in it.
+template <typename Frame> struct EditorParts
+{
+    EditorParts() = default;
+    explicit EditorParts(Frame *editor)
+        : frame(editor), label(editor->template findChild<QLabel *>("labelName")),
+          slider(editor->template findChild<QSlider *>("slider")),
+          spinBox(editor->template findChild<QAbstractSpinBox *>()),
+          field(spinBox->template findChild<QLineEdit *>()),
+          minus(editor->template findChild<QToolButton *>("sliderEditSubtract")),
+          plus(editor->template findChild<QToolButton *>("sliderEditPlus"))
+    {
+    }
+
+    // Types over what the field shows.
+    void type(const QString &text) const
+    {
+        User::click(spinBox);
+        QCoreApplication::processEvents(); // the field selects its text a moment later
+        User::type(text);
+    }
+
+    Frame *frame = nullptr;
+    QLabel *label = nullptr;
+    QSlider *slider = nullptr;
+    QAbstractSpinBox *spinBox = nullptr;
+    QLineEdit *field = nullptr;
+    QToolButton *minus = nullptr;
+    QToolButton *plus = nullptr;
+};
 
 // The page around the widget under test. What reaches it is in the log.
 class Page : public QWidget
@@ -27,75 +64,68 @@ private:
 };
 
 // How a drag is reported.
-enum Mode { Continuous, Released, Sampled, SampledReleased };
+enum Mode { Continuous, Released, Sampled };
+
+// The interval of sampling is long: tests let the ticks come themselves.
+template <typename Editor> void setMode(Editor *editor, Mode mode)
+{
+    if (mode == Sampled)
+        editor->setTimeSamplingRate(60000);
+    else if (mode == Released)
+        editor->setReleaseMode(true);
+}
 
 // A slider editor on a page, its children and the log of its signal. The slider
 // goes from 0 to 100 and stands at 10; a step is one position.
 template <typename Frame> struct EditorRow : EditorParts<Frame>
 {
     using Value = decltype(std::declval<Frame>().value());
-    static constexpr bool isInt = std::is_integral_v<Value>;
+    static constexpr bool isInt = std::is_same_v<Value, int>;
     static constexpr Value unit = static_cast<Value>(isInt ? 1 : 0.01);
 
     EventLog log;
     Page page {log};
-    using EditorParts<Frame>::frame;
-    using EditorParts<Frame>::slider;
-    using EditorParts<Frame>::spinBox;
 
     EditorRow()
     {
-        EditorParts<Frame>::operator=(EditorParts<Frame>(new Frame(&page)));
-        page.layout()->addWidget(frame);
-        log.watch(frame, &Frame::valueChanged, "valueChanged");
-        frame->setSingleStep(unit);
-        frame->setRange(0, 100 * unit);
-        frame->setValue(10 * unit);
+        Frame *const editor = new Frame(&page);
+        EditorParts<Frame>::operator=(EditorParts<Frame>(editor));
+        page.layout()->addWidget(editor);
+        log.watch(editor, &Frame::valueChanged, "valueChanged");
+        editor->setSingleStep(unit);
+        editor->setRange(0, 100 * unit);
+        editor->setValue(10 * unit);
     }
 
-    void hold(std::initializer_list<int> positions)
+    QString report(int position) const
     {
-        User::grabHandle(slider);
-        for (const int position : positions)
-            User::moveHandle(slider, position);
-    }
-    // Marks the release in the log.
-    void drop()
-    {
-        log.add("drop");
-        User::dropHandle(slider);
-    }
-    void drag(std::initializer_list<int> positions)
-    {
-        hold(positions);
-        drop();
-    }
-    void click(QWidget *widget, int times = 1)
-    {
-        for (int i = 0; i < times; ++i)
-            User::click(widget);
-    }
-    // The interval of sampling is long: tests let the ticks come themselves.
-    void setMode(Mode mode)
-    {
-        if (mode == Sampled || mode == SampledReleased)
-            frame->setTimeSamplingRate(60000);
-        if (mode == Released || mode == SampledReleased)
-            frame->setReleaseMode(true);
-    }
-    void tick()
-    {
-        log.add("tick");
-        ::tick(frame);
+        return QStringLiteral("valueChanged(%1)").arg(position * unit);
     }
     // The spin box's text and the slider's value.
-    QString shown() const { return spinBox->text() + ' ' + QString::number(slider->value()); }
+    QString shown() const
+    {
+        return this->spinBox->text() + ' ' + QString::number(this->slider->value());
+    }
 };
 
-template <typename Value> QStringList reports(std::initializer_list<Value> values)
+// A test whose rows bring their own code.
+using Check = std::function<void()>;
+Q_DECLARE_METATYPE(Check)
+
+template <typename Frame> Check checkOf(const std::function<void(EditorRow<Frame> &)> &check)
 {
-    QStringList entries;
-    for (const Value value : values)
-        entries.append(QStringLiteral("valueChanged(%1)").arg(value));
-    return entries;
+    return [check] {
+        EditorRow<Frame> row;
+        QVERIFY(User::show(row.page));
+        row.log.take();
+        check(row);
+    };
+}
+
+// Adds the check, which takes either, for the integer and the floating-point editor.
+template <typename BothCheck> void addForBoth(const QString &name, const BothCheck &check)
+{
+    using namespace Vantor::Widgets;
+    QTest::newRow(qPrintable("int, " + name)) << checkOf<SliderEditFrame>(check);
+    QTest::newRow(qPrintable("double, " + name)) << checkOf<SliderEditFrameDouble>(check);
 }

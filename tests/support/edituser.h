@@ -1,23 +1,28 @@
 #pragma once
 
-#include "eventlog.h"
+#include "editorrow.h"
 #include "recteditframe.h"
-#include "row.h"
-#include "slidereditframe.h"
-
-#include <functional>
 
 // A row of a composite editor.
 using Row = EditorParts<Vantor::Widgets::SliderEditFrame>;
 
-inline Row rowOf(const QWidget &editor, const char *name)
+inline Row rowOf(const QWidget &editor, const QString &name)
 {
-    return Row(editor.findChild<Vantor::Widgets::SliderEditFrame *>(QLatin1String(name)));
+    return Row(editor.findChild<Vantor::Widgets::SliderEditFrame *>(name));
 }
 
 inline QString limits(int min, int max)
 {
     return QStringLiteral("%1..%2").arg(min).arg(max);
+}
+
+// The messages of an entry that ends with Enter, around the signals that it
+// causes: the key, the loss of the focus, the spin box's own end of editing.
+inline QStringList entered(const QStringList &causedSignals)
+{
+    const QString finished = "debug: SpinBox editing finished";
+    return QStringList {finished, finished} + causedSignals
+        + QStringList {finished, "debug: SpinBox lose focus."};
 }
 
 // A composite editor with its user and the program around it, who work by the
@@ -43,16 +48,14 @@ public:
     {
         QVERIFY(User::show(m_editor));
         log.take(); // the platform's own messages
-        for (const QString &step : steps.split(QStringLiteral(" | "))) {
-            const QString action = step.section(QStringLiteral(": "), 0, 0);
+        for (const QString &step : steps.split(" | ")) {
+            const QString action = step.section(": ", 0, 0);
             perform(action, program);
-            QStringList expected {step.section(QStringLiteral(": "), 1)};
-            if (action.contains(QLatin1Char('=')))
+            QStringList expected {step.section(": ", 1)};
+            if (action.contains('='))
                 expected = entered(expected);
-            const QString actual =
-                log.take().join(QLatin1Char(' ')).replace(QLatin1String(", "), QLatin1String(","));
-            QVERIFY2(actual == expected.join(QLatin1Char(' ')),
-                     qPrintable(step + QLatin1String(" but was ") + actual));
+            const QString actual = log.take().join(' ').replace(", ", ",");
+            QVERIFY2(actual == expected.join(' '), qPrintable(step + " but was " + actual));
         }
     }
 
@@ -66,26 +69,20 @@ private:
     void perform(const QString &action, const Program &program)
     {
         const int row = index(action.left(1));
-        if (action.contains(QLatin1Char('=')))
-            rows[row].type(action.mid(2) + QLatin1Char('\n'));
-        else if (action.endsWith(QLatin1Char('+')))
-            User::click(rows[row].plus);
-        else if (action.endsWith(QLatin1Char('-')))
-            User::click(rows[row].minus);
-        else if (action == QLatin1String("fields"))
-            show([](const Row &row) { return row.spinBox->text(); });
-        else if (action == QLatin1String("ranges"))
-            show([](const Row &row) { return limits(row.frame->minimum(), row.frame->maximum()); });
-        else
-            program(action.split(QLatin1Char(' ')));
-    }
-
-    template <typename Read> void show(Read read)
-    {
-        QStringList values;
-        for (const Row &row : rows)
-            values.append(read(row));
-        log.add(values.join(QLatin1Char(' ')));
+        if (action.contains('=')) {
+            rows[row].type(action.mid(2) + '\n');
+        } else if (action.endsWith('+') || action.endsWith('-')) {
+            User::click(action.endsWith('+') ? rows[row].plus : rows[row].minus);
+        } else if (action == "fields" || action == "ranges") {
+            QStringList texts;
+            for (const Row &each : rows)
+                texts.append(action == "fields"
+                                 ? each.spinBox->text()
+                                 : limits(each.frame->minimum(), each.frame->maximum()));
+            log.add(texts.join(' '));
+        } else {
+            program(action.split(' '));
+        }
     }
 
     QWidget &m_editor;
@@ -100,21 +97,22 @@ private:
 class RectUser : public EditUser
 {
 public:
-    explicit RectUser(Vantor::Widgets::RectEditFrame &frame)
-        : EditUser(frame, QStringLiteral("xywh"),
+    using Frame = Vantor::Widgets::RectEditFrame;
+
+    explicit RectUser(Frame &frame)
+        : EditUser(frame, "xywh",
                    {rowOf(frame, "frameX"), rowOf(frame, "frameY"), rowOf(frame, "frameWidth"),
                     rowOf(frame, "frameHeight")}),
-          positionLock(frame.findChild<QToolButton *>(QStringLiteral("toolButtonLockPosition"))),
-          sizeLock(frame.findChild<QToolButton *>(QStringLiteral("toolButtonLockSize"))),
-          m_frame(frame)
+          positionLock(frame.findChild<QToolButton *>("toolButtonLockPosition")),
+          sizeLock(frame.findChild<QToolButton *>("toolButtonLockSize")), m_frame(frame)
     {
         log.watch(&frame, &Frame::valueChanged, QString());
-        log.watch(&frame, &Frame::xValueChanged, QStringLiteral("x"));
-        log.watch(&frame, &Frame::yValueChanged, QStringLiteral("y"));
-        log.watch(&frame, &Frame::widthValueChanged, QStringLiteral("w"));
-        log.watch(&frame, &Frame::heightValueChanged, QStringLiteral("h"));
-        log.watch(&frame, &Frame::sizeLockChanged, QStringLiteral("sizeLock"));
-        log.watch(&frame, &Frame::PositionLockChanged, QStringLiteral("positionLock"));
+        log.watch(&frame, &Frame::xValueChanged, "x");
+        log.watch(&frame, &Frame::yValueChanged, "y");
+        log.watch(&frame, &Frame::widthValueChanged, "w");
+        log.watch(&frame, &Frame::heightValueChanged, "h");
+        log.watch(&frame, &Frame::sizeLockChanged, "sizeLock");
+        log.watch(&frame, &Frame::PositionLockChanged, "positionLock");
         frame.setPositionLockEnable(true);
         frame.setSizeLockEnable(true, Frame::SizeScaleLock);
     }
@@ -124,31 +122,29 @@ public:
     {
         EditUser::check(steps, [&](const Words &words) {
             const auto number = [&words](int i) { return words[i].toInt(); };
-            if (words[0] == QLatin1String("lock"))
-                User::click(words[1] == QLatin1String("size") ? sizeLock : positionLock);
-            else if (words[0] == QLatin1String("offset"))
-                m_frame.setSizeLockEnable(true, Frame::OffsetLock);
-            else if (words[0] == QLatin1String("scale"))
-                m_frame.setSizeLockEnable(true, Frame::SizeScaleLock);
-            else if (words[0] == QLatin1String("size"))
-                m_frame.setSizeLock(words[2] == QLatin1String("on"));
-            else if (words[0] == QLatin1String("ratio"))
+            if (words[0] == "lock")
+                User::click(words[1] == "size" ? sizeLock : positionLock);
+            else if (words[0] == "offset" || words[0] == "scale")
+                m_frame.setSizeLockEnable(
+                    true, words[0] == "scale" ? Frame::SizeScaleLock : Frame::OffsetLock);
+            else if (words[0] == "size")
+                m_frame.setSizeLock(words[2] == "on");
+            else if (words[0] == "ratio")
                 m_frame.setSizeLock(words[1].toDouble());
-            else if (words[0] == QLatin1String("range"))
+            else if (words[0] == "range")
                 m_frame.setRange(flag(index(words[1])), number(2), number(3));
-            else if (words[0] == QLatin1String("set"))
+            else if (words[0] == "set")
                 m_frame.setValue(number(1), number(2), number(3), number(4));
             else
                 program(words);
         });
     }
 
-    static Vantor::Widgets::RectEditFrame::Type flag(int row) { return Frame::Type(2 << row); }
+    static Frame::Type flag(int row) { return Frame::Type(2 << row); }
 
     QToolButton *const positionLock;
     QToolButton *const sizeLock;
 
 private:
-    using Frame = Vantor::Widgets::RectEditFrame;
     Frame &m_frame;
 };
