@@ -2,8 +2,6 @@
 #include "qlineeditcal.h"
 #include "userevents.h"
 
-#include <memory>
-
 using Vantor::Widgets::LineEditCal;
 
 class TestLineEditCal : public QObject
@@ -11,54 +9,30 @@ class TestLineEditCal : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void editing_data();
     void editing();
     void results();
     void decimalsOfEditedResult();
     void order();
     void editingFinished();
-
-private:
-    void play(const QString &script);
-
-    std::unique_ptr<EventLog> m_log;
-    std::unique_ptr<LineEditCal> m_field;
 };
 
+namespace {
+
 // A failing evaluation shows 8.
-void TestLineEditCal::init()
+struct Field : LineEditCal
 {
-    m_log = std::make_unique<EventLog>();
-    m_field = std::make_unique<LineEditCal>();
-    m_field->setInitialResult(8);
-    m_log->watch(m_field.get(), &LineEditCal::signalsResult, "result");
-    QVERIFY(User::show(*m_field));
-    QCOMPARE(m_field->property("noSpaceingLineEdit"), QVariant(true));
-}
-
-void TestLineEditCal::cleanup()
-{
-    m_field.reset();
-    m_log.reset();
-}
-
-// Types the script; "<" steps back, what stands in "[]" is pasted.
-void TestLineEditCal::play(const QString &script)
-{
-    for (int i = 0; i < script.size(); ++i) {
-        if (script.at(i) == '<') {
-            User::press(Qt::Key_Left);
-        } else if (script.at(i) == '[') {
-            const int end = script.indexOf(']', i);
-            User::paste(script.mid(i + 1, end - i - 1));
-            i = end;
-        } else {
-            User::type(script.mid(i, 1));
-        }
+    Field()
+    {
+        setInitialResult(8);
+        log.watch(this, &LineEditCal::signalsResult, "result");
+        User::show(*this);
     }
-}
+
+    EventLog log;
+};
+
+} // namespace
 
 void TestLineEditCal::editing_data()
 {
@@ -107,29 +81,43 @@ void TestLineEditCal::editing_data()
     row("[while(true){}=]", "8", 1, 1);
 }
 
+// Types the script; "<" steps back, what stands in "[]" is pasted.
 void TestLineEditCal::editing()
 {
     QFETCH(QString, script);
-    play(script);
-    QTEST(m_field->text(), "text");
-    QTEST(m_field->cursorPosition(), "cursor");
-    QTEST(int(m_log->take().size()), "results");
+    Field field;
+    for (int i = 0; i < script.size(); ++i) {
+        if (script.at(i) == '<') {
+            User::press(Qt::Key_Left);
+        } else if (script.at(i) == '[') {
+            const int end = script.indexOf(']', i);
+            User::paste(script.mid(i + 1, end - i - 1));
+            i = end;
+        } else {
+            User::type(script.mid(i, 1));
+        }
+    }
+    QTEST(field.text(), "text");
+    QTEST(field.cursorPosition(), "cursor");
+    QTEST(int(field.log.take().size()), "results");
 }
 
 void TestLineEditCal::results()
 {
-    const auto check = [this](const char *typed, int decimals, float minimum, float maximum,
-                              float before, const char *text) {
-        m_field->clear();
-        m_field->setResultsRadixPointSeveral(decimals);
-        m_field->setLineEditMinOrMax(minimum, maximum);
-        m_field->setInitialResult(before);
+    const auto check = [](const char *typed, int decimals, float minimum, float maximum,
+                          float before, const char *text) {
+        Field field;
+        QCOMPARE(field.property("noSpaceingLineEdit"), QVariant(true));
+        field.setResultsRadixPointSeveral(decimals);
+        field.setLineEditMinOrMax(minimum, maximum);
+        field.setInitialResult(before);
         User::type(typed);
-        QCOMPARE(m_field->text(), QString(text));
+        QCOMPARE(field.text(), QString(text));
     };
     check("12*3=", 2, -100, 100, 8, "36.00");
     check("2/3=", 2, -100, 100, 8, "0.67");
     check("0.1+0.2=", 2, -100, 100, 8, "0.30");
+    check("100.5=", 2, -100, 100, 8, "100.00");
     check("16777217=", 0, -1e9F, 1e9F, 8, "16777216");
     check("=", 0, 3, 9, 8, "3");
     check("=", 1, -9, -3, 8, "-3.0");
@@ -142,38 +130,40 @@ void TestLineEditCal::results()
 // result does not replace.
 void TestLineEditCal::decimalsOfEditedResult()
 {
-    m_field->setResultsRadixPointSeveral(2);
+    Field field;
+    field.setResultsRadixPointSeveral(2);
     User::type("1.25+2=");
-    QCOMPARE(m_field->text(), QString("3.25"));
+    QCOMPARE(field.text(), QString("3.25"));
     User::type("9");
-    QCOMPARE(m_field->text(), QString("1.25"));
-    m_field->clear();
-    m_field->setInputRadixPointSeveral(1);
+    QCOMPARE(field.text(), QString("1.25"));
+    field.clear();
+    field.setInputRadixPointSeveral(1);
     User::type("4.56");
-    QCOMPARE(m_field->text(), QString("4.5"));
+    QCOMPARE(field.text(), QString("4.5"));
 }
 
 // Writes of the filtering pass are silent, the write of a result is not.
 void TestLineEditCal::order()
 {
-    m_log->watch(m_field.get(), &QLineEdit::textChanged, "text");
+    Field field;
+    field.log.watch(&field, &QLineEdit::textChanged, "text");
     User::type("07*2=");
-    QCOMPARE(m_log->take(),
-             QStringList({"text(0)", "text(07)", "text(7*)", "text(7*2)", "text(14)", "result()",
-                          "text(7*2=)"}));
+    QCOMPARE(field.log.take().join(' '),
+             QString("text(0) text(07) text(7*) text(7*2) text(14) result() text(7*2=)"));
 }
 
 void TestLineEditCal::editingFinished()
 {
-    m_field->setResultsRadixPointSeveral(2);
-    m_field->setInitialResult(2.5F);
+    Field field;
+    field.setResultsRadixPointSeveral(2);
+    field.setInitialResult(2.5F);
     User::type("2.5");
-    m_field->setSlotEditingFinished(); // the last result as it is: left alone
-    QCOMPARE(m_field->text(), QString("2.5"));
+    field.setSlotEditingFinished(); // the last result as it is: left alone
+    QCOMPARE(field.text(), QString("2.5"));
     User::type("*3");
-    m_field->setSlotEditingFinished();
-    QCOMPARE(m_field->text(), QString("7.50"));
-    QCOMPARE(m_log->take(), QStringList());
+    field.setSlotEditingFinished();
+    QCOMPARE(field.text(), QString("7.50"));
+    QCOMPARE(field.log.take(), QStringList());
 }
 
 int main(int argc, char *argv[])

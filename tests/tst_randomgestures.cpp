@@ -300,15 +300,9 @@ template <typename Frame> void playRect()
 {
     Frame frame;
     RectUser user(frame);
-    auto kind = RectModel::Plain;
-    if constexpr (std::is_same<Frame, CropEditFrame>::value) {
-        user.log.watch(&frame, &Frame::cropValueChanged, QStringLiteral("crop"));
-        kind = RectModel::Crop;
-    } else if constexpr (std::is_same<Frame, MaskEditFrame>::value) {
-        user.log.watch(&frame, &Frame::maskValueChanged, QStringLiteral("mask"));
-        kind = RectModel::Mask;
-    }
-    RectModel model(kind);
+    RectModel model(std::is_same<Frame, CropEditFrame>::value       ? RectModel::Crop
+                        : std::is_same<Frame, MaskEditFrame>::value ? RectModel::Mask
+                                                                    : RectModel::Plain);
     RectSession<Frame>(frame, user, model).run();
 }
 

@@ -5,8 +5,6 @@
 #include <QtCore/QRegularExpression>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QSlider>
-#include <QtWidgets/QStyleOptionSlider>
 #include <QtWidgets/QToolButton>
 
 #include <cmath>
@@ -108,14 +106,7 @@ void TestStyles::largeFont()
     for (const QToolButton *button : buttons)
         QCOMPARE(button->size().expandedTo(finger), button->size());
     for (QSlider *slider : editor.findChildren<QSlider *>()) {
-        QStyleOptionSlider option;
-        option.initFrom(slider);
-        option.orientation = Qt::Horizontal;
-        option.state |= QStyle::State_Horizontal;
-        option.minimum = slider->minimum();
-        option.maximum = slider->maximum();
-        const QRect handle = slider->style()->subControlRect(QStyle::CC_Slider, &option,
-                                                             QStyle::SC_SliderHandle, slider);
+        const QRect handle = User::handleRect(slider, slider->value());
         QCOMPARE(handle.size().expandedTo(finger), handle.size());
     }
     for (const QLabel *label : editor.findChildren<QLabel *>("labelName"))

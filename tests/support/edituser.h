@@ -1,6 +1,8 @@
 #pragma once
 
+#include "cropeditframe.h"
 #include "editorrow.h"
+#include "maskeditframe.h"
 #include "recteditframe.h"
 
 // A row of a composite editor.
@@ -89,11 +91,13 @@ private:
     const QString m_letters;
 };
 
-// The rows are x, y, w and h. The words of any rectangle editor:
+// The rows are x, y, w and h, or the margins of a mask. The program's words:
 //   "lock position", "lock size"   the user clicks a lock button
-//   "offset", "scale"              the program chooses the kind of the size lock,
-//   "size lock on" (or off), "ratio 1.5"  switches it, sets its proportion
+//   "offset", "scale"              the kind of the size lock
+//   "size lock on" (or off), "ratio 1.5"  switches the size lock, sets its proportion
 //   "range w 0 500", "set 0 0 10 20"  sets a field's range, the whole rectangle
+//   "area", "leastPosition", "leastSize", "crop", "rect"  those of the crop editor
+//   "area", "mask"                 those of the mask editor
 class RectUser : public EditUser
 {
 public:
@@ -104,7 +108,9 @@ public:
                    {rowOf(frame, "frameX"), rowOf(frame, "frameY"), rowOf(frame, "frameWidth"),
                     rowOf(frame, "frameHeight")}),
           positionLock(frame.findChild<QToolButton *>("toolButtonLockPosition")),
-          sizeLock(frame.findChild<QToolButton *>("toolButtonLockSize")), m_frame(frame)
+          sizeLock(frame.findChild<QToolButton *>("toolButtonLockSize")), m_frame(frame),
+          m_crop(qobject_cast<Vantor::Widgets::CropEditFrame *>(&frame)),
+          m_mask(qobject_cast<Vantor::Widgets::MaskEditFrame *>(&frame))
     {
         log.watch(&frame, &Frame::valueChanged, QString());
         log.watch(&frame, &Frame::xValueChanged, "x");
@@ -113,31 +119,17 @@ public:
         log.watch(&frame, &Frame::heightValueChanged, "h");
         log.watch(&frame, &Frame::sizeLockChanged, "sizeLock");
         log.watch(&frame, &Frame::PositionLockChanged, "positionLock");
+        if (m_crop)
+            log.watch(m_crop, &Vantor::Widgets::CropEditFrame::cropValueChanged, "crop");
+        if (m_mask)
+            log.watch(m_mask, &Vantor::Widgets::MaskEditFrame::maskValueChanged, "mask");
         frame.setPositionLockEnable(true);
         frame.setSizeLockEnable(true, Frame::SizeScaleLock);
     }
 
-    // The program knows the words of the class under test.
-    void check(const QString &steps, const Program &program = {})
+    void check(const QString &steps)
     {
-        EditUser::check(steps, [&](const Words &words) {
-            const auto number = [&words](int i) { return words[i].toInt(); };
-            if (words[0] == "lock")
-                User::click(words[1] == "size" ? sizeLock : positionLock);
-            else if (words[0] == "offset" || words[0] == "scale")
-                m_frame.setSizeLockEnable(
-                    true, words[0] == "scale" ? Frame::SizeScaleLock : Frame::OffsetLock);
-            else if (words[0] == "size")
-                m_frame.setSizeLock(words[2] == "on");
-            else if (words[0] == "ratio")
-                m_frame.setSizeLock(words[1].toDouble());
-            else if (words[0] == "range")
-                m_frame.setRange(flag(index(words[1])), number(2), number(3));
-            else if (words[0] == "set")
-                m_frame.setValue(number(1), number(2), number(3), number(4));
-            else
-                program(words);
-        });
+        EditUser::check(steps, [this](const Words &words) { program(words); });
     }
 
     static Frame::Type flag(int row) { return Frame::Type(2 << row); }
@@ -146,5 +138,42 @@ public:
     QToolButton *const sizeLock;
 
 private:
+    void program(const Words &words)
+    {
+        const QString &verb = words[0];
+        const auto n = [&words](int i) { return words[i].toInt(); };
+        if (verb == "lock")
+            User::click(words[1] == "size" ? sizeLock : positionLock);
+        else if (verb == "offset" || verb == "scale")
+            m_frame.setSizeLockEnable(true,
+                                      verb == "scale" ? Frame::SizeScaleLock : Frame::OffsetLock);
+        else if (verb == "size")
+            m_frame.setSizeLock(words[2] == "on");
+        else if (verb == "ratio")
+            m_frame.setSizeLock(words[1].toDouble());
+        else if (verb == "range")
+            m_frame.setRange(flag(index(words[1])), n(2), n(3));
+        else if (verb == "set")
+            m_frame.setValue(n(1), n(2), n(3), n(4));
+        else if (verb == "area" && m_mask)
+            m_mask->setMaskRange(n(1), n(2));
+        else if (verb == "area" && words.size() == 3)
+            m_crop->setCropRange(n(1), n(2));
+        else if (verb == "area")
+            m_crop->setCropRange(n(1), n(2), n(3), n(4), n(5), n(6));
+        else if (verb == "leastPosition")
+            m_crop->setCropMinPos(n(1), n(2));
+        else if (verb == "leastSize")
+            m_crop->setCropMinSize(n(1), n(2));
+        else if (verb == "crop")
+            m_crop->setCropValue(n(1), n(2), n(3), n(4));
+        else if (verb == "rect")
+            m_crop->setCropValue(QRect(n(1), n(2), n(3), n(4)));
+        else if (verb == "mask")
+            m_mask->setMaskValue(n(1), n(2), n(3), n(4));
+    }
+
     Frame &m_frame;
+    Vantor::Widgets::CropEditFrame *const m_crop;
+    Vantor::Widgets::MaskEditFrame *const m_mask;
 };

@@ -82,34 +82,29 @@ void User::turnWheel(QWidget *widget)
     qApp->notify(windowOf(widget), &event); // sendEvent() would unset it
 }
 
-QPoint User::handleCenter(const QSlider *slider, int position)
+QRect User::handleRect(const QSlider *slider, int position)
 {
+    struct Access : QSlider
+    {
+        using QSlider::initStyleOption;
+    };
     QStyleOptionSlider option;
-    option.initFrom(slider);
-    option.subControls = QStyle::SC_All;
-    option.orientation = slider->orientation();
-    if (slider->orientation() == Qt::Horizontal)
-        option.state |= QStyle::State_Horizontal;
-    option.minimum = slider->minimum();
-    option.maximum = slider->maximum();
+    (slider->*&Access::initStyleOption)(&option);
     option.sliderPosition = position;
-    option.sliderValue = position;
-    option.tickPosition = slider->tickPosition();
-    return slider->style()
-        ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
-        .center();
+    return slider->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle,
+                                           slider);
 }
 
 void User::grabHandle(QSlider *slider)
 {
-    s_handlePos = inWindow(slider, handleCenter(slider, slider->sliderPosition()));
+    s_handlePos = inWindow(slider, handleRect(slider, slider->sliderPosition()).center());
     QTest::mouseMove(windowOf(slider), s_handlePos);
     QTest::mousePress(windowOf(slider), Qt::LeftButton, Qt::NoModifier, s_handlePos);
 }
 
 void User::moveHandle(QSlider *slider, int position)
 {
-    s_handlePos = inWindow(slider, handleCenter(slider, position));
+    s_handlePos = inWindow(slider, handleRect(slider, position).center());
     QTest::mouseMove(windowOf(slider), s_handlePos);
 }
 
@@ -120,7 +115,7 @@ void User::dropHandle(QSlider *slider)
 
 void User::clickGroove(QSlider *slider, bool behind)
 {
-    const QPoint handle = handleCenter(slider, slider->sliderPosition());
+    const QPoint handle = handleRect(slider, slider->sliderPosition()).center();
     const int edge = behind ? slider->width() - 2 : 1;
     QTest::mouseClick(windowOf(slider), Qt::LeftButton, Qt::NoModifier,
                       inWindow(slider, QPoint(edge, handle.y())));

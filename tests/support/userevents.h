@@ -20,8 +20,8 @@ void click(QWidget *widget);
 // One notch away from the user, with the pointer over the middle of the widget.
 void turnWheel(QWidget *widget);
 
-// Where the middle of the handle is when the slider stands at the position.
-QPoint handleCenter(const QSlider *slider, int position);
+// Where the handle is when the slider stands at the position.
+QRect handleRect(const QSlider *slider, int position);
 void grabHandle(QSlider *slider);
 void moveHandle(QSlider *slider, int position);
 void dropHandle(QSlider *slider);
