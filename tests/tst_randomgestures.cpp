@@ -30,7 +30,7 @@ int setting(const char *name, int otherwise)
     return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
 }
 
-// One editor, its user and its model.
+// One editor, its user and its model, which the session of its kind owns.
 class Session
 {
 public:
@@ -38,8 +38,13 @@ public:
         : m_editor(editor), m_user(user), m_model(model),
           m_random(static_cast<unsigned>(setting("VANTORSLIDER_SEED", 1)))
     {
+    }
+    virtual ~Session() = default;
+
+    void run()
+    {
         // What Qt's slider makes of the mouse is the model's input.
-        for (const Row &row : user.rows) {
+        for (const Row &row : m_user.rows) {
             const auto follow = [this, &row](auto signal, auto slot) {
                 QObject::connect(row.slider, signal, row.frame, [this, slot](auto... val) {
                     m_inputs.append([=](RowModel &model) { (model.*slot)(val...); });
@@ -50,11 +55,6 @@ public:
             follow(&QSlider::sliderReleased, &RowModel::sliderReleased);
             follow(&QSlider::valueChanged, &RowModel::sliderChanged);
         }
-    }
-    virtual ~Session() = default;
-
-    void run()
-    {
         QVERIFY(User::show(m_editor));
         m_user.log.take();
         for (int i = 0; i < setting("VANTORSLIDER_GESTURES", 2500); ++i) {
@@ -157,13 +157,13 @@ private:
 template <typename Frame> class RgbSession : public Session
 {
 public:
-    RgbSession(Frame &frame, EditUser &user, EditorModel &model)
-        : Session(frame, user, model), m_frame(frame), m_user(user), m_model(model)
+    RgbSession() : Session(m_frame, m_user, m_model)
     {
-        user.log.watch(&frame, &Frame::valueChanged, QString());
-        for (int i = 0; i < user.rows.size(); ++i) {
-            model.rows[i].setRange(user.rows[i].frame->minimum(), user.rows[i].frame->maximum());
-            model.rows[i].set(user.rows[i].frame->value());
+        m_user.log.watch(&m_frame, &Frame::valueChanged, QString());
+        for (int i = 0; i < m_user.rows.size(); ++i) {
+            auto *const row = m_user.rows[i].frame;
+            m_model.rows[i].setRange(row->minimum(), row->maximum());
+            m_model.rows[i].set(row->value());
         }
     }
 
@@ -187,24 +187,19 @@ protected:
     }
 
 private:
-    Frame &m_frame;
-    EditUser &m_user;
-    EditorModel &m_model;
+    Frame m_frame;
+    EditUser m_user {CompositeCases::rowsOf(m_frame).values().toVector()};
+    EditorModel m_model {m_user.rows.size()};
 };
 
 template <typename Frame> class RectSession : public Session
 {
 public:
-    RectSession(Frame &frame, RectUser &user, RectModel &model)
-        : Session(frame, user, model), m_frame(frame), m_user(user), m_model(model)
-    {
-        newArea();
-    }
+    RectSession() : Session(m_frame, m_user, m_model) { newArea(); }
 
 protected:
     QString program() override
     {
-        RectEditFrame &frame = m_frame;
         switch (random(0, 6)) {
         case 0:
             User::click(m_user.positionLock);
@@ -217,18 +212,18 @@ protected:
             return "size lock";
         case 3: {
             const bool isOn = random(0, 1);
-            frame.setSizeLock(isOn);
+            m_frame.setSizeLock(isOn);
             m_model.setSizeLock(isOn);
             return "size lock by the program";
         }
         case 4:
             m_model.isOffset = random(0, 3) == 0;
-            frame.setSizeLockEnable(
+            m_frame.setSizeLockEnable(
                 true, m_model.isOffset ? RectEditFrame::OffsetLock : RectEditFrame::SizeScaleLock);
             return "kind of the size lock";
         case 5: {
             const double ratio = random(1, 4000) / 1000.0;
-            frame.setSizeLock(ratio);
+            m_frame.setSizeLock(ratio);
             m_model.setRatio(ratio);
             return "ratio";
         }
@@ -283,27 +278,14 @@ private:
         m_frame.setAutoRepeat(false);
     }
 
-    Frame &m_frame;
-    RectUser &m_user;
-    RectModel &m_model;
+    Frame m_frame;
+    RectUser m_user {m_frame};
+    RectModel m_model {IsCrop ? RectModel::Crop : IsMask ? RectModel::Mask : RectModel::Plain};
 };
 
-template <typename Frame> void playRgb()
+template <typename Session> void add(const char *name)
 {
-    Frame frame;
-    EditUser user(frame, {}, CompositeCases::rowsOf(frame).values().toVector());
-    EditorModel model(user.rows.size());
-    RgbSession<Frame>(frame, user, model).run();
-}
-
-template <typename Frame> void playRect()
-{
-    Frame frame;
-    RectUser user(frame);
-    RectModel model(std::is_same<Frame, CropEditFrame>::value       ? RectModel::Crop
-                        : std::is_same<Frame, MaskEditFrame>::value ? RectModel::Mask
-                                                                    : RectModel::Plain);
-    RectSession<Frame>(frame, user, model).run();
+    QTest::newRow(name) << Check([] { Session().run(); });
 }
 
 } // namespace
@@ -312,13 +294,13 @@ void tst_RandomGestures::followsTheModel_data()
 {
     qInfo("seed %d", setting("VANTORSLIDER_SEED", 1));
     QTest::addColumn<Check>("check");
-    QTest::newRow("RGBEditFrame") << Check(playRgb<RGBEditFrame>);
-    QTest::newRow("RGBAllEditFrame") << Check(playRgb<RGBAllEditFrame>);
-    QTest::newRow("RGBOpacityEditFrame") << Check(playRgb<RGBOpacityEditFrame>);
-    QTest::newRow("RectEditFrame") << Check(playRect<RectEditFrame>);
-    QTest::newRow("LayoutEditFrame") << Check(playRect<LayoutEditFrame>);
-    QTest::newRow("CropEditFrame") << Check(playRect<CropEditFrame>);
-    QTest::newRow("MaskEditFrame") << Check(playRect<MaskEditFrame>);
+    add<RgbSession<RGBEditFrame>>("RGBEditFrame");
+    add<RgbSession<RGBAllEditFrame>>("RGBAllEditFrame");
+    add<RgbSession<RGBOpacityEditFrame>>("RGBOpacityEditFrame");
+    add<RectSession<RectEditFrame>>("RectEditFrame");
+    add<RectSession<LayoutEditFrame>>("LayoutEditFrame");
+    add<RectSession<CropEditFrame>>("CropEditFrame");
+    add<RectSession<MaskEditFrame>>("MaskEditFrame");
 }
 
 void tst_RandomGestures::followsTheModel()

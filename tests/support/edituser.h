@@ -27,85 +27,37 @@ inline QStringList entered(const QStringList &causedSignals)
         + QStringList {finished, "debug: SpinBox lose focus."};
 }
 
-// A composite editor with its user and the program around it, who work by the
-// steps of a table, "w=3: w(3) (0,0,3,0) | w-: w(2) (0,0,2,0)": what is done and,
-// behind the colon, the signals that it causes, in order; the one without a name
-// is the editor's valueChanged(). A row goes by its letter.
-//   "w=12*3"              the user types into the field and presses Enter
-//   "x+", "y-"            clicks a step button
-//   "fields", "ranges"    logs what the fields hold
-// All other words are the program's.
+// The user of a composite editor and the log of its signals.
 class EditUser
 {
 public:
-    using Words = QStringList;
-    using Program = std::function<void(const Words &)>;
-
-    EditUser(QWidget &editor, const QString &letters, const QVector<Row> &rowsInOrder)
-        : rows(rowsInOrder), m_editor(editor), m_letters(letters)
-    {
-    }
-
-    void check(const QString &steps, const Program &program)
-    {
-        QVERIFY(User::show(m_editor));
-        log.take(); // the platform's own messages
-        for (const QString &step : steps.split(" | ")) {
-            const QString action = step.section(": ", 0, 0);
-            perform(action, program);
-            QStringList expected {step.section(": ", 1)};
-            if (action.contains('='))
-                expected = entered(expected);
-            const QString actual = log.take().join(' ').replace(", ", ",");
-            QVERIFY2(actual == expected.join(' '), qPrintable(step + " but was " + actual));
-        }
-    }
+    explicit EditUser(const QVector<Row> &rowsInOrder) : rows(rowsInOrder) { }
 
     EventLog log;
     const QVector<Row> rows;
-
-protected:
-    int index(const QString &letter) const { return m_letters.indexOf(letter); }
-
-private:
-    void perform(const QString &action, const Program &program)
-    {
-        const int row = index(action.left(1));
-        if (action.contains('=')) {
-            rows[row].type(action.mid(2) + '\n');
-        } else if (action.endsWith('+') || action.endsWith('-')) {
-            User::click(action.endsWith('+') ? rows[row].plus : rows[row].minus);
-        } else if (action == "fields" || action == "ranges") {
-            QStringList texts;
-            for (const Row &each : rows)
-                texts.append(action == "fields"
-                                 ? each.spinBox->text()
-                                 : limits(each.frame->minimum(), each.frame->maximum()));
-            log.add(texts.join(' '));
-        } else {
-            program(action.split(' '));
-        }
-    }
-
-    QWidget &m_editor;
-    const QString m_letters;
 };
 
-// The rows are x, y, w and h, or the margins of a mask. The program's words:
-//   "lock position", "lock size"   the user clicks a lock button
-//   "offset", "scale"              the kind of the size lock
-//   "size lock on" (or off), "ratio 1.5"  switches the size lock, sets its proportion
+// A rectangle editor with its user and the program around it, who work by the
+// steps of a table, "w=3: w(3) (0,0,3,0) | w-: w(2) (0,0,2,0)": what is done and,
+// behind the colon, the signals that it causes, in order; the one without a name
+// is the editor's valueChanged(). The rows are x, y, w and h, or the margins of a
+// mask.
+//   "w=12*3"              the user types into the field and presses Enter
+//   "x+", "y-"            clicks a step button
+//   "lock position", "lock size"  clicks a lock button
+//   "fields", "ranges"    logs what the fields hold
+//   "offset", "scale"     the program chooses the kind of the size lock,
+//   "size lock on" (or off), "ratio 1.5"  switches it, sets its proportion
 //   "range w 0 500", "set 0 0 10 20"  sets a field's range, the whole rectangle
 //   "area", "leastPosition", "leastSize", "crop", "rect"  those of the crop editor
-//   "area", "mask"                 those of the mask editor
+//   "area", "mask"        those of the mask editor
 class RectUser : public EditUser
 {
 public:
     using Frame = Vantor::Widgets::RectEditFrame;
 
     explicit RectUser(Frame &frame)
-        : EditUser(frame, "xywh",
-                   {rowOf(frame, "frameX"), rowOf(frame, "frameY"), rowOf(frame, "frameWidth"),
+        : EditUser({rowOf(frame, "frameX"), rowOf(frame, "frameY"), rowOf(frame, "frameWidth"),
                     rowOf(frame, "frameHeight")}),
           positionLock(frame.findChild<QToolButton *>("toolButtonLockPosition")),
           sizeLock(frame.findChild<QToolButton *>("toolButtonLockSize")), m_frame(frame),
@@ -129,7 +81,17 @@ public:
 
     void check(const QString &steps)
     {
-        EditUser::check(steps, [this](const Words &words) { program(words); });
+        QVERIFY(User::show(m_frame));
+        log.take(); // the platform's own messages
+        for (const QString &step : steps.split(" | ")) {
+            const QString action = step.section(": ", 0, 0);
+            perform(action, action.split(' '));
+            QStringList expected {step.section(": ", 1)};
+            if (action.contains('='))
+                expected = entered(expected);
+            const QString actual = log.take().join(' ').replace(", ", ",");
+            QVERIFY2(actual == expected.join(' '), qPrintable(step + " but was " + actual));
+        }
     }
 
     static Frame::Type flag(int row) { return Frame::Type(2 << row); }
@@ -138,11 +100,23 @@ public:
     QToolButton *const sizeLock;
 
 private:
-    void program(const Words &words)
+    static int rowIndex(const QString &action) { return QString("xywh").indexOf(action[0]); }
+
+    void perform(const QString &action, const QStringList &words)
     {
         const QString &verb = words[0];
         const auto n = [&words](int i) { return words[i].toInt(); };
-        if (verb == "lock")
+        if (action.contains('='))
+            rows[rowIndex(action)].type(action.mid(2) + '\n');
+        else if (action.endsWith('+'))
+            User::click(rows[rowIndex(action)].plus);
+        else if (action.endsWith('-'))
+            User::click(rows[rowIndex(action)].minus);
+        else if (verb == "fields")
+            show([](const Row &row) { return row.spinBox->text(); });
+        else if (verb == "ranges")
+            show([](const Row &row) { return limits(row.frame->minimum(), row.frame->maximum()); });
+        else if (verb == "lock")
             User::click(words[1] == "size" ? sizeLock : positionLock);
         else if (verb == "offset" || verb == "scale")
             m_frame.setSizeLockEnable(true,
@@ -152,7 +126,7 @@ private:
         else if (verb == "ratio")
             m_frame.setSizeLock(words[1].toDouble());
         else if (verb == "range")
-            m_frame.setRange(flag(index(words[1])), n(2), n(3));
+            m_frame.setRange(flag(rowIndex(words[1])), n(2), n(3));
         else if (verb == "set")
             m_frame.setValue(n(1), n(2), n(3), n(4));
         else if (verb == "area" && m_mask)
@@ -171,6 +145,14 @@ private:
             m_crop->setCropValue(QRect(n(1), n(2), n(3), n(4)));
         else if (verb == "mask")
             m_mask->setMaskValue(n(1), n(2), n(3), n(4));
+    }
+
+    template <typename Text> void show(Text text)
+    {
+        QStringList texts;
+        for (const Row &row : rows)
+            texts.append(text(row));
+        log.add(texts.join(' '));
     }
 
     Frame &m_frame;
