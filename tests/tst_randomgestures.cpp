@@ -1,6 +1,6 @@
-#include "compositecases.h"
 #include "cropeditframe.h"
 #include "editormodel.h"
+#include "edituser.h"
 #include "layouteditframe.h"
 #include "maskeditframe.h"
 #include "rgballeditframe.h"
@@ -188,7 +188,7 @@ protected:
 
 private:
     Frame m_frame;
-    EditUser m_user {CompositeCases::rowsOf(m_frame).values().toVector()};
+    EditUser m_user {rowsOf(m_frame).values().toVector()};
     EditorModel m_model {m_user.rows.size()};
 };
 

@@ -1,4 +1,4 @@
-#include "compositecases.h"
+#include "edituser.h"
 #include "layouteditframe.h"
 
 using namespace Vantor::Widgets;
@@ -13,11 +13,8 @@ private Q_SLOTS:
     void cleanup();
 
     void lockButtons();
-    void rows_data();
-    void rows();
     void readsOneField();
     void panelsHideWithTheirFields();
-    void spacing();
     void wholeRectangle();
     void readsMargins();
     void layoutIsARectangle();
@@ -40,13 +37,13 @@ private:
     }
 
     RectEditFrame *m_frame = nullptr;
-    CompositeCases::Rows m_rows;
+    Rows m_rows;
 };
 
 void tst_RectEditFrames::init()
 {
     m_frame = new RectEditFrame;
-    m_rows = CompositeCases::rowsOf(*m_frame);
+    m_rows = rowsOf(*m_frame);
 }
 
 void tst_RectEditFrames::cleanup()
@@ -87,25 +84,6 @@ void tst_RectEditFrames::lockButtons()
         QCOMPARE(row.frame->width(), before);
 }
 
-void tst_RectEditFrames::rows_data()
-{
-    using namespace CompositeCases;
-    QTest::addColumn<Check>("check");
-    const auto hold = [](RectEditFrame &frame, RectEditFrame::Type type) {
-        frame.setValueChangeDirection(type, SliderEditFrame::AllowedToSmaller, 20);
-    };
-    addChecks<RectEditFrame>(
-        "RectEditFrame",
-        {{"setValueChangeDirection", "Set Rect value change direction", hold, "plus=20"}});
-    QTest::newRow("isMousePressed") << Check(checkMousePressed<RectEditFrame>);
-}
-
-void tst_RectEditFrames::rows()
-{
-    QFETCH(Check, check);
-    check();
-}
-
 void tst_RectEditFrames::readsOneField()
 {
     EventLog log;
@@ -131,31 +109,13 @@ void tst_RectEditFrames::readsOneField()
 
 void tst_RectEditFrames::panelsHideWithTheirFields()
 {
-    const auto *position = m_frame->findChild<QFrame *>(QStringLiteral("framePosition"));
-    const auto *size = m_frame->findChild<QFrame *>(QStringLiteral("frameSize"));
+    const auto *position = m_frame->findChild<QFrame *>("framePosition");
+    const auto *size = m_frame->findChild<QFrame *>("frameSize");
     for (const int types : {10, 24, 6, 20, 0, 30}) {
         m_frame->setEditerVisible(types);
         QCOMPARE(position->isHidden(), (types & RectEditFrame::Position) == 0);
         QCOMPARE(size->isHidden(), (types & RectEditFrame::Size) == 0);
     }
-}
-
-void tst_RectEditFrames::spacing()
-{
-    const auto spacings = [this] {
-        QList<int> values {m_frame->layout()->spacing()};
-        for (const char *panel : {"framePosition", "frameSize"})
-            values.append(m_frame->findChild<QFrame *>(QLatin1String(panel))->layout()->spacing());
-        for (const char *column : {"verticalLayoutFramePosition", "verticalLayoutFrameSize"})
-            values.append(m_frame->findChild<QLayout *>(QLatin1String(column))->spacing());
-        return values;
-    };
-    QCOMPARE(spacings(), QList<int>({0, 0, 0, 0, 0}));
-    m_frame->setVerticalSpacing(8);
-    QCOMPARE(spacings(), QList<int>({8, 8, 8, 0, 0}));
-    m_frame->setHorizontalSpacing(3, 5);
-    QCOMPARE(spacings(), QList<int>({8, 5, 5, 0, 0}));
-    QCOMPARE(CompositeCases::lastSpacer(*m_frame), QStringLiteral("20x14 Minimum Expanding"));
 }
 
 void tst_RectEditFrames::wholeRectangle()
@@ -181,7 +141,7 @@ void tst_RectEditFrames::readsMargins()
     QCOMPARE(QList<int>({mask.top(), mask.bottom(), mask.left(), mask.right()}),
              QList<int>({10, 20, 30, 40}));
     for (const char *lock : {"toolButtonLockPosition", "toolButtonLockSize"})
-        QVERIFY(frame.findChild<QWidget *>(QLatin1String(lock))->isHidden());
+        QVERIFY(frame.findChild<QWidget *>(lock)->isHidden());
 }
 
 // It declares nothing of its own.

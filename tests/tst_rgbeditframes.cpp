@@ -1,4 +1,4 @@
-#include "compositecases.h"
+#include "edituser.h"
 #include "rgballeditframe.h"
 #include "rgbeditframe.h"
 #include "rgbopacityeditframe.h"
@@ -15,10 +15,7 @@ class tst_RGBEditFrames : public QObject
 private Q_SLOTS:
     void form();
     void values();
-    void rows_data();
-    void rows();
     void blockKeepsItsRows();
-    void spacing();
     void labelMaxLength();
 };
 
@@ -30,7 +27,7 @@ void tst_RGBEditFrames::form()
         QStringList names {editor.objectName()};
         for (int i = 0; i < editor.layout()->count() - 1; ++i)
             names.append(editor.layout()->itemAt(i)->widget()->objectName());
-        for (const Row &row : CompositeCases::rowsOf(editor))
+        for (const Row &row : rowsOf(editor))
             for (const QByteArray &name : row.slider->dynamicPropertyNames())
                 names.append(name + '=' + row.slider->property(name).toString());
         names.append(editor.property("isSliderFrame").toString());
@@ -63,7 +60,7 @@ template <typename Frame> QString valuesOf(Frame &frame)
 QString rangesOf(const QWidget &frame)
 {
     QStringList ranges;
-    for (const Row &row : CompositeCases::rowsOf(frame))
+    for (const Row &row : rowsOf(frame))
         ranges.append(limits(row.frame->minimum(), row.frame->maximum()));
     return ranges.join(' ');
 }
@@ -92,57 +89,17 @@ void tst_RGBEditFrames::values()
     QCOMPARE(valuesOf(opacity), QString("255 50 50 100"));
 }
 
-void tst_RGBEditFrames::rows_data()
-{
-    QTest::addColumn<Check>("check");
-    CompositeCases::addChecks<RGBEditFrame>("RGBEditFrame");
-    CompositeCases::addChecks<RGBAllEditFrame>("RGBEditFrame");
-    CompositeCases::addChecks<RGBOpacityEditFrame>("RGBEditFrame");
-    QTest::newRow("isMousePressed") << Check(CompositeCases::checkMousePressed<RGBEditFrame>);
-}
-
-void tst_RGBEditFrames::rows()
-{
-    QFETCH(Check, check);
-    check();
-}
-
 // A block that is hidden as a whole leaves its rows as they are.
 void tst_RGBEditFrames::blockKeepsItsRows()
 {
     const auto check = [](auto &&frame) {
         frame.setEditerVisible(10);
         frame.setEditerVisible(16);
-        const auto rows = CompositeCases::rowsOf(frame);
+        const auto rows = rowsOf(frame);
         QVERIFY(!rows[2].frame->isHidden() && rows[4].frame->isHidden());
     };
     check(RGBAllEditFrame());
     check(RGBOpacityEditFrame());
-}
-
-void tst_RGBEditFrames::spacing()
-{
-    using CompositeCases::lastSpacer;
-    const auto block = [](QWidget &frame) { return frame.findChild<RGBEditFrame *>(); };
-    RGBEditFrame rgb;
-    RGBAllEditFrame all;
-    RGBOpacityEditFrame opacity;
-    QCOMPARE(lastSpacer(rgb), QStringLiteral("20x20 Minimum Expanding"));
-    QCOMPARE(lastSpacer(all), QStringLiteral("20x20 Minimum Preferred"));
-    QCOMPARE(lastSpacer(*block(all)), QStringLiteral("20x20 Minimum Expanding"));
-    QCOMPARE(lastSpacer(opacity), QStringLiteral("20x277 Minimum Expanding"));
-    QCOMPARE(lastSpacer(*block(opacity)), QStringLiteral("20x0 Expanding Ignored"));
-    opacity.setLastVerticalSpacerExpanding(true);
-    QCOMPARE(lastSpacer(*block(opacity)), QStringLiteral("20x0 Expanding Ignored"));
-
-    rgb.setVerticalSpacing(9);
-    QCOMPARE(rgb.layout()->spacing(), 9);
-    all.setVerticalSpacing(6);
-    QCOMPARE(all.layout()->spacing(), 6);
-    QCOMPARE(block(all)->layout()->spacing(), 0);
-    opacity.setVerticalSpacing(4);
-    QCOMPARE(opacity.layout()->spacing(), 4);
-    QCOMPARE(block(opacity)->layout()->spacing(), 4);
 }
 
 // Only the red row's font measures, and the master's own.
@@ -151,7 +108,7 @@ void tst_RGBEditFrames::labelMaxLength()
     using Frame = RGBAllEditFrame;
     Frame frame;
     auto *const block = frame.findChild<RGBEditFrame *>();
-    const auto rows = CompositeCases::rowsOf(frame);
+    const auto rows = rowsOf(frame);
     QCOMPARE(frame.labelMaxLength(), 0);
     rows[Frame::R].frame->setFont(QFont(frame.font().family(), 20));
     rows[Frame::B].frame->setFont(QFont(frame.font().family(), 40));

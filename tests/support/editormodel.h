@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QStringList>
+#include <QtCore/QVariant>
 #include <QtCore/QVector>
 
 #include <array>

@@ -13,6 +13,25 @@ inline Row rowOf(const QWidget &editor, const QString &name)
     return Row(editor.findChild<Vantor::Widgets::SliderEditFrame *>(name));
 }
 
+// Rows by their type flags.
+using Rows = QMap<int, Row>;
+
+inline Rows rowsOf(const QWidget &editor)
+{
+    const QVector<QStringList> names {{"frameR", "frameX"},
+                                      {"frameG", "frameY"},
+                                      {"frameB", "frameWidth"},
+                                      {"frameAll", "frameOpacity", "frameHeight"}};
+    Rows rows;
+    for (int i = 0; i < names.size(); ++i) {
+        for (const QString &name : names[i]) {
+            if (editor.findChild<QWidget *>(name))
+                rows.insert(2 << i, rowOf(editor, name));
+        }
+    }
+    return rows;
+}
+
 inline QString limits(int min, int max)
 {
     return QStringLiteral("%1..%2").arg(min).arg(max);

@@ -1,37 +1,32 @@
-#pragma once
-
 #include "edituser.h"
+#include "rgballeditframe.h"
+#include "rgbeditframe.h"
+#include "rgbopacityeditframe.h"
 
 #include <QtCore/QMetaEnum>
 #include <QtWidgets/QLayout>
 
+using namespace Vantor::Widgets;
+
 // What every composite editor does alike with its rows: the operations that a
-// type flag sends to one row, those that reach all rows, and visibility.
-namespace CompositeCases {
-
-// Rows by their type flags.
-using Rows = QMap<int, Row>;
-
-inline Rows rowsOf(const QWidget &editor)
+// type flag sends to one row, those that reach all rows, visibility and spacing.
+class tst_CompositeEditors : public QObject
 {
-    const QVector<QStringList> names {{"frameR", "frameX"},
-                                      {"frameG", "frameY"},
-                                      {"frameB", "frameWidth"},
-                                      {"frameAll", "frameOpacity", "frameHeight"}};
-    Rows rows;
-    for (int i = 0; i < names.size(); ++i) {
-        for (const QString &name : names[i]) {
-            if (editor.findChild<QWidget *>(name))
-                rows.insert(2 << i, rowOf(editor, name));
-        }
-    }
-    return rows;
-}
+    Q_OBJECT
+
+private Q_SLOTS:
+    void rows_data();
+    void rows();
+    void spacing();
+    void spacingOfPanels();
+};
+
+namespace {
 
 // A row as host and user find it. Drag and wheel are slow to try out.
 using Settings = QMap<QString, QString>;
 
-inline Settings settingsOf(const Row &row, bool withGestures)
+Settings settingsOf(const Row &row, bool withGestures)
 {
     const auto widths = [](const QWidget *widget) {
         return limits(widget->minimumWidth(), widget->maximumWidth());
@@ -89,7 +84,7 @@ template <typename Frame> QVector<Operation<Frame>> operations()
 {
     using F = Frame;
     using T = typename Frame::Type;
-    const bool isRect = std::is_base_of<Vantor::Widgets::RectEditFrame, Frame>::value;
+    const bool isRect = std::is_base_of<RectEditFrame, Frame>::value;
     const QString set = isRect ? "Set Rect " : "Set RGB ";
     return {
         {"setLabelText", isRect ? "Set Rect label text" : "Set RGBAll label text",
@@ -176,7 +171,7 @@ template <typename Frame> void checkVisibility()
 }
 
 // The spacer at the end of the editor's layout.
-inline QString lastSpacer(const QWidget &editor)
+QString lastSpacer(const QWidget &editor)
 {
     const QLayout *layout = editor.layout();
     const QSpacerItem *spacer = layout->itemAt(layout->count() - 1)->spacerItem();
@@ -211,8 +206,7 @@ template <typename Frame> void checkMousePressed()
     QVERIFY(!frame.isMousePressed());
 }
 
-// Fills the data of a test that runs the column "check". The class whose
-// warnings it shows may be another one's.
+// The class whose warnings it shows may be another one's.
 template <typename Frame>
 void addChecks(const char *reporter, const QVector<Operation<Frame>> &furtherOperations = {})
 {
@@ -226,4 +220,76 @@ void addChecks(const char *reporter, const QVector<Operation<Frame>> &furtherOpe
         << Check(checkLastSpacer<Frame>);
 }
 
-} // namespace CompositeCases
+} // namespace
+
+void tst_CompositeEditors::rows_data()
+{
+    QTest::addColumn<Check>("check");
+    addChecks<RGBEditFrame>("RGBEditFrame");
+    addChecks<RGBAllEditFrame>("RGBEditFrame");
+    addChecks<RGBOpacityEditFrame>("RGBEditFrame");
+    const auto hold = [](RectEditFrame &frame, RectEditFrame::Type type) {
+        frame.setValueChangeDirection(type, SliderEditFrame::AllowedToSmaller, 20);
+    };
+    addChecks<RectEditFrame>(
+        "RectEditFrame",
+        {{"setValueChangeDirection", "Set Rect value change direction", hold, "plus=20"}});
+    QTest::newRow("RGBEditFrame::isMousePressed") << Check(checkMousePressed<RGBEditFrame>);
+    QTest::newRow("RectEditFrame::isMousePressed") << Check(checkMousePressed<RectEditFrame>);
+}
+
+void tst_CompositeEditors::rows()
+{
+    QFETCH(Check, check);
+    check();
+}
+
+void tst_CompositeEditors::spacing()
+{
+    const auto block = [](QWidget &frame) { return frame.findChild<RGBEditFrame *>(); };
+    RGBEditFrame rgb;
+    RGBAllEditFrame all;
+    RGBOpacityEditFrame opacity;
+    QCOMPARE(lastSpacer(rgb), QString("20x20 Minimum Expanding"));
+    QCOMPARE(lastSpacer(all), QString("20x20 Minimum Preferred"));
+    QCOMPARE(lastSpacer(*block(all)), QString("20x20 Minimum Expanding"));
+    QCOMPARE(lastSpacer(opacity), QString("20x277 Minimum Expanding"));
+    QCOMPARE(lastSpacer(*block(opacity)), QString("20x0 Expanding Ignored"));
+    opacity.setLastVerticalSpacerExpanding(true);
+    QCOMPARE(lastSpacer(*block(opacity)), QString("20x0 Expanding Ignored"));
+
+    rgb.setVerticalSpacing(9);
+    QCOMPARE(rgb.layout()->spacing(), 9);
+    all.setVerticalSpacing(6);
+    QCOMPARE(all.layout()->spacing(), 6);
+    QCOMPARE(block(all)->layout()->spacing(), 0);
+    opacity.setVerticalSpacing(4);
+    QCOMPARE(opacity.layout()->spacing(), 4);
+    QCOMPARE(block(opacity)->layout()->spacing(), 4);
+}
+
+void tst_CompositeEditors::spacingOfPanels()
+{
+    RectEditFrame frame;
+    const auto spacings = [&frame] {
+        QList<int> values {frame.layout()->spacing()};
+        for (const char *panel : {"framePosition", "frameSize"})
+            values.append(frame.findChild<QFrame *>(panel)->layout()->spacing());
+        for (const char *column : {"verticalLayoutFramePosition", "verticalLayoutFrameSize"})
+            values.append(frame.findChild<QLayout *>(column)->spacing());
+        return values;
+    };
+    QCOMPARE(spacings(), QList<int>({0, 0, 0, 0, 0}));
+    frame.setVerticalSpacing(8);
+    QCOMPARE(spacings(), QList<int>({8, 8, 8, 0, 0}));
+    frame.setHorizontalSpacing(3, 5);
+    QCOMPARE(spacings(), QList<int>({8, 5, 5, 0, 0}));
+    QCOMPARE(lastSpacer(frame), QString("20x14 Minimum Expanding"));
+}
+
+int main(int argc, char *argv[])
+{
+    return runTest<tst_CompositeEditors>(argc, argv);
+}
+
+#include "tst_compositeeditors.moc"
