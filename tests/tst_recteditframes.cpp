@@ -54,9 +54,10 @@ void tst_RectEditFrames::cleanup()
 // The lock buttons take the places that are kept for them.
 void tst_RectEditFrames::lockButtons()
 {
-    const auto places = [this](const QStringList &names) {
+    const auto places = [this] {
         QStringList texts;
-        for (const QString &name : names) {
+        for (const char *name : {"toolButtonLockPosition", "toolButtonLockSize",
+                                 "frameSpacerLockPosition", "frameSpacerLockSize"}) {
             const auto *place = m_frame->findChild<QWidget *>(name);
             texts.append(place->isHidden() ? "hidden" : limits(place->width(), place->height()));
             for (const QByteArray &property : place->dynamicPropertyNames())
@@ -64,22 +65,17 @@ void tst_RectEditFrames::lockButtons()
         }
         return texts.join(' ');
     };
-    const QStringList buttons {"toolButtonLockPosition", "toolButtonLockSize"};
-    const QStringList spacers {"frameSpacerLockPosition", "frameSpacerLockSize"};
+    const QString texts("%1 lockoutstate=true isLockPositionFrame=true %1 lockoutstate=true "
+                        "%2 isLockPositionFrame=true %2");
     QCOMPARE(m_frame->objectName(), QString("RectEditFrame"));
     QCOMPARE(m_frame->property("isSliderFrame"), QVariant(true));
     QVERIFY(User::show(*m_frame));
     const int before = m_rows[RectEditFrame::X].frame->width();
-    const QString buttonTexts =
-        "%1 lockoutstate=true isLockPositionFrame=true %1 lockoutstate=true";
-    const QString spacerTexts = "%1 isLockPositionFrame=true %1";
-    QCOMPARE(places(buttons), buttonTexts.arg("hidden"));
-    QCOMPARE(places(spacers), spacerTexts.arg("38..60"));
+    QCOMPARE(places(), texts.arg("hidden", "38..60"));
     m_frame->setPositionLockEnable(true);
     m_frame->setSizeLockEnable(true, RectEditFrame::SizeScaleLock);
     QCoreApplication::processEvents();
-    QCOMPARE(places(buttons), buttonTexts.arg("38..60"));
-    QCOMPARE(places(spacers), spacerTexts.arg("hidden"));
+    QCOMPARE(places(), texts.arg("38..60", "hidden"));
     for (const Row &row : m_rows)
         QCOMPARE(row.frame->width(), before);
 }

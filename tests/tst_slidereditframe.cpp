@@ -369,6 +369,7 @@ void TestSliderEditFrame::sequences_data()
     addBoth("a child's echo",
             "value 200 | range 0 300 | step 100 | focus | up | shown: "
             "=200/100 | down: 100 | shown: =100");
+    addBoth("a host's value replaces an entry", "type 5 | value 10 | shown: =10");
     addBoth("wheel, disabled", "focus | wheel: page page");
     addBoth("wheel", "wheel: page page | wheelEnabled | wheel: page page | focus | wheel: page 11");
 

@@ -57,10 +57,11 @@ public:
             return;
         const QString now = m_field.text();
         const QChar last = text.back();
+        static const QRegularExpression leadingZero("(^|[-+*/(),=])0[^-+*/(),=.]");
         if (!isTyped(last))
             require(!now.contains(last), "a refused character is nowhere in the text", now);
         else
-            requireNumbers(now);
+            require(!leadingZero.match(now).hasMatch(), "no number begins with a zero", now);
     }
 
     void finish()
@@ -97,26 +98,12 @@ private:
         const double ms = 1000.0 * double(std::clock() - start) / CLOCKS_PER_SEC;
         QObject::disconnect(connection);
         const QString text = m_field.text();
-        require(ms < budgetMs(), "an edit takes no longer than its budget", text);
+        // The budget of an evaluation, and what the instruments may add.
+        const int slowness = qMax(1, qEnvironmentVariableIntValue("VANTORSLIDER_SLOWNESS"));
+        require(ms < 400.0 * slowness, "an edit takes no longer than its budget", text);
         require(m_field.cursorPosition() <= text.length(), "the cursor is in the text", text);
         if (m_isEvaluated)
             requireResult();
-    }
-
-    // The budget of an evaluation, and what the instruments may add.
-    static double budgetMs()
-    {
-        static const double ms = qEnvironmentVariableIsSet("VANTORSLIDER_SLOWNESS")
-            ? 400.0 * qEnvironmentVariableIntValue("VANTORSLIDER_SLOWNESS")
-            : 400.0;
-        return ms;
-    }
-
-    // Where a number has its leading zeros dropped, which every filtering does.
-    void requireNumbers(const QString &text) const
-    {
-        static const QRegularExpression leadingZero(QStringLiteral("(^|[-+*/(),=])0[^-+*/(),=.]"));
-        require(!leadingZero.match(text).hasMatch(), "no number begins with a zero", text);
     }
 
     void requireResult()
