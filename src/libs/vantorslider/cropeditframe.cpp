@@ -100,7 +100,7 @@ int CropEditFramePrivate::heldInArea(Type changed, int val, Type partner, int pa
 void CropEditFramePrivate::report(const Crop &crop)
 {
     static_cast<RectEditFrame *>(m_pEditer)->setValue(crop.x, crop.y, crop.w, crop.h);
-    const QRect rect = saturatedRect(crop.x, crop.y, crop.w, crop.h);
+    const QRect rect = wrappedRect(crop.x, crop.y, crop.w, crop.h);
     if (rect != m_lastCrop) {
         m_lastCrop = rect;
         Q_EMIT m_pEditer->cropValueChanged(crop.x, crop.y, crop.w, crop.h);
@@ -141,10 +141,11 @@ void CropEditFramePrivate::slotHeightValueChanged(int val)
     \class CropEditFrame
     \brief A rectangle editor that keeps a crop within an area.
 
-    Position plus size never leave the area while neither the position nor the
-    offset lock is on. Hosts take the crop from cropValueChanged(); the base's
-    valueChanged() follows it and carries the changed field as the user set it,
-    before it was held in the area.
+    A field that the user changes stops where its position plus size would leave
+    the area. What the host sets is not held, nor what the position or the offset
+    lock moves along, until the user changes a field of that pair. Hosts take the
+    crop from cropValueChanged(); the base's valueChanged() follows it and carries
+    the changed field as the user set it, before it was held in the area.
 */
 
 /*!
@@ -205,7 +206,7 @@ void CropEditFrame::setCropRange(int nMinX, int nMinY, int nMinWidth, int nMinHe
 /*! Shows the crop \a x, \a y, \a w, \a h, each clamped to its field's range. Emits nothing. */
 void CropEditFrame::setCropValue(int x, int y, int w, int h)
 {
-    d->m_lastCrop = Internal::saturatedRect(x, y, w, h);
+    d->m_lastCrop = Internal::wrappedRect(x, y, w, h);
     RectEditFrame::setValue(x, y, w, h);
 }
 

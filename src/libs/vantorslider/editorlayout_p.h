@@ -4,7 +4,6 @@
 
 QT_BEGIN_NAMESPACE
 class QSpacerItem;
-class QString;
 class QWidget;
 QT_END_NAMESPACE
 

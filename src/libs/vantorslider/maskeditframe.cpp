@@ -88,7 +88,7 @@ MaskEditFramePrivate::Mask MaskEditFramePrivate::mask() const
 void MaskEditFramePrivate::report(const Mask &mask)
 {
     static_cast<RectEditFrame *>(m_pEditer)->setValue(mask.top, mask.bottom, mask.left, mask.right);
-    const QRect packed = saturatedRect(mask.top, mask.bottom, mask.left, mask.right);
+    const QRect packed = wrappedRect(mask.top, mask.bottom, mask.left, mask.right);
     if (packed != m_lastMask) {
         m_lastMask = packed;
         Q_EMIT m_pEditer->maskValueChanged(mask.top, mask.bottom, mask.left, mask.right);
@@ -151,10 +151,11 @@ void MaskEditFramePrivate::slotRightValueChanged(int val)
     \brief An editor for the four margins of a mask over an area.
 
     The margins stand in the fields of RectEditFrame: top in X, bottom in Y,
-    left in Width, right in Height. Top and bottom together stay within the
-    area's height, left and right within its width. Hosts take the margins from
-    maskValueChanged(); the base's valueChanged() follows it and carries the
-    changed margin as the user set it. Usable after setMaskRange().
+    left in Width, right in Height. A margin that the user changes stops where
+    top and bottom together would pass the area's height, left and right its
+    width. Hosts take the margins from maskValueChanged(); the base's
+    valueChanged() follows it and carries the changed margin as the user set it.
+    Usable after setMaskRange().
 */
 
 /*!
@@ -195,7 +196,7 @@ void MaskEditFrame::setMaskRange(int width, int height)
 */
 void MaskEditFrame::setMaskValue(int top, int bottom, int left, int right)
 {
-    d->m_lastMask = Internal::saturatedRect(top, bottom, left, right);
+    d->m_lastMask = Internal::wrappedRect(top, bottom, left, right);
     RectEditFrame::setValue(top, bottom, left, right);
     d->allowVertical(Internal::directionsOf(top, bottom, d->m_nMaxHeight), top, bottom);
     d->allowHorizontal(Internal::directionsOf(left, right, d->m_nMaxWidth), left, right);

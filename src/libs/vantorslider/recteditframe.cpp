@@ -139,15 +139,10 @@ SliderEditFrame *RectEditFramePrivate::fieldOrWarn(int type, const char *failure
 }
 
 // Where the button's state changes, it calls back here through toggled():
-// that run captures and reports, this one then captures the same again. The
-// receiver of the report may delete the editor.
+// that run captures and reports, this one then captures anew.
 void RectEditFramePrivate::setSizeLock(bool bLock)
 {
-    const QPointer<RectEditFramePrivate> self(this);
     ui->toolButtonLockSize->setChecked(bLock);
-    if (!self) {
-        return;
-    }
     m_isLockedSize = bLock;
     if (bLock) {
         m_lockedSize = QSize(ui->frameWidth->value(), ui->frameHeight->value());
@@ -702,9 +697,10 @@ void RectEditFrame::setSizeLock(bool bLock)
 }
 
 /*!
-    Makes \a ratio, width by height, the proportion of the size lock. It lasts
-    until the lock is switched on again. With one that is not above 0 the width
-    is free, and a change of the height sends the width to its minimum.
+    Makes \a ratio, width by height, the proportion of the size lock, in
+    thousandths. It lasts until the lock is switched on again. With one that
+    rounds to 0 the width is free, and a change of the height sends the width
+    to 0; one below 0 is of no use.
 */
 void RectEditFrame::setSizeLock(qreal ratio)
 {

@@ -323,7 +323,10 @@ void RGBEditFrame::setTimeSamplingRate(int val)
     }
 }
 
-/*! Lets the space below the rows take the spare height, if \a b is true; else the rows do. */
+/*!
+    Lets the space below the rows take the spare height, if \a b is true; else the rows do.
+    On a shown editor it takes effect when its layout is next invalidated.
+*/
 void RGBEditFrame::setLastVerticalSpacerExpanding(bool b)
 {
     Internal::setSpacerExpanding(d->ui->verticalSpacer, b);

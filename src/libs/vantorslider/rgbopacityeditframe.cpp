@@ -254,7 +254,10 @@ void RGBOpacityEditFrame::setTimeSamplingRate(int val)
     d->rows().all(&SliderEditFrame::setTimeSamplingRate, &RGBEditFrame::setTimeSamplingRate, val);
 }
 
-/*! Lets the space below the rows take the spare height, if \a b is true; else the rows do. */
+/*!
+    Lets the space below the rows take the spare height, if \a b is true; else the rows do.
+    On a shown editor it takes effect when its layout is next invalidated.
+*/
 void RGBOpacityEditFrame::setLastVerticalSpacerExpanding(bool b)
 {
     Internal::setSpacerExpanding(d->ui->verticalSpacer, b);

@@ -51,6 +51,15 @@ inline QRect saturatedRect(int x, int y, int w, int h)
     return {QPoint(x, y), QPoint(saturatedInt(qint64(x) + w - 1), saturatedInt(qint64(y) + h - 1))};
 }
 
+// Only to be compared: its edges wrap, so that different values give different rectangles.
+inline QRect wrappedRect(int x, int y, int w, int h)
+{
+    const auto edge = [](int position, int size) {
+        return static_cast<int>(static_cast<uint>(position) + static_cast<uint>(size) - 1U);
+    };
+    return {QPoint(x, y), QPoint(edge(x, w), edge(y, h))};
+}
+
 } // namespace Internal
 } // namespace Widgets
 } // namespace Vantor

@@ -123,7 +123,6 @@ void SliderEditPrivate::sample()
     const QPointer<SliderEditPrivate> self(this);
     m_isSampleInDelivery = true;
     m_isMovedInDelivery = false;
-    m_nLastTimerValue = spinValue();
     emitValueChanged(spinValue());
     if (self) {
         m_isSampleInDelivery = false;
@@ -133,13 +132,17 @@ void SliderEditPrivate::sample()
     }
 }
 
-// The direction filter. Nothing of the frame is touched after the signal, here
+// The direction filter. What a tick reports is not reported again where the
+// receiver ends the drag. Nothing of the frame is touched after the signal, here
 // and wherever this is called last: the receiver may have deleted it.
 void SliderEditPrivate::emitValueChanged(int val)
 {
     if (!isAnyDirectionAllowed(m_valueChangeDirection)) {
         val = heldValue(m_valueChangeDirection, m_readValue, val);
         m_pSliderEditer->setValue(val);
+    }
+    if (m_isSampleInDelivery) {
+        m_nLastTimerValue = spinValue();
     }
     Q_EMIT m_pSliderEditer->valueChanged(val);
 }
@@ -275,7 +278,8 @@ void SliderEditPrivate::slotSliderPressed()
 
     The spin box takes a typed arithmetic expression. valueChanged() reports
     what the user did through the row's children, never what the setters did:
-    no setter emits anything, even where it clamps the value.
+    no setter emits anything, even where it clamps the value. Hiding or disabling
+    the slider ends a drag, whose last value is reported then.
 
     Style sheets select on the dynamic properties "isSliderFrame" of the frame,
     "isSliderEditSubtract" and "isSliderEditPlus" of the buttons, and on the
@@ -436,7 +440,8 @@ int SliderEditFrame::value()
 /*!
     Sets the range of slider and spin box to \a min up to \a max; an inverted
     range becomes \a min alone. A value outside is clamped. Emits nothing. The
-    calculator learns the new range from the next setValue().
+    calculator learns the new range from the next setValue(). The handle of a
+    range of exactly 2 to the 31st steps begins one above \a min.
 */
 void SliderEditFrame::setRange(int min, int max)
 {
@@ -472,7 +477,10 @@ int SliderEditFrame::maximum() const
     return d->ui->spinBox->maximum();
 }
 
-/*! Sets the step of buttons, arrow keys and wheel to \a val; a negative one is ignored. */
+/*!
+    Sets the step of buttons, arrow keys and wheel to \a val. A negative one is
+    ignored by the spin box; the slider's own step becomes its absolute value.
+*/
 void SliderEditFrame::setSingleStep(int val)
 {
     d->ui->spinBox->setSingleStep(val);

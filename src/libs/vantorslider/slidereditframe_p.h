@@ -7,6 +7,8 @@
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QToolButton>
 
+#include <typeinfo>
+
 namespace Vantor {
 namespace Widgets {
 
@@ -36,6 +38,7 @@ protected:
 private:
     void releasePointer();
 
+    const std::type_info *m_windowTypeAtPress = nullptr;
     bool m_isMousePressed = false;
 };
 

@@ -134,7 +134,6 @@ void SliderEditDoublePrivate::sample()
     const QPointer<SliderEditDoublePrivate> self(this);
     m_isSampleInDelivery = true;
     m_isMovedInDelivery = false;
-    m_nLastTimerValue = toPosition(spinValue());
     emitValueChanged(spinValue());
     if (self) {
         m_isSampleInDelivery = false;
@@ -144,13 +143,17 @@ void SliderEditDoublePrivate::sample()
     }
 }
 
-// The direction filter. Nothing of the frame is touched after the signal, here
+// The direction filter. What a tick reports is not reported again where the
+// receiver ends the drag. Nothing of the frame is touched after the signal, here
 // and wherever this is called last: the receiver may have deleted it.
 void SliderEditDoublePrivate::emitValueChanged(double val)
 {
     if (!isAnyDirectionAllowed(m_valueChangeDirection)) {
         val = heldValue(m_valueChangeDirection, m_readValue, val);
         m_pSliderEditer->setValue(val);
+    }
+    if (m_isSampleInDelivery) {
+        m_nLastTimerValue = toPosition(spinValue());
     }
     Q_EMIT m_pSliderEditer->valueChanged(val);
 }
@@ -447,17 +450,11 @@ void SliderEditFrameDouble::setMinimum(double min)
     }
     {
         const QSignalBlocker blocker(d->ui->doubleSpinBox);
-        const double bound = min + d->m_nMinPrecision;
-        if (bound > maximum()) {
-            // Qt moves the other end along too, but forgets it at the next change
-            // of decimals.
-            d->ui->doubleSpinBox->setMaximum(bound);
-        }
-        d->ui->doubleSpinBox->setMinimum(bound);
+        d->ui->doubleSpinBox->setMinimum(min + d->m_nMinPrecision);
     }
     setDecimals(d->m_nPrecision);
     // Without decimals the slider stands at the spin box's rounded bound already.
-    if (d->m_nPrecision != 0) {
+    if (decimals() != 0) {
         const QSignalBlocker blocker(d->ui->slider);
         d->ui->slider->setScale(d->toPosition(min), d->ui->slider->maximum());
     }
@@ -473,12 +470,14 @@ void SliderEditFrameDouble::setMaximum(double max)
         const QSignalBlocker blocker(d->ui->doubleSpinBox);
         const double bound = max + d->m_nMinPrecision;
         if (bound < minimum()) {
+            // Qt moves the other end along too, but forgets it at the next change
+            // of decimals.
             d->ui->doubleSpinBox->setMinimum(bound);
         }
         d->ui->doubleSpinBox->setMaximum(bound);
     }
     setDecimals(d->m_nPrecision);
-    if (d->m_nPrecision != 0) {
+    if (decimals() != 0) {
         const QSignalBlocker blocker(d->ui->slider);
         const int highest = d->toPosition(max);
         d->ui->slider->setScale(qMin(d->ui->slider->minimum(), highest), highest);

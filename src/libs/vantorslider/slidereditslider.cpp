@@ -2,8 +2,20 @@
 
 #include <QtGui/QMouseEvent>
 
+#include <typeinfo>
+
 namespace Vantor {
 namespace Widgets {
+
+namespace {
+
+const std::type_info *typeOfWindow(const QWidget *widget)
+{
+    const QWidget &window = *widget->window();
+    return &typeid(window);
+}
+
+} // namespace
 
 /*!
     \class SliderEditSlider
@@ -25,7 +37,7 @@ bool SliderEditSlider::isMousePressed() const
 
 /*!
     As setRange(), except that a scale of exactly 2 to the 31st steps begins one
-    later: Qt's styles divide by its length in 32 bits, and that one is 0 there.
+    later: Qt's styles divide by twice its length in 32 bits, and that one is 0 there.
 */
 void SliderEditSlider::setScale(int min, int max)
 {
@@ -46,6 +58,7 @@ bool SliderEditSlider::event(QEvent *event)
 void SliderEditSlider::mousePressEvent(QMouseEvent *event)
 {
     m_isMousePressed = true;
+    m_windowTypeAtPress = typeOfWindow(this);
     QSlider::mousePressEvent(event);
 }
 
@@ -80,7 +93,12 @@ void SliderEditSlider::leaveEvent(QEvent *event)
 void SliderEditSlider::hideEvent(QHideEvent *event)
 {
     QSlider::hideEvent(event);
-    releasePointer();
+    // A window that is destroyed hides its children when the host's class is gone
+    // from it already, with its slots still connected.
+    if (m_windowTypeAtPress == typeOfWindow(this)) {
+        releasePointer();
+    }
+    m_isMousePressed = false;
 }
 
 void SliderEditSlider::changeEvent(QEvent *event)

@@ -33,7 +33,7 @@ struct SliderRow
     {
     }
 
-    // Once, after the form is built: focus policies and style properties.
+    // Once, after the form is built: focus policies, style properties, event filter.
     void prepare(QWidget *frame) const;
 
     // Last in the frame's destructor, when no signal reaches the engine any more. A field that is
