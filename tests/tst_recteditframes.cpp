@@ -210,6 +210,11 @@ void tst_RectEditFrames::rectangles_data()
         "range w 0 600 | w+: h(175) w(350) (150,0,350,175) | size lock on | "
         "w+: h(176) w(351) (150,0,351,176) | w=500: h(250) w(500) (150,0,500,250) | "
         "set 100 0 500 250 | w+: h(250) w(500) (100,0,500,250)");
+    // Exactly at the edge the height may not grow either, though the area does.
+    row("proportion reaches the area's edge",
+        "range w 0 400 | set 200 0 100 50 | size lock on: sizeLock(true) | "
+        "h=100: w(200) h(100) (200,0,200,100) | range w 0 600 | "
+        "h+: w(200) h(100) (200,0,200,100)");
     row("basis without width",
         "set 0 0 0 100 | size lock on: sizeLock(true) | w=50: w(50) (0,0,50,100) | "
         "range w 10 500 | h=70: w(0) h(70) (0,0,10,70) | range w 0 0 | "

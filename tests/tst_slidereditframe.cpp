@@ -410,6 +410,8 @@ void TestSliderEditFrame::sequences_data()
     addDouble("the same value", "type 0.1\n | focused: editor | shown: =10");
     addDouble("above the range", "type 9\n: 100 | shown: =100");
     addDouble("failing expression", "type 1/0\n | focused: editor | shown: =10");
+    addDouble("a value that the field rounds",
+              "value 57 | type \t | shown: =57"); // 57 * 0.01 > 0.57
     addDouble("the spin box follows in release mode",
               "released | hold 20 40 | shown: =40 | drop: 40");
     addDouble("plus at the maximum",
