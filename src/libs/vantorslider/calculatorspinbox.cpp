@@ -1,7 +1,5 @@
 #include "calculatorspinbox_p.h"
 
-#include "saturation_p.h"
-
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QAbstractSpinBox>
 
@@ -36,11 +34,6 @@ void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard)
     LocaleChangeFilter filter;
     spinBox->installEventFilter(&filter);
     spinBox->setLocale(QLocale::c());
-}
-
-QString calculatorText(double value)
-{
-    return QString::number(static_cast<double>(saturatedFloat(value)), 'g', 6);
 }
 
 bool isFinishingKey(const QKeyEvent *event)

@@ -14,9 +14,6 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// How the calculator shows a value that it was handed.
-QString calculatorText(double value);
-
 // What the two calculator spin boxes share without a common base of their own.
 
 // keyboard: the kind of on-screen keyboard that the host is to show.
@@ -37,13 +34,10 @@ template <typename SpinBox> double numberFromText(const SpinBox *spinBox, QStrin
     if (text.endsWith(spinBox->suffix())) {
         text.chop(spinBox->suffix().length());
     }
-    const double value = spinBox->value();
     bool isNumber = false;
     const double number = QLocale::c().toDouble(text, &isNumber);
-    // A failed entry shows the value in six digits: 1234567 as 1.23457e+06.
-    const bool isValueInShort = text == calculatorText(value);
-    if (!isNumber || std::isnan(number) || isValueInShort) {
-        return value;
+    if (!isNumber || std::isnan(number)) {
+        return spinBox->value();
     }
     return qBound<double>(spinBox->minimum(), number, spinBox->maximum());
 }

@@ -2,6 +2,7 @@
 
 #include "calculatorpatterns_p.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTimer>
 #include <QtScript/QScriptEngine>
 
@@ -53,6 +54,16 @@ std::optional<QString> evaluateWithinBudget(const QString &expression)
     return finiteResult(engine, result.toString());
 }
 
+// A "/" where an operand is due begins a pattern of the script language. Called
+// with a text, that can go on matching for hours, and no native call can be
+// abandoned. No arithmetic is written so.
+bool callsPattern(const QString &expression)
+{
+    static const QRegularExpression pattern(QStringLiteral("(^|[-,+*/(=])/"));
+    static const QRegularExpression call(QStringLiteral("[)/]\\("));
+    return expression.contains(pattern) && expression.contains(call);
+}
+
 } // namespace
 
 bool isTypedExpression(const QString &expression)
@@ -66,6 +77,9 @@ std::optional<QString> evaluateExpression(const QString &expression)
 {
     if (!isTypedExpression(expression)) {
         return evaluateWithinBudget(expression);
+    }
+    if (callsPattern(expression)) {
+        return std::nullopt;
     }
     QScriptEngine engine;
     const QString text = engine.evaluate(expression, QString(), 1).toString();

@@ -9,9 +9,9 @@ namespace Widgets {
 namespace Internal {
 
 // The value of an expression as text, or nothing where it throws, yields
-// "Infinity" or exceeds its time budget. Only a text with characters that
-// can't be typed can loop; while such a text is evaluated, events are
-// processed: the caller must expect to be deleted meanwhile.
+// "Infinity", exceeds its time budget or calls a pattern. Only a text with
+// characters that can't be typed can loop otherwise; while such a text is
+// evaluated, events are processed: the caller must expect to be deleted meanwhile.
 std::optional<QString> evaluateExpression(const QString &expression);
 
 // Whether the text is made of typed characters alone: evaluateExpression()

@@ -1,7 +1,6 @@
 #include "qlineeditcal.h"
 
 #include "calculatorpatterns_p.h"
-#include "calculatorspinbox_p.h"
 #include "expressionevaluation_p.h"
 
 #include <QtCore/QPointer>
@@ -52,7 +51,7 @@ void LineEditCal::setInitialResult(const float &result)
 const QString &LineEditCal::beforeResult()
 {
     if (m_isInitialResultPending) {
-        m_beforeResult = Internal::calculatorText(static_cast<double>(m_initialResult));
+        m_beforeResult = QString::number(static_cast<double>(m_initialResult), 'g', 6);
         m_isInitialResultPending = false;
     }
     return m_beforeResult;
@@ -95,6 +94,15 @@ void LineEditCal::setSlotEditingFinished()
 }
 
 /*!
+    True while the field shows the last accepted result in place of an entry that
+    failed. That text is for reading: it may have fewer digits than the value.
+*/
+bool LineEditCal::isFallbackShown() const
+{
+    return m_isFallbackShown;
+}
+
+/*!
     Filters \a text, or evaluates it where it ends in "=" and emits
     signalsResult() then, whether that succeeded or not.
 */
@@ -103,6 +111,7 @@ void LineEditCal::onSlotTextChanged(QString text)
     if (text == beforeResult() || m_isEvaluating) {
         return;
     }
+    m_isFallbackShown = false;
     if (text.isEmpty()) {
         m_beforeText.clear();
         return;
@@ -224,11 +233,9 @@ bool LineEditCal::setRadixPointSeveral(QString &strText, const int &index)
         return false;
     }
     const int point = strText.indexOf(QLatin1Char('.'));
-    if (point < 0) {
-        return false;
-    }
-    const bool isSecondPoint = strText.indexOf(QLatin1Char('.'), point + 1) >= 0;
-    if (!isSecondPoint && strText.length() - point - 1 <= m_inputSeveral) {
+    const int decimals = point < 0 ? 0 : strText.length() - point - 1;
+    const bool isSecondPoint = strText.count(QLatin1Char('.')) > 1;
+    if (!isSecondPoint && decimals <= m_inputSeveral) {
         return false;
     }
     strText = m_vecStringResults[static_cast<std::size_t>(index)];
@@ -245,7 +252,7 @@ void LineEditCal::setShowResult(const QString &strText)
     if (!Internal::isTypedExpression(strText)) {
         // Events come in while it is evaluated: what interprets the field
         // meanwhile must find a number, not the script.
-        setResultText(beforeResult());
+        showFallback();
     }
     const std::optional<QString> result = Internal::evaluateExpression(strText);
     if (!self) {
@@ -257,9 +264,10 @@ void LineEditCal::setShowResult(const QString &strText)
         return;
     }
     if (!result) {
-        setResultText(beforeResult());
+        showFallback();
         return;
     }
+    m_isFallbackShown = false;
     // A text that is no number counts as 0; NaN passes both comparisons.
     float value = result->toFloat();
     if (value > m_maxNum) {
@@ -272,6 +280,12 @@ void LineEditCal::setShowResult(const QString &strText)
     m_beforeResult = m_beforeText;
     m_isInitialResultPending = false;
     setResultText(m_beforeText);
+}
+
+void LineEditCal::showFallback()
+{
+    m_isFallbackShown = true;
+    setResultText(beforeResult());
 }
 
 void LineEditCal::setResultText(QString text)

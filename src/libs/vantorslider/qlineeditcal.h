@@ -21,6 +21,7 @@ public:
     void setLineEditMinOrMax(const float &min, const float &max);
     void setSuffix(bool bSuffix);
     void setSlotEditingFinished();
+    bool isFallbackShown() const;
     void outliveParent(QWidget *survivor);
 
 Q_SIGNALS:
@@ -36,6 +37,7 @@ private:
     void setStringFormat(QString &strText, bool &bFormat);
     bool setRadixPointSeveral(QString &strText, const int &index);
     void setShowResult(const QString &strText);
+    void showFallback();
     void setResultText(QString text);
     const QString &beforeResult();
 
@@ -56,6 +58,7 @@ private:
     float m_initialResult = 0.0F;
     bool m_isInitialResultPending = false;
     bool m_isEvaluating = false;
+    bool m_isFallbackShown = false;
     // What is deleted in place of its parent when an evaluation is over.
     QWidget *m_pSurvivor = nullptr;
 };

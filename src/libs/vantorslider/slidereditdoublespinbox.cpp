@@ -34,6 +34,10 @@ SliderEditDoubleSpinBox::SliderEditDoubleSpinBox(QWidget *parent)
             &SliderEditDoubleSpinBox::onSlotResultFinished);
 }
 
+/*!
+    In a script that a key in the field finished, Qt's key handler of the box is
+    still to return: a host that deletes the box then calls deleteLater().
+*/
 SliderEditDoubleSpinBox::~SliderEditDoubleSpinBox()
 {
     m_pLineEditCal->outliveParent(m_pLineEditCal);
@@ -53,7 +57,11 @@ QValidator::State SliderEditDoubleSpinBox::validate(QString &text, int &pos) con
 */
 double SliderEditDoubleSpinBox::valueFromText(const QString &text) const
 {
-    return Internal::numberFromText(this, text);
+    if (m_pLineEditCal->isFallbackShown()) {
+        return value();
+    }
+    // The calculator writes two decimals; Qt would hold them all.
+    return QString::number(Internal::numberFromText(this, text), 'f', decimals()).toDouble();
 }
 
 /*!
@@ -89,10 +97,21 @@ void SliderEditDoubleSpinBox::setSpinBoxCal(const float &result, const float &ma
 void SliderEditDoubleSpinBox::setSlotEditingFinished()
 {
     const QPointer<SliderEditDoubleSpinBox> self(this);
-    // With its suffix a text is no expression: its entry was evaluated before.
-    if (suffix().isEmpty()) {
-        m_pLineEditCal->setSlotEditingFinished();
+    // The suffix may be back since an entry that ended in "=", with more typed
+    // before it since. With its suffix a text is no expression.
+    if (!suffix().isEmpty()) {
+        QString entry = text();
+        if (entry.endsWith(suffix())) {
+            entry.chop(suffix().length());
+        }
+        if (m_strSuffix.isEmpty()) {
+            m_strSuffix = suffix();
+        }
+        setSuffix(QString());
+        const QSignalBlocker blocker(m_pLineEditCal);
+        m_pLineEditCal->setText(entry);
     }
+    m_pLineEditCal->setSlotEditingFinished();
     if (self) {
         setSuffixShow();
     }
@@ -115,6 +134,7 @@ void SliderEditDoubleSpinBox::setSuffixShow()
     m_btnFirstPress = true;
     const QSignalBlocker blocker(m_pLineEditCal);
     m_pLineEditCal->setText(entry);
+    m_pLineEditCal->setCursorPosition(entry.length() - m_strSuffix.length());
 }
 
 /*! Called when an expression that ended in "=" has been evaluated. */

@@ -31,6 +31,10 @@ SliderEditSpinBox::SliderEditSpinBox(QWidget *parent)
             &SliderEditSpinBox::onSlotResultFinished);
 }
 
+/*!
+    In a script that a key in the field finished, Qt's key handler of the box is
+    still to return: a host that deletes the box then calls deleteLater().
+*/
 SliderEditSpinBox::~SliderEditSpinBox()
 {
     m_pLineEditCal->outliveParent(m_pLineEditCal);
@@ -50,6 +54,9 @@ QValidator::State SliderEditSpinBox::validate(QString &text, int &pos) const
 */
 int SliderEditSpinBox::valueFromText(const QString &text) const
 {
+    if (m_pLineEditCal->isFallbackShown()) {
+        return value();
+    }
     return Internal::saturatedInt(std::round(Internal::numberFromText(this, text)));
 }
 
