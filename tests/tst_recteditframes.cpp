@@ -181,18 +181,10 @@ static void row(const char *name, const QString &steps)
     QTest::newRow(name) << steps;
 }
 
-// What the random gestures come across too is here by one example.
+// What the random gestures do not come across: round numbers, halves, the ends of int.
 void tst_RectEditFrames::rectangles_data()
 {
     QTest::addColumn<QString>("steps");
-    row("position",
-        "range y 0 30 | set 10 20 1 1 | lock position: positionLock(true) | "
-        "x=15: x(15) (15,25,1,1) | x=25: x(25) (25,30,1,1) | x+: x(25) (25,30,1,1) | "
-        "x-: x(24) (24,30,1,1) | lock position: positionLock(false) | x=40: x(40) (40,30,1,1)");
-    row("offset",
-        "offset | set 0 0 100 50 | lock size: sizeLock(true) | w=120: w(120) (0,0,120,70) | "
-        "h=60: h(60) (0,0,110,60) | scale | w=80: h(40) w(80) (0,0,80,40) | "
-        "size lock off: sizeLock(false) | w=1: w(1) (0,0,1,40)");
     row("halves round away from zero",
         "set 0 0 4 2 | size lock on: sizeLock(true) | w=3: h(2) w(3) (0,0,3,2) | "
         "range w -9 9 | range h -9 9 | set 0 0 4 2 | size lock on | "
@@ -260,15 +252,8 @@ void tst_RectEditFrames::crops_data()
         "area 0 0 -2147483648 1 2147483647 10 | "
         "ranges: 0..2147483647 0..9 -2147483648..2147483647 1..10 | range x 3 7 | "
         "ranges: 3..7 0..9 -2147483648..2147483647 1..10");
-    row("width is held at the right edge",
-        "crop 1000 0 800 100 | w=1000: crop(1000,0,920,100) w(1000) (1000,0,1000,100) | "
-        "fields: 1000 0 920 100 | w+: w(920) (1000,0,920,100) | "
-        "x+: x(1000) (1000,0,920,100) | w-: crop(1000,0,919,100) w(919) (1000,0,919,100) | "
-        "x+: crop(1001,0,919,100) x(1001) (1001,0,919,100) | w+: w(919) (1001,0,919,100)");
-    row("only changes are reported",
-        "crop 5 0 100 100 | set 5 0 90 100 | w=100: w(100) (5,0,100,100) | "
-        "w+: crop(5,0,101,100) w(101) (5,0,101,100) | rect 5 0 110 100 | "
-        "fields: 5 0 110 100 | set 4 0 110 100 | x+: x(5) (5,0,110,100)");
+    row("a rectangle that is set is no change",
+        "rect 5 0 110 100 | fields: 5 0 110 100 | set 4 0 110 100 | x+: x(5) (5,0,110,100)");
     row("nothing is the crop of the start",
         "range w 0 100 | range h 0 100 | set 0 0 1 0 | w-: w(0) (0,0,0,0) | "
         "h+: crop(0,0,0,1) h(1) (0,0,0,1)");
@@ -292,20 +277,6 @@ void tst_RectEditFrames::masks_data()
     // The limits are 0 at first, and no margins are what the mask starts with.
     row("no area", "x=5: x(5) (5,0,0,0) | fields: 0 0 0 0");
     row("ranges", area + "ranges: 0..1080 0..1080 0..1920 0..1920");
-    row("top is held",
-        area
-            + "mask 0 1000 0 0 | x=100: mask(80,1000,0,0) x(100) (100,1000,0,0) | "
-              "fields: 80 1000 0 0 | x+: x(80) (80,1000,0,0) | y+: y(1000) (80,1000,0,0) | "
-              "x=79: mask(79,1000,0,0) x(79) (79,1000,0,0) | "
-              "y+: mask(79,1001,0,0) y(1001) (79,1001,0,0) | set 78 1001 0 0 | x+: x(79) "
-              "(79,1001,0,0)");
-    row("set at the limits",
-        area
-            + "mask 600 480 1000 920 | x+: x(600) (600,480,1000,920) | "
-              "y+: y(480) (600,480,1000,920) | w+: w(1000) (600,480,1000,920) | "
-              "h+: h(920) (600,480,1000,920) | mask 600 479 1000 919 | "
-              "x+: mask(601,479,1000,919) x(601) (601,479,1000,919) | "
-              "w+: mask(601,479,1001,919) w(1001) (601,479,1001,919)");
     row("set beyond the limits",
         area
             + "mask 1000 900 0 2000 | fields: 1000 900 0 1920 | "

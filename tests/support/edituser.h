@@ -65,8 +65,8 @@ public:
 //   "x+", "y-"            clicks a step button
 //   "lock position", "lock size"  clicks a lock button
 //   "fields", "ranges"    logs what the fields hold
-//   "offset", "scale"     the program chooses the kind of the size lock,
-//   "size lock on" (or off), "ratio 1.5"  switches it, sets its proportion
+//   "size lock on" (or off), "ratio 1.5"  the program switches the size lock, sets
+//                         its proportion
 //   "range w 0 500", "set 0 0 10 20"  sets a field's range, the whole rectangle
 //   "area", "leastPosition", "leastSize", "crop", "rect"  those of the crop editor
 //   "area", "mask"        those of the mask editor
@@ -137,9 +137,6 @@ private:
             show([](const Row &row) { return limits(row.frame->minimum(), row.frame->maximum()); });
         else if (verb == "lock")
             User::click(words[1] == "size" ? sizeLock : positionLock);
-        else if (verb == "offset" || verb == "scale")
-            m_frame.setSizeLockEnable(true,
-                                      verb == "scale" ? Frame::SizeScaleLock : Frame::OffsetLock);
         else if (verb == "size")
             m_frame.setSizeLock(words[2] == "on");
         else if (verb == "ratio")
