@@ -145,6 +145,7 @@ void tst_Robustness::hugeTexts_data()
         {"nested", QString(16000, '(') + '1' + QString(16000, ')')},
         {"calls", '1' + QString("()").repeated(16000)},
         {"division or pattern", "/(((1*)*)*)*2/(111111111111111111111)"},
+        {"pattern", "/(" + QStringLiteral("1*").repeated(14) + "2)/(111111111111111111111)"},
         {"equals", QString(1000000, '=')},
         {"beyond the first plane", QString::fromUtf8("\xf0\x9f\x98\x80").repeated(16000)}};
     for (auto text = texts.begin(); text != texts.end(); ++text) {

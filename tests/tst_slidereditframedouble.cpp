@@ -126,26 +126,33 @@ void TestSliderEditFrameDouble::locale()
 // beyond the range, or stand beside a suffix. No entry may be lost in it or jump.
 void TestSliderEditFrameDouble::entryBeyondText()
 {
-    const auto check = [](int decimals, double max, const QString &suffix, const QString &typed,
-                          double value) {
+    const auto check = [](int decimals, double max, const QString &suffix, double start,
+                          const QString &typed, double value) {
         DoubleRow row;
         QVERIFY(User::show(row.page));
         row.frame->setDecimals(decimals);
         row.frame->setRange(0, max);
         qobject_cast<QDoubleSpinBox *>(row.spinBox)->setSuffix(suffix);
-        row.frame->setValue(0.1);
+        row.frame->setValue(start);
         row.type(typed);
         QVERIFY(qAbs(row.frame->value() - value) < 1e-7);
         QVERIFY(row.spinBox->text().endsWith(suffix));
-        QCOMPARE(row.log.take().filter("valueChanged").size(), value == 0.1 ? 0 : 1);
+        QCOMPARE(row.log.take().filter("valueChanged").size(), value == start ? 0 : 1);
     };
-    check(2, 999999.99, "", "2000000\n", 999999.99);
-    check(3, 0.996, "", "5\n", 0.996);
-    check(2, 1, "", "0/0\n", 0.1);
-    check(2, 100, "mm", "10/4\n", 2.5);
-    check(2, 100, "mm", "7\t", 7);
-    check(2, 100, "mm", "1/4=\n", 0.25);
-    check(2, 100, "mm", "1/0\n", 0.1);
+    check(2, 999999.99, "", 0.1, "2000000\n", 999999.99);
+    check(3, 0.996, "", 0.1, "5\n", 0.996);
+    check(2, 1, "", 0.1, "0/0\n", 0.1);
+    check(2, 100, "mm", 0.1, "10/4\n", 2.5);
+    check(2, 100, "mm", 0.1, "7\t", 7);
+    check(2, 100, "mm", 0.1, "1/4=\n", 0.25);
+    check(2, 100, "mm", 0.1, "1/4=+1\n", 1.25);
+    check(2, 100, "mm", 0.1, "1/0\n", 0.1);
+    // A failed entry shows the value in six digits, which are an entry, too.
+    check(3, 9999, "", 1234.567, "1/0\n", 1234.567);
+    check(3, 9999, "", 1234.567, "1234.57\n", 1234.57);
+    // More decimals than the field has.
+    check(0, 100, "", 1, "8/3\n", 3);
+    check(1, 100, "", 1, "8/3=\t", 2.7);
 }
 
 // The calculator learns a value and new bounds from setValue() alone, as floats.
