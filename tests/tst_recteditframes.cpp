@@ -27,6 +27,8 @@ private Q_SLOTS:
     void masks() { play<MaskEditFrame>(""); }
     void hiddenLocksStay();
     void lockIsReportedWhenItIsOn();
+    void receiverSetsAnotherField();
+    void setsThroughTheVirtuals();
 
 private:
     template <typename Frame> static void play(const QString &start)
@@ -207,6 +209,9 @@ void tst_RectEditFrames::rectangles_data()
         "range w 0 400 | set 200 0 100 50 | size lock on: sizeLock(true) | "
         "h=100: w(200) h(100) (200,0,200,100) | range w 0 600 | "
         "h+: w(200) h(100) (200,0,200,100)");
+    row("proportion from below the least height",
+        "range h 30 1000 | set 0 0 33 99 | size lock on: sizeLock(true) | "
+        "h=100: w(33) h(100) (0,0,33,100) | w=5: h(99) w(33) (0,0,33,99)");
     row("basis without width",
         "set 0 0 0 100 | size lock on: sizeLock(true) | w=50: w(50) (0,0,50,100) | "
         "range w 10 500 | h=70: w(0) h(70) (0,0,10,70) | range w 0 0 | "
@@ -267,6 +272,10 @@ void tst_RectEditFrames::crops_data()
         "(2000000000,0,1000000000,1000000000) | "
         "y=2000000000: crop(1147483647,1147483647,1000000000,1000000000) y(2000000000) "
         "(1147483647,2000000000,1000000000,1000000000)");
+    // Far edges beyond the ends of int: a change must be told all the same.
+    row("edges leave 32 bits",
+        "range x -2147483648 0 | range w -9 9 | crop -2147483648 0 -5 9 | "
+        "w-: crop(-2147483648,0,-6,9) w(-6) (-2147483648,0,-6,9)");
 }
 
 // x, y, w and h are the top, bottom, left and right margin.
@@ -290,7 +299,9 @@ void tst_RectEditFrames::masks_data()
         "x=1000000000: mask(147483647,2000000000,0,2000000000) x(1000000000) "
         "(1000000000,2000000000,0,2000000000) | "
         "mask 2000000000 2000000000 0 0 | "
-        "x+: mask(147483647,2000000000,0,0) x(2000000000) (2000000000,2000000000,0,0)");
+        "x+: mask(147483647,2000000000,0,0) x(2000000000) (2000000000,2000000000,0,0) | "
+        "mask 1500000000 0 1000000000 0 | "
+        "w-: mask(1500000000,0,999999999,0) w(999999999) (1500000000,0,999999999,0)");
 }
 
 void tst_RectEditFrames::hiddenLocksStay()
@@ -308,6 +319,35 @@ void tst_RectEditFrames::lockIsReportedWhenItIsOn()
     RectUser user(*m_frame);
     connect(m_frame, &RectEditFrame::sizeLockChanged, [this] { m_frame->setSizeLock(qreal(4)); });
     user.check("set 0 0 40 20 | lock size: sizeLock(true) | w=20: h(5) w(20) (0,0,20,5)");
+}
+
+// The whole rectangle is read when it is reported.
+void tst_RectEditFrames::receiverSetsAnotherField()
+{
+    RectUser user(*m_frame);
+    connect(m_frame, &RectEditFrame::xValueChanged,
+            [this] { m_frame->setValue(RectEditFrame::Width, 77); });
+    user.check("set 0 0 40 20 | x+: x(1) (1,0,77,20)");
+}
+
+// A host's class sees the rectangle that the user's change makes, and not the
+// program's, which goes to the fields.
+void tst_RectEditFrames::setsThroughTheVirtuals()
+{
+    struct Host : CropEditFrame
+    {
+        void setValue(int x, int y, int w, int h) override
+        {
+            rects.append(QRect(x, y, w, h));
+            RectEditFrame::setValue(x, y, w, h);
+        }
+        QList<QRect> rects;
+    } host;
+    host.setCropRange(100, 100);
+    static_cast<RectEditFrame &>(host).setValue(QRect(1, 2, 3, 4));
+    QCOMPARE(host.rects, QList<QRect>());
+    RectUser(host).check("x+: crop(2,2,3,4) x(2) (2,2,3,4)");
+    QCOMPARE(host.rects, QList<QRect>({QRect(2, 2, 3, 4)}));
 }
 
 int main(int argc, char *argv[])

@@ -25,6 +25,10 @@ void tst_RGBEditFrames::form()
 {
     const auto describe = [](const QWidget &editor) {
         QStringList names {editor.objectName()};
+        const QMargins margins = editor.layout()->contentsMargins();
+        QDebug(&names.last()).nospace()
+            << ' ' << editor.width() << 'x' << editor.height() << ' ' << margins.left()
+            << margins.top() << margins.right() << margins.bottom() << editor.layout()->spacing();
         for (int i = 0; i < editor.layout()->count() - 1; ++i)
             names.append(editor.layout()->itemAt(i)->widget()->objectName());
         for (const Row &row : rowsOf(editor))
@@ -35,10 +39,12 @@ void tst_RGBEditFrames::form()
     };
     const QString properties =
         " isColorControl_Red=true isColorControl_Green=true isColorControl_Blue=true true";
-    QCOMPARE(describe(RGBEditFrame()), "RGBEditFrame frameR frameG frameB" + properties);
-    QCOMPARE(describe(RGBAllEditFrame()), "RGBAllEditFrame frameAll frameRGB" + properties);
+    QCOMPARE(describe(RGBEditFrame()),
+             "RGBEditFrame 537x94 00000 frameR frameG frameB" + properties);
+    QCOMPARE(describe(RGBAllEditFrame()),
+             "RGBAllEditFrame 537x94 00000 frameAll frameRGB" + properties);
     QCOMPARE(describe(RGBOpacityEditFrame()),
-             "RGBOpacityEditFrame frameRGB frameOpacity" + properties);
+             "RGBOpacityEditFrame 400x75 00000 frameRGB frameOpacity" + properties);
 }
 
 namespace {
@@ -111,6 +117,7 @@ void tst_RGBEditFrames::labelMaxLength()
     const auto rows = rowsOf(frame);
     QCOMPARE(frame.labelMaxLength(), 0);
     rows[Frame::R].frame->setFont(QFont(frame.font().family(), 20));
+    rows[Frame::ALL].frame->setFont(QFont(frame.font().family(), 15));
     rows[Frame::B].frame->setFont(QFont(frame.font().family(), 40));
     const auto widthOf = [&rows](Frame::Type type, const QString &text) {
         const QFontMetrics metrics = rows[type].frame->fontMetrics();

@@ -27,17 +27,17 @@ private:
 namespace {
 
 // What a host's layout and its style sheet find, as one text: layouts with
-// spacing and margins, widgets with size limits and properties, the spacer with
-// its policy.
+// spacing and margins, widgets with size limits and properties, a star where
+// Tab and click lead to, the spacer with its policy.
 QString layoutText(QLayoutItem *item)
 {
     QString text;
     QDebug debug(&text);
     debug.noquote().nospace();
     if (const QWidget *widget = item->widget()) {
-        debug << widget->objectName() << ' ' << widget->minimumWidth() << ".."
-              << widget->maximumWidth() << 'x' << widget->minimumHeight() << ".."
-              << widget->maximumHeight();
+        debug << widget->objectName() << (widget->focusPolicy() == Qt::StrongFocus ? "* " : " ")
+              << widget->minimumWidth() << ".." << widget->maximumWidth() << 'x'
+              << widget->minimumHeight() << ".." << widget->maximumHeight();
         for (const QByteArray &name : widget->dynamicPropertyNames()) {
             if (!name.startsWith('_'))
                 debug << ' ' << name.constData() << '=' << widget->property(name).toString();
@@ -62,13 +62,14 @@ void compareForm(Row &row, const QString &label, const QString &spinBox, const Q
 {
     const QString expected("horizontalLayout_2 0 [0 0 0 0] {"
                            "nameLayout 0 [0 0 0 0] {labelName %1x0..max}, "
-                           "sliderLayout 0 [0 0 0 0] {slider 0..maxx0..max}, "
+                           "sliderLayout 0 [0 0 0 0] {slider* 0..maxx0..max}, "
                            "spinBoxLayout 0 [0 0 0 0] {%2}, buttonLayout 0 [0 0 0 0] {"
-                           "sliderEditSubtract %3 isSliderEditSubtract=true, "
-                           "sliderEditPlus %3 isSliderEditPlus=true, spacer 0 policy 0}}");
+                           "sliderEditSubtract* %3 isSliderEditSubtract=true, "
+                           "sliderEditPlus* %3 isSliderEditPlus=true, spacer 0 policy 0}}");
     QCOMPARE(layoutText(row.frame->layout()), expected.arg(label, spinBox, button));
     QCOMPARE(row.frame->objectName(), row.isInt ? "SliderEditFrame" : "SliderEditFrameDouble");
     QCOMPARE(row.frame->frameShape(), QFrame::StyledPanel);
+    QCOMPARE(row.frame->focusPolicy(), Qt::StrongFocus);
     QCOMPARE(row.label->buddy(), row.slider);
     QCOMPARE(row.spinBox->buttonSymbols(), QAbstractSpinBox::NoButtons);
 }
@@ -101,16 +102,16 @@ template <typename Row> void compareSetters(Row &row)
     QVERIFY(row.slider->isHidden());
     compareLayout(row,
                   {"nameLayout 0 [0 0 5 0] {labelName 40..90x", "sliderLayout 0 [0 0 7 0]",
-                   "spinBoxLayout 0 [1 2 7 4]", "pinBox 33..33x", "sliderEditSubtract 20..60x",
-                   "sliderEditPlus 20..60x", "spacer 20 policy 7"});
+                   "spinBoxLayout 0 [1 2 7 4]", "pinBox* 33..33x", "sliderEditSubtract* 20..60x",
+                   "sliderEditPlus* 20..60x", "spacer 20 policy 7"});
     frame.setSpinBoxWidthRange(80, 50);
     frame.setLabelFixedWidth(31);
     frame.setButtonFixedWidth(32);
     frame.setSliderVisible(true);
     QVERIFY(!row.slider->isHidden());
     compareLayout(row,
-                  {"labelName 31..31x", "pinBox 50..80x", "sliderEditSubtract 32..32x",
-                   "sliderEditPlus 32..32x", "spacer 0 policy 13"});
+                  {"labelName 31..31x", "pinBox* 50..80x", "sliderEditSubtract* 32..32x",
+                   "sliderEditPlus* 32..32x", "spacer 0 policy 13"});
     if constexpr (Row::isInt) {
         frame.setButtonVisible(false);
         QVERIFY(row.minus->isHidden() && row.plus->isHidden());
@@ -187,6 +188,10 @@ template <typename Row> void compareSelectAll(Row &row)
     row.field->deselect();
     User::click(row.spinBox);
     QTRY_COMPARE(row.field->selectedText(), text);
+    // At the spin box's own edge, around its field.
+    row.field->deselect();
+    QTest::mouseClick(row.spinBox, Qt::LeftButton, {}, QPoint(row.spinBox->width() / 2, 1));
+    QTRY_COMPARE(row.field->selectedText(), text);
 
     row.frame->setFocus();
     row.spinBox->setFocus();
@@ -206,10 +211,10 @@ void TestSliderEditFrame::widgets_data()
 {
     QTest::addColumn<Check>("check");
     QTest::newRow("int, form") << checkOf<SliderEditFrame>([](auto &row) {
-        compareForm(row, "0..max", "spinBox 65..65x30..30 Quelmo_VK=Vk_Number", "49..49x30..30");
+        compareForm(row, "0..max", "spinBox* 65..65x30..30 Quelmo_VK=Vk_Number", "49..49x30..30");
     });
     QTest::newRow("double, form") << checkOf<SliderEditFrameDouble>([](auto &row) {
-        compareForm(row, "80..80", "doubleSpinBox 65..65x30..30 Quelmo_VK=Vk_NumberFloat",
+        compareForm(row, "80..80", "doubleSpinBox* 65..65x30..30 Quelmo_VK=Vk_NumberFloat",
                     "51..51x32..32");
     });
     addForBoth("setters", [](auto &row) { compareSetters(row); });

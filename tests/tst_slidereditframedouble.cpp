@@ -29,6 +29,7 @@ class TestSliderEditFrameDouble : public QObject
 private Q_SLOTS:
     void scale();
     void fineScale();
+    void halfBound();
     void freshFrame();
     void locale();
     void entryBeyondText();
@@ -70,6 +71,7 @@ void TestSliderEditFrameDouble::scale()
     check(3, -0.5, 0.5, -0.125, "-0.125 -125", "-0.5..0.5 -500..500");
     check(1, -10, 10, -2.25, "-2.3 -23", "-10..10 -100..100"); // half away from zero
     check(0, 0.6, 9.4, 5.5, "6 6", "1..9 1..9");
+    check(-1, -0.5, 9.4, 5.5, "6 6", "0..9 0..9");
     // Below and above the old range.
     check(2, -5, -3, -4, "-4.00 -400", "-5..-3 -500..-300");
     check(2, 3, 5, 4, "4.00 400", "3..5 300..500");
@@ -85,6 +87,19 @@ void TestSliderEditFrameDouble::fineScale()
     row.frame->setRange(0, 1);
     row.frame->setValue(1);
     QCOMPARE(row.shown(), QString("1.000000000000 2147483647"));
+}
+
+// 0.285 is just below the half as a double, but a bound of it means 0.29. One
+// bound alone has the slider round it for itself.
+void TestSliderEditFrameDouble::halfBound()
+{
+    DoubleRow row;
+    row.frame->setRange(0, 0.285);
+    QCOMPARE(row.frame->maximum(), 0.29);
+    QCOMPARE(row.slider->maximum(), 29);
+    row.frame->setMaximum(0.285);
+    QCOMPARE(row.frame->maximum(), 0.29);
+    QCOMPARE(row.slider->maximum(), 28);
 }
 
 // The scale is 1 until decimals or a range are set; then the handle stays where
@@ -103,6 +118,9 @@ void TestSliderEditFrameDouble::freshFrame()
     QCOMPARE(slider->value(), 500);
     frame.setSingleStep(0.05);
     QCOMPARE(slider->singleStep(), 1);
+    frame.setDecimals(2);
+    QCOMPARE(slider->singleStep(), 5);
+    frame.setSingleStep(0);
     frame.setDecimals(2);
     QCOMPARE(slider->singleStep(), 5);
 }

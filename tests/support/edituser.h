@@ -161,6 +161,8 @@ private:
             m_crop->setCropValue(QRect(n(1), n(2), n(3), n(4)));
         else if (verb == "mask")
             m_mask->setMaskValue(n(1), n(2), n(3), n(4));
+        else
+            QFAIL(qPrintable("What is " + action));
     }
 
     template <typename Text> void show(Text text)

@@ -36,6 +36,7 @@ void EventLog::handleMessage(QtMsgType type, const QMessageLogContext &context,
         : type == QtInfoMsg                     ? "info: "
         : type == QtWarningMsg                  ? "warning: "
                                                 : "critical: ";
-    s_current->m_function = QString::fromUtf8(context.function);
+    s_current->m_context =
+        QStringLiteral("%1 %2 %3").arg(context.file, context.function, context.category);
     s_current->add(QLatin1String(kind) + message);
 }

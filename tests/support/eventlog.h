@@ -28,8 +28,8 @@ public:
     void add(const QString &entry) { m_entries.append(entry); }
     // The entries since the last call.
     QStringList take();
-    // Where the last message said that it comes from.
-    QString lastFunction() const { return m_function; }
+    // Where the last message said that it comes from: file, function and category.
+    QString lastContext() const { return m_context; }
 
 private:
     template <typename T> static QString toText(const T &value)
@@ -44,6 +44,6 @@ private:
     static EventLog *s_current;
     QObject m_receiver;
     QStringList m_entries;
-    QString m_function;
+    QString m_context;
     QtMessageHandler m_previous = nullptr;
 };
