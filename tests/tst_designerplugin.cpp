@@ -36,7 +36,7 @@ QStringList describe(const QWidget &form)
 
 } // namespace
 
-class TestDesignerPlugin : public QObject
+class tst_DesignerPlugin : public QObject
 {
     Q_OBJECT
 
@@ -56,7 +56,7 @@ private:
 };
 
 // No other folder of plug-ins can lend an editor.
-void TestDesignerPlugin::initTestCase()
+void tst_DesignerPlugin::initTestCase()
 {
     m_loader.clearPluginPaths();
     QVERIFY(!m_loader.availableWidgets().join(QLatin1Char(' ')).contains(QLatin1String("Vantor")));
@@ -65,7 +65,7 @@ void TestDesignerPlugin::initTestCase()
 }
 
 // Read at run time by the plug-in, a form is what uic makes of it.
-void TestDesignerPlugin::form()
+void tst_DesignerPlugin::form()
 {
     QWidget compiled;
     Ui::AllEditors ui;
@@ -94,7 +94,7 @@ void TestDesignerPlugin::form()
     QCOMPARE(editor->value(), 125);
 }
 
-void TestDesignerPlugin::widgetBox()
+void tst_DesignerPlugin::widgetBox()
 {
     const auto *collection =
         qobject_cast<QDesignerCustomWidgetCollectionInterface *>(m_plugin.instance());
@@ -120,7 +120,7 @@ void TestDesignerPlugin::widgetBox()
 
 int main(int argc, char *argv[])
 {
-    return runTest<TestDesignerPlugin>(argc, argv);
+    return runTest<tst_DesignerPlugin>(argc, argv);
 }
 
 #include "tst_designerplugin.moc"

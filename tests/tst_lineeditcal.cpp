@@ -4,7 +4,7 @@
 
 using Vantor::Widgets::LineEditCal;
 
-class TestLineEditCal : public QObject
+class tst_LineEditCal : public QObject
 {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ struct Field : LineEditCal
 
 } // namespace
 
-void TestLineEditCal::editing_data()
+void tst_LineEditCal::editing_data()
 {
     QTest::addColumn<QString>("script");
     QTest::addColumn<QString>("text");
@@ -82,7 +82,7 @@ void TestLineEditCal::editing_data()
 }
 
 // Types the script; "<" steps back, what stands in "[]" is pasted.
-void TestLineEditCal::editing()
+void tst_LineEditCal::editing()
 {
     QFETCH(QString, script);
     Field field;
@@ -102,7 +102,7 @@ void TestLineEditCal::editing()
     QTEST(int(field.log.take().size()), "results");
 }
 
-void TestLineEditCal::results()
+void tst_LineEditCal::results()
 {
     const auto check = [](const char *typed, int decimals, float minimum, float maximum,
                           float before, const char *text) {
@@ -128,7 +128,7 @@ void TestLineEditCal::results()
 
 // The decimal rule looks back at the tokens of the last filtering pass, which a
 // result does not replace.
-void TestLineEditCal::decimalsOfEditedResult()
+void tst_LineEditCal::decimalsOfEditedResult()
 {
     Field field;
     field.setResultsRadixPointSeveral(2);
@@ -143,7 +143,7 @@ void TestLineEditCal::decimalsOfEditedResult()
 }
 
 // Writes of the filtering pass are silent, the write of a result is not.
-void TestLineEditCal::order()
+void tst_LineEditCal::order()
 {
     Field field;
     field.log.watch(&field, &QLineEdit::textChanged, "text");
@@ -152,7 +152,7 @@ void TestLineEditCal::order()
              QString("text(0) text(07) text(7*) text(7*2) text(14) result() text(7*2=)"));
 }
 
-void TestLineEditCal::editingFinished()
+void tst_LineEditCal::editingFinished()
 {
     Field field;
     field.setResultsRadixPointSeveral(2);
@@ -168,7 +168,7 @@ void TestLineEditCal::editingFinished()
 
 int main(int argc, char *argv[])
 {
-    return runTest<TestLineEditCal>(argc, argv);
+    return runTest<tst_LineEditCal>(argc, argv);
 }
 
 #include "tst_lineeditcal.moc"

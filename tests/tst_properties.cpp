@@ -10,7 +10,7 @@ using Vantor::Widgets::SliderEditFrame;
 using Vantor::Widgets::SliderEditFrameDouble;
 
 // What forms, style sheets and mappers do with the two slider editors.
-class TestProperties : public QObject
+class tst_Properties : public QObject
 {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ private Q_SLOTS:
     void mapper();
 };
 
-void TestProperties::silentWrites_data()
+void tst_Properties::silentWrites_data()
 {
     QTest::addColumn<QString>("settings");
     QTest::addColumn<QString>("integer");
@@ -66,7 +66,7 @@ template <typename Frame> void compareWrites(const QString &settings, const QStr
 
 } // namespace
 
-void TestProperties::silentWrites()
+void tst_Properties::silentWrites()
 {
     QFETCH(QString, settings);
     QFETCH(QString, integer);
@@ -78,7 +78,7 @@ void TestProperties::silentWrites()
 
 // A row of the model reaches the editors without a signal, the user's click the
 // model with one: what the mapper writes back is silent.
-void TestProperties::mapper()
+void tst_Properties::mapper()
 {
     QStandardItemModel model(1, 2);
     model.setData(model.index(0, 0), 36, Qt::EditRole);
@@ -114,7 +114,7 @@ void TestProperties::mapper()
 
 int main(int argc, char *argv[])
 {
-    return runTest<TestProperties>(argc, argv);
+    return runTest<tst_Properties>(argc, argv);
 }
 
 #include "tst_properties.moc"

@@ -5,7 +5,7 @@
 using namespace Vantor::Widgets;
 
 // The integer slider editor, and what its floating-point twin does alike.
-class TestSliderEditFrame : public QObject
+class tst_SliderEditFrame : public QObject
 {
     Q_OBJECT
 
@@ -207,7 +207,7 @@ template <typename Row> void compareSelectAll(Row &row)
 
 } // namespace
 
-void TestSliderEditFrame::widgets_data()
+void tst_SliderEditFrame::widgets_data()
 {
     QTest::addColumn<Check>("check");
     QTest::newRow("int, form") << checkOf<SliderEditFrame>([](auto &row) {
@@ -333,7 +333,7 @@ void addBoth(const QString &name, const QString &steps)
 
 } // namespace
 
-void TestSliderEditFrame::sequences_data()
+void tst_SliderEditFrame::sequences_data()
 {
     QTest::addColumn<Check>("check");
     for (const QString mode : {"", "released | ", "sampled | "}) {
@@ -422,7 +422,7 @@ void TestSliderEditFrame::sequences_data()
     addDouble("minus without tolerance", "step 10 | range 20 99 | value 30 | minus | shown: =30");
 }
 
-void TestSliderEditFrame::samplingInRealTime()
+void tst_SliderEditFrame::samplingInRealTime()
 {
     EditorRow<SliderEditFrame> row;
     QVERIFY(User::show(row.page));
@@ -438,7 +438,7 @@ void TestSliderEditFrame::samplingInRealTime()
 
 int main(int argc, char *argv[])
 {
-    return runTest<TestSliderEditFrame>(argc, argv);
+    return runTest<tst_SliderEditFrame>(argc, argv);
 }
 
 #include "tst_slidereditframe.moc"

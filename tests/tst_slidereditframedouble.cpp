@@ -22,7 +22,7 @@ template struct Lend<&SliderEditFrameDouble::getPrecision,
 } // namespace
 
 // What the integer editor has no like of: decimals and the scale of the slider.
-class TestSliderEditFrameDouble : public QObject
+class tst_SliderEditFrameDouble : public QObject
 {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ private Q_SLOTS:
 };
 
 // However the bounds are set, spin box and slider describe one interval.
-void TestSliderEditFrameDouble::scale()
+void tst_SliderEditFrameDouble::scale()
 {
     const auto check = [](int decimals, double minimum, double maximum, double value,
                           const QString &shown, const QString &range) {
@@ -80,7 +80,7 @@ void TestSliderEditFrameDouble::scale()
 }
 
 // 10 to the power of 12 is no int; positions stop at its end.
-void TestSliderEditFrameDouble::fineScale()
+void tst_SliderEditFrameDouble::fineScale()
 {
     DoubleRow row;
     row.frame->setDecimals(12);
@@ -91,7 +91,7 @@ void TestSliderEditFrameDouble::fineScale()
 
 // 0.285 is just below the half as a double, but a bound of it means 0.29. One
 // bound alone has the slider round it for itself.
-void TestSliderEditFrameDouble::halfBound()
+void tst_SliderEditFrameDouble::halfBound()
 {
     DoubleRow row;
     row.frame->setRange(0, 0.285);
@@ -104,7 +104,7 @@ void TestSliderEditFrameDouble::halfBound()
 
 // The scale is 1 until decimals or a range are set; then the handle stays where
 // it is until the next value.
-void TestSliderEditFrameDouble::freshFrame()
+void tst_SliderEditFrameDouble::freshFrame()
 {
     SliderEditFrameDouble frame;
     const auto *slider = frame.findChild<QSlider *>("slider");
@@ -126,7 +126,7 @@ void TestSliderEditFrameDouble::freshFrame()
 }
 
 // The calculator writes a decimal point in every country; so must be read.
-void TestSliderEditFrameDouble::locale()
+void tst_SliderEditFrameDouble::locale()
 {
     for (const char *name : {"de_DE", "ar_EG"}) {
         QLocale::setDefault(QLocale(name));
@@ -142,7 +142,7 @@ void TestSliderEditFrameDouble::locale()
 
 // The calculator's text is clamped in float and has two decimals: it may lie
 // beyond the range, or stand beside a suffix. No entry may be lost in it or jump.
-void TestSliderEditFrameDouble::entryBeyondText()
+void tst_SliderEditFrameDouble::entryBeyondText()
 {
     const auto check = [](int decimals, double max, const QString &suffix, double start,
                           const QString &typed, double value) {
@@ -174,7 +174,7 @@ void TestSliderEditFrameDouble::entryBeyondText()
 }
 
 // The calculator learns a value and new bounds from setValue() alone, as floats.
-void TestSliderEditFrameDouble::calculator()
+void tst_SliderEditFrameDouble::calculator()
 {
     DoubleRow row;
     QVERIFY(User::show(row.page));
@@ -192,7 +192,7 @@ void TestSliderEditFrameDouble::calculator()
     QCOMPARE(textAfter(1e300, "1/0="), QString("3.40282e+38"));
 }
 
-void TestSliderEditFrameDouble::precision()
+void tst_SliderEditFrameDouble::precision()
 {
     const auto check = [](float number, int precision, int magnification) {
         const auto [precisionOf, magnificationOf] = privateOperations();
@@ -209,7 +209,7 @@ void TestSliderEditFrameDouble::precision()
 
 int main(int argc, char *argv[])
 {
-    return runTest<TestSliderEditFrameDouble>(argc, argv);
+    return runTest<tst_SliderEditFrameDouble>(argc, argv);
 }
 
 #include "tst_slidereditframedouble.moc"

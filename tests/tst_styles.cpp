@@ -12,7 +12,7 @@
 using Vantor::Widgets::RectEditFrame;
 
 // The touch themes: readable, and large enough for a finger.
-class TestStyles : public QObject
+class tst_Styles : public QObject
 {
     Q_OBJECT
 
@@ -28,14 +28,14 @@ private:
     static QString sheet();
 };
 
-void TestStyles::sheets()
+void tst_Styles::sheets()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("dark") << "touch-dark";
     QTest::newRow("light") << "touch-light";
 }
 
-QString TestStyles::sheet()
+QString tst_Styles::sheet()
 {
     QFETCH(QString, name);
     QFile file("vantorslider:" + name + ".qss");
@@ -60,7 +60,7 @@ static double contrastOf(const QColor &a, const QColor &b)
 }
 
 // A text's colour and its background stand in one rule.
-void TestStyles::contrast()
+void tst_Styles::contrast()
 {
     const QString text = sheet();
     const QRegularExpression rule("\\{[^}]*\\}");
@@ -83,7 +83,7 @@ void TestStyles::contrast()
     QVERIFY(pairs >= 7);
 }
 
-void TestStyles::largeFont()
+void tst_Styles::largeFont()
 {
     RectEditFrame editor;
     QFont font = editor.font();
@@ -119,7 +119,7 @@ void TestStyles::largeFont()
 
 int main(int argc, char *argv[])
 {
-    return runTest<TestStyles>(argc, argv);
+    return runTest<tst_Styles>(argc, argv);
 }
 
 #include "tst_styles.moc"
