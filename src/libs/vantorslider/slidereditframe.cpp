@@ -10,6 +10,9 @@
 #include <QtCore/QSignalBlocker>
 #include <QtCore/QTimerEvent>
 
+#include <array>
+#include <charconv>
+
 namespace Vantor {
 namespace Widgets {
 
@@ -147,11 +150,23 @@ void SliderEditPrivate::emitValueChanged(int val)
     Q_EMIT m_pSliderEditer->valueChanged(val);
 }
 
+namespace {
+
+// text == QString::number(val), without the string.
+bool isTextOf(const QString &text, int val)
+{
+    std::array<char, 12> digits;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), val).ptr;
+    return text == QLatin1String(digits.data(), static_cast<int>(end - digits.data()));
+}
+
+} // namespace
+
 // Composite editors set all their rows at every move of one. The text decides
 // as well: a failed entry may show another number than the value.
 void SliderEditPrivate::showInSpinBox(int val)
 {
-    if (val == spinValue() && ui->spinBox->text() == QString::number(val)) {
+    if (val == spinValue() && isTextOf(ui->spinBox->text(), val)) {
         return;
     }
     const QSignalBlocker blocker(ui->spinBox);
