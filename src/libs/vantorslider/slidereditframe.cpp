@@ -156,7 +156,7 @@ namespace {
 bool isTextOf(const QString &text, int val)
 {
     std::array<char, 12> digits;
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), val).ptr;
+    const char *const end = std::to_chars(digits.data(), digits.data() + digits.size(), val).ptr;
     return text == QLatin1String(digits.data(), static_cast<int>(end - digits.data()));
 }
 
