@@ -56,7 +56,8 @@ std::optional<QString> evaluateWithinBudget(const QString &expression)
 
 // A "/" where an operand is due begins a pattern of the script language. Called
 // with a text, that can go on matching for hours, and no native call can be
-// abandoned. No arithmetic is written so.
+// abandoned. No arithmetic is written so; a comment before a bracket, 4//(2),
+// is taken for one as well.
 bool callsPattern(const QString &expression)
 {
     static const QRegularExpression pattern(QStringLiteral("(^|[-,+*/(=])/"));
