@@ -1,13 +1,13 @@
 #include "cropeditframe.h"
 
-#include "saturation_p.h"
-#include "slidereditframe.h"
+#include "heldpair_p.h"
 
 namespace Vantor {
 namespace Widgets {
 
 namespace Internal {
 
+// The area's minima, and what keeps a crop within the area and reports it.
 class CropEditFramePrivate : public QObject
 {
     Q_OBJECT
@@ -15,7 +15,9 @@ class CropEditFramePrivate : public QObject
 public:
     explicit CropEditFramePrivate(CropEditFrame *editer);
 
-    void createWidgets();
+    // Nothing: the base has made all widgets. Every editor is set up in these two
+    // steps.
+    void createWidgets() { }
     void createConnects();
 
     CropEditFrame *m_pEditer;
@@ -35,23 +37,12 @@ private Q_SLOTS:
 private:
     using Type = RectEditFrame::Type;
 
-    struct Crop
-    {
-        int x = 0;
-        int y = 0;
-        int w = 0;
-        int h = 0;
-    };
-
-    Crop crop() const;
     int limit(Type position, Type size) const;
     int heldInArea(Type changed, int val, Type partner, int partnerVal, int limit);
-    void report(const Crop &crop);
+    void report(const FieldValues &crop);
 };
 
 CropEditFramePrivate::CropEditFramePrivate(CropEditFrame *editer) : m_pEditer(editer) { }
-
-void CropEditFramePrivate::createWidgets() { }
 
 // The base emits a field's own signal before valueChanged(), so the crop is
 // held and reported before the host sees the whole rectangle.
@@ -62,13 +53,6 @@ void CropEditFramePrivate::createConnects()
     connect(m_pEditer, &RectEditFrame::yValueChanged, this, &Private::slotYValueChanged);
     connect(m_pEditer, &RectEditFrame::widthValueChanged, this, &Private::slotWidthValueChanged);
     connect(m_pEditer, &RectEditFrame::heightValueChanged, this, &Private::slotHeightValueChanged);
-}
-
-CropEditFramePrivate::Crop CropEditFramePrivate::crop() const
-{
-    Crop crop;
-    m_pEditer->value(crop.x, crop.y, crop.w, crop.h);
-    return crop;
 }
 
 // The far edge of the area: where the smallest position and the greatest size end.
@@ -82,57 +66,43 @@ int CropEditFramePrivate::limit(Type position, Type size) const
     return saturatedSum(lowest, greatest);
 }
 
-// The value at which position and size stay within the limit; at the limit
-// neither of the two may grow.
 int CropEditFramePrivate::heldInArea(Type changed, int val, Type partner, int partnerVal, int limit)
 {
-    const qint64 sum = qint64(partnerVal) + val;
-    if (sum > limit) {
-        val = saturatedDifference(limit, partnerVal);
-    }
-    const int directions =
-        sum >= limit ? SliderEditFrame::AllowedToSmaller : SliderEditFrame::AllowedToAny;
-    m_pEditer->setValueChangeDirection(changed, directions, val);
-    m_pEditer->setValueChangeDirection(partner, directions, partnerVal);
-    return val;
+    const HeldValue held = heldValue(val, partnerVal, limit);
+    m_pEditer->setValueChangeDirection(changed, held.directions, held.value);
+    m_pEditer->setValueChangeDirection(partner, held.directions, partnerVal);
+    return held.value;
 }
 
-void CropEditFramePrivate::report(const Crop &crop)
+void CropEditFramePrivate::report(const FieldValues &crop)
 {
-    static_cast<RectEditFrame *>(m_pEditer)->setValue(crop.x, crop.y, crop.w, crop.h);
-    const QRect rect = wrappedRect(crop.x, crop.y, crop.w, crop.h);
-    if (rect != m_lastCrop) {
-        m_lastCrop = rect;
-        Q_EMIT m_pEditer->cropValueChanged(crop.x, crop.y, crop.w, crop.h);
+    if (showAsLast(m_pEditer, crop, m_lastCrop)) {
+        Q_EMIT m_pEditer->cropValueChanged(crop.x, crop.y, crop.width, crop.height);
     }
 }
 
 void CropEditFramePrivate::slotXValueChanged(int val)
 {
-    Crop next = crop();
-    next.x = heldInArea(Type::X, val, Type::Width, next.w, limit(Type::X, Type::Width));
-    report(next);
+    const auto [x, y, w, h] = fieldValues(m_pEditer);
+    report({heldInArea(Type::X, val, Type::Width, w, limit(Type::X, Type::Width)), y, w, h});
 }
 
 void CropEditFramePrivate::slotYValueChanged(int val)
 {
-    Crop next = crop();
-    next.y = heldInArea(Type::Y, val, Type::Height, next.h, limit(Type::Y, Type::Height));
-    report(next);
+    const auto [x, y, w, h] = fieldValues(m_pEditer);
+    report({x, heldInArea(Type::Y, val, Type::Height, h, limit(Type::Y, Type::Height)), w, h});
 }
 
 void CropEditFramePrivate::slotWidthValueChanged(int val)
 {
-    Crop next = crop();
-    next.w = heldInArea(Type::Width, val, Type::X, next.x, limit(Type::X, Type::Width));
-    report(next);
+    const auto [x, y, w, h] = fieldValues(m_pEditer);
+    report({x, y, heldInArea(Type::Width, val, Type::X, x, limit(Type::X, Type::Width)), h});
 }
 
 void CropEditFramePrivate::slotHeightValueChanged(int val)
 {
-    Crop next = crop();
-    next.h = heldInArea(Type::Height, val, Type::Y, next.y, limit(Type::Y, Type::Height));
-    report(next);
+    const auto [x, y, w, h] = fieldValues(m_pEditer);
+    report({x, y, w, heldInArea(Type::Height, val, Type::Y, y, limit(Type::Y, Type::Height))});
 }
 
 } // namespace Internal
@@ -217,12 +187,14 @@ void CropEditFrame::setCropValue(const QRect &rect)
     RectEditFrame::setValue(rect);
 }
 
-/*! As RectEditFrame::setRange(). */
+/*! As RectEditFrame::setRange(), for a field that is to differ from setCropRange(). */
 void CropEditFrame::setRange(Type type, int min, int max)
 {
     RectEditFrame::setRange(type, min, max);
 }
 
+// The three are private here, so that a host takes setCropValue(), which keeps
+// the crop as the last one.
 void CropEditFrame::setValue(Type type, int val)
 {
     RectEditFrame::setValue(type, val);

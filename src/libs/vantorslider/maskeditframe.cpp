@@ -1,13 +1,13 @@
 #include "maskeditframe.h"
 
-#include "saturation_p.h"
-#include "slidereditframe.h"
+#include "heldpair_p.h"
 
 namespace Vantor {
 namespace Widgets {
 
 namespace Internal {
 
+// The area's size, and what keeps the margins within it and reports them.
 class MaskEditFramePrivate : public QObject
 {
     Q_OBJECT
@@ -35,16 +35,7 @@ private Q_SLOTS:
     void slotRightValueChanged(int val);
 
 private:
-    struct Mask
-    {
-        int top = 0;
-        int bottom = 0;
-        int left = 0;
-        int right = 0;
-    };
-
-    Mask mask() const;
-    void report(const Mask &mask);
+    void report(const FieldValues &mask);
 };
 
 MaskEditFramePrivate::MaskEditFramePrivate(MaskEditFrame *editer) : m_pEditer(editer) { }
@@ -78,70 +69,43 @@ void MaskEditFramePrivate::allowHorizontal(int directions, int left, int right)
     m_pEditer->setValueChangeDirection(RectEditFrame::Width, directions, left);
 }
 
-MaskEditFramePrivate::Mask MaskEditFramePrivate::mask() const
+void MaskEditFramePrivate::report(const FieldValues &mask)
 {
-    Mask mask;
-    m_pEditer->value(mask.top, mask.bottom, mask.left, mask.right);
-    return mask;
-}
-
-void MaskEditFramePrivate::report(const Mask &mask)
-{
-    static_cast<RectEditFrame *>(m_pEditer)->setValue(mask.top, mask.bottom, mask.left, mask.right);
-    const QRect packed = wrappedRect(mask.top, mask.bottom, mask.left, mask.right);
-    if (packed != m_lastMask) {
-        m_lastMask = packed;
-        Q_EMIT m_pEditer->maskValueChanged(mask.top, mask.bottom, mask.left, mask.right);
+    if (showAsLast(m_pEditer, mask, m_lastMask)) {
+        Q_EMIT m_pEditer->maskValueChanged(mask.x, mask.y, mask.width, mask.height);
     }
 }
 
-namespace {
-
-// A pair of margins that fills its side of the area may only shrink.
-int directionsOf(int margin, int opposite, int limit)
-{
-    return qint64(margin) + opposite >= limit ? SliderEditFrame::AllowedToSmaller
-                                              : SliderEditFrame::AllowedToAny;
-}
-
-// What of a margin fits beside the opposite one.
-int heldMargin(int margin, int opposite, int limit)
-{
-    return saturatedInt(qMin(qint64(margin), qint64(limit) - opposite));
-}
-
-} // namespace
-
 void MaskEditFramePrivate::slotTopValueChanged(int val)
 {
-    Mask next = mask();
-    next.top = heldMargin(val, next.bottom, m_nMaxHeight);
-    allowVertical(directionsOf(val, next.bottom, m_nMaxHeight), next.top, next.bottom);
-    report(next);
+    const auto [top, bottom, left, right] = fieldValues(m_pEditer);
+    const HeldValue held = heldValue(val, bottom, m_nMaxHeight);
+    allowVertical(held.directions, held.value, bottom);
+    report({held.value, bottom, left, right});
 }
 
 void MaskEditFramePrivate::slotBottomValueChanged(int val)
 {
-    Mask next = mask();
-    next.bottom = heldMargin(val, next.top, m_nMaxHeight);
-    allowVertical(directionsOf(val, next.top, m_nMaxHeight), next.top, next.bottom);
-    report(next);
+    const auto [top, bottom, left, right] = fieldValues(m_pEditer);
+    const HeldValue held = heldValue(val, top, m_nMaxHeight);
+    allowVertical(held.directions, top, held.value);
+    report({top, held.value, left, right});
 }
 
 void MaskEditFramePrivate::slotLeftValueChanged(int val)
 {
-    Mask next = mask();
-    next.left = heldMargin(val, next.right, m_nMaxWidth);
-    allowHorizontal(directionsOf(val, next.right, m_nMaxWidth), next.left, next.right);
-    report(next);
+    const auto [top, bottom, left, right] = fieldValues(m_pEditer);
+    const HeldValue held = heldValue(val, right, m_nMaxWidth);
+    allowHorizontal(held.directions, held.value, right);
+    report({top, bottom, held.value, right});
 }
 
 void MaskEditFramePrivate::slotRightValueChanged(int val)
 {
-    Mask next = mask();
-    next.right = heldMargin(val, next.left, m_nMaxWidth);
-    allowHorizontal(directionsOf(val, next.left, m_nMaxWidth), next.left, next.right);
-    report(next);
+    const auto [top, bottom, left, right] = fieldValues(m_pEditer);
+    const HeldValue held = heldValue(val, left, m_nMaxWidth);
+    allowHorizontal(held.directions, left, held.value);
+    report({top, bottom, left, held.value});
 }
 
 } // namespace Internal
@@ -198,8 +162,9 @@ void MaskEditFrame::setMaskValue(int top, int bottom, int left, int right)
 {
     d->m_lastMask = Internal::wrappedRect(top, bottom, left, right);
     RectEditFrame::setValue(top, bottom, left, right);
-    d->allowVertical(Internal::directionsOf(top, bottom, d->m_nMaxHeight), top, bottom);
-    d->allowHorizontal(Internal::directionsOf(left, right, d->m_nMaxWidth), left, right);
+    using Internal::heldValue;
+    d->allowVertical(heldValue(top, bottom, d->m_nMaxHeight).directions, top, bottom);
+    d->allowHorizontal(heldValue(left, right, d->m_nMaxWidth).directions, left, right);
 }
 
 /*!
@@ -208,14 +173,12 @@ void MaskEditFrame::setMaskValue(int top, int bottom, int left, int right)
 */
 void MaskEditFrame::getMaskValue(QRect &maskRect)
 {
-    int top = 0;
-    int bottom = 0;
-    int left = 0;
-    int right = 0;
-    value(top, bottom, left, right);
+    const auto [top, bottom, left, right] = Internal::fieldValues(this);
     maskRect.setCoords(left, top, right, bottom);
 }
 
+// The four are private here, so that a host takes setMaskValue(), which keeps
+// the margins as the last ones, and setMaskRange(), which keeps the limits.
 void MaskEditFrame::setValue(Type type, int val)
 {
     RectEditFrame::setValue(type, val);
