@@ -1,15 +1,12 @@
 #include "recteditframe.h"
 
-#include "editorlayout_p.h"
-#include "invalidtype_p.h"
+#include "editorrows_p.h"
 #include "saturation_p.h"
 #include "slidereditframe.h"
 #include "ui_recteditframe.h"
 
 #include <QtCore/QPointer>
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace Vantor {
@@ -51,11 +48,13 @@ public:
     void slotLockPositionButtonToggled(bool checked);
     void slotLockSizeButtonToggled(bool checked);
 
-    std::array<SliderEditFrame *, 4> fields() const
+    EditorRows rows() const
     {
-        return {ui->frameX, ui->frameY, ui->frameWidth, ui->frameHeight};
+        return {{RectEditFrame::X, ui->frameX},
+                {RectEditFrame::Y, ui->frameY},
+                {RectEditFrame::Width, ui->frameWidth},
+                {RectEditFrame::Height, ui->frameHeight}};
     }
-    SliderEditFrame *fieldOrWarn(int type, const char *failure, const QMessageLogger &here) const;
 
     RectEditFrame *m_pEditer;
     Ui::RectEditFrame *ui;
@@ -118,24 +117,6 @@ void RectEditFramePrivate::createConnects()
             &Private::slotLockPositionButtonToggled);
     connect(ui->toolButtonLockSize, &QToolButton::toggled, this,
             &Private::slotLockSizeButtonToggled);
-}
-
-SliderEditFrame *RectEditFramePrivate::fieldOrWarn(int type, const char *failure,
-                                                   const QMessageLogger &here) const
-{
-    switch (type) {
-    case RectEditFrame::X:
-        return ui->frameX;
-    case RectEditFrame::Y:
-        return ui->frameY;
-    case RectEditFrame::Width:
-        return ui->frameWidth;
-    case RectEditFrame::Height:
-        return ui->frameHeight;
-    default:
-        warnInvalidType(here, failure, type);
-        return nullptr;
-    }
 }
 
 // Where the button's state changes, it calls back here through toggled():
@@ -407,17 +388,14 @@ RectEditFrame::~RectEditFrame()
 /*! Shows \a text as the name of the field \a type. */
 void RectEditFrame::setLabelText(Type type, const QString &text)
 {
-    if (auto *field =
-            d->fieldOrWarn(type, "Set Rect label text has failed. The type ", VANTORSLIDER_HERE)) {
-        field->setLabelText(text);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect label text", &SliderEditFrame::setLabelText,
+                  text);
 }
 
 /*! The name shown of the field \a type; empty where it names none. */
 QString RectEditFrame::labelText(Type type) const
 {
-    const auto *field =
-        d->fieldOrWarn(type, "Set Rect label text has failed. The type ", VANTORSLIDER_HERE);
+    const auto *field = d->rows().findOrWarn(type, VANTORSLIDER_HERE, "Set Rect label text");
     return field != nullptr ? field->labelText() : QString();
 }
 
@@ -441,9 +419,7 @@ void RectEditFrame::setEditerVisible(int types)
 */
 void RectEditFrame::setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton)
 {
-    for (auto *field : d->fields()) {
-        field->setHorizontalSpacing(nLabelSlider, nSliderButton);
-    }
+    d->rows().all(&SliderEditFrame::setHorizontalSpacing, nLabelSlider, nSliderButton);
     d->ui->horizontalLayout->setSpacing(nSliderButton);
     d->ui->horizontalLayout_2->setSpacing(nSliderButton);
 }
@@ -463,72 +439,55 @@ void RectEditFrame::setVerticalSpacing(const int &nVal)
 /*! SliderEditFrame::setLabelWidthRange() of the field \a type. */
 void RectEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
 {
-    if (auto *field = d->fieldOrWarn(type, "Set Rect label width range has failed. The type ",
-                                     VANTORSLIDER_HERE)) {
-        field->setLabelWidthRange(maxw, minw);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect label width range",
+                  &SliderEditFrame::setLabelWidthRange, maxw, minw);
 }
 
 /*! SliderEditFrame::setLabelFixedWidth() of the field \a type. */
 void RectEditFrame::setLabelFixedWidth(Type type, int w)
 {
-    if (auto *field = d->fieldOrWarn(type, "Set Rect label fixed width has failed. The type ",
-                                     VANTORSLIDER_HERE)) {
-        field->setLabelFixedWidth(w);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect label fixed width",
+                  &SliderEditFrame::setLabelFixedWidth, w);
 }
 
 /*! SliderEditFrame::setButtonWidthRange() of the field \a type. */
 void RectEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
 {
-    if (auto *field = d->fieldOrWarn(type, "Set Rect button width range has failed. The type ",
-                                     VANTORSLIDER_HERE)) {
-        field->setButtonWidthRange(maxw, minw);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect button width range",
+                  &SliderEditFrame::setButtonWidthRange, maxw, minw);
 }
 
 /*! SliderEditFrame::setButtonFixedWidth() of the field \a type. */
 void RectEditFrame::setButtonFixedWidth(Type type, int w)
 {
-    if (auto *field = d->fieldOrWarn(type, "Set Rect button fixed width has failed. The type ",
-                                     VANTORSLIDER_HERE)) {
-        field->setButtonFixedWidth(w);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect button fixed width",
+                  &SliderEditFrame::setButtonFixedWidth, w);
 }
 
 /*! SliderEditFrame::setSpinBoxWidthRange() of the field \a type. */
 void RectEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
 {
-    if (auto *field = d->fieldOrWarn(type, "Set Rect spinbox width range has failed. The type ",
-                                     VANTORSLIDER_HERE)) {
-        field->setSpinBoxWidthRange(maxw, minw);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect spinbox width range",
+                  &SliderEditFrame::setSpinBoxWidthRange, maxw, minw);
 }
 
 /*! SliderEditFrame::setSpinBoxFixedWidth() of the field \a type. */
 void RectEditFrame::setSpinBoxFixedWidth(Type type, int w)
 {
-    if (auto *field = d->fieldOrWarn(type, "Set Rect spinbox fixed width has failed. The type ",
-                                     VANTORSLIDER_HERE)) {
-        field->setSpinBoxFixedWidth(w);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect spinbox fixed width",
+                  &SliderEditFrame::setSpinBoxFixedWidth, w);
 }
 
 /*! SliderEditFrame::setSpinBoxWheelEnable() of every field. */
 void RectEditFrame::setSpinBoxWheelEnable(bool b)
 {
-    for (auto *field : d->fields()) {
-        field->setSpinBoxWheelEnable(b);
-    }
+    d->rows().all(&SliderEditFrame::setSpinBoxWheelEnable, b);
 }
 
 /*! Shows \a val in the field \a type, clamped to its range. Emits nothing. */
 void RectEditFrame::setValue(Type type, int val)
 {
-    if (auto *field =
-            d->fieldOrWarn(type, "Set Rect value has failed. The type ", VANTORSLIDER_HERE)) {
-        field->setValue(val);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect value", &SliderEditFrame::setValue, val);
 }
 
 /*! Shows \a x, \a y, \a w and \a h, each clamped to its field's range. Emits nothing. */
@@ -561,28 +520,21 @@ void RectEditFrame::value(int &x, int &y, int &w, int &h)
 /*! Writes the rectangle that the fields show to \a rect. */
 void RectEditFrame::value(QRect &rect)
 {
-    int x = 0;
-    int y = 0;
-    int w = 0;
-    int h = 0;
-    value(x, y, w, h);
-    rect = Internal::saturatedRect(x, y, w, h);
+    rect = Internal::saturatedRect(d->ui->frameX->value(), d->ui->frameY->value(),
+                                   d->ui->frameWidth->value(), d->ui->frameHeight->value());
 }
 
 /*! SliderEditFrame::setRange() of the field \a type. Emits nothing. */
 void RectEditFrame::setRange(Type type, int min, int max)
 {
-    if (auto *field =
-            d->fieldOrWarn(type, "Set Rect value range has failed. The type ", VANTORSLIDER_HERE)) {
-        field->setRange(min, max);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect value range", &SliderEditFrame::setRange, min,
+                  max);
 }
 
 /*! Writes the range of the field \a type to \a min and \a max; leaves them where it names none. */
 void RectEditFrame::range(Type type, int &min, int &max)
 {
-    if (const auto *field =
-            d->fieldOrWarn(type, "Get Rect value range has failed. The type ", VANTORSLIDER_HERE)) {
+    if (const auto *field = d->rows().findOrWarn(type, VANTORSLIDER_HERE, "Get Rect value range")) {
         min = field->minimum();
         max = field->maximum();
     }
@@ -591,68 +543,52 @@ void RectEditFrame::range(Type type, int &min, int &max)
 /*! SliderEditFrame::setSingleStep() of the field \a type. */
 void RectEditFrame::setSingleStep(Type type, int val)
 {
-    if (auto *field =
-            d->fieldOrWarn(type, "Set Rect single step has failed. The type ", VANTORSLIDER_HERE)) {
-        field->setSingleStep(val);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect single step", &SliderEditFrame::setSingleStep,
+                  val);
 }
 
 /*! SliderEditFrame::setPageStep() of the field \a type. */
 void RectEditFrame::setPageStep(Type type, int val)
 {
-    if (auto *field =
-            d->fieldOrWarn(type, "Set Rect page step has failed. The type ", VANTORSLIDER_HERE)) {
-        field->setPageStep(val);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect page step", &SliderEditFrame::setPageStep,
+                  val);
 }
 
 /*! SliderEditFrame::setValueChangeDirection() of the field \a type. */
 void RectEditFrame::setValueChangeDirection(Type type, int directions, int val)
 {
-    if (auto *field = d->fieldOrWarn(type, "Set Rect value change direction has failed. The type ",
-                                     VANTORSLIDER_HERE)) {
-        field->setValueChangeDirection(directions, val);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect value change direction",
+                  &SliderEditFrame::setValueChangeDirection, directions, val);
 }
 
 /*! SliderEditFrame::setAutoRepeat() of every field. */
 void RectEditFrame::setAutoRepeat(bool b)
 {
-    for (auto *field : d->fields()) {
-        field->setAutoRepeat(b);
-    }
+    d->rows().all(&SliderEditFrame::setAutoRepeat, b);
 }
 
 /*! SliderEditFrame::setAutoRepeatDelay() of every field. */
 void RectEditFrame::setAutoRepeatDelay(int val)
 {
-    for (auto *field : d->fields()) {
-        field->setAutoRepeatDelay(val);
-    }
+    d->rows().all(&SliderEditFrame::setAutoRepeatDelay, val);
 }
 
 /*! SliderEditFrame::setAutoRepeatInterval() of every field. */
 void RectEditFrame::setAutoRepeatInterval(int val)
 {
-    for (auto *field : d->fields()) {
-        field->setAutoRepeatInterval(val);
-    }
+    d->rows().all(&SliderEditFrame::setAutoRepeatInterval, val);
 }
 
 /*! SliderEditFrame::setReleaseMode() of every field. */
 void RectEditFrame::setReleaseMode(bool b)
 {
-    for (auto *field : d->fields()) {
-        field->setReleaseMode(b);
-    }
+    d->rows().all(&SliderEditFrame::setReleaseMode, b);
 }
 
 /*! SliderEditFrame::setTimeSamplingRate() of every field. */
 void RectEditFrame::setTimeSamplingRate(int val)
 {
-    for (auto *field : d->fields()) {
-        field->setTimeSamplingRate(val);
-    }
+    d->rows().all(&SliderEditFrame::setTimeSamplingRate, val);
 }
 
 /*! Lets the space below the panels take the spare height, if \a b is true; else the panels do. */
@@ -664,9 +600,7 @@ void RectEditFrame::setLastVerticalSpacerExpanding(bool b)
 /*! True while the pointer holds the slider of any field. */
 bool RectEditFrame::isMousePressed() const
 {
-    const auto fields = d->fields();
-    return std::any_of(fields.begin(), fields.end(),
-                       [](const SliderEditFrame *field) { return field->isMousePressed(); });
+    return d->rows().isMousePressed();
 }
 
 /*! Shows the position's lock button, if \a b is true, else its placeholder. The lock stays. */

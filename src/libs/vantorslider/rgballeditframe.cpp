@@ -1,6 +1,5 @@
 #include "rgballeditframe.h"
 
-#include "editorlayout_p.h"
 #include "rgbandrow_p.h"
 #include "ui_rgballeditframe.h"
 
@@ -9,6 +8,8 @@ namespace Widgets {
 
 namespace Internal {
 
+// The master row above the block of the channels, and the one signal that
+// their changes make.
 class RGBAllEditFramePrivate : public QObject
 {
     Q_OBJECT
@@ -20,7 +21,7 @@ public:
     void createWidgets();
     void createConnects();
 
-    RGBAndRow rows() const { return {ui->frameRGB, ui->frameAll, RGBAllEditFrame::ALL}; }
+    RGBAndRow rows() const { return {{{RGBAllEditFrame::ALL, ui->frameAll}}, ui->frameRGB}; }
 
     RGBAllEditFrame *m_pEditer;
     Ui::RGBAllEditFrame *ui;
@@ -206,7 +207,8 @@ void RGBAllEditFrame::setValue(Type type, int val)
 /*! Writes the values to \a r, \a g, \a b and \a all. */
 void RGBAllEditFrame::value(int &r, int &g, int &b, int &all)
 {
-    d->rows().value(r, g, b, all);
+    all = d->ui->frameAll->value();
+    d->ui->frameRGB->value(r, g, b);
 }
 
 /*! SliderEditFrame::setRange() of the row \a type. Emits nothing. */
@@ -259,8 +261,9 @@ void RGBAllEditFrame::setTimeSamplingRate(int val)
 }
 
 /*!
-    Lets the space below the rows take the spare height, if \a b is true; else the rows do.
-    On a shown editor it takes effect when its layout is next invalidated.
+    Lets the space below the rows take the spare height, if \a b is true; else
+    the rows do. On a shown editor it takes effect when its layout is next
+    invalidated.
 */
 void RGBAllEditFrame::setLastVerticalSpacerExpanding(bool b)
 {
@@ -270,8 +273,7 @@ void RGBAllEditFrame::setLastVerticalSpacerExpanding(bool b)
 /*! The width in pixels of the widest label text, the master's in its own row's font. */
 int RGBAllEditFrame::labelMaxLength()
 {
-    return qMax(d->ui->frameRGB->labelMaxLength(),
-                Internal::labelWidth(d->ui->frameAll, d->ui->frameAll));
+    return qMax(d->ui->frameRGB->labelMaxLength(), d->rows().row.labelMaxLength());
 }
 
 } // namespace Widgets

@@ -1,36 +1,35 @@
 #pragma once
 
+#include "editorrows_p.h"
 #include "rgbeditframe.h"
-#include "slidereditframe.h"
 
 namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// A fourth row beside a block of three channels, and how the two four-value
-// colour editors address them.
+// How the two four-value colour editors reach their own row and the block of
+// three channels beside it. An operation is given twice, the row's and the
+// block's of the same name.
 struct RGBAndRow
 {
-    // An operation on one value: on the row if type is its own; else on the
-    // block, which rejects what names no channel.
-    template <typename... Parameters, typename... Arguments>
-    void one(int type, void (SliderEditFrame::*rowOperation)(Parameters...),
-             void (RGBEditFrame::*blockOperation)(RGBEditFrame::Type, Parameters...),
+    // What the own row's flag does not name is the block's, which warns of what
+    // names no channel.
+    template <typename RowOperation, typename BlockOperation, typename... Arguments>
+    void one(int type, RowOperation rowOperation, BlockOperation blockOperation,
              const Arguments &...arguments) const
     {
-        if (type == rowType) {
-            (row->*rowOperation)(arguments...);
+        if (SliderEditFrame *frame = row.find(type)) {
+            (frame->*rowOperation)(arguments...);
         } else {
             (block->*blockOperation)(static_cast<RGBEditFrame::Type>(type), arguments...);
         }
     }
 
-    template <typename... Parameters, typename... Arguments>
-    void all(void (SliderEditFrame::*rowOperation)(Parameters...),
-             void (RGBEditFrame::*blockOperation)(Parameters...),
+    template <typename RowOperation, typename BlockOperation, typename... Arguments>
+    void all(RowOperation rowOperation, BlockOperation blockOperation,
              const Arguments &...arguments) const
     {
-        (row->*rowOperation)(arguments...);
+        row.all(rowOperation, arguments...);
         (block->*blockOperation)(arguments...);
     }
 
@@ -39,22 +38,15 @@ struct RGBAndRow
     void setVisible(int types) const
     {
         constexpr int channels = RGBEditFrame::R | RGBEditFrame::G | RGBEditFrame::B;
-        row->setVisible((types & rowType) != 0);
+        row.setVisible(types);
         block->setVisible((types & channels) != 0);
         if ((types & channels) != 0) {
             block->setEditerVisible(types);
         }
     }
 
-    void value(int &r, int &g, int &b, int &fourth) const
-    {
-        fourth = row->value();
-        block->value(r, g, b);
-    }
-
+    EditorRows row;
     RGBEditFrame *block;
-    SliderEditFrame *row;
-    int rowType;
 };
 
 } // namespace Internal

@@ -1,18 +1,15 @@
 #include "rgbeditframe.h"
 
-#include "editorlayout_p.h"
-#include "invalidtype_p.h"
+#include "editorrows_p.h"
 #include "slidereditframe.h"
 #include "ui_rgbeditframe.h"
-
-#include <algorithm>
-#include <array>
 
 namespace Vantor {
 namespace Widgets {
 
 namespace Internal {
 
+// The rows of the three channels, and the one signal that their changes make.
 class RGBEditFramePrivate : public QObject
 {
     Q_OBJECT
@@ -24,8 +21,12 @@ public:
     void createWidgets();
     void createConnects();
 
-    std::array<SliderEditFrame *, 3> rows() const { return {ui->frameR, ui->frameG, ui->frameB}; }
-    SliderEditFrame *rowOrWarn(int type, const char *failure, const QMessageLogger &here) const;
+    EditorRows rows() const
+    {
+        return {{RGBEditFrame::R, ui->frameR},
+                {RGBEditFrame::G, ui->frameG},
+                {RGBEditFrame::B, ui->frameB}};
+    }
 
     RGBEditFrame *m_pEditer;
     Ui::RGBEditFrame *ui;
@@ -68,22 +69,6 @@ void RGBEditFramePrivate::createConnects()
             &RGBEditFramePrivate::greenValueChanged);
     connect(ui->frameB, &SliderEditFrame::valueChanged, this,
             &RGBEditFramePrivate::blueValueChanged);
-}
-
-SliderEditFrame *RGBEditFramePrivate::rowOrWarn(int type, const char *failure,
-                                                const QMessageLogger &here) const
-{
-    switch (type) {
-    case RGBEditFrame::G:
-        return ui->frameG;
-    case RGBEditFrame::B:
-        return ui->frameB;
-    case RGBEditFrame::R:
-        return ui->frameR;
-    default:
-        warnInvalidType(here, failure, type);
-        return nullptr;
-    }
 }
 
 void RGBEditFramePrivate::redValueChanged(int val)
@@ -151,26 +136,20 @@ RGBEditFrame::~RGBEditFrame()
 /*! Shows \a text as the name of the row \a type. */
 void RGBEditFrame::setLabelText(Type type, const QString &text)
 {
-    if (auto *row =
-            d->rowOrWarn(type, "Set RGBAll label text has failed. The type ", VANTORSLIDER_HERE)) {
-        row->setLabelText(text);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGBAll label text", &SliderEditFrame::setLabelText,
+                  text);
 }
 
 /*! Shows the rows whose bit is set in \a types and hides the others. */
 void RGBEditFrame::setEditerVisible(int types)
 {
-    d->ui->frameR->setVisible((types & R) != 0);
-    d->ui->frameG->setVisible((types & G) != 0);
-    d->ui->frameB->setVisible((types & B) != 0);
+    d->rows().setVisible(types);
 }
 
 /*! SliderEditFrame::setHorizontalSpacing() of every row. */
 void RGBEditFrame::setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton)
 {
-    for (auto *row : d->rows()) {
-        row->setHorizontalSpacing(nLabelSlider, nSliderButton);
-    }
+    d->rows().all(&SliderEditFrame::setHorizontalSpacing, nLabelSlider, nSliderButton);
 }
 
 /*! Sets the gap between the rows to \a nVal pixels. */
@@ -182,71 +161,55 @@ void RGBEditFrame::setVerticalSpacing(const int &nVal)
 /*! SliderEditFrame::setLabelWidthRange() of the row \a type. */
 void RGBEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
 {
-    if (auto *row = d->rowOrWarn(type, "Set RGB label width range has failed. The type ",
-                                 VANTORSLIDER_HERE)) {
-        row->setLabelWidthRange(maxw, minw);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB label width range",
+                  &SliderEditFrame::setLabelWidthRange, maxw, minw);
 }
 
 /*! SliderEditFrame::setLabelFixedWidth() of the row \a type. */
 void RGBEditFrame::setLabelFixedWidth(Type type, int w)
 {
-    if (auto *row = d->rowOrWarn(type, "Set RGB label fixed width has failed. The type ",
-                                 VANTORSLIDER_HERE)) {
-        row->setLabelFixedWidth(w);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB label fixed width",
+                  &SliderEditFrame::setLabelFixedWidth, w);
 }
 
 /*! SliderEditFrame::setButtonWidthRange() of the row \a type. */
 void RGBEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
 {
-    if (auto *row = d->rowOrWarn(type, "Set RGB button width range has failed. The type ",
-                                 VANTORSLIDER_HERE)) {
-        row->setButtonWidthRange(maxw, minw);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB button width range",
+                  &SliderEditFrame::setButtonWidthRange, maxw, minw);
 }
 
 /*! SliderEditFrame::setButtonFixedWidth() of the row \a type. */
 void RGBEditFrame::setButtonFixedWidth(Type type, int w)
 {
-    if (auto *row = d->rowOrWarn(type, "Set RGB button fixed width has failed. The type ",
-                                 VANTORSLIDER_HERE)) {
-        row->setButtonFixedWidth(w);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB button fixed width",
+                  &SliderEditFrame::setButtonFixedWidth, w);
 }
 
 /*! SliderEditFrame::setSpinBoxWidthRange() of the row \a type. */
 void RGBEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
 {
-    if (auto *row = d->rowOrWarn(type, "Set RGB spinbox width range has failed. The type ",
-                                 VANTORSLIDER_HERE)) {
-        row->setSpinBoxWidthRange(maxw, minw);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB spinbox width range",
+                  &SliderEditFrame::setSpinBoxWidthRange, maxw, minw);
 }
 
 /*! SliderEditFrame::setSpinBoxFixedWidth() of the row \a type. */
 void RGBEditFrame::setSpinBoxFixedWidth(Type type, int w)
 {
-    if (auto *row = d->rowOrWarn(type, "Set RGB spinbox fixed width has failed. The type ",
-                                 VANTORSLIDER_HERE)) {
-        row->setSpinBoxFixedWidth(w);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB spinbox fixed width",
+                  &SliderEditFrame::setSpinBoxFixedWidth, w);
 }
 
 /*! SliderEditFrame::setSpinBoxWheelEnable() of every row. */
 void RGBEditFrame::setSpinBoxWheelEnable(bool b)
 {
-    for (auto *row : d->rows()) {
-        row->setSpinBoxWheelEnable(b);
-    }
+    d->rows().all(&SliderEditFrame::setSpinBoxWheelEnable, b);
 }
 
 /*! SliderEditFrame::setValue() of the row \a type. Emits nothing. */
 void RGBEditFrame::setValue(Type type, int val)
 {
-    if (auto *row = d->rowOrWarn(type, "Set RGB value has failed. The type ", VANTORSLIDER_HERE)) {
-        row->setValue(val);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB value", &SliderEditFrame::setValue, val);
 }
 
 /*! Writes the channels' values to \a r, \a g and \a b. */
@@ -260,72 +223,56 @@ void RGBEditFrame::value(int &r, int &g, int &b)
 /*! SliderEditFrame::setRange() of the row \a type. Emits nothing. */
 void RGBEditFrame::setRange(Type type, int min, int max)
 {
-    if (auto *row = d->rowOrWarn(type, "Set RGB range has failed. The type ", VANTORSLIDER_HERE)) {
-        row->setRange(min, max);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB range", &SliderEditFrame::setRange, min, max);
 }
 
 /*! SliderEditFrame::setSingleStep() of the row \a type. */
 void RGBEditFrame::setSingleStep(Type type, int val)
 {
-    if (auto *row =
-            d->rowOrWarn(type, "Set RGB single step has failed. The type ", VANTORSLIDER_HERE)) {
-        row->setSingleStep(val);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB single step", &SliderEditFrame::setSingleStep,
+                  val);
 }
 
 /*! SliderEditFrame::setPageStep() of the row \a type. */
 void RGBEditFrame::setPageStep(Type type, int val)
 {
-    if (auto *row =
-            d->rowOrWarn(type, "Set RGB page step has failed. The type ", VANTORSLIDER_HERE)) {
-        row->setPageStep(val);
-    }
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB page step", &SliderEditFrame::setPageStep, val);
 }
 
 /*! SliderEditFrame::setAutoRepeat() of every row. */
 void RGBEditFrame::setAutoRepeat(bool b)
 {
-    for (auto *row : d->rows()) {
-        row->setAutoRepeat(b);
-    }
+    d->rows().all(&SliderEditFrame::setAutoRepeat, b);
 }
 
 /*! SliderEditFrame::setAutoRepeatDelay() of every row. */
 void RGBEditFrame::setAutoRepeatDelay(int val)
 {
-    for (auto *row : d->rows()) {
-        row->setAutoRepeatDelay(val);
-    }
+    d->rows().all(&SliderEditFrame::setAutoRepeatDelay, val);
 }
 
 /*! SliderEditFrame::setAutoRepeatInterval() of every row. */
 void RGBEditFrame::setAutoRepeatInterval(int val)
 {
-    for (auto *row : d->rows()) {
-        row->setAutoRepeatInterval(val);
-    }
+    d->rows().all(&SliderEditFrame::setAutoRepeatInterval, val);
 }
 
 /*! SliderEditFrame::setReleaseMode() of every row. */
 void RGBEditFrame::setReleaseMode(bool b)
 {
-    for (auto *row : d->rows()) {
-        row->setReleaseMode(b);
-    }
+    d->rows().all(&SliderEditFrame::setReleaseMode, b);
 }
 
 /*! SliderEditFrame::setTimeSamplingRate() of every row. */
 void RGBEditFrame::setTimeSamplingRate(int val)
 {
-    for (auto *row : d->rows()) {
-        row->setTimeSamplingRate(val);
-    }
+    d->rows().all(&SliderEditFrame::setTimeSamplingRate, val);
 }
 
 /*!
-    Lets the space below the rows take the spare height, if \a b is true; else the rows do.
-    On a shown editor it takes effect when its layout is next invalidated.
+    Lets the space below the rows take the spare height, if \a b is true; else
+    the rows do. On a shown editor it takes effect when its layout is next
+    invalidated.
 */
 void RGBEditFrame::setLastVerticalSpacerExpanding(bool b)
 {
@@ -335,19 +282,13 @@ void RGBEditFrame::setLastVerticalSpacerExpanding(bool b)
 /*! True while the pointer holds the slider of any row. */
 bool RGBEditFrame::isMousePressed() const
 {
-    const auto rows = d->rows();
-    return std::any_of(rows.begin(), rows.end(),
-                       [](const SliderEditFrame *row) { return row->isMousePressed(); });
+    return d->rows().isMousePressed();
 }
 
 /*! The width in pixels of the widest label text, in the red row's font. */
 int RGBEditFrame::labelMaxLength()
 {
-    int widest = 0;
-    for (const auto *row : d->rows()) {
-        widest = qMax(widest, Internal::labelWidth(row, d->ui->frameR));
-    }
-    return widest;
+    return d->rows().labelMaxLength();
 }
 
 } // namespace Widgets

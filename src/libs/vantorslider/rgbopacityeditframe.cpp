@@ -1,6 +1,5 @@
 #include "rgbopacityeditframe.h"
 
-#include "editorlayout_p.h"
 #include "rgbandrow_p.h"
 #include "ui_rgbopacityeditframe.h"
 
@@ -9,6 +8,8 @@ namespace Widgets {
 
 namespace Internal {
 
+// The block of the channels above the opacity's row, and the one signal that
+// their changes make.
 class RGBOpacityEditFramePrivate : public QObject
 {
     Q_OBJECT
@@ -22,7 +23,7 @@ public:
 
     RGBAndRow rows() const
     {
-        return {ui->frameRGB, ui->frameOpacity, RGBOpacityEditFrame::Opacity};
+        return {{{RGBOpacityEditFrame::Opacity, ui->frameOpacity}}, ui->frameRGB};
     }
 
     RGBOpacityEditFrame *m_pEditer;
@@ -202,7 +203,8 @@ void RGBOpacityEditFrame::setValue(Type type, int val)
 /*! Writes the values to \a r, \a g, \a b and \a opacity. */
 void RGBOpacityEditFrame::value(int &r, int &g, int &b, int &opacity)
 {
-    d->rows().value(r, g, b, opacity);
+    opacity = d->ui->frameOpacity->value();
+    d->ui->frameRGB->value(r, g, b);
 }
 
 /*! SliderEditFrame::setRange() of the row \a type. Emits nothing. */
@@ -255,8 +257,9 @@ void RGBOpacityEditFrame::setTimeSamplingRate(int val)
 }
 
 /*!
-    Lets the space below the rows take the spare height, if \a b is true; else the rows do.
-    On a shown editor it takes effect when its layout is next invalidated.
+    Lets the space below the rows take the spare height, if \a b is true; else
+    the rows do. On a shown editor it takes effect when its layout is next
+    invalidated.
 */
 void RGBOpacityEditFrame::setLastVerticalSpacerExpanding(bool b)
 {

@@ -1,0 +1,73 @@
+#include "editorrows_p.h"
+
+#include <QtCore/QDebug>
+#include <QtGui/QFontMetrics>
+#include <QtWidgets/QSpacerItem>
+
+#include <algorithm>
+
+namespace Vantor {
+namespace Widgets {
+namespace Internal {
+
+SliderEditFrame *EditorRows::find(int type) const
+{
+    for (const Row &row : m_rows) {
+        if (row.type == type) {
+            return row.frame;
+        }
+    }
+    return nullptr;
+}
+
+// The stream adds a blank on each side of the number to those of the texts.
+SliderEditFrame *EditorRows::findOrWarn(int type, const QMessageLogger &here,
+                                        const char *task) const
+{
+    SliderEditFrame *frame = find(type);
+    if (frame == nullptr) {
+        const QByteArray failure = QByteArray(task) + " has failed. The type ";
+        here.warning() << failure.constData() << type << " is invalid.";
+    }
+    return frame;
+}
+
+void EditorRows::setVisible(int types) const
+{
+    for (const Row &row : m_rows) {
+        row.frame->setVisible((types & row.type) != 0);
+    }
+}
+
+bool EditorRows::isMousePressed() const
+{
+    return std::any_of(m_rows.begin(), m_rows.end(),
+                       [](const Row &row) { return row.frame->isMousePressed(); });
+}
+
+int EditorRows::labelMaxLength() const
+{
+    const QFontMetrics metrics = m_rows.first().frame->fontMetrics();
+    int widest = 0;
+    for (const Row &row : m_rows) {
+#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
+        widest = qMax(widest, metrics.horizontalAdvance(row.frame->labelText()));
+#else
+        widest = qMax(widest, metrics.width(row.frame->labelText()));
+#endif
+    }
+    return widest;
+}
+
+void setSpacerExpanding(QSpacerItem *spacer, bool isExpanding)
+{
+    if (isExpanding) {
+        spacer->changeSize(20, 20, QSizePolicy::Expanding, QSizePolicy::Expanding);
+    } else {
+        spacer->changeSize(20, 0, QSizePolicy::Expanding, QSizePolicy::Ignored);
+    }
+}
+
+} // namespace Internal
+} // namespace Widgets
+} // namespace Vantor
