@@ -1,0 +1,145 @@
+#include "recteditframe_p.h"
+
+#include <QtCore/QPointer>
+
+namespace Vantor {
+namespace Widgets {
+namespace Internal {
+
+namespace {
+
+void allowAnyDirection(SliderEditFrame *field)
+{
+    field->setValueChangeDirection(SliderEditFrame::AllowedToAny, field->value());
+}
+
+} // namespace
+
+RectEditFramePrivate::RectEditFramePrivate(RectEditFrame *editer)
+    : m_pEditer(editer), ui(new Ui::RectEditFrame)
+{
+}
+
+RectEditFramePrivate::~RectEditFramePrivate()
+{
+    delete ui;
+    ui = nullptr;
+}
+
+void RectEditFramePrivate::createWidgets()
+{
+    ui->toolButtonLockPosition->setProperty("lockoutstate", true);
+    ui->toolButtonLockSize->setProperty("lockoutstate", true);
+    ui->frameSpacerLockPosition->setProperty("isLockPositionFrame", true);
+    ui->toolButtonLockPosition->setProperty("isLockPositionFrame", true);
+    m_pEditer->setPositionLockEnable(false);
+    m_pEditer->setSizeLockEnable(false, RectEditFrame::SizeScaleLock);
+}
+
+void RectEditFramePrivate::createConnects()
+{
+    using Private = RectEditFramePrivate;
+    connect(ui->frameX, &SliderEditFrame::valueChanged, this, &Private::slotXValueChanged);
+    connect(ui->frameY, &SliderEditFrame::valueChanged, this, &Private::slotYValueChanged);
+    connect(ui->frameWidth, &SliderEditFrame::valueChanged, this, &Private::slotWidthValueChanged);
+    connect(ui->frameHeight, &SliderEditFrame::valueChanged, this,
+            &Private::slotHeightValueChanged);
+    connect(ui->toolButtonLockPosition, &QToolButton::toggled, this,
+            &Private::slotLockPositionButtonToggled);
+    connect(ui->toolButtonLockSize, &QToolButton::toggled, this,
+            &Private::slotLockSizeButtonToggled);
+}
+
+// Where the button's state changes, it calls back here through toggled():
+// that run captures and reports, this one then captures anew.
+void RectEditFramePrivate::setSizeLock(bool bLock)
+{
+    ui->toolButtonLockSize->setChecked(bLock);
+    m_isLockedSize = bLock;
+    if (bLock) {
+        m_lockedSize = QSize(ui->frameWidth->value(), ui->frameHeight->value());
+    }
+    allowAnyDirection(ui->frameWidth);
+    allowAnyDirection(ui->frameHeight);
+}
+
+void RectEditFramePrivate::slotLockPositionButtonToggled(bool checked)
+{
+    m_isLockedPosition = checked;
+    if (checked) {
+        m_lockedPosition = QPoint(ui->frameX->value(), ui->frameY->value());
+    }
+    allowAnyDirection(ui->frameX);
+    allowAnyDirection(ui->frameY);
+    Q_EMIT m_pEditer->PositionLockChanged(checked);
+}
+
+void RectEditFramePrivate::slotLockSizeButtonToggled(bool checked)
+{
+    setSizeLock(checked);
+    Q_EMIT m_pEditer->sizeLockChanged(checked);
+}
+
+void RectEditFramePrivate::slotXValueChanged(int val)
+{
+    changePosition(x(), val, y());
+}
+
+void RectEditFramePrivate::slotYValueChanged(int val)
+{
+    changePosition(y(), val, x());
+}
+
+void RectEditFramePrivate::slotWidthValueChanged(int val)
+{
+    changeSize(width(), val, height());
+}
+
+void RectEditFramePrivate::slotHeightValueChanged(int val)
+{
+    changeSize(height(), val, width());
+}
+
+void RectEditFramePrivate::changePosition(const LockedField &changed, int val,
+                                          const LockedField &partner)
+{
+    if (m_isLockedPosition) {
+        moveAlong(changed, val, partner);
+    }
+    report(changed, val);
+}
+
+void RectEditFramePrivate::changeSize(const LockedField &changed, int val,
+                                      const LockedField &partner)
+{
+    if (m_isLockedSize && m_sizeLockType == RectEditFrame::OffsetLock) {
+        moveAlong(changed, val, partner);
+    } else if (m_isLockedSize && m_sizeLockType == RectEditFrame::SizeScaleLock
+               && changed.basis > 0) {
+        const ScaledSides sides = scaleAlong(changed, val, partner);
+        val = sides.changed;
+        const QPointer<RectEditFramePrivate> self(this);
+        Q_EMIT(m_pEditer->*partner.valueChanged)(sides.partner);
+        if (!self) {
+            return;
+        }
+    }
+    report(changed, val);
+}
+
+void RectEditFramePrivate::report(const LockedField &changed, int val)
+{
+    const QPointer<RectEditFramePrivate> self(this);
+    Q_EMIT(m_pEditer->*changed.valueChanged)(val);
+    if (self) {
+        const auto valueOf = [&changed, val](SliderEditFrame *frame) {
+            return frame == changed.frame ? val : frame->value();
+        };
+        Q_EMIT m_pEditer->valueChanged(valueOf(ui->frameX), valueOf(ui->frameY),
+                                       valueOf(ui->frameWidth), valueOf(ui->frameHeight));
+    }
+}
+
+} // namespace Internal
+} // namespace Widgets
+} // namespace Vantor

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "editorrows_p.h"
+#include "recteditframe.h"
+#include "rectlocks_p.h"
+#include "slidereditframe.h"
+#include "ui_recteditframe.h"
+
+namespace Vantor {
+namespace Widgets {
+namespace Internal {
+
+// The four fields, the state of their two locks, and what both report.
+class RectEditFramePrivate : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit RectEditFramePrivate(RectEditFrame *editer);
+    ~RectEditFramePrivate() override;
+
+    void createWidgets();
+    void createConnects();
+    void setSizeLock(bool bLock);
+    void slotLockPositionButtonToggled(bool checked);
+    void slotLockSizeButtonToggled(bool checked);
+
+    EditorRows rows() const
+    {
+        return {{RectEditFrame::X, ui->frameX},
+                {RectEditFrame::Y, ui->frameY},
+                {RectEditFrame::Width, ui->frameWidth},
+                {RectEditFrame::Height, ui->frameHeight}};
+    }
+
+    RectEditFrame *m_pEditer;
+    Ui::RectEditFrame *ui;
+    RectEditFrame::LockType m_sizeLockType = RectEditFrame::SizeScaleLock;
+    QPoint m_lockedPosition;
+    // Width and height at the switch-on, or a ratio in thousandths.
+    QSize m_lockedSize;
+    bool m_isLockedPosition = false;
+    bool m_isLockedSize = false;
+
+private Q_SLOTS:
+    void slotXValueChanged(int val);
+    void slotYValueChanged(int val);
+    void slotWidthValueChanged(int val);
+    void slotHeightValueChanged(int val);
+
+private:
+    LockedField x() const
+    {
+        return {ui->frameX, &RectEditFrame::xValueChanged, m_lockedPosition.x()};
+    }
+    LockedField y() const
+    {
+        return {ui->frameY, &RectEditFrame::yValueChanged, m_lockedPosition.y()};
+    }
+    LockedField width() const
+    {
+        constexpr bool isLimitedFirst = true;
+        return {ui->frameWidth, &RectEditFrame::widthValueChanged, m_lockedSize.width(), ui->frameX,
+                isLimitedFirst};
+    }
+    LockedField height() const
+    {
+        return {ui->frameHeight, &RectEditFrame::heightValueChanged, m_lockedSize.height(),
+                ui->frameY};
+    }
+
+    void changePosition(const LockedField &changed, int val, const LockedField &partner);
+    void changeSize(const LockedField &changed, int val, const LockedField &partner);
+
+    // Emits the field's own signal and then that of the whole rectangle.
+    void report(const LockedField &changed, int val);
+};
+
+} // namespace Internal
+} // namespace Widgets
+} // namespace Vantor
