@@ -62,13 +62,15 @@ void tst_RectEditFrames::lockButtons()
                                  "frameSpacerLockPosition", "frameSpacerLockSize"}) {
             const auto *place = m_frame->findChild<QWidget *>(name);
             texts.append(place->isHidden() ? "hidden" : limits(place->width(), place->height()));
+            texts.append('"' + place->accessibleName() + '"');
             for (const QByteArray &property : place->dynamicPropertyNames())
                 texts.append(property + '=' + place->property(property).toString());
         }
         return texts.join(' ');
     };
-    const QString texts("%1 lockoutstate=true isLockPositionFrame=true %1 lockoutstate=true "
-                        "%2 isLockPositionFrame=true %2");
+    const QString texts("%1 \"Lock position\" lockoutstate=true isLockPositionFrame=true "
+                        "%1 \"Lock size\" lockoutstate=true "
+                        "%2 \"\" isLockPositionFrame=true %2 \"\"");
     QCOMPARE(m_frame->objectName(), QString("RectEditFrame"));
     QCOMPARE(m_frame->property("isSliderFrame"), QVariant(true));
     QVERIFY(User::show(*m_frame));

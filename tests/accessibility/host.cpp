@@ -41,6 +41,8 @@ int main(int argc, char *argv[])
     rect->setLabelText(RectEditFrame::Y, QStringLiteral("Y"));
     rect->setLabelText(RectEditFrame::Width, QStringLiteral("Width"));
     rect->setLabelText(RectEditFrame::Height, QStringLiteral("Height"));
+    rect->setPositionLockEnable(true);
+    rect->setSizeLockEnable(true, RectEditFrame::SizeScaleLock);
     layout->addWidget(rect);
 
     window.show();

@@ -34,7 +34,11 @@ ROLES = {
     pyatspi.ROLE_SLIDER: "slider",
     pyatspi.ROLE_SPIN_BUTTON: "field",
     pyatspi.ROLE_PUSH_BUTTON: "button",
+    pyatspi.ROLE_CHECK_BOX: "lock",
 }
+
+# The buttons behind the last row of a panel.
+LOCKS = {"Y": "Lock position", "Height": "Lock size"}
 
 
 def fail(message):
@@ -107,6 +111,8 @@ def expected_children():
         yield ("field", name)
         yield ("button", name + " \N{MINUS SIGN}")
         yield ("button", name + " +")
+        if name in LOCKS:
+            yield ("lock", LOCKS[name])
 
 
 def children_of(window):
@@ -118,12 +124,26 @@ def children_of(window):
     ]
 
 
+def check_focusable(window):
+    """What takes the focus has a name; a row's frame and a field's own text go by their row's."""
+    focusable = [
+        child
+        for child in descendants(window)
+        if child.getState().contains(pyatspi.STATE_FOCUSABLE)
+        and child.getRole() not in (pyatspi.ROLE_FRAME, pyatspi.ROLE_TEXT)
+    ]
+    nameless = [child.getRoleName() for child in focusable if not child.name]
+    if nameless or not focusable:
+        fail(f"of {len(focusable)} children that take the focus, these have no name: {nameless}")
+    print(f"{len(focusable)} children that take the focus have names")
+
+
 def check_names(children):
     found = [(role, name) for role, name, _ in children]
     expected = list(expected_children())
     if found != expected:
         fail(f"the window reads\n{found}\nand not\n{expected}")
-    print(f"{len(found)} children of {len(ROWS)} rows read by their names, in order")
+    print(f"{len(found)} children read by their names, in order")
 
 
 def check_change(children, heard, row, button, step):
@@ -158,6 +178,7 @@ def main():
         for event in ("object:property-change:accessible-value", "object:text-changed:insert"):
             pyatspi.Registry.registerEventListener(hear, event)
         children = children_of(window)
+        check_focusable(window)
         check_names(children)
         for name, step in ROWS:
             check_change(children, heard, name, name + " +", step)

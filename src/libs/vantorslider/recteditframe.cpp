@@ -20,7 +20,9 @@ namespace Widgets {
     While the position lock is on, x and y move by the same distance. While the
     size lock is on, width and height do (OffsetLock) or keep their proportion
     (SizeScaleLock). The lock buttons are hidden until the host enables them; a
-    placeholder of the same size stands in their place.
+    placeholder of the same size stands in their place. They have no texts; a
+    screen reader hears "Lock position" and "Lock size", which are translated
+    in the context Vantor::Widgets::RectEditFrame.
 
     Style sheets select on "isSliderFrame" of the editor, "lockoutstate" of
     both lock buttons, "isLockPositionFrame" of the position's lock button and

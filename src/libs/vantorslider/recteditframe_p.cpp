@@ -32,6 +32,9 @@ void RectEditFramePrivate::createWidgets()
     ui->toolButtonLockSize->setProperty("lockoutstate", true);
     ui->frameSpacerLockPosition->setProperty("isLockPositionFrame", true);
     ui->toolButtonLockPosition->setProperty("isLockPositionFrame", true);
+    // The buttons have no texts.
+    ui->toolButtonLockPosition->setAccessibleName(RectEditFrame::tr("Lock position"));
+    ui->toolButtonLockSize->setAccessibleName(RectEditFrame::tr("Lock size"));
     m_pEditer->setPositionLockEnable(false);
     m_pEditer->setSizeLockEnable(false, RectEditFrame::SizeScaleLock);
 }
