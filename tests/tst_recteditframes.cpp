@@ -278,6 +278,10 @@ void tst_RectEditFrames::crops_data()
     row("edges leave 32 bits",
         "range x -2147483648 0 | range w -9 9 | crop -2147483648 0 -5 9 | "
         "w-: crop(-2147483648,0,-6,9) w(-6) (-2147483648,0,-6,9)");
+    row("the rest of the area leaves 32 bits",
+        "range x -2147483648 2147483647 | range w -9 0 | crop 2147483647 0 0 9 | "
+        "w-: crop(2147483647,0,-2147483648,9) w(-1) (2147483647,0,-1,9) | "
+        "fields: 2147483647 0 -9 9");
 }
 
 // x, y, w and h are the top, bottom, left and right margin.

@@ -15,8 +15,8 @@ class CropEditFramePrivate : public QObject
 public:
     explicit CropEditFramePrivate(CropEditFrame *editer);
 
-    // Nothing: the base has made all widgets. Every editor is set up in these two
-    // steps.
+    // Every editor is set up in these two steps. Here the base has made all
+    // widgets, and there is nothing to add.
     void createWidgets() { }
     void createConnects();
 
