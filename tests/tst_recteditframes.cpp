@@ -1,6 +1,8 @@
 #include "edituser.h"
 #include "layouteditframe.h"
 
+#include <utility>
+
 using namespace Vantor::Widgets;
 
 // The rectangle editor and those that derive from it.
@@ -28,6 +30,7 @@ private Q_SLOTS:
     void hiddenLocksStay();
     void lockIsReportedWhenItIsOn();
     void receiverSetsAnotherField();
+    void receiverDeletesTheEditor();
     void setsThroughTheVirtuals();
 
 private:
@@ -334,6 +337,17 @@ void tst_RectEditFrames::receiverSetsAnotherField()
     connect(m_frame, &RectEditFrame::xValueChanged,
             [this] { m_frame->setValue(RectEditFrame::Width, 77); });
     user.check("set 0 0 40 20 | x+: x(1) (1,0,77,20)");
+}
+
+// The partner's signal comes first, and nothing after it where the editor is gone.
+void tst_RectEditFrames::receiverDeletesTheEditor()
+{
+    RectUser user(*m_frame);
+    user.check("set 0 0 40 20 | size lock on: sizeLock(true)");
+    connect(m_frame, &RectEditFrame::heightValueChanged,
+            [this] { delete std::exchange(m_frame, nullptr); });
+    QTest::keyClick(user.rows[2].plus, Qt::Key_Space);
+    QCOMPARE(user.log.take(), QStringList("h(21)"));
 }
 
 // A host's class sees the rectangle that the user's change makes, and not the
