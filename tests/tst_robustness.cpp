@@ -25,7 +25,6 @@ class tst_Robustness : public QObject
 private Q_SLOTS:
     void scripts_data();
     void scripts() { run(); }
-    void oneEvaluationAtATime();
     void hugeTexts_data();
     void hugeTexts() { run(); }
     void deletedInASignal_data();
@@ -107,32 +106,7 @@ void tst_Robustness::scripts_data()
                 compareFieldWorks(row);
             });
         }
-        for (const bool isAtOnce : {false, true}) {
-            addForBoth(way + (isAtOnce ? "delete" : "deleteLater"), [=](auto &row) {
-                const QPointer<QWidget> frame(row.frame);
-                QTimer::singleShot(30, row.frame, [&] { destroy(row.frame, isAtOnce); });
-                put(row, "while(1);=");
-                QCoreApplication::processEvents();
-                QVERIFY(!frame);
-            });
-        }
     }
-}
-
-void tst_Robustness::oneEvaluationAtATime()
-{
-    EditorRow<SliderEditFrame> row;
-    QVERIFY(User::show(row.page));
-    row.type({});
-    QString meanwhile;
-    QTimer::singleShot(30, row.frame, [&] {
-        row.field->setText("5*5=");
-        meanwhile = row.field->text();
-    });
-    User::paste("while(1);=");
-    QCOMPARE(meanwhile, QString("5*5="));
-    QCOMPARE(row.field->text(), QString("10"));
-    compareFieldWorks(row);
 }
 
 void tst_Robustness::hugeTexts_data()

@@ -2,6 +2,7 @@
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QAbstractSpinBox>
+#include <QtWidgets/QStyle>
 
 namespace Vantor {
 namespace Widgets {
@@ -29,8 +30,6 @@ void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard)
     spinBox->setAttribute(Qt::WA_MacShowFocusRect, false);
     spinBox->setFocusPolicy(Qt::StrongFocus);
     spinBox->setProperty("Quelmo_VK", keyboard);
-    // The calculator writes a decimal point in every country; a spin box that
-    // read it by the host's locale would take 0.25 for 25 in a German one.
     LocaleChangeFilter filter;
     spinBox->installEventFilter(&filter);
     spinBox->setLocale(QLocale::c());
@@ -39,6 +38,22 @@ void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard)
 bool isFinishingKey(const QKeyEvent *event)
 {
     return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+}
+
+void keepDecimalPoint(QAbstractSpinBox *spinBox, const QEvent *event)
+{
+    if (event->type() == QEvent::LocaleChange && spinBox->locale() != QLocale::c()) {
+        spinBox->setLocale(QLocale::c());
+    }
+}
+
+void showEntryRefused(QAbstractSpinBox *spinBox, bool isRefused)
+{
+    spinBox->setProperty("isEntryRefused", isRefused);
+    for (QWidget *widget : {static_cast<QWidget *>(spinBox), spinBox->findChild<QWidget *>()}) {
+        widget->style()->unpolish(widget);
+        widget->style()->polish(widget);
+    }
 }
 
 } // namespace Internal

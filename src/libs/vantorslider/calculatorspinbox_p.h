@@ -1,13 +1,18 @@
 #pragma once
 
+#include "qlineeditcal.h"
+#include "saturation_p.h"
+
 #include <QtCore/QLocale>
+#include <QtCore/QSignalBlocker>
 
 #include <cmath>
+#include <optional>
 
 QT_BEGIN_NAMESPACE
 class QAbstractSpinBox;
+class QEvent;
 class QKeyEvent;
-class QString;
 QT_END_NAMESPACE
 
 namespace Vantor {
@@ -21,12 +26,15 @@ void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard);
 
 bool isFinishingKey(const QKeyEvent *event);
 
-// The number that the text of a calculator spin box stands for. Qt takes the
-// range's start for what it can't read and for what is out of range, which the
-// calculator's result may be: it is clamped in float, to the range of the last
-// setSpinBoxCal(), and rounded to its own decimals. Here the nearer end is taken,
-// and what is no number leaves the value.
-template <typename SpinBox> double numberFromText(const SpinBox *spinBox, QString text)
+// Undoes a host's change of locale: the calculator writes a decimal point in every
+// country, and a spin box that read it by a German locale would take 0.25 for 25.
+void keepDecimalPoint(QAbstractSpinBox *spinBox, const QEvent *event);
+
+// The property "isEntryRefused" for style sheets, which need a polish to see it.
+void showEntryRefused(QAbstractSpinBox *spinBox, bool isRefused);
+
+// The number that the box shows, without prefix and suffix; nothing for an expression.
+template <typename SpinBox> std::optional<double> numberIn(const SpinBox *spinBox, QString text)
 {
     if (text.startsWith(spinBox->prefix())) {
         text.remove(0, spinBox->prefix().length());
@@ -36,10 +44,57 @@ template <typename SpinBox> double numberFromText(const SpinBox *spinBox, QStrin
     }
     bool isNumber = false;
     const double number = QLocale::c().toDouble(text, &isNumber);
-    if (!isNumber || std::isnan(number)) {
-        return spinBox->value();
+    return isNumber && !std::isnan(number) ? std::optional<double>(number) : std::nullopt;
+}
+
+// The number that the text of a calculator spin box stands for. Qt takes the
+// range's start for what it can't read and for what is out of range, which the
+// calculator's result may be: it is clamped in float, to the range of the last
+// setSpinBoxCal(), and rounded to its own decimals. Here the nearer end is taken,
+// and what is no number leaves the value. So does the last accepted result that is
+// shown in place of a refused entry, where it is the value in six digits.
+template <typename SpinBox>
+double numberFromText(const SpinBox *spinBox, const LineEditCal *calculator, const QString &text)
+{
+    const std::optional<double> number = numberIn(spinBox, text);
+    const double value = spinBox->value();
+    const bool isRefused = calculator != nullptr && calculator->isEntryRefused();
+    if (!number || (isRefused && text == QString::number(double(saturatedFloat(value)), 'g', 6))) {
+        return value;
     }
-    return qBound<double>(spinBox->minimum(), number, spinBox->maximum());
+    return qBound<double>(spinBox->minimum(), *number, spinBox->maximum());
+}
+
+// What the user has entered and the value does not say yet.
+enum class Entry { None, Number, Expression };
+
+// valueText: the value as the box writes it, without prefix and suffix.
+template <typename SpinBox> Entry pendingEntry(const SpinBox *spinBox, const QString &valueText)
+{
+    const bool isSpecial =
+        !spinBox->specialValueText().isEmpty() && spinBox->value() == spinBox->minimum();
+    const QString text = spinBox->text();
+    if (text
+        == (isSpecial ? spinBox->specialValueText()
+                      : spinBox->prefix() + valueText + spinBox->suffix())) {
+        return Entry::None;
+    }
+    if (!numberIn(spinBox, text)) {
+        return Entry::Expression;
+    }
+    return spinBox->valueFromText(text) == spinBox->value() ? Entry::None : Entry::Number;
+}
+
+// Whether the box is hidden or left since its window is destroyed: its pending entry
+// is dropped then.
+template <typename SpinBox> bool isDroppedWithWindow(SpinBox *spinBox, LineEditCal *calculator)
+{
+    if (calculator == nullptr || !calculator->hostWindow().isBeingDestroyed()) {
+        return false;
+    }
+    const QSignalBlocker blocker(spinBox);
+    spinBox->setValue(spinBox->value());
+    return true;
 }
 
 } // namespace Internal

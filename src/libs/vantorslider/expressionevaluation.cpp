@@ -1,10 +1,9 @@
 #include "expressionevaluation_p.h"
 
 #include "calculatorpatterns_p.h"
+#include "scriptengine_p.h"
 
 #include <QtCore/QRegularExpression>
-#include <QtCore/QTimer>
-#include <QtScript/QScriptEngine>
 
 #include <algorithm>
 
@@ -14,44 +13,11 @@ namespace Internal {
 
 namespace {
 
-constexpr int budgetMs = 200;
-// How often the engine lets the event loop look at the budget's timer.
-constexpr int eventsIntervalMs = 10;
-
-std::optional<QString> finiteResult(const QScriptEngine &engine, const QString &text)
+bool isTypedExpression(const QString &expression)
 {
-    if (engine.hasUncaughtException() || text == QLatin1String("Infinity")) {
-        return std::nullopt;
-    }
-    return text;
-}
-
-std::optional<QString> evaluateWithinBudget(const QString &expression)
-{
-    QScriptEngine engine;
-    engine.setProcessEventsInterval(eventsIntervalMs);
-
-    // An aborted evaluation leaves no exception behind, so it is noted here.
-    bool isAbandoned = false;
-    QTimer budget;
-    budget.setSingleShot(true);
-    QObject::connect(&budget, &QTimer::timeout, &engine, [&engine, &isAbandoned] {
-        isAbandoned = true;
-        engine.abortEvaluation();
-    });
-    budget.start(budgetMs);
-
-    QScriptValue result = engine.evaluate(expression, QString(), 1);
-    if (!isAbandoned && !engine.hasUncaughtException() && result.isObject()) {
-        // An object's conversion is script code too, and only what runs inside
-        // an evaluation can be aborted.
-        engine.globalObject().setProperty(QStringLiteral("result"), result);
-        result = engine.evaluate(QStringLiteral("String(result)"));
-    }
-    if (isAbandoned) {
-        return std::nullopt;
-    }
-    return finiteResult(engine, result.toString());
+    const CalculatorPatterns &patterns = CalculatorPatterns::instance();
+    return std::all_of(expression.cbegin(), expression.cend(),
+                       [&patterns](QChar character) { return patterns.isAccepted(character); });
 }
 
 // A "/" where an operand is due begins a pattern of the script language. Called
@@ -65,26 +31,27 @@ bool callsPattern(const QString &expression)
     return expression.contains(pattern) && expression.contains(call);
 }
 
-} // namespace
-
-bool isTypedExpression(const QString &expression)
+// An array of a given length takes its memory at once, and ends the process where
+// there is none; a "finally" runs on after its function was abandoned.
+bool cannotBeAbandoned(const QString &script)
 {
-    const CalculatorPatterns &patterns = CalculatorPatterns::instance();
-    return std::all_of(expression.cbegin(), expression.cend(),
-                       [&patterns](QChar character) { return patterns.isAccepted(character); });
+    static const QRegularExpression words(QStringLiteral("\\b(Array|finally)\\b"));
+    return script.contains(words);
 }
+
+} // namespace
 
 std::optional<QString> evaluateExpression(const QString &expression)
 {
-    if (!isTypedExpression(expression)) {
-        return evaluateWithinBudget(expression);
-    }
-    if (callsPattern(expression)) {
+    const bool isTyped = isTypedExpression(expression);
+    if (isTyped ? callsPattern(expression) : cannotBeAbandoned(expression)) {
         return std::nullopt;
     }
-    QScriptEngine engine;
-    const QString text = engine.evaluate(expression, QString(), 1).toString();
-    return finiteResult(engine, text);
+    std::optional<QString> result = evaluateScript(expression, !isTyped);
+    if (result == QLatin1String("Infinity")) {
+        return std::nullopt;
+    }
+    return result;
 }
 
 } // namespace Internal

@@ -5,8 +5,10 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
+#include <QtCore/QVariant>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Vantor {
 namespace Widgets {
@@ -22,7 +24,8 @@ using Internal::CalculatorPatterns;
     leading zeros dropped, a second decimal point or too many decimals of a
     number undone. A finished expression is evaluated, clamped, formatted and
     written back as the field's text. It is finished by "=" as the last
-    character or by setSlotEditingFinished().
+    character or by setSlotEditingFinished(). A prefix and a suffix that the spin
+    box around the field shows are no part of it.
 */
 
 // A copy of a std::regex shares its compiled automaton.
@@ -44,6 +47,7 @@ void LineEditCal::setInitialResult(const float &result)
 {
     m_initialResult = result;
     m_isInitialResultPending = true;
+    setEntryRefused(false);
 }
 
 // A drag hands over a result at every move; its text is needed only when
@@ -88,18 +92,38 @@ void LineEditCal::setSuffix(bool bSuffix)
 */
 void LineEditCal::setSlotEditingFinished()
 {
-    if (text() != beforeResult()) {
-        setShowResult(text());
+    const QString entry = entryOf(text()).text;
+    if (entry != beforeResult()) {
+        setShowResult(entry);
     }
 }
 
 /*!
-    True while the field shows the last accepted result in place of an entry that
-    failed. That text is for reading: it may have fewer digits than the value.
+    True from an evaluation that failed until the text is edited, another entry is
+    accepted or a result is handed over. The last accepted result shown meanwhile
+    may have fewer digits than the value that it stands for.
 */
-bool LineEditCal::isFallbackShown() const
+bool LineEditCal::isEntryRefused() const
 {
-    return m_isFallbackShown;
+    return m_isEntryRefused;
+}
+
+LineEditCal::Entry LineEditCal::entryOf(const QString &text) const
+{
+    Entry entry {{}, text, {}};
+    if (const QObject *spinBox = parent()) {
+        const QString prefix = spinBox->property("prefix").toString();
+        if (entry.text.startsWith(prefix)) {
+            entry.prefix = prefix;
+            entry.text.remove(0, prefix.length());
+        }
+        const QString suffix = spinBox->property("suffix").toString();
+        if (entry.text.endsWith(suffix)) {
+            entry.suffix = suffix;
+            entry.text.chop(suffix.length());
+        }
+    }
+    return entry;
 }
 
 /*!
@@ -108,26 +132,26 @@ bool LineEditCal::isFallbackShown() const
 */
 void LineEditCal::onSlotTextChanged(QString text)
 {
-    if (text == beforeResult() || m_isEvaluating) {
+    const Entry entry = entryOf(text);
+    if (entry.text == beforeResult()) {
         return;
     }
-    m_isFallbackShown = false;
-    if (text.isEmpty()) {
+    setEntryRefused(false);
+    if (entry.text.isEmpty()) {
         m_beforeText.clear();
         return;
     }
-    m_cursorPosition = cursorPosition();
-    if (text.endsWith(QLatin1Char('='))) {
-        text.chop(1);
+    m_cursorPosition = cursorPosition() - entry.prefix.length();
+    if (entry.text.endsWith(QLatin1Char('='))) {
         const QPointer<LineEditCal> self(this);
-        setShowResult(text);
-        if (self && m_pSurvivor == nullptr) {
+        setShowResult(entry.text.left(entry.text.length() - 1));
+        if (self) {
             Q_EMIT signalsResult();
         }
         return;
     }
     const QSignalBlocker blocker(this);
-    setTextFormat(text);
+    setTextFormat(entry.text);
 }
 
 // Only the character before the cursor is tested, so a paste that ends in an
@@ -137,24 +161,25 @@ void LineEditCal::setTextFormat(QString strText)
     if (m_cursorPosition > strText.length()) {
         return;
     }
-    const QChar typed = strText.at(qMax(m_cursorPosition - 1, 0));
-    if (CalculatorPatterns::instance().isAccepted(typed)) {
+    const int last = qMax(m_cursorPosition - 1, 0);
+    if (CalculatorPatterns::instance().isAccepted(strText.at(last))) {
         setExpressionFormat(strText);
         return;
     }
-    strText.remove(typed);
-    setResultText(strText);
-    setCursorPosition(m_cursorPosition - 1);
-    m_beforeText = strText;
+    // A character beyond the first plane is two units of the text; both go.
+    const int first =
+        last > 0 && strText.at(last).isLowSurrogate() && strText.at(last - 1).isHighSurrogate()
+        ? last - 1
+        : last;
+    strText.remove(strText.mid(first, last - first + 1));
+    setEntryText(strText, m_cursorPosition - 1 - (last - first));
 }
 
 void LineEditCal::setExpressionFormat(QString strText)
 {
     bool bCursor = false;
     setIntereptString(strText, bCursor);
-    setResultText(strText);
-    setCursorPosition(bCursor ? m_cursorPosition - 1 : m_cursorPosition);
-    m_beforeText = strText;
+    setEntryText(strText, bCursor ? m_cursorPosition - 1 : m_cursorPosition);
 }
 
 // Splits the text at its marks; between two marks, before the first and after
@@ -164,52 +189,50 @@ void LineEditCal::setExpressionFormat(QString strText)
 void LineEditCal::setIntereptString(QString &strText, bool &bCursor)
 {
     const CalculatorPatterns &patterns = CalculatorPatterns::instance();
-    std::vector<QString> &tokens = m_vecStringResults;
     std::size_t count = 0;
-    const auto isUnchanged = [&](const QStringRef &text) {
-        return count < tokens.size() && tokens[count].length() == text.length()
-            && std::equal(text.cbegin(), text.cend(), tokens[count].cbegin());
-    };
-    const auto takeToken = [&](const QStringRef &text, bool isMark) {
-        if (isUnchanged(text)) {
-            // It was corrected before, but its limit of decimals may be new.
-            if (!isMark && setRadixPointSeveral(tokens[count], static_cast<int>(count))) {
-                bCursor = true;
-            }
-            ++count;
-            return;
-        }
-        QString token = text.toString();
-        if (!isMark && !token.isEmpty()) {
-            setStringFormat(token, bCursor);
-            if (setRadixPointSeveral(token, static_cast<int>(count))) {
-                bCursor = true;
-            }
-        }
-        if (count == tokens.size()) {
-            tokens.push_back(token);
-        } else {
-            tokens[count] = token;
-        }
-        ++count;
-    };
     int start = 0;
-    for (int end = 0; end < strText.length(); ++end) {
-        if (patterns.isMark(strText.at(end))) {
-            takeToken(QStringRef(&strText, start, end - start), false);
-            takeToken(QStringRef(&strText, end, 1), true);
+    for (int end = 0; end <= strText.length(); ++end) {
+        const bool isMark = end < strText.length() && patterns.isMark(strText.at(end));
+        if (isMark || end == strText.length()) {
+            bCursor |= takeToken(count++, strText, start, end - start);
             start = end + 1;
         }
+        if (isMark) {
+            bCursor |= takeToken(count++, strText, end, 1);
+        }
     }
-    takeToken(QStringRef(&strText, start, strText.length() - start), false);
-    tokens.resize(count);
+    m_vecStringResults.resize(count);
 
     if (bCursor) {
         strText.clear();
-        for (const QString &token : tokens) {
+        for (const QString &token : m_vecStringResults) {
             strText.append(token);
         }
     }
+}
+
+// Brings the entry of the list up to the token that stands in the text; true where
+// the rules correct it. An unchanged token is looked at again, for its limit of
+// decimals may be new.
+bool LineEditCal::takeToken(std::size_t index, const QString &text, int start, int length)
+{
+    const QChar *const begin = text.constData() + start;
+    const bool isKnown = index < m_vecStringResults.size();
+    const bool isUnchanged = isKnown
+        && std::equal(begin, begin + length, m_vecStringResults[index].cbegin(),
+                      m_vecStringResults[index].cend());
+    QString token = isUnchanged ? m_vecStringResults[index] : QString(begin, length);
+    bool isCorrected = false;
+    if (length > 0 && !CalculatorPatterns::instance().isMark(*begin)) {
+        setStringFormat(token, isCorrected);
+        isCorrected |= setRadixPointSeveral(token, static_cast<int>(index));
+    }
+    if (!isKnown) {
+        m_vecStringResults.push_back(token);
+    } else if (!isUnchanged || isCorrected) {
+        m_vecStringResults[index] = token;
+    }
+    return isCorrected;
 }
 
 void LineEditCal::setStringFormat(QString &strText, bool &bFormat)
@@ -244,30 +267,12 @@ bool LineEditCal::setRadixPointSeveral(QString &strText, const int &index)
 
 void LineEditCal::setShowResult(const QString &strText)
 {
-    if (m_isEvaluating) {
-        return;
-    }
-    const QPointer<LineEditCal> self(this);
-    m_isEvaluating = true;
-    if (!Internal::isTypedExpression(strText)) {
-        // Events come in while it is evaluated: what interprets the field
-        // meanwhile must find a number, not the script.
-        showFallback();
-    }
     const std::optional<QString> result = Internal::evaluateExpression(strText);
-    if (!self) {
-        return;
-    }
-    m_isEvaluating = false;
-    if (m_pSurvivor != nullptr) {
-        m_pSurvivor->deleteLater();
-        return;
-    }
     if (!result) {
-        showFallback();
+        setEntryRefused(true);
+        setResultText(beforeResult());
         return;
     }
-    m_isFallbackShown = false;
     // A text that is no number counts as 0; NaN passes both comparisons.
     float value = result->toFloat();
     if (value > m_maxNum) {
@@ -279,32 +284,30 @@ void LineEditCal::setShowResult(const QString &strText)
     m_beforeText = QString::number(static_cast<double>(value), 'f', m_remainSeveral);
     m_beforeResult = m_beforeText;
     m_isInitialResultPending = false;
+    setEntryRefused(std::isnan(value));
     setResultText(m_beforeText);
 }
 
-void LineEditCal::showFallback()
+void LineEditCal::setEntryRefused(bool isRefused)
 {
-    m_isFallbackShown = true;
-    setResultText(beforeResult());
+    if (m_isEntryRefused != isRefused) {
+        m_isEntryRefused = isRefused;
+        Q_EMIT entryRefusedChanged(isRefused);
+    }
+}
+
+// What the filtering pass leaves, with the cursor in it.
+void LineEditCal::setEntryText(const QString &entry, int cursorPosition)
+{
+    setResultText(entry);
+    setCursorPosition(entryOf(text()).prefix.length() + cursorPosition);
+    m_beforeText = entry;
 }
 
 void LineEditCal::setResultText(QString text)
 {
-    QLineEdit::setText(text);
-}
-
-/*!
-    Called when the editor around the field is deleted. A field in the middle
-    of an evaluation has Qt's own functions above it, which work on after it:
-    \a survivor, the field or the spin box that holds it, leaves its dying
-    parent and is deleted when the evaluation is over.
-*/
-void LineEditCal::outliveParent(QWidget *survivor)
-{
-    if (m_isEvaluating && m_pSurvivor == nullptr) {
-        m_pSurvivor = survivor;
-        survivor->setParent(nullptr);
-    }
+    const Entry shown = entryOf(QLineEdit::text());
+    QLineEdit::setText(shown.prefix + text + shown.suffix);
 }
 
 } // namespace Widgets

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "hostwindow_p.h"
+
 #include <QtWidgets/QLineEdit>
 
 #include <regex>
@@ -21,23 +23,35 @@ public:
     void setLineEditMinOrMax(const float &min, const float &max);
     void setSuffix(bool bSuffix);
     void setSlotEditingFinished();
-    bool isFallbackShown() const;
-    void outliveParent(QWidget *survivor);
+    bool isEntryRefused() const;
+    Internal::HostWindow &hostWindow() { return m_hostWindow; }
 
 Q_SIGNALS:
     void signalsResult();
+    void entryRefusedChanged(bool isRefused);
 
 protected Q_SLOTS:
     void onSlotTextChanged(QString text);
 
 private:
+    // What stands between prefix and suffix of the spin box around the field.
+    struct Entry
+    {
+        QString prefix;
+        QString text;
+        QString suffix;
+    };
+
+    Entry entryOf(const QString &text) const;
     void setTextFormat(QString strText);
     void setExpressionFormat(QString strText);
     void setIntereptString(QString &strText, bool &bCursor);
+    bool takeToken(std::size_t index, const QString &text, int start, int length);
     void setStringFormat(QString &strText, bool &bFormat);
     bool setRadixPointSeveral(QString &strText, const int &index);
     void setShowResult(const QString &strText);
-    void showFallback();
+    void setEntryRefused(bool isRefused);
+    void setEntryText(const QString &entry, int cursorPosition);
     void setResultText(QString text);
     const QString &beforeResult();
 
@@ -45,6 +59,8 @@ private:
     std::vector<QString> m_vecStringResults;
     QString m_beforeText;
     QString m_beforeResult;
+    // The interface gives these four patterns to each field and two of the flags
+    // below; what is compiled and looked up once stands in CalculatorPatterns.
     std::regex m_regex;
     std::regex m_regexMark;
     std::regex m_regexFourOperation;
@@ -57,10 +73,8 @@ private:
     bool m_btnFirstPress = true;
     float m_initialResult = 0.0F;
     bool m_isInitialResultPending = false;
-    bool m_isEvaluating = false;
-    bool m_isFallbackShown = false;
-    // What is deleted in place of its parent when an evaluation is over.
-    QWidget *m_pSurvivor = nullptr;
+    bool m_isEntryRefused = false;
+    Internal::HostWindow m_hostWindow {this};
 };
 
 } // namespace Widgets

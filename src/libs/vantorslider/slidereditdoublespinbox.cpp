@@ -1,7 +1,6 @@
 #include "slidereditframe_p.h"
 
 #include "calculatorspinbox_p.h"
-#include "qlineeditcal.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
@@ -32,15 +31,17 @@ SliderEditDoubleSpinBox::SliderEditDoubleSpinBox(QWidget *parent)
     setLineEdit(m_pLineEditCal);
     connect(m_pLineEditCal, &LineEditCal::signalsResult, this,
             &SliderEditDoubleSpinBox::onSlotResultFinished);
+    connect(m_pLineEditCal, &LineEditCal::entryRefusedChanged, this,
+            [this](bool isRefused) { Internal::showEntryRefused(this, isRefused); });
+    connect(m_pLineEditCal, &QObject::destroyed, this, [this] { m_pLineEditCal = nullptr; });
 }
 
-/*!
-    In a script that a key in the field finished, Qt's key handler of the box is
-    still to return: a host that deletes the box then calls deleteLater().
-*/
+// The line edit is destroyed with the box's own children, later than its members.
 SliderEditDoubleSpinBox::~SliderEditDoubleSpinBox()
 {
-    m_pLineEditCal->outliveParent(m_pLineEditCal);
+    if (m_pLineEditCal != nullptr) {
+        m_pLineEditCal->disconnect(this);
+    }
 }
 
 /*! Accepts every text and changes neither \a text nor \a pos. */
@@ -57,11 +58,22 @@ QValidator::State SliderEditDoubleSpinBox::validate(QString &text, int &pos) con
 */
 double SliderEditDoubleSpinBox::valueFromText(const QString &text) const
 {
-    if (m_pLineEditCal->isFallbackShown()) {
-        return value();
-    }
     // The calculator writes two decimals; Qt would hold them all.
-    return QString::number(Internal::numberFromText(this, text), 'f', decimals()).toDouble();
+    return QString::number(Internal::numberFromText(this, m_pLineEditCal, text), 'f', decimals())
+        .toDouble();
+}
+
+/*!
+    Steps the value by \a steps single steps. An expression that is pending is
+    evaluated first and stepped from; one that fails is dropped.
+*/
+void SliderEditDoubleSpinBox::stepBy(int steps)
+{
+    if (m_pLineEditCal != nullptr
+        && Internal::pendingEntry(this, textFromValue(value())) == Internal::Entry::Expression) {
+        m_pLineEditCal->setSlotEditingFinished();
+    }
+    QDoubleSpinBox::stepBy(steps);
 }
 
 /*!
@@ -83,6 +95,9 @@ void SliderEditDoubleSpinBox::setSpinBoxCal(const float &result, const float &ma
                                             const int &retainResult, const int &retainDecimal,
                                             const bool &bSuffix)
 {
+    if (m_pLineEditCal == nullptr) {
+        return;
+    }
     m_pLineEditCal->setResultsRadixPointSeveral(retainResult);
     m_pLineEditCal->setLineEditMinOrMax(min, max);
     m_pLineEditCal->setInputRadixPointSeveral(retainDecimal);
@@ -91,50 +106,45 @@ void SliderEditDoubleSpinBox::setSpinBoxCal(const float &result, const float &ma
 }
 
 /*!
-    Evaluates a pending expression; its result is the field's text, its value
-    follows when the text is interpreted. A removed suffix returns.
+    Evaluates the entry that is pending, if one is; its result is the field's text,
+    its value follows when the text is interpreted. A removed suffix returns.
 */
 void SliderEditDoubleSpinBox::setSlotEditingFinished()
 {
-    const QPointer<SliderEditDoubleSpinBox> self(this);
-    // The suffix may be back since an entry that ended in "=", with more typed
-    // before it since. With its suffix a text is no expression.
-    if (!suffix().isEmpty()) {
-        QString entry = text();
-        if (entry.endsWith(suffix())) {
-            entry.chop(suffix().length());
-        }
-        if (m_strSuffix.isEmpty()) {
-            m_strSuffix = suffix();
-        }
-        setSuffix(QString());
-        const QSignalBlocker blocker(m_pLineEditCal);
-        m_pLineEditCal->setText(entry);
+    if (m_pLineEditCal == nullptr) {
+        return;
     }
-    m_pLineEditCal->setSlotEditingFinished();
+    const QPointer<SliderEditDoubleSpinBox> self(this);
+    if (Internal::pendingEntry(this, textFromValue(value())) != Internal::Entry::None) {
+        m_pLineEditCal->setSlotEditingFinished();
+    }
     if (self) {
         setSuffixShow();
     }
 }
 
 /*!
-    Shows again the suffix that was removed when the field got the focus. The
-    text stays, for the entry in it may not have been interpreted yet.
+    Shows again the suffix that was removed when the field got the focus. An entry
+    that is pending stays in the text.
 */
 void SliderEditDoubleSpinBox::setSuffixShow()
 {
     if (m_strSuffix.isEmpty()) {
         return;
     }
+    const bool isPending =
+        Internal::pendingEntry(this, textFromValue(value())) != Internal::Entry::None;
     QString entry = text();
     if (!entry.endsWith(m_strSuffix)) {
         entry += m_strSuffix;
     }
     setSuffix(m_strSuffix);
     m_btnFirstPress = true;
-    const QSignalBlocker blocker(m_pLineEditCal);
-    m_pLineEditCal->setText(entry);
-    m_pLineEditCal->setCursorPosition(entry.length() - m_strSuffix.length());
+    if (isPending) {
+        const QSignalBlocker blocker(lineEdit());
+        lineEdit()->setText(entry);
+        lineEdit()->setCursorPosition(entry.length() - m_strSuffix.length());
+    }
 }
 
 /*! Called when an expression that ended in "=" has been evaluated. */
@@ -172,28 +182,57 @@ void SliderEditDoubleSpinBox::keyPressEvent(QKeyEvent *event)
 
 void SliderEditDoubleSpinBox::focusInEvent(QFocusEvent *event)
 {
+    const QPointer<SliderEditDoubleSpinBox> self(this);
     if (m_btnFirstPress && !suffix().isEmpty()) {
+        const bool isPending =
+            Internal::pendingEntry(this, textFromValue(value())) != Internal::Entry::None;
         QString number = text();
         m_strSuffix = suffix();
         number.remove(m_strSuffix);
         setSuffix(QString());
         m_btnFirstPress = false;
-        const QPointer<SliderEditDoubleSpinBox> self(this);
-        setValue(static_cast<double>(number.toFloat()));
-        if (!self) {
-            return;
+        // What the value says already would lose digits on the way through float.
+        if (isPending) {
+            setValue(static_cast<double>(number.toFloat()));
         }
+    }
+    if (!self) {
+        return;
+    }
+    if (m_pLineEditCal != nullptr) {
+        m_pLineEditCal->hostWindow().remember();
     }
     QDoubleSpinBox::focusInEvent(event);
 }
 
 void SliderEditDoubleSpinBox::focusOutEvent(QFocusEvent *event)
 {
+    if (Internal::isDroppedWithWindow(this, m_pLineEditCal)) {
+        return;
+    }
     const QPointer<SliderEditDoubleSpinBox> self(this);
     setSlotEditingFinished();
     if (self) {
         QDoubleSpinBox::focusOutEvent(event);
     }
+}
+
+// Hidden before it loses the focus, the base interprets the text here.
+void SliderEditDoubleSpinBox::hideEvent(QHideEvent *event)
+{
+    const QPointer<SliderEditDoubleSpinBox> self(this);
+    if (!Internal::isDroppedWithWindow(this, m_pLineEditCal)) {
+        setSlotEditingFinished();
+    }
+    if (self) {
+        QDoubleSpinBox::hideEvent(event);
+    }
+}
+
+void SliderEditDoubleSpinBox::changeEvent(QEvent *event)
+{
+    QDoubleSpinBox::changeEvent(event);
+    Internal::keepDecimalPoint(this, event);
 }
 
 } // namespace Widgets

@@ -191,10 +191,15 @@ void SliderEditPrivate::slotSpinBoxEditingFinished()
 }
 
 // Keyboard tracking is off: losing the focus is what makes the spin box
-// interpret its text and report the new value.
+// interpret its text and report the new value. It keeps the focus where a host has
+// made it the frame's proxy.
 void SliderEditPrivate::slotSpinBoxEnterFinished()
 {
+    const QPointer<SliderEditPrivate> self(this);
     m_pSliderEditer->setFocus(Qt::OtherFocusReason);
+    if (self && ui->spinBox->hasFocus()) {
+        ui->spinBox->interpretText();
+    }
     qDebug("SpinBox lose focus.");
 }
 
@@ -337,10 +342,8 @@ SliderEditFrame::SliderEditFrame(QWidget *parent)
 
 SliderEditFrame::~SliderEditFrame()
 {
-    const Internal::SliderRow row = d->row();
     delete d;
     d = nullptr;
-    row.outliveEditor(this);
 }
 
 /*!

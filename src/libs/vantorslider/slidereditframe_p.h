@@ -7,12 +7,16 @@
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QToolButton>
 
-#include <typeinfo>
+#include <memory>
 
 namespace Vantor {
 namespace Widgets {
 
 class LineEditCal;
+
+namespace Internal {
+class HostWindow;
+} // namespace Internal
 
 class SliderEditSlider : public QSlider
 {
@@ -20,6 +24,7 @@ class SliderEditSlider : public QSlider
 
 public:
     explicit SliderEditSlider(QWidget *parent = nullptr);
+    ~SliderEditSlider() override;
 
     bool isMousePressed() const;
     void setScale(int min, int max);
@@ -38,8 +43,8 @@ protected:
 private:
     void releasePointer();
 
-    const std::type_info *m_windowTypeAtPress = nullptr;
     bool m_isMousePressed = false;
+    std::unique_ptr<Internal::HostWindow> m_hostWindow;
 };
 
 // Without Q_OBJECT: to style sheets and tools it is a QToolButton like any other.
@@ -65,6 +70,7 @@ public:
 
     QValidator::State validate(QString &text, int &pos) const override;
     int valueFromText(const QString &text) const override;
+    void stepBy(int steps) override;
     void setWheelEnable(bool b);
     void setSpinBoxCal(const int &result, const int &max, const int &min, const int &retainResult,
                        const int &retainDecimal);
@@ -82,9 +88,12 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     bool m_isWheelEnabled = false;
+    // Null where a subclass has given the box another line edit.
     LineEditCal *m_pLineEditCal;
 };
 
@@ -98,6 +107,7 @@ public:
 
     QValidator::State validate(QString &text, int &pos) const override;
     double valueFromText(const QString &text) const override;
+    void stepBy(int steps) override;
     void setWheelEnable(bool b);
     void setSpinBoxCal(const float &result, const float &max, const float &min,
                        const int &retainResult, const int &retainDecimal, const bool &bSuffix);
@@ -116,9 +126,12 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     bool m_isWheelEnabled = false;
+    // Null where a subclass has given the box another line edit.
     LineEditCal *m_pLineEditCal;
     QString m_strSuffix;
     bool m_btnFirstPress = true;

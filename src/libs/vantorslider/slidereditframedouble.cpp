@@ -175,10 +175,15 @@ void SliderEditDoublePrivate::slotSpinBoxEditingFinished()
 }
 
 // Keyboard tracking is off: losing the focus is what makes the spin box
-// interpret its text and report the new value.
+// interpret its text and report the new value. It keeps the focus where a host has
+// made it the frame's proxy.
 void SliderEditDoublePrivate::slotSpinBoxEnterFinished()
 {
+    const QPointer<SliderEditDoublePrivate> self(this);
     m_pSliderEditer->setFocus(Qt::OtherFocusReason);
+    if (self && ui->doubleSpinBox->hasFocus()) {
+        ui->doubleSpinBox->interpretText();
+    }
 }
 
 void SliderEditDoublePrivate::slotButtonSubtractClicked()
@@ -319,10 +324,8 @@ SliderEditFrameDouble::SliderEditFrameDouble(QWidget *parent)
 
 SliderEditFrameDouble::~SliderEditFrameDouble()
 {
-    const Internal::SliderRow row = d->row();
     delete d;
     d = nullptr;
-    row.outliveEditor(this);
 }
 
 /*! As SliderEditFrame::setHorizontalSpacing(). */

@@ -1,21 +1,10 @@
+#include "hostwindow_p.h"
 #include "slidereditframe_p.h"
 
 #include <QtGui/QMouseEvent>
 
-#include <typeinfo>
-
 namespace Vantor {
 namespace Widgets {
-
-namespace {
-
-const std::type_info *typeOfWindow(const QWidget *widget)
-{
-    const QWidget &window = *widget->window();
-    return &typeid(window);
-}
-
-} // namespace
 
 /*!
     \class SliderEditSlider
@@ -23,7 +12,12 @@ const std::type_info *typeOfWindow(const QWidget *widget)
     it, and leaves the wheel to the page around it.
 */
 
-SliderEditSlider::SliderEditSlider(QWidget *parent) : QSlider(parent) { }
+SliderEditSlider::SliderEditSlider(QWidget *parent)
+    : QSlider(parent), m_hostWindow(new Internal::HostWindow(this))
+{
+}
+
+SliderEditSlider::~SliderEditSlider() = default;
 
 /*!
     True from a button press on the slider until the release, until the
@@ -58,7 +52,7 @@ bool SliderEditSlider::event(QEvent *event)
 void SliderEditSlider::mousePressEvent(QMouseEvent *event)
 {
     m_isMousePressed = true;
-    m_windowTypeAtPress = typeOfWindow(this);
+    m_hostWindow->remember();
     QSlider::mousePressEvent(event);
 }
 
@@ -93,12 +87,10 @@ void SliderEditSlider::leaveEvent(QEvent *event)
 void SliderEditSlider::hideEvent(QHideEvent *event)
 {
     QSlider::hideEvent(event);
-    // A window that is destroyed hides its children when the host's class is gone
-    // from it already, with its slots still connected.
-    if (m_windowTypeAtPress == typeOfWindow(this)) {
+    m_isMousePressed = false;
+    if (!m_hostWindow->isBeingDestroyed()) {
         releasePointer();
     }
-    m_isMousePressed = false;
 }
 
 void SliderEditSlider::changeEvent(QEvent *event)

@@ -1,8 +1,6 @@
 #include "slidereditframe_p.h"
 
 #include "calculatorspinbox_p.h"
-#include "qlineeditcal.h"
-#include "saturation_p.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
@@ -29,15 +27,17 @@ SliderEditSpinBox::SliderEditSpinBox(QWidget *parent)
     setLineEdit(m_pLineEditCal);
     connect(m_pLineEditCal, &LineEditCal::signalsResult, this,
             &SliderEditSpinBox::onSlotResultFinished);
+    connect(m_pLineEditCal, &LineEditCal::entryRefusedChanged, this,
+            [this](bool isRefused) { Internal::showEntryRefused(this, isRefused); });
+    connect(m_pLineEditCal, &QObject::destroyed, this, [this] { m_pLineEditCal = nullptr; });
 }
 
-/*!
-    In a script that a key in the field finished, Qt's key handler of the box is
-    still to return: a host that deletes the box then calls deleteLater().
-*/
+// The line edit is destroyed with the box's own children, later than its members.
 SliderEditSpinBox::~SliderEditSpinBox()
 {
-    m_pLineEditCal->outliveParent(m_pLineEditCal);
+    if (m_pLineEditCal != nullptr) {
+        m_pLineEditCal->disconnect(this);
+    }
 }
 
 /*! Accepts every text and changes neither \a text nor \a pos. */
@@ -54,10 +54,20 @@ QValidator::State SliderEditSpinBox::validate(QString &text, int &pos) const
 */
 int SliderEditSpinBox::valueFromText(const QString &text) const
 {
-    if (m_pLineEditCal->isFallbackShown()) {
-        return value();
+    return Internal::saturatedInt(std::round(Internal::numberFromText(this, m_pLineEditCal, text)));
+}
+
+/*!
+    Steps the value by \a steps single steps. An expression that is pending is
+    evaluated first and stepped from; one that fails is dropped.
+*/
+void SliderEditSpinBox::stepBy(int steps)
+{
+    if (m_pLineEditCal != nullptr
+        && Internal::pendingEntry(this, textFromValue(value())) == Internal::Entry::Expression) {
+        m_pLineEditCal->setSlotEditingFinished();
     }
-    return Internal::saturatedInt(std::round(Internal::numberFromText(this, text)));
+    QSpinBox::stepBy(steps);
 }
 
 /*!
@@ -78,6 +88,9 @@ void SliderEditSpinBox::setWheelEnable(bool b)
 void SliderEditSpinBox::setSpinBoxCal(const int &result, const int &max, const int &min,
                                       const int &retainResult, const int &retainDecimal)
 {
+    if (m_pLineEditCal == nullptr) {
+        return;
+    }
     m_pLineEditCal->setResultsRadixPointSeveral(retainResult);
     m_pLineEditCal->setLineEditMinOrMax(static_cast<float>(min), static_cast<float>(max));
     m_pLineEditCal->setInputRadixPointSeveral(retainDecimal);
@@ -85,12 +98,15 @@ void SliderEditSpinBox::setSpinBoxCal(const int &result, const int &max, const i
 }
 
 /*!
-    Evaluates a pending expression; its result is the field's text, its value
+    Evaluates the entry that is pending, if one is; its result is the field's text, its value
     follows when the text is interpreted.
 */
 void SliderEditSpinBox::setSlotEditingFinished()
 {
-    m_pLineEditCal->setSlotEditingFinished();
+    if (m_pLineEditCal != nullptr
+        && Internal::pendingEntry(this, textFromValue(value())) != Internal::Entry::None) {
+        m_pLineEditCal->setSlotEditingFinished();
+    }
 }
 
 /*! Called when an expression that ended in "=" has been evaluated. */
@@ -128,16 +144,40 @@ void SliderEditSpinBox::keyPressEvent(QKeyEvent *event)
 
 void SliderEditSpinBox::focusInEvent(QFocusEvent *event)
 {
+    if (m_pLineEditCal != nullptr) {
+        m_pLineEditCal->hostWindow().remember();
+    }
     QSpinBox::focusInEvent(event);
 }
 
 void SliderEditSpinBox::focusOutEvent(QFocusEvent *event)
 {
+    if (Internal::isDroppedWithWindow(this, m_pLineEditCal)) {
+        return;
+    }
     const QPointer<SliderEditSpinBox> self(this);
     Q_EMIT editingFinished();
     if (self) {
         QSpinBox::focusOutEvent(event);
     }
+}
+
+// Hidden before it loses the focus, the base interprets the text here.
+void SliderEditSpinBox::hideEvent(QHideEvent *event)
+{
+    const QPointer<SliderEditSpinBox> self(this);
+    if (!Internal::isDroppedWithWindow(this, m_pLineEditCal)) {
+        setSlotEditingFinished();
+    }
+    if (self) {
+        QSpinBox::hideEvent(event);
+    }
+}
+
+void SliderEditSpinBox::changeEvent(QEvent *event)
+{
+    QSpinBox::changeEvent(event);
+    Internal::keepDecimalPoint(this, event);
 }
 
 } // namespace Widgets

@@ -1,6 +1,5 @@
 #include "sliderrow_p.h"
 
-#include "qlineeditcal.h"
 #include "slidereditframe_p.h"
 
 #include <QtCore/QEvent>
@@ -41,14 +40,6 @@ void SliderRow::prepare(QWidget *frame) const
     plus->setProperty("isSliderEditPlus", true);
     plus->setFocusPolicy(Qt::StrongFocus);
     spinBox->installEventFilter(frame);
-}
-
-void SliderRow::outliveEditor(QWidget *frame) const
-{
-    if (auto *field = spinBox->findChild<LineEditCal *>()) {
-        spinBox->removeEventFilter(frame);
-        field->outliveParent(spinBox);
-    }
 }
 
 void SliderRow::setHorizontalSpacing(int labelToSlider, int sliderToRest) const

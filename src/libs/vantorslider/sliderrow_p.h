@@ -36,10 +36,6 @@ struct SliderRow
     // Once, after the form is built: focus policies, style properties, event filter.
     void prepare(QWidget *frame) const;
 
-    // Last in the frame's destructor, when no signal reaches the engine any more. A field that is
-    // being evaluated stays alive with its spin box until Qt's own functions are done with them.
-    void outliveEditor(QWidget *frame) const;
-
     void setHorizontalSpacing(int labelToSlider, int sliderToRest) const;
     void setLabelText(const QString &text) const;
     void setSliderVisible(bool isVisible) const;
