@@ -49,6 +49,8 @@ void tst_LineEditCal::editing_data()
     row("12a", "12", 2);
     row("12<a", "12", 1);
     row("5\u2212\u0663\u00e93", "53", 2);
+    row("12\xf0\x9f\x98\x80", "12", 2); // beyond the first plane
+    row("12[\xf0\x9f\x98\x80*3\xf0\x9f\x98\x80]=", "36", 2, 1);
     row("07", "7", 1);
     row("0.25", "0.25", 4);
     row("100", "100", 3);
@@ -93,6 +95,8 @@ void tst_LineEditCal::editing()
             const int end = script.indexOf(']', i);
             User::paste(script.mid(i + 1, end - i - 1));
             i = end;
+        } else if (script.at(i).isHighSurrogate()) {
+            QTest::sendKeyEvent(QTest::Click, &field, Qt::Key_unknown, script.mid(i++, 2), {});
         } else {
             User::type(script.mid(i, 1));
         }
@@ -140,6 +144,10 @@ void tst_LineEditCal::decimalsOfEditedResult()
     field.setInputRadixPointSeveral(1);
     User::type("4.56");
     QCOMPARE(field.text(), QString("4.5"));
+    field.clear();
+    field.setInputRadixPointSeveral(-1);
+    User::type("+-");
+    QCOMPARE(field.cursorPosition(), 2); // no number stands there
 }
 
 // Writes of the filtering pass are silent, the write of a result is not.

@@ -72,6 +72,8 @@ public:
             for (int j = 0; j < m_user.rows.size(); ++j) {
                 QVERIFY2(m_user.rows[j].frame->value() == m_model.rows[j].value, where);
                 QVERIFY2(m_user.rows[j].slider->value() == m_model.rows[j].value, where);
+                QVERIFY2(m_user.rows[j].spinBox->text() == QString::number(m_model.rows[j].value),
+                         where);
             }
             QVERIFY2(actual.filter(QStringLiteral("warning")).isEmpty(), where);
         }

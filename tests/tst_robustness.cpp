@@ -89,6 +89,17 @@ void destroy(QObject *editor, bool isAtOnce)
 void tst_Robustness::scripts_data()
 {
     QTest::addColumn<Check>("check");
+    // What these replace takes no part in the conversion of their result.
+    for (const QString script : {"String=function(x){return {toString:function(){for(;;);}}};({})=",
+                                 "this.__defineSetter__('object',function(v){for(;;);});({})=",
+                                 "this.__proto__={set string(v){for(;;);}};({})="}) {
+        addForBoth(script, [=](auto &row) {
+            row.type({});
+            User::paste(script);
+            QCOMPARE(row.field->text().toDouble(), 0.0);
+            compareFieldWorks(row);
+        });
+    }
     for (const bool isPasted : {false, true}) {
         const QString way = isPasted ? "pasted " : "inserted ";
         const auto put = [isPasted](auto &row, const QString &script) {
@@ -96,8 +107,13 @@ void tst_Robustness::scripts_data()
             isPasted ? User::paste(script) : row.field->insert(script);
         };
         for (const QString script :
-             {"while(1);=", "for(;;){}=", "({toString:function(){while(1);}})=",
-              "(function f(){return f()+f()})()="}) {
+             {"while(1);=", "for(;;){}=", "eval('for(;;);')=",
+              "({toString:function(){for(;;){}}})=", "(function f(){return f()+f()})()=",
+              "(function f(n){return n<2?n:f(n-1)+f(n-2)})(50)=",
+              "(function f(){try{f()}catch(e){f()}})()=", "(function f(){try{f()}finally{f()}})()=",
+              "new Array(4294967295)=", "a=[];a.length=4294967295;a.join()=",
+              "[].constructor(4294967295)=", "throw {toString:function(){for(;;);}}=",
+              "Error.prototype.name={toString:function(){for(;;);}};throw new Error="}) {
             addForBoth(way + script, [=](auto &row) {
                 const double ms = timeOf([&] { put(row, script); });
                 QVERIFY2(ms < 350, qPrintable(QString::number(ms)));
@@ -125,6 +141,8 @@ void tst_Robustness::hugeTexts_data()
         {"division or pattern", "/(((1*)*)*)*2/(111111111111111111111)"},
         {"pattern", "/(" + QStringLiteral("1*").repeated(14) + "2)/(111111111111111111111)"},
         {"equals", QString(1000000, '=')},
+        {"zeros", QString(1000000, '0') + '7'},
+        {"million", QString("1+").repeated(500000) + '1'},
         {"beyond the first plane", QString::fromUtf8("\xf0\x9f\x98\x80").repeated(16000)}};
     for (auto text = texts.begin(); text != texts.end(); ++text) {
         for (const QString end : {"", "="}) {

@@ -32,10 +32,12 @@ bool callsPattern(const QString &expression)
 }
 
 // An array of a given length takes its memory at once, and ends the process where
-// there is none; a "finally" runs on after its function was abandoned.
+// there is none, or is joined and sorted for hours; a "finally" runs on after its
+// function was abandoned. No sum is written so.
 bool cannotBeAbandoned(const QString &script)
 {
-    static const QRegularExpression words(QStringLiteral("\\b(Array|finally)\\b"));
+    static const QRegularExpression words(
+        QStringLiteral("\\b(Array|constructor|finally)\\b|\\blength\\s*=[^=]"));
     return script.contains(words);
 }
 
