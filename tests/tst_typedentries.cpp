@@ -198,6 +198,7 @@ void tst_TypedEntries::refused_data()
     add("2+=", true);
     add("[while(1);]#", true);
     add("1/0\n@3", false); // edited
+    add("1/0\n@10", false); // to what is shown
     add("1/0^", false); // another value
     add("1/0\n+", false); // the button
     add("1/0\ns", false); // the host's value

@@ -2,7 +2,6 @@
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QAbstractSpinBox>
-#include <QtWidgets/QStyle>
 
 namespace Vantor {
 namespace Widgets {
@@ -44,15 +43,6 @@ void keepDecimalPoint(QAbstractSpinBox *spinBox, const QEvent *event)
 {
     if (event->type() == QEvent::LocaleChange && spinBox->locale() != QLocale::c()) {
         spinBox->setLocale(QLocale::c());
-    }
-}
-
-void showEntryRefused(QAbstractSpinBox *spinBox, bool isRefused)
-{
-    spinBox->setProperty("isEntryRefused", isRefused);
-    for (QWidget *widget : {static_cast<QWidget *>(spinBox), spinBox->findChild<QWidget *>()}) {
-        widget->style()->unpolish(widget);
-        widget->style()->polish(widget);
     }
 }
 

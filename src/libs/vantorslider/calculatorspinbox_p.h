@@ -30,9 +30,6 @@ bool isFinishingKey(const QKeyEvent *event);
 // country, and a spin box that read it by a German locale would take 0.25 for 25.
 void keepDecimalPoint(QAbstractSpinBox *spinBox, const QEvent *event);
 
-// The property "isEntryRefused" for style sheets, which need a polish to see it.
-void showEntryRefused(QAbstractSpinBox *spinBox, bool isRefused);
-
 // The number that the box shows, without prefix and suffix; nothing for an expression.
 template <typename SpinBox> std::optional<double> numberIn(const SpinBox *spinBox, QString text)
 {

@@ -6,6 +6,8 @@
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtCore/QVariant>
+#include <QtWidgets/QAbstractSpinBox>
+#include <QtWidgets/QStyle>
 
 #include <algorithm>
 #include <cmath>
@@ -133,6 +135,9 @@ LineEditCal::Entry LineEditCal::entryOf(const QString &text) const
 void LineEditCal::onSlotTextChanged(QString text)
 {
     const Entry entry = entryOf(text);
+    if (isModified()) {
+        setEntryRefused(false); // the user may type the shown result once more
+    }
     if (entry.text == beforeResult()) {
         return;
     }
@@ -288,11 +293,20 @@ void LineEditCal::setShowResult(const QString &strText)
     setResultText(m_beforeText);
 }
 
+// The spin box around the field says so to style sheets, which need a polish to see
+// a changed property.
 void LineEditCal::setEntryRefused(bool isRefused)
 {
-    if (m_isEntryRefused != isRefused) {
-        m_isEntryRefused = isRefused;
-        Q_EMIT entryRefusedChanged(isRefused);
+    if (m_isEntryRefused == isRefused) {
+        return;
+    }
+    m_isEntryRefused = isRefused;
+    if (auto *spinBox = qobject_cast<QAbstractSpinBox *>(parent())) {
+        spinBox->setProperty("isEntryRefused", isRefused);
+        for (QWidget *widget : {static_cast<QWidget *>(spinBox), static_cast<QWidget *>(this)}) {
+            widget->style()->unpolish(widget);
+            widget->style()->polish(widget);
+        }
     }
 }
 

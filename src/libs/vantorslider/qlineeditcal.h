@@ -28,7 +28,6 @@ public:
 
 Q_SIGNALS:
     void signalsResult();
-    void entryRefusedChanged(bool isRefused);
 
 protected Q_SLOTS:
     void onSlotTextChanged(QString text);

@@ -6,6 +6,8 @@
 #include <QtScript/QScriptEngine>
 #include <QtScript/QScriptEngineAgent>
 
+#include <utility>
+
 namespace Vantor {
 namespace Widgets {
 namespace Internal {
@@ -94,7 +96,7 @@ std::optional<QString> evaluateWithinBudget(const QString &text)
 class ScriptThread : public QThread
 {
 public:
-    explicit ScriptThread(const QString &text) : m_text(text) { }
+    explicit ScriptThread(QString text) : m_text(std::move(text)) { }
 
     std::optional<QString> result()
     {

@@ -31,18 +31,9 @@ SliderEditDoubleSpinBox::SliderEditDoubleSpinBox(QWidget *parent)
     setLineEdit(m_pLineEditCal);
     connect(m_pLineEditCal, &LineEditCal::signalsResult, this,
             &SliderEditDoubleSpinBox::onSlotResultFinished);
-    connect(m_pLineEditCal, &LineEditCal::entryRefusedChanged, this,
-            [this](bool isRefused) { Internal::showEntryRefused(this, isRefused); });
-    connect(m_pLineEditCal, &QObject::destroyed, this, [this] { m_pLineEditCal = nullptr; });
 }
 
-// The line edit is destroyed with the box's own children, later than its members.
-SliderEditDoubleSpinBox::~SliderEditDoubleSpinBox()
-{
-    if (m_pLineEditCal != nullptr) {
-        m_pLineEditCal->disconnect(this);
-    }
-}
+SliderEditDoubleSpinBox::~SliderEditDoubleSpinBox() = default;
 
 /*! Accepts every text and changes neither \a text nor \a pos. */
 QValidator::State SliderEditDoubleSpinBox::validate(QString &text, int &pos) const
@@ -153,6 +144,7 @@ void SliderEditDoubleSpinBox::onSlotResultFinished()
     Q_EMIT editingFinished();
 }
 
+// Part of the interface, for what a later version may do there.
 void SliderEditDoubleSpinBox::mousePressEvent(QMouseEvent *event)
 {
     QDoubleSpinBox::mousePressEvent(event);
@@ -233,6 +225,15 @@ void SliderEditDoubleSpinBox::changeEvent(QEvent *event)
 {
     QDoubleSpinBox::changeEvent(event);
     Internal::keepDecimalPoint(this, event);
+}
+
+// A subclass that sets another line edit has this one deleted.
+void SliderEditDoubleSpinBox::childEvent(QChildEvent *event)
+{
+    QDoubleSpinBox::childEvent(event);
+    if (event->removed() && event->child() == m_pLineEditCal) {
+        m_pLineEditCal = nullptr;
+    }
 }
 
 } // namespace Widgets

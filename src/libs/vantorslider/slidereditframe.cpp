@@ -1,13 +1,9 @@
 #include "slidereditframe.h"
 
 #include "saturation_p.h"
-#include "slidereditframe_p.h"
 #include "sliderengine_p.h"
-#include "sliderrow_p.h"
 #include "ui_slidereditframe.h"
 
-#include <QtCore/QPointer>
-#include <QtCore/QSignalBlocker>
 #include <QtCore/QTimerEvent>
 
 #include <array>
@@ -18,137 +14,45 @@ namespace Widgets {
 
 namespace Internal {
 
-// Keeps slider, spin box and buttons in step and decides when the frame
-// reports a change. The spin box holds the value; with the slider's tracking
-// off, the slider's own value follows the handle only at release.
-class SliderEditPrivate : public QObject
+class SliderEditPrivate
+    : public SliderEngine<SliderEditPrivate, SliderEditFrame, Ui::SliderEditFrame, int>
 {
     Q_OBJECT
 
 public:
-    explicit SliderEditPrivate(SliderEditFrame *editer);
-    ~SliderEditPrivate() override;
+    using SliderEngine::SliderEngine;
 
-    void createWidgets();
-    void createConnects();
-    void startSamplingTimer();
-    void stopSamplingTimer();
-    void sample();
-    void emitValueChanged(int val);
+    void createConnects() { connectRow(QOverload<int>::of(&QSpinBox::valueChanged)); }
+
+    SliderEditSpinBox *spinBox() const { return ui->spinBox; }
+    static int toPosition(int val) { return val; }
+    static int toValue(int position) { return position; }
+    bool isLastValue(int val) const { return val == m_nLastValue; }
+    bool isNewAtRelease(int position) const { return !isLastValue(position); }
+    static constexpr bool spinBoxFollowsInReleaseMode = false;
     void showInSpinBox(int val);
-
-    SliderRow row() const { return {*ui, ui->spinBox}; }
-
-    SliderEditFrame *m_pSliderEditer;
-    Ui::SliderEditFrame *ui;
-    // Last value applied or accepted: a child's report of it is an echo.
-    int m_nLastValue = 0;
-    int m_nLastPressedValue = -1;
-    // Value at the start of sampling or at the last tick.
-    int m_nLastTimerValue = -1;
-    bool m_isReleaseMode = false;
-    bool m_isTimeSampling = false;
-    bool m_isTimeSamplingValueChanged = false;
-    int m_nTimeSamplingRate = 100;
-    int m_nSamplingTimer = -1;
-    int m_readValue = 0;
-    int m_valueChangeDirection = SliderEditFrame::AllowedToAny;
-    bool m_isSampleInDelivery = false;
-    // The user moved the handle meanwhile: the next tick has something to report.
-    bool m_isMovedInDelivery = false;
+    void handToCalculator(int val);
 
 private Q_SLOTS:
+    // The interface fixes all thirteen; the presses and releases of the buttons
+    // mean nothing yet.
     void slotSpinBoxEditingFinished();
     void slotSpinBoxEnterFinished();
     void slotButtonSubtractClicked();
-    void slotButtonSubtractPressed();
-    void slotButtonSubtractReleased();
+    void slotButtonSubtractPressed() { }
+    void slotButtonSubtractReleased() { }
     void slotButtonPlusClicked();
-    void slotButtonPlusPressed();
-    void slotButtonPlusReleased();
-    void slotSpinBoxValueChanged(int val);
-    void slotSliderMoved(int val);
-    void slotSliderValueChanged(int val);
-    void slotSliderReleased();
-    void slotSliderPressed();
+    void slotButtonPlusPressed() { }
+    void slotButtonPlusReleased() { }
+    void slotSpinBoxValueChanged(int val) { spinBoxValueChanged(val); }
+    void slotSliderMoved(int val) { sliderMoved(val); }
+    void slotSliderValueChanged(int val) { sliderValueChanged(val); }
+    void slotSliderReleased() { sliderReleased(); }
+    void slotSliderPressed() { sliderPressed(); }
 
 private:
-    friend struct EngineConnections;
-
-    int spinValue() const { return ui->spinBox->value(); }
-    void report(int val);
+    friend SliderEngine; // connects the slots
 };
-
-SliderEditPrivate::SliderEditPrivate(SliderEditFrame *editer)
-    : m_pSliderEditer(editer), ui(new Ui::SliderEditFrame)
-{
-}
-
-SliderEditPrivate::~SliderEditPrivate()
-{
-    delete ui;
-    ui = nullptr;
-}
-
-void SliderEditPrivate::createWidgets()
-{
-    ui->setupUi(m_pSliderEditer);
-    row().prepare(m_pSliderEditer);
-}
-
-void SliderEditPrivate::createConnects()
-{
-    EngineConnections::make(this, *ui, ui->spinBox, QOverload<int>::of(&QSpinBox::valueChanged));
-}
-
-void SliderEditPrivate::startSamplingTimer()
-{
-    stopSamplingTimer();
-    m_isTimeSamplingValueChanged = false;
-    m_nLastTimerValue = spinValue();
-    m_nSamplingTimer = m_pSliderEditer->startTimer(m_nTimeSamplingRate);
-}
-
-void SliderEditPrivate::stopSamplingTimer()
-{
-    if (m_nSamplingTimer != -1) {
-        m_pSliderEditer->killTimer(m_nSamplingTimer);
-    }
-    m_nSamplingTimer = -1;
-}
-
-// A receiver may run an event loop of its own, in which the timer ticks on.
-void SliderEditPrivate::sample()
-{
-    if (m_isSampleInDelivery || spinValue() == m_nLastTimerValue) {
-        return;
-    }
-    const QPointer<SliderEditPrivate> self(this);
-    m_isSampleInDelivery = true;
-    m_isMovedInDelivery = false;
-    emitValueChanged(spinValue());
-    if (self) {
-        m_isSampleInDelivery = false;
-        if (!m_isMovedInDelivery) {
-            m_nLastTimerValue = spinValue();
-        }
-    }
-}
-
-// The direction filter. What a tick reports is not reported again where the
-// receiver ends the drag. Nothing of the frame is touched after the signal, here
-// and wherever this is called last: the receiver may have deleted it.
-void SliderEditPrivate::emitValueChanged(int val)
-{
-    if (!isAnyDirectionAllowed(m_valueChangeDirection)) {
-        val = heldValue(m_valueChangeDirection, m_readValue, val);
-        m_pSliderEditer->setValue(val);
-    }
-    if (m_isSampleInDelivery) {
-        m_nLastTimerValue = spinValue();
-    }
-    Q_EMIT m_pSliderEditer->valueChanged(val);
-}
 
 namespace {
 
@@ -173,33 +77,22 @@ void SliderEditPrivate::showInSpinBox(int val)
     ui->spinBox->setValue(val);
 }
 
-void SliderEditPrivate::report(int val)
+void SliderEditPrivate::handToCalculator(int val)
 {
-    m_pSliderEditer->setValue(val);
-    emitValueChanged(spinValue());
+    constexpr int shownDecimals = 0;
+    ui->spinBox->setSpinBoxCal(val, ui->spinBox->maximum(), ui->spinBox->minimum(), shownDecimals,
+                               typedDecimals);
 }
 
 void SliderEditPrivate::slotSpinBoxEditingFinished()
 {
     qDebug("SpinBox editing finished");
-    const QPointer<SliderEditPrivate> self(this);
-    ui->spinBox->setSlotEditingFinished();
-    if (self && spinValue() != m_nLastValue) {
-        m_nLastValue = spinValue();
-        emitValueChanged(spinValue());
-    }
+    editingFinished();
 }
 
-// Keyboard tracking is off: losing the focus is what makes the spin box
-// interpret its text and report the new value. It keeps the focus where a host has
-// made it the frame's proxy.
 void SliderEditPrivate::slotSpinBoxEnterFinished()
 {
-    const QPointer<SliderEditPrivate> self(this);
-    m_pSliderEditer->setFocus(Qt::OtherFocusReason);
-    if (self && ui->spinBox->hasFocus()) {
-        ui->spinBox->interpretText();
-    }
+    enterFinished();
     qDebug("SpinBox lose focus.");
 }
 
@@ -211,82 +104,12 @@ void SliderEditPrivate::slotButtonSubtractClicked()
     }
 }
 
-void SliderEditPrivate::slotButtonSubtractPressed() { }
-
-void SliderEditPrivate::slotButtonSubtractReleased() { }
-
 void SliderEditPrivate::slotButtonPlusClicked()
 {
     const qint64 next = qint64(spinValue()) + ui->spinBox->singleStep();
     if (next <= ui->spinBox->maximum()) {
         report(saturatedInt(next));
     }
-}
-
-void SliderEditPrivate::slotButtonPlusPressed() { }
-
-void SliderEditPrivate::slotButtonPlusReleased() { }
-
-void SliderEditPrivate::slotSpinBoxValueChanged(int val)
-{
-    if (val != m_nLastValue) {
-        report(val);
-    }
-}
-
-void SliderEditPrivate::slotSliderMoved(int val)
-{
-    if (val == m_nLastValue || m_isReleaseMode) {
-        return;
-    }
-    m_pSliderEditer->setValue(val);
-    if (!m_isTimeSampling) {
-        emitValueChanged(spinValue());
-    } else if (val != m_nLastTimerValue) {
-        m_isTimeSamplingValueChanged = true;
-        m_isMovedInDelivery = true;
-    }
-}
-
-// At release in release mode, or by a page or keyboard step: neither release
-// mode nor sampling delays it.
-void SliderEditPrivate::slotSliderValueChanged(int val)
-{
-    if (val == m_nLastValue) {
-        return;
-    }
-    if (val != m_nLastTimerValue) {
-        m_isTimeSamplingValueChanged = true;
-    }
-    report(val);
-}
-
-// Comes before Qt brings the slider's value to the handle's position.
-void SliderEditPrivate::slotSliderReleased()
-{
-    const int val = ui->slider->value();
-    if (!m_isTimeSampling) {
-        if (val != m_nLastValue) {
-            report(val);
-        }
-        return;
-    }
-    stopSamplingTimer();
-    if (val == m_nLastTimerValue) {
-        return;
-    }
-    m_pSliderEditer->setValue(val);
-    if (m_isTimeSamplingValueChanged) {
-        emitValueChanged(spinValue());
-    }
-}
-
-void SliderEditPrivate::slotSliderPressed()
-{
-    if (m_isTimeSampling) {
-        startSamplingTimer();
-    }
-    m_nLastPressedValue = ui->slider->value();
 }
 
 } // namespace Internal
@@ -440,13 +263,7 @@ void SliderEditFrame::setSliderProperty(const char *name, const QVariant &value)
 */
 void SliderEditFrame::setValue(int val)
 {
-    d->m_nLastValue = val;
-    d->showInSpinBox(val);
-    {
-        const QSignalBlocker blocker(d->ui->slider);
-        d->ui->slider->setValue(val);
-    }
-    d->ui->spinBox->setSpinBoxCal(val, maximum(), minimum(), 0, 2);
+    d->apply(val);
 }
 
 /*! The value that the spin box holds. */

@@ -90,6 +90,7 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void childEvent(QChildEvent *event) override;
 
 private:
     bool m_isWheelEnabled = false;
@@ -128,6 +129,7 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void childEvent(QChildEvent *event) override;
 
 private:
     bool m_isWheelEnabled = false;

@@ -1,12 +1,9 @@
 #include "slidereditframedouble.h"
 
 #include "saturation_p.h"
-#include "slidereditframe_p.h"
 #include "sliderengine_p.h"
-#include "sliderrow_p.h"
 #include "ui_slidereditframedouble.h"
 
-#include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtCore/QTimerEvent>
 
@@ -17,173 +14,69 @@ namespace Widgets {
 
 namespace Internal {
 
-// The floating-point twin of the integer engine. The spin box holds the value;
-// the slider's positions are the value times the magnification.
-class SliderEditDoublePrivate : public QObject
+// The slider's positions are the value times the magnification.
+class SliderEditDoublePrivate : public SliderEngine<SliderEditDoublePrivate, SliderEditFrameDouble,
+                                                    Ui::SliderEditFrameDouble, double>
 {
     Q_OBJECT
 
 public:
-    explicit SliderEditDoublePrivate(SliderEditFrameDouble *editer);
-    ~SliderEditDoublePrivate() override;
+    using SliderEngine::SliderEngine;
 
-    void createWidgets();
-    void createConnects();
-    void startSamplingTimer();
-    void stopSamplingTimer();
-    void sample();
-    void emitValueChanged(double val);
+    void createConnects() { connectRow(QOverload<double>::of(&QDoubleSpinBox::valueChanged)); }
 
-    SliderRow row() const { return {*ui, ui->doubleSpinBox}; }
-
+    SliderEditDoubleSpinBox *spinBox() const { return ui->doubleSpinBox; }
     int toPosition(double val) const { return saturatedInt(std::round(val * m_nMagnification)); }
     double toValue(int position) const { return double(position) / m_nMagnification; }
+    bool isLastValue(double val) const { return std::fabs(val - m_nLastValue) < m_nMinPrecision; }
+    // Unlike the integer field this one follows the handle in release mode too, and
+    // so has the slider's value: no valueChanged() of the slider comes at release.
+    static constexpr bool spinBoxFollowsInReleaseMode = true;
+    bool isNewAtRelease(int pos) const { return m_isReleaseMode && pos != m_nLastPressedValue; }
+    void showInSpinBox(double val);
+    void handToCalculator(double val);
 
-    SliderEditFrameDouble *m_pSliderEditer;
-    Ui::SliderEditFrameDouble *ui;
-    // Last value applied or accepted: a child's report of it is an echo.
-    double m_nLastValue = 0.0;
     // Values closer than this are equal; bounds are nudged up by it.
     double m_nMinPrecision = 1e-8;
-    // Slider positions, like the value at the last tick.
-    int m_nLastPressedValue = -1;
-    int m_nLastTimerValue = -1;
     int m_nPrecision = 2;
     double m_dSingleStep = 0.01;
     // 10 to the power of the precision only once setDecimals() has run.
     int m_nMagnification = 1;
-    bool m_isReleaseMode = false;
-    bool m_isTimeSampling = false;
-    bool m_isTimeSamplingValueChanged = false;
-    int m_nTimeSamplingRate = 100;
-    int m_nSamplingTimer = -1;
-    double m_readValue = 0.0;
-    int m_valueChangeDirection = SliderEditFrameDouble::AllowedToAny;
-    bool m_isSampleInDelivery = false;
-    // The user moved the handle meanwhile: the next tick has something to report.
-    bool m_isMovedInDelivery = false;
 
 private Q_SLOTS:
-    void slotSpinBoxEditingFinished();
-    void slotSpinBoxEnterFinished();
+    // The interface fixes all thirteen; the presses and releases of the buttons
+    // mean nothing yet.
+    void slotSpinBoxEditingFinished() { editingFinished(); }
+    void slotSpinBoxEnterFinished() { enterFinished(); }
     void slotButtonSubtractClicked();
-    void slotButtonSubtractPressed();
-    void slotButtonSubtractReleased();
+    void slotButtonSubtractPressed() { }
+    void slotButtonSubtractReleased() { }
     void slotButtonPlusClicked();
-    void slotButtonPlusPressed();
-    void slotButtonPlusReleased();
-    void slotSpinBoxValueChanged(double val);
-    void slotSliderMoved(int pos);
-    void slotSliderValueChanged(int pos);
-    void slotSliderReleased();
-    void slotSliderPressed();
+    void slotButtonPlusPressed() { }
+    void slotButtonPlusReleased() { }
+    void slotSpinBoxValueChanged(double val) { spinBoxValueChanged(val); }
+    void slotSliderMoved(int pos) { sliderMoved(pos); }
+    void slotSliderValueChanged(int pos) { sliderValueChanged(pos); }
+    void slotSliderReleased() { sliderReleased(); }
+    void slotSliderPressed() { sliderPressed(); }
 
 private:
-    friend struct EngineConnections;
-
-    double spinValue() const { return ui->doubleSpinBox->value(); }
-    bool isLastValue(double val) const { return std::fabs(val - m_nLastValue) < m_nMinPrecision; }
-    void report(double val);
+    friend SliderEngine; // connects the slots
 };
 
-SliderEditDoublePrivate::SliderEditDoublePrivate(SliderEditFrameDouble *editer)
-    : m_pSliderEditer(editer), ui(new Ui::SliderEditFrameDouble)
+void SliderEditDoublePrivate::showInSpinBox(double val)
 {
+    const QSignalBlocker blocker(ui->doubleSpinBox);
+    ui->doubleSpinBox->setValue(val);
 }
 
-SliderEditDoublePrivate::~SliderEditDoublePrivate()
+void SliderEditDoublePrivate::handToCalculator(double val)
 {
-    delete ui;
-    ui = nullptr;
-}
-
-void SliderEditDoublePrivate::createWidgets()
-{
-    ui->setupUi(m_pSliderEditer);
-    row().prepare(m_pSliderEditer);
-}
-
-void SliderEditDoublePrivate::createConnects()
-{
-    EngineConnections::make(this, *ui, ui->doubleSpinBox,
-                            QOverload<double>::of(&QDoubleSpinBox::valueChanged));
-}
-
-void SliderEditDoublePrivate::startSamplingTimer()
-{
-    stopSamplingTimer();
-    m_isTimeSamplingValueChanged = false;
-    m_nLastTimerValue = toPosition(spinValue());
-    m_nSamplingTimer = m_pSliderEditer->startTimer(m_nTimeSamplingRate);
-}
-
-void SliderEditDoublePrivate::stopSamplingTimer()
-{
-    if (m_nSamplingTimer != -1) {
-        m_pSliderEditer->killTimer(m_nSamplingTimer);
-    }
-    m_nSamplingTimer = -1;
-}
-
-// A receiver may run an event loop of its own, in which the timer ticks on.
-void SliderEditDoublePrivate::sample()
-{
-    if (m_isSampleInDelivery || toPosition(spinValue()) == m_nLastTimerValue) {
-        return;
-    }
-    const QPointer<SliderEditDoublePrivate> self(this);
-    m_isSampleInDelivery = true;
-    m_isMovedInDelivery = false;
-    emitValueChanged(spinValue());
-    if (self) {
-        m_isSampleInDelivery = false;
-        if (!m_isMovedInDelivery) {
-            m_nLastTimerValue = toPosition(spinValue());
-        }
-    }
-}
-
-// The direction filter. What a tick reports is not reported again where the
-// receiver ends the drag. Nothing of the frame is touched after the signal, here
-// and wherever this is called last: the receiver may have deleted it.
-void SliderEditDoublePrivate::emitValueChanged(double val)
-{
-    if (!isAnyDirectionAllowed(m_valueChangeDirection)) {
-        val = heldValue(m_valueChangeDirection, m_readValue, val);
-        m_pSliderEditer->setValue(val);
-    }
-    if (m_isSampleInDelivery) {
-        m_nLastTimerValue = toPosition(spinValue());
-    }
-    Q_EMIT m_pSliderEditer->valueChanged(val);
-}
-
-void SliderEditDoublePrivate::report(double val)
-{
-    m_pSliderEditer->setValue(val);
-    emitValueChanged(spinValue());
-}
-
-void SliderEditDoublePrivate::slotSpinBoxEditingFinished()
-{
-    const QPointer<SliderEditDoublePrivate> self(this);
-    ui->doubleSpinBox->setSlotEditingFinished();
-    if (self && !isLastValue(spinValue())) {
-        m_nLastValue = spinValue();
-        emitValueChanged(spinValue());
-    }
-}
-
-// Keyboard tracking is off: losing the focus is what makes the spin box
-// interpret its text and report the new value. It keeps the focus where a host has
-// made it the frame's proxy.
-void SliderEditDoublePrivate::slotSpinBoxEnterFinished()
-{
-    const QPointer<SliderEditDoublePrivate> self(this);
-    m_pSliderEditer->setFocus(Qt::OtherFocusReason);
-    if (self && ui->doubleSpinBox->hasFocus()) {
-        ui->doubleSpinBox->interpretText();
-    }
+    constexpr int shownDecimals = 2;
+    constexpr bool hasSuffix = false;
+    ui->doubleSpinBox->setSpinBoxCal(
+        saturatedFloat(val), saturatedFloat(ui->doubleSpinBox->maximum()),
+        saturatedFloat(ui->doubleSpinBox->minimum()), shownDecimals, typedDecimals, hasSuffix);
 }
 
 void SliderEditDoublePrivate::slotButtonSubtractClicked()
@@ -194,85 +87,12 @@ void SliderEditDoublePrivate::slotButtonSubtractClicked()
     }
 }
 
-void SliderEditDoublePrivate::slotButtonSubtractPressed() { }
-
-void SliderEditDoublePrivate::slotButtonSubtractReleased() { }
-
 void SliderEditDoublePrivate::slotButtonPlusClicked()
 {
     const double next = spinValue() + ui->doubleSpinBox->singleStep();
     if (next <= ui->doubleSpinBox->maximum() + m_nMinPrecision) {
         report(next);
     }
-}
-
-void SliderEditDoublePrivate::slotButtonPlusPressed() { }
-
-void SliderEditDoublePrivate::slotButtonPlusReleased() { }
-
-void SliderEditDoublePrivate::slotSpinBoxValueChanged(double val)
-{
-    if (!isLastValue(val)) {
-        report(val);
-    }
-}
-
-// Unlike the integer field this one follows the handle in release mode too.
-void SliderEditDoublePrivate::slotSliderMoved(int pos)
-{
-    if (isLastValue(toValue(pos))) {
-        return;
-    }
-    m_pSliderEditer->setValue(toValue(pos));
-    if (m_isReleaseMode) {
-        return;
-    }
-    if (!m_isTimeSampling) {
-        emitValueChanged(spinValue());
-    } else if (pos != m_nLastTimerValue) {
-        m_isTimeSamplingValueChanged = true;
-        m_isMovedInDelivery = true;
-    }
-}
-
-void SliderEditDoublePrivate::slotSliderValueChanged(int pos)
-{
-    if (isLastValue(toValue(pos))) {
-        return;
-    }
-    if (pos != m_nLastTimerValue) {
-        m_isTimeSamplingValueChanged = true;
-    }
-    report(toValue(pos));
-}
-
-void SliderEditDoublePrivate::slotSliderReleased()
-{
-    const int pos = ui->slider->value();
-    if (!m_isTimeSampling) {
-        // The slider's value has followed the handle, so no valueChanged() of
-        // the slider comes: a drag in release mode is reported here.
-        if (m_isReleaseMode && pos != m_nLastPressedValue) {
-            report(toValue(pos));
-        }
-        return;
-    }
-    stopSamplingTimer();
-    if (pos == m_nLastTimerValue) {
-        return;
-    }
-    m_pSliderEditer->setValue(toValue(pos));
-    if (m_isTimeSamplingValueChanged) {
-        emitValueChanged(spinValue());
-    }
-}
-
-void SliderEditDoublePrivate::slotSliderPressed()
-{
-    if (m_isTimeSampling) {
-        startSamplingTimer();
-    }
-    m_nLastPressedValue = ui->slider->value();
 }
 
 } // namespace Internal
@@ -407,21 +227,9 @@ void SliderEditFrameDouble::setSliderProperty(const char *name, const QVariant &
 */
 void SliderEditFrameDouble::setValue(double val)
 {
-    if (std::isnan(val)) {
-        return;
+    if (!std::isnan(val)) {
+        d->apply(val);
     }
-    d->m_nLastValue = val;
-    {
-        const QSignalBlocker blocker(d->ui->doubleSpinBox);
-        d->ui->doubleSpinBox->setValue(val);
-    }
-    {
-        const QSignalBlocker blocker(d->ui->slider);
-        d->ui->slider->setValue(d->toPosition(val));
-    }
-    d->ui->doubleSpinBox->setSpinBoxCal(Internal::saturatedFloat(val),
-                                        Internal::saturatedFloat(maximum()),
-                                        Internal::saturatedFloat(minimum()), 2, 2, false);
 }
 
 /*! The value that the spin box holds. */

@@ -12,10 +12,7 @@ namespace Widgets {
     it, and leaves the wheel to the page around it.
 */
 
-SliderEditSlider::SliderEditSlider(QWidget *parent)
-    : QSlider(parent), m_hostWindow(new Internal::HostWindow(this))
-{
-}
+SliderEditSlider::SliderEditSlider(QWidget *parent) : QSlider(parent) { }
 
 SliderEditSlider::~SliderEditSlider() = default;
 
@@ -52,6 +49,9 @@ bool SliderEditSlider::event(QEvent *event)
 void SliderEditSlider::mousePressEvent(QMouseEvent *event)
 {
     m_isMousePressed = true;
+    if (m_hostWindow == nullptr) {
+        m_hostWindow = std::make_unique<Internal::HostWindow>(this);
+    }
     m_hostWindow->remember();
     QSlider::mousePressEvent(event);
 }
@@ -62,6 +62,7 @@ void SliderEditSlider::mouseReleaseEvent(QMouseEvent *event)
     QSlider::mouseReleaseEvent(event);
 }
 
+// Part of the interface, for what a later version may do there.
 void SliderEditSlider::mouseMoveEvent(QMouseEvent *event)
 {
     QSlider::mouseMoveEvent(event);
@@ -88,7 +89,7 @@ void SliderEditSlider::hideEvent(QHideEvent *event)
 {
     QSlider::hideEvent(event);
     m_isMousePressed = false;
-    if (!m_hostWindow->isBeingDestroyed()) {
+    if (m_hostWindow != nullptr && !m_hostWindow->isBeingDestroyed()) {
         releasePointer();
     }
 }

@@ -27,18 +27,9 @@ SliderEditSpinBox::SliderEditSpinBox(QWidget *parent)
     setLineEdit(m_pLineEditCal);
     connect(m_pLineEditCal, &LineEditCal::signalsResult, this,
             &SliderEditSpinBox::onSlotResultFinished);
-    connect(m_pLineEditCal, &LineEditCal::entryRefusedChanged, this,
-            [this](bool isRefused) { Internal::showEntryRefused(this, isRefused); });
-    connect(m_pLineEditCal, &QObject::destroyed, this, [this] { m_pLineEditCal = nullptr; });
 }
 
-// The line edit is destroyed with the box's own children, later than its members.
-SliderEditSpinBox::~SliderEditSpinBox()
-{
-    if (m_pLineEditCal != nullptr) {
-        m_pLineEditCal->disconnect(this);
-    }
-}
+SliderEditSpinBox::~SliderEditSpinBox() = default;
 
 /*! Accepts every text and changes neither \a text nor \a pos. */
 QValidator::State SliderEditSpinBox::validate(QString &text, int &pos) const
@@ -115,6 +106,7 @@ void SliderEditSpinBox::onSlotResultFinished()
     Q_EMIT enterFinished();
 }
 
+// Part of the interface, for what a later version may do there.
 void SliderEditSpinBox::mousePressEvent(QMouseEvent *event)
 {
     QSpinBox::mousePressEvent(event);
@@ -178,6 +170,15 @@ void SliderEditSpinBox::changeEvent(QEvent *event)
 {
     QSpinBox::changeEvent(event);
     Internal::keepDecimalPoint(this, event);
+}
+
+// A subclass that sets another line edit has this one deleted.
+void SliderEditSpinBox::childEvent(QChildEvent *event)
+{
+    QSpinBox::childEvent(event);
+    if (event->removed() && event->child() == m_pLineEditCal) {
+        m_pLineEditCal = nullptr;
+    }
 }
 
 } // namespace Widgets

@@ -1,62 +1,261 @@
 #pragma once
 
-#include "slidereditframe.h"
 #include "slidereditframe_p.h"
+#include "sliderrow_p.h"
 
-#include <QtWidgets/QToolButton>
+#include <QtCore/QPointer>
+#include <QtCore/QSignalBlocker>
+#include <QtWidgets/QAbstractButton>
 
 namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// What the integer and the floating-point value engine share.
-
-inline bool isAnyDirectionAllowed(int directions)
+// Keeps slider, spin box and buttons of a row in step and decides when its frame
+// reports a change. The spin box holds the value; with the slider's tracking off,
+// the slider's own value follows the handle only at release.
+//
+// The engine of one kind of number derives from it. It declares the slots, which
+// moc finds in no template, and says what differs: its spin box, the position of a
+// value, when two values are equal, what a value is shown and evaluated with, and
+// what follows the handle in release mode.
+template <typename Engine, typename Editor, typename Form, typename Value>
+class SliderEngine : public QObject
 {
-    return (directions & SliderEditFrame::AllowedToAny) == SliderEditFrame::AllowedToAny;
-}
-
-// The value that may be reported: val, or the reference where val lies on its
-// forbidden side. Without AllowedToBigger only smaller values are allowed,
-// whatever the other bits say.
-template <typename Value> Value heldValue(int directions, Value reference, Value val)
-{
-    if ((directions & SliderEditFrame::AllowedToBigger) != 0) {
-        return qMax(val, reference);
-    }
-    return qMin(val, reference);
-}
-
-// The thirteen connections of an engine to its row's children. Their order is
-// the order in which the slots of one sender run. An engine makes it a friend,
-// for its slots are private.
-struct EngineConnections
-{
-    template <typename Engine, typename Form, typename SpinBox, typename SpinBoxBase,
-              typename Value>
-    static void make(Engine *engine, const Form &form, const SpinBox *spinBox,
-                     void (SpinBoxBase::*valueChanged)(Value))
+public:
+    explicit SliderEngine(Editor *editer) : m_pSliderEditer(editer), ui(new Form) { }
+    ~SliderEngine() override
     {
-        const auto connect = [engine](const auto *sender, auto signal, auto slot) {
-            QObject::connect(sender, signal, engine, slot);
-        };
-        const QAbstractButton *minus = form.sliderEditSubtract;
-        const QAbstractButton *plus = form.sliderEditPlus;
-        connect(spinBox, &SpinBox::editingFinished, &Engine::slotSpinBoxEditingFinished);
-        connect(spinBox, &SpinBox::enterFinished, &Engine::slotSpinBoxEnterFinished);
-        connect(plus, &QAbstractButton::clicked, &Engine::slotButtonPlusClicked);
-        connect(minus, &QAbstractButton::clicked, &Engine::slotButtonSubtractClicked);
-        connect(spinBox, valueChanged, &Engine::slotSpinBoxValueChanged);
-        connect(form.slider, &QAbstractSlider::sliderMoved, &Engine::slotSliderMoved);
-        connect(form.slider, &QAbstractSlider::valueChanged, &Engine::slotSliderValueChanged);
-        connect(form.slider, &QAbstractSlider::sliderPressed, &Engine::slotSliderPressed);
-        connect(form.slider, &QAbstractSlider::sliderReleased, &Engine::slotSliderReleased);
-        connect(plus, &QAbstractButton::pressed, &Engine::slotButtonPlusPressed);
-        connect(plus, &QAbstractButton::released, &Engine::slotButtonPlusReleased);
-        connect(minus, &QAbstractButton::pressed, &Engine::slotButtonSubtractPressed);
-        connect(minus, &QAbstractButton::released, &Engine::slotButtonSubtractReleased);
+        delete ui;
+        ui = nullptr;
+    }
+
+    void createWidgets()
+    {
+        ui->setupUi(m_pSliderEditer);
+        row().prepare(m_pSliderEditer);
+    }
+
+    // The order is that in which the slots of one sender run.
+    template <typename SpinBoxBase> void connectRow(void (SpinBoxBase::*valueChanged)(Value))
+    {
+        const auto *const spinBox = engine().spinBox();
+        using SpinBox = std::remove_pointer_t<decltype(engine().spinBox())>;
+        const QAbstractButton *minus = ui->sliderEditSubtract;
+        const QAbstractButton *plus = ui->sliderEditPlus;
+        connectTo(spinBox, &SpinBox::editingFinished, &Engine::slotSpinBoxEditingFinished);
+        connectTo(spinBox, &SpinBox::enterFinished, &Engine::slotSpinBoxEnterFinished);
+        connectTo(plus, &QAbstractButton::clicked, &Engine::slotButtonPlusClicked);
+        connectTo(minus, &QAbstractButton::clicked, &Engine::slotButtonSubtractClicked);
+        connectTo(spinBox, valueChanged, &Engine::slotSpinBoxValueChanged);
+        connectTo(ui->slider, &QAbstractSlider::sliderMoved, &Engine::slotSliderMoved);
+        connectTo(ui->slider, &QAbstractSlider::valueChanged, &Engine::slotSliderValueChanged);
+        connectTo(ui->slider, &QAbstractSlider::sliderPressed, &Engine::slotSliderPressed);
+        connectTo(ui->slider, &QAbstractSlider::sliderReleased, &Engine::slotSliderReleased);
+        connectTo(plus, &QAbstractButton::pressed, &Engine::slotButtonPlusPressed);
+        connectTo(plus, &QAbstractButton::released, &Engine::slotButtonPlusReleased);
+        connectTo(minus, &QAbstractButton::pressed, &Engine::slotButtonSubtractPressed);
+        connectTo(minus, &QAbstractButton::released, &Engine::slotButtonSubtractReleased);
+    }
+
+    SliderRow row() const { return {*ui, engine().spinBox()}; }
+
+    // Shows a value on both children and hands it to the calculator. Silent.
+    void apply(Value val)
+    {
+        m_nLastValue = val;
+        engine().showInSpinBox(val);
+        {
+            const QSignalBlocker blocker(ui->slider);
+            ui->slider->setValue(engine().toPosition(val));
+        }
+        engine().handToCalculator(val);
+    }
+
+    // The sampling tick. A receiver may run an event loop of its own, in which the
+    // timer ticks on.
+    void sample()
+    {
+        if (m_isSampleInDelivery || spinPosition() == m_nLastTimerValue) {
+            return;
+        }
+        const QPointer<SliderEngine> self(this);
+        m_isSampleInDelivery = true;
+        m_isMovedInDelivery = false;
+        emitValueChanged(spinValue());
+        if (self) {
+            m_isSampleInDelivery = false;
+            if (!m_isMovedInDelivery) {
+                m_nLastTimerValue = spinPosition();
+            }
+        }
+    }
+
+    Editor *m_pSliderEditer;
+    Form *ui;
+    // Last value applied or accepted: a child's report of it is an echo.
+    Value m_nLastValue = 0;
+    // Slider positions: at the last press; at the start of sampling or the last tick.
+    int m_nLastPressedValue = -1;
+    int m_nLastTimerValue = -1;
+    bool m_isReleaseMode = false;
+    bool m_isTimeSampling = false;
+    bool m_isTimeSamplingValueChanged = false;
+    int m_nTimeSamplingRate = 100;
+    int m_nSamplingTimer = -1;
+    Value m_readValue = 0;
+    int m_valueChangeDirection = Editor::AllowedToAny;
+    bool m_isSampleInDelivery = false;
+    // The user moved the handle meanwhile: the next tick has something to report.
+    bool m_isMovedInDelivery = false;
+
+protected:
+    Value spinValue() const { return engine().spinBox()->value(); }
+
+    // The direction filter: without AllowedToBigger only smaller values are allowed,
+    // whatever the other bits say. What a tick reports is not reported again where
+    // the receiver ends the drag. Nothing of the frame is touched after the signal,
+    // here and wherever this is called last: the receiver may have deleted it.
+    void emitValueChanged(Value val)
+    {
+        if ((m_valueChangeDirection & Editor::AllowedToAny) != Editor::AllowedToAny) {
+            const bool isHeldAbove = (m_valueChangeDirection & Editor::AllowedToBigger) != 0;
+            val = isHeldAbove ? qMax(val, m_readValue) : qMin(val, m_readValue);
+            apply(val);
+        }
+        if (m_isSampleInDelivery) {
+            m_nLastTimerValue = spinPosition();
+        }
+        Q_EMIT m_pSliderEditer->valueChanged(val);
+    }
+
+    void report(Value val)
+    {
+        apply(val);
+        emitValueChanged(spinValue());
+    }
+
+    void editingFinished()
+    {
+        const QPointer<SliderEngine> self(this);
+        engine().spinBox()->setSlotEditingFinished();
+        if (self && !engine().isLastValue(spinValue())) {
+            m_nLastValue = spinValue();
+            emitValueChanged(spinValue());
+        }
+    }
+
+    // Keyboard tracking is off: losing the focus is what makes the spin box
+    // interpret its text and report the new value. It keeps the focus where a host
+    // has made it the frame's proxy.
+    void enterFinished()
+    {
+        const QPointer<SliderEngine> self(this);
+        m_pSliderEditer->setFocus(Qt::OtherFocusReason);
+        if (self && engine().spinBox()->hasFocus()) {
+            engine().spinBox()->interpretText();
+        }
+    }
+
+    void spinBoxValueChanged(Value val)
+    {
+        if (!engine().isLastValue(val)) {
+            report(val);
+        }
+    }
+
+    void sliderPressed()
+    {
+        if (m_isTimeSampling) {
+            startSamplingTimer();
+        }
+        m_nLastPressedValue = ui->slider->value();
+    }
+
+    void sliderMoved(int position)
+    {
+        const Value val = engine().toValue(position);
+        if (engine().isLastValue(val)
+            || (m_isReleaseMode && !Engine::spinBoxFollowsInReleaseMode)) {
+            return;
+        }
+        apply(val);
+        if (m_isReleaseMode) {
+            return;
+        }
+        if (!m_isTimeSampling) {
+            emitValueChanged(spinValue());
+        } else if (position != m_nLastTimerValue) {
+            m_isTimeSamplingValueChanged = true;
+            m_isMovedInDelivery = true;
+        }
+    }
+
+    // At release in release mode, or by a page or keyboard step: neither release
+    // mode nor sampling delays it.
+    void sliderValueChanged(int position)
+    {
+        const Value val = engine().toValue(position);
+        if (engine().isLastValue(val)) {
+            return;
+        }
+        if (position != m_nLastTimerValue) {
+            m_isTimeSamplingValueChanged = true;
+        }
+        report(val);
+    }
+
+    // Comes before Qt brings the slider's value to the handle's position.
+    void sliderReleased()
+    {
+        const int position = ui->slider->value();
+        if (!m_isTimeSampling) {
+            if (engine().isNewAtRelease(position)) {
+                report(engine().toValue(position));
+            }
+            return;
+        }
+        stopSamplingTimer();
+        if (position == m_nLastTimerValue) {
+            return;
+        }
+        apply(engine().toValue(position));
+        if (m_isTimeSamplingValueChanged) {
+            emitValueChanged(spinValue());
+        }
+    }
+
+private:
+    Engine &engine() { return static_cast<Engine &>(*this); }
+    const Engine &engine() const { return static_cast<const Engine &>(*this); }
+
+    template <typename Sender, typename Signal, typename Slot>
+    void connectTo(const Sender *sender, Signal signal, Slot slot)
+    {
+        QObject::connect(sender, signal, &engine(), slot);
+    }
+
+    int spinPosition() const { return engine().toPosition(spinValue()); }
+
+    void startSamplingTimer()
+    {
+        stopSamplingTimer();
+        m_isTimeSamplingValueChanged = false;
+        m_nLastTimerValue = spinPosition();
+        m_nSamplingTimer = m_pSliderEditer->startTimer(m_nTimeSamplingRate);
+    }
+
+    void stopSamplingTimer()
+    {
+        if (m_nSamplingTimer != -1) {
+            m_pSliderEditer->killTimer(m_nSamplingTimer);
+        }
+        m_nSamplingTimer = -1;
     }
 };
+
+// The calculator of a row: decimals of a typed number, whatever the kind of editor.
+constexpr int typedDecimals = 2;
 
 } // namespace Internal
 } // namespace Widgets
