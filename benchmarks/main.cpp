@@ -5,6 +5,7 @@
 #include "bareeditors.h"
 #include "comparison.h"
 #include "heapcounter.h"
+#include "userevents.h"
 
 #include "cropeditframe.h"
 #include "rgballeditframe.h"
@@ -16,8 +17,6 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QStyle>
-#include <QtWidgets/QStyleOptionSlider>
 
 #include <memory>
 
@@ -150,14 +149,6 @@ Figure compareSetValue()
 
 // Keys
 
-void sendKey(QWidget *widget, Qt::Key key, const QString &text = QString())
-{
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QApplication::sendEvent(widget, &press);
-    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
-    QApplication::sendEvent(widget, &release);
-}
-
 // A digit at the end of the text and away again.
 Sample typing(QSpinBox *spinBox, const QString &text)
 {
@@ -166,10 +157,9 @@ Sample typing(QSpinBox *spinBox, const QString &text)
         spinBox->setFocus();
         auto *field = spinBox->findChild<QLineEdit *>();
         field->setText(text);
-        const Nanoseconds taken = timed(2 * batch, [spinBox] {
+        const Nanoseconds taken = timed(2 * batch, [] {
             for (int i = 0; i < batch; ++i) {
-                sendKey(spinBox, Qt::Key_4, QStringLiteral("4"));
-                sendKey(spinBox, Qt::Key_Backspace);
+                User::type(QStringLiteral("4\b"));
             }
         });
         if (field->text() != text) {
@@ -210,12 +200,8 @@ Figure compareEnter()
         ours.editor->setValue(7);
         field->setFocus();
         field->selectAll();
-        sendKey(field, Qt::Key_1, QStringLiteral("1"));
-        sendKey(field, Qt::Key_2, QStringLiteral("2"));
-        sendKey(field, Qt::Key_Asterisk, QStringLiteral("*"));
-        sendKey(field, Qt::Key_3, QStringLiteral("3"));
-        const Nanoseconds taken =
-            timed(1, [field] { sendKey(field, Qt::Key_Return, QStringLiteral("\r")); });
+        User::type(QStringLiteral("12*3"));
+        const Nanoseconds taken = timed(1, [] { User::press(Qt::Key_Return); });
         if (ours.editor->value() != 36 || field->hasFocus()) {
             qFatal("The expression was not evaluated.");
         }
@@ -234,8 +220,7 @@ Figure compareEnter()
         bare.editor->setValue(7);
         bareField->setFocus();
         bareField->selectAll();
-        const Nanoseconds taken =
-            timed(1, [bareField] { sendKey(bareField, Qt::Key_Return, QStringLiteral("\r")); });
+        const Nanoseconds taken = timed(1, [] { User::press(Qt::Key_Return); });
         if (bareField->value() != 36 || bareField->hasFocus()) {
             qFatal("The value was not written.");
         }
@@ -248,52 +233,27 @@ Figure compareEnter()
 
 // Drags
 
-void sendMouse(QSlider *slider, QEvent::Type type, int x)
-{
-    QWidget *window = slider->window();
-    const QPoint pos = slider->mapTo(window, QPoint(x, slider->height() / 2));
-    const bool isMove = type == QEvent::MouseMove;
-    QMouseEvent event(type, pos, window->mapToGlobal(pos), isMove ? Qt::NoButton : Qt::LeftButton,
-                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
-                      Qt::NoModifier);
-    QApplication::sendEvent(window->windowHandle(), &event);
-}
-
-int handleX(const QSlider *slider)
-{
-    QStyleOptionSlider option;
-    option.initFrom(slider);
-    option.minimum = slider->minimum();
-    option.maximum = slider->maximum();
-    option.sliderPosition = slider->sliderPosition();
-    option.state |= QStyle::State_Horizontal;
-    return slider->style()
-        ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
-        .center()
-        .x();
-}
-
 // Drags the handle forth and back, two pixels a move; reports counts what has
 // arrived at the host.
 Sample dragging(QSlider *slider, const int *reports)
 {
     return [slider, reports] {
         activate(slider);
-        const int start = handleX(slider);
-        sendMouse(slider, QEvent::MouseButtonPress, start);
+        const QPoint start = User::handleRect(slider, slider->sliderPosition()).center();
+        User::pressAt(slider, start);
         const int before = *reports;
         const Nanoseconds taken = timed(2 * batch, [slider, start] {
             for (int i = 1; i <= batch; ++i) {
-                sendMouse(slider, QEvent::MouseMove, start + 2 * i);
+                User::moveTo(slider, start + QPoint(2 * i, 0));
             }
             for (int i = batch - 1; i >= 0; --i) {
-                sendMouse(slider, QEvent::MouseMove, start + 2 * i);
+                User::moveTo(slider, start + QPoint(2 * i, 0));
             }
         });
         if (*reports != before + 2 * batch) {
             qFatal("%d moves brought %d reports.", 2 * batch, *reports - before);
         }
-        sendMouse(slider, QEvent::MouseButtonRelease, start);
+        User::releaseAt(slider, start);
         return taken;
     };
 }

@@ -1,6 +1,6 @@
 #include "eventlog.h"
 #include "qlineeditcal.h"
-#include "userevents.h"
+#include "testuser.h"
 
 using Vantor::Widgets::LineEditCal;
 

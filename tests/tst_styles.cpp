@@ -1,5 +1,5 @@
 #include "recteditframe.h"
-#include "userevents.h"
+#include "testuser.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QRegularExpression>

@@ -5,9 +5,8 @@
 #include "numberpad.h"
 #include "page.h"
 #include "pictureview.h"
+#include "userevents.h"
 
-#include <QtGui/QWheelEvent>
-#include <QtGui/QWindow>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QApplication>
@@ -16,35 +15,6 @@
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSlider>
-#include <QtWidgets/QStyleOptionSlider>
-
-namespace {
-
-QPoint handleCentre(const QSlider &slider, int position)
-{
-    QStyleOptionSlider option;
-    option.initFrom(&slider);
-    option.state |= QStyle::State_Horizontal;
-    option.orientation = slider.orientation();
-    option.minimum = slider.minimum();
-    option.maximum = slider.maximum();
-    option.sliderPosition = position;
-    option.sliderValue = position;
-    option.upsideDown = slider.layoutDirection() == Qt::RightToLeft;
-    option.subControls = QStyle::SC_All;
-    return slider.style()
-        ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, &slider)
-        .center();
-}
-
-// Where the pointer is for the window system: events enter there, so that Qt
-// itself finds the widget, the grab and the focus.
-QPoint inWindow(const QWidget &widget, const QPoint &point)
-{
-    return widget.mapTo(widget.window(), point);
-}
-
-} // namespace
 
 ScriptedUser::ScriptedUser(MainWindow &window) : m_window(window) { }
 
@@ -144,10 +114,16 @@ void ScriptedUser::showPage(const QString &title)
 
 void ScriptedUser::drag(const QString &row, int sliderPosition)
 {
-    say(QStringLiteral("drags %1 to the place of %2").arg(row).arg(sliderPosition));
+    say(QStringLiteral("drags %1 to %2").arg(row).arg(sliderPosition));
     QSlider *handleOwner = slider(row);
-    drag(handleOwner, handleCentre(*handleOwner, handleOwner->value()),
-         handleCentre(*handleOwner, sliderPosition));
+    const int start = handleOwner->value();
+    m_window.currentScrollArea()->ensureWidgetVisible(handleOwner);
+    User::grabHandle(handleOwner);
+    move([&](int step) {
+        User::moveHandle(handleOwner, start + (sliderPosition - start) * step / dragMoves);
+    });
+    User::dropHandle(handleOwner);
+    QApplication::processEvents();
 }
 
 void ScriptedUser::click(const QString &row, const char *button)
@@ -168,29 +144,20 @@ void ScriptedUser::type(const QString &row, const QString &text)
     say(QStringLiteral("types «%1» into %2")
             .arg(shown.replace(QLatin1Char('\n'), QStringLiteral("⏎")), row));
     clickInto(row);
-    for (const QChar character : text) {
-        QWidget *field = QApplication::focusWidget();
-        if (character == QLatin1Char('\n')) {
-            QTest::keyClick(field, Qt::Key_Enter);
-        } else {
-            QTest::keyClick(field, character.toLatin1());
-        }
-    }
+    User::type(text);
     QApplication::processEvents();
 }
 
 void ScriptedUser::click(QWidget *widget)
 {
     m_window.currentScrollArea()->ensureWidgetVisible(widget);
-    QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                      inWindow(*widget, widget->rect().center()));
+    User::click(widget);
     QApplication::processEvents(); // the field selects its text once it is idle
 }
 
 void ScriptedUser::moveAway()
 {
-    const PictureView *view = m_window.view();
-    QTest::mouseMove(m_window.windowHandle(), inWindow(*view, view->rect().center()));
+    User::moveTo(m_window.view(), m_window.view()->rect().center());
 }
 
 QWidget *ScriptedUser::row(const QString &label) const
@@ -217,16 +184,19 @@ void ScriptedUser::say(const QString &what) const
 
 void ScriptedUser::drag(QWidget *widget, const QPoint &from, const QPoint &to)
 {
-    m_window.currentScrollArea()->ensureWidgetVisible(widget);
-    QWindow *window = widget->window()->windowHandle();
-    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, inWindow(*widget, from));
-    const int moves = 6;
-    for (int i = 1; i <= moves; ++i) {
-        QTest::mouseMove(window, inWindow(*widget, from + (to - from) * i / moves));
-        QTest::qWait(40); // a person's hand, so that the sampling row has its ticks
-    }
-    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, inWindow(*widget, to));
+    User::pressAt(widget, from);
+    move([&](int step) { User::moveTo(widget, from + (to - from) * step / dragMoves); });
+    User::releaseAt(widget, to);
     QApplication::processEvents();
+}
+
+// A person's hand, so that the sampling row has its ticks.
+void ScriptedUser::move(const std::function<void(int)> &moveTo)
+{
+    for (int step = 1; step <= dragMoves; ++step) {
+        moveTo(step);
+        QTest::qWait(40);
+    }
 }
 
 void ScriptedUser::turnWheelOver(const QString &row)
@@ -240,20 +210,7 @@ void ScriptedUser::turnWheelOver(const QString &row)
     bar->setValue(bar->minimum());
     const int value = target->value();
     const int top = bar->value();
-    const QPoint centre = inWindow(*target, target->rect().center());
-    const QPoint global = m_window.mapToGlobal(centre);
-    const QPoint notch(0, -QWheelEvent::DefaultDeltasPerStep);
-#if QT_VERSION >= QT_VERSION_CHECK(5, 12, 0)
-    QWheelEvent wheel(centre, global, QPoint(), notch, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-#else
-    QWheelEvent wheel(centre, global, QPoint(), notch, notch.y(), Qt::Vertical, Qt::NoButton,
-                      Qt::NoModifier);
-#endif
-    // Only a turn that comes from outside goes on to the parents when a widget
-    // ignores it, and sendEvent() would mark it as the program's own.
-    QSpontaneKeyEvent::setSpontaneous(&wheel);
-    qApp->notify(m_window.windowHandle(), &wheel);
+    User::turnWheel(target, false);
     say(QStringLiteral("turns the wheel over %1: its value goes from %2 to %3, the page from %4 "
                        "to %5")
             .arg(row)

@@ -3,12 +3,14 @@
 #include <QtCore/QObject>
 #include <QtCore/QPoint>
 
+#include <functional>
+
 class MainWindow;
 class QPushButton;
 class QSlider;
 
-// Works the window through Qt's own pointer, key and wheel events, as a person
-// would. Rows are named by their labels on the page that is shown.
+// Works the window by pointer, keys and wheel, as a person would. Rows are named by their labels on
+// the page that is shown.
 class ScriptedUser : public QObject
 {
     Q_OBJECT
@@ -39,7 +41,10 @@ private:
     QSlider *slider(const QString &row) const;
     void say(const QString &what) const;
     void drag(QWidget *widget, const QPoint &from, const QPoint &to);
+    static void move(const std::function<void(int)> &moveTo); // in steps from 1 to dragMoves
     void turnWheelOver(const QString &row);
+
+    static constexpr int dragMoves = 6;
 
     MainWindow &m_window;
 };

@@ -3,7 +3,7 @@
 #include "eventlog.h"
 #include "slidereditframe.h"
 #include "slidereditframedouble.h"
-#include "userevents.h"
+#include "testuser.h"
 
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>

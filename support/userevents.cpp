@@ -1,0 +1,128 @@
+#include "userevents.h"
+
+#include <QtGui/QMouseEvent>
+#include <QtGui/QWheelEvent>
+#include <QtGui/QWindow>
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QSlider>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleOptionSlider>
+
+namespace {
+
+Qt::MouseButtons s_buttons;
+// Where the handle of a held slider was moved to last.
+QPoint s_handlePos;
+
+QPoint inWindow(const QWidget *widget, const QPoint &pos)
+{
+    return widget->mapTo(widget->window(), pos);
+}
+
+// Hands the event to the window as one that comes from outside: sendEvent() would
+// mark it as the program's own, and a wheel's turn would not go on to the parents.
+// Qt Test has functions for the pointer, too, but they run the event loop each time.
+void report(const QWidget *widget, QEvent *event)
+{
+    QSpontaneKeyEvent::setSpontaneous(event);
+    qApp->notify(widget->window()->windowHandle(), event);
+}
+
+void sendMouse(const QWidget *widget, QEvent::Type type, Qt::MouseButton button, const QPoint &pos)
+{
+    const QPoint local = inWindow(widget, pos);
+    QMouseEvent event(type, local, widget->window()->mapToGlobal(local), button, s_buttons,
+                      Qt::NoModifier);
+    report(widget, &event);
+}
+
+} // namespace
+
+void User::type(const QString &text)
+{
+    for (const QChar c : text) {
+        Qt::Key key = Qt::Key_unknown;
+        if (c == QLatin1Char('\n')) {
+            key = Qt::Key_Return;
+        } else if (c.unicode() < 0x80) {
+            key = QTest::asciiToKey(c.toLatin1());
+        }
+        QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), key, QString(c),
+                            Qt::NoModifier);
+    }
+}
+
+void User::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+}
+
+void User::pressAt(QWidget *widget, const QPoint &pos)
+{
+    s_buttons = Qt::LeftButton;
+    sendMouse(widget, QEvent::MouseButtonPress, Qt::LeftButton, pos);
+}
+
+void User::moveTo(QWidget *widget, const QPoint &pos)
+{
+    sendMouse(widget, QEvent::MouseMove, Qt::NoButton, pos);
+}
+
+void User::releaseAt(QWidget *widget, const QPoint &pos)
+{
+    s_buttons = Qt::NoButton;
+    sendMouse(widget, QEvent::MouseButtonRelease, Qt::LeftButton, pos);
+}
+
+void User::click(QWidget *widget)
+{
+    pressAt(widget, widget->rect().center());
+    releaseAt(widget, widget->rect().center());
+}
+
+void User::turnWheel(QWidget *widget, bool away)
+{
+    const QPoint pos = inWindow(widget, widget->rect().center());
+    const QPoint global = widget->window()->mapToGlobal(pos);
+    const QPoint notch(0, (away ? 1 : -1) * QWheelEvent::DefaultDeltasPerStep);
+#if QT_VERSION >= QT_VERSION_CHECK(5, 12, 0)
+    QWheelEvent event(pos, global, QPoint(), notch, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
+#else
+    QWheelEvent event(pos, global, QPoint(), notch, notch.y(), Qt::Vertical, Qt::NoButton,
+                      Qt::NoModifier);
+#endif
+    report(widget, &event);
+}
+
+QRect User::handleRect(const QSlider *slider, int position)
+{
+    struct Access : QSlider
+    {
+        using QSlider::initStyleOption;
+    };
+    QStyleOptionSlider option;
+    (slider->*&Access::initStyleOption)(&option);
+    option.sliderPosition = position;
+    return slider->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle,
+                                           slider);
+}
+
+void User::grabHandle(QSlider *slider)
+{
+    s_handlePos = handleRect(slider, slider->sliderPosition()).center();
+    moveTo(slider, s_handlePos);
+    pressAt(slider, s_handlePos);
+}
+
+void User::moveHandle(QSlider *slider, int position)
+{
+    s_handlePos = handleRect(slider, position).center();
+    moveTo(slider, s_handlePos);
+}
+
+void User::dropHandle(QSlider *slider)
+{
+    releaseAt(slider, s_handlePos);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QtCore/QRect>
+#include <QtCore/QString>
+
+class QSlider;
+class QWidget;
+
+// What a user does, as the window system reports it: the pointer enters by the
+// window, so that Qt finds the widget, the grab and the focus; keys go to the
+// widget with the focus, where shortcuts see them first. The event loop does not
+// run in between: what an event leaves for later happens when the caller lets it.
+namespace User {
+
+// "\n" is the Return key, "\t" Tab, "\b" Backspace.
+void type(const QString &text);
+void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+// The left button goes down, the pointer moves, the button goes up, each at a
+// point of the widget.
+void pressAt(QWidget *widget, const QPoint &pos);
+void moveTo(QWidget *widget, const QPoint &pos);
+void releaseAt(QWidget *widget, const QPoint &pos);
+// A press and a release in the middle of the widget.
+void click(QWidget *widget);
+// One notch, away from the user or towards, over the middle of the widget.
+void turnWheel(QWidget *widget, bool away = true);
+
+// Where the handle is when the slider stands at the position.
+QRect handleRect(const QSlider *slider, int position);
+void grabHandle(QSlider *slider);
+void moveHandle(QSlider *slider, int position);
+void dropHandle(QSlider *slider);
+
+} // namespace User

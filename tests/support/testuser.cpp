@@ -1,0 +1,48 @@
+#include "testuser.h"
+
+#include <QtCore/QAbstractEventDispatcher>
+#include <QtGui/QClipboard>
+
+namespace {
+
+QList<QAbstractEventDispatcher::TimerInfo> timersOf(QObject *object)
+{
+    return QAbstractEventDispatcher::instance()->registeredTimers(object);
+}
+
+} // namespace
+
+bool User::show(QWidget &window)
+{
+    window.show();
+    return QTest::qWaitForWindowActive(&window);
+}
+
+void User::paste(const QString &text)
+{
+    QApplication::clipboard()->setText(text);
+    press(Qt::Key_V, Qt::ControlModifier);
+}
+
+void User::clickGroove(QSlider *slider, bool behind)
+{
+    const QPoint handle = handleRect(slider, slider->sliderPosition()).center();
+    const QPoint pos(behind ? slider->width() - 2 : 1, handle.y());
+    pressAt(slider, pos);
+    releaseAt(slider, pos);
+}
+
+int samplingInterval(QObject *editor)
+{
+    const auto timers = timersOf(editor);
+    return timers.isEmpty() ? -1 : timers.constFirst().interval;
+}
+
+void tick(QObject *editor)
+{
+    const auto timers = timersOf(editor);
+    for (const auto &timer : timers) {
+        QTimerEvent event(timer.timerId);
+        QApplication::sendEvent(editor, &event);
+    }
+}
