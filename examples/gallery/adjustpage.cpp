@@ -1,6 +1,6 @@
 #include "adjustpage.h"
 
-AdjustPage::AdjustPage(PictureView *view, LogPane *log) : Page(tr("Adjust"), view, log)
+AdjustPage::AdjustPage(EditHistory *history, LogPane *log) : Page(tr("Adjust"), history, log)
 {
     addHeading(tr("Brightness, reported in three ways"),
                tr("Drag each handle: the picture follows at every move, once at the end, or "
@@ -16,12 +16,11 @@ AdjustPage::AdjustPage(PictureView *view, LogPane *log) : Page(tr("Adjust"), vie
     addDoubleRow(tr("Gamma"), 0.2, 4.0, &PictureAdjustment::gamma);
     addDoubleRow(tr("Saturation"), 0.0, 3.0, &PictureAdjustment::saturation);
 
-    const int reference = 16;
+    const int reference = PictureAdjustment().blackLevel;
     addHeading(
         tr("Held on one side"),
         tr("This level may not fall below %1, whatever is dragged or typed.").arg(reference));
     IntRow *black = addIntRow(tr("Black level"), 0, 255, &PictureAdjustment::blackLevel);
-    black->setValue(reference);
     black->setValueChangeDirection(IntRow::AllowedToBigger, reference);
     finish();
 }
@@ -67,9 +66,12 @@ void AdjustPage::connectRow(Row *row, const QString &label, Value PictureAdjustm
 {
     row->setLabelText(label);
     row->setAutoRepeat(true);
-    row->setValue(m_view->adjustment().*field);
+    // The two kinds of row stand in one column without a theme, too.
+    row->setButtonFixedWidth(51);
     connect(row, &Row::valueChanged, m_log, m_log->receiver(label, QStringLiteral("valueChanged")));
-    connect(row, &Row::valueChanged, this, [this, field](Value val) {
-        adjust([field, val](PictureAdjustment &adjustment) { adjustment.*field = val; });
+    connect(row, &Row::valueChanged, this, [this, label, field](Value val) {
+        edit(label, [=](Edits &edits) { edits.adjustment.*field = val; });
     });
+    connect(m_history, &EditHistory::restored, row,
+            [row, field](const Edits &edits) { row->setValue(edits.adjustment.*field); });
 }

@@ -12,7 +12,7 @@ class AdjustPage : public Page
     Q_OBJECT
 
 public:
-    AdjustPage(PictureView *view, LogPane *log);
+    AdjustPage(EditHistory *history, LogPane *log);
 
 private:
     using IntRow = Vantor::Widgets::SliderEditFrame;

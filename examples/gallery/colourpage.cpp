@@ -11,24 +11,29 @@ using Vantor::Widgets::RGBOpacityEditFrame;
 namespace {
 
 // The settings that the channels of all three editors have in common.
-template <typename Editor>
-void setUpChannels(Editor *editor, int min, int max, const std::array<int, 3> &values)
+template <typename Editor> void setUpChannels(Editor *editor, int min, int max)
 {
-    const typename Editor::Type types[] = {Editor::R, Editor::G, Editor::B};
-    const QString labels[] = {Page::tr("Red"), Page::tr("Green"), Page::tr("Blue")};
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        editor->setLabelText(types[i], labels[i]);
-        editor->setRange(types[i], min, max);
-        editor->setValue(types[i], values[i]);
+    editor->setLabelText(Editor::R, Page::tr("Red"));
+    editor->setLabelText(Editor::G, Page::tr("Green"));
+    editor->setLabelText(Editor::B, Page::tr("Blue"));
+    for (const auto type : {Editor::R, Editor::G, Editor::B}) {
+        editor->setRange(type, min, max);
     }
     editor->setVerticalSpacing(0);
     editor->setAutoRepeat(true);
     editor->setLastVerticalSpacerExpanding(false);
 }
 
+template <typename Editor> void setChannels(Editor *editor, int r, int g, int b)
+{
+    editor->setValue(Editor::R, r);
+    editor->setValue(Editor::G, g);
+    editor->setValue(Editor::B, b);
+}
+
 } // namespace
 
-ColourPage::ColourPage(PictureView *view, LogPane *log) : Page(tr("Colour"), view, log)
+ColourPage::ColourPage(EditHistory *history, LogPane *log) : Page(tr("Colour"), history, log)
 {
     addGain();
     addLift();
@@ -40,11 +45,15 @@ void ColourPage::addGain()
 {
     addHeading(tr("Gain"), tr("Percent of each channel."));
     auto *editor = addEditor<RGBEditFrame>();
-    setUpChannels(editor, 0, 200, m_view->adjustment().gain);
+    setUpChannels(editor, 0, 200);
     connect(editor, &RGBEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Gain"), QStringLiteral("valueChanged")));
     connect(editor, &RGBEditFrame::valueChanged, this, [this](int r, int g, int b) {
-        adjust([=](PictureAdjustment &adjustment) { adjustment.gain = {r, g, b}; });
+        edit(tr("Gain"), [=](Edits &edits) { edits.adjustment.gain = {r, g, b}; });
+    });
+    connect(m_history, &EditHistory::restored, editor, [editor](const Edits &edits) {
+        const auto &gain = edits.adjustment.gain;
+        setChannels(editor, gain[0], gain[1], gain[2]);
     });
 }
 
@@ -52,17 +61,23 @@ void ColourPage::addLift()
 {
     addHeading(tr("Lift"), tr("Added to each channel, scaled by the master."));
     auto *editor = addEditor<RGBAllEditFrame>();
-    setUpChannels(editor, -100, 100, m_view->adjustment().lift);
+    // The channels are an editor of their own with an end of its own.
+    editor->findChild<RGBEditFrame *>()->setLastVerticalSpacerExpanding(false);
+    setUpChannels(editor, -100, 100);
     editor->setLabelText(RGBAllEditFrame::ALL, tr("Master"));
     editor->setRange(RGBAllEditFrame::ALL, 0, 100);
-    editor->setValue(RGBAllEditFrame::ALL, m_view->adjustment().liftMaster);
     connect(editor, &RGBAllEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Lift"), QStringLiteral("valueChanged")));
     connect(editor, &RGBAllEditFrame::valueChanged, this, [this](int r, int g, int b, int all) {
-        adjust([=](PictureAdjustment &adjustment) {
-            adjustment.lift = {r, g, b};
-            adjustment.liftMaster = all;
+        edit(tr("Lift"), [=](Edits &edits) {
+            edits.adjustment.lift = {r, g, b};
+            edits.adjustment.liftMaster = all;
         });
+    });
+    connect(m_history, &EditHistory::restored, editor, [editor](const Edits &edits) {
+        const auto &lift = edits.adjustment.lift;
+        setChannels(editor, lift[0], lift[1], lift[2]);
+        editor->setValue(RGBAllEditFrame::ALL, edits.adjustment.liftMaster);
     });
 }
 
@@ -70,17 +85,20 @@ void ColourPage::addWash()
 {
     addHeading(tr("Wash"), tr("A colour laid over the picture."));
     auto *editor = addEditor<RGBOpacityEditFrame>();
-    const QColor wash = m_view->adjustment().wash;
-    setUpChannels(editor, 0, 255, {wash.red(), wash.green(), wash.blue()});
+    setUpChannels(editor, 0, 255);
     editor->setLabelText(RGBOpacityEditFrame::Opacity, tr("Opacity"));
-    editor->setValue(RGBOpacityEditFrame::Opacity, m_view->adjustment().washOpacity);
     connect(editor, &RGBOpacityEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Wash"), QStringLiteral("valueChanged")));
     connect(editor, &RGBOpacityEditFrame::valueChanged, this,
             [this](int r, int g, int b, int opacity) {
-                adjust([=](PictureAdjustment &adjustment) {
-                    adjustment.wash = QColor(r, g, b);
-                    adjustment.washOpacity = opacity;
+                edit(tr("Wash"), [=](Edits &edits) {
+                    edits.adjustment.wash = QColor(r, g, b);
+                    edits.adjustment.washOpacity = opacity;
                 });
             });
+    connect(m_history, &EditHistory::restored, editor, [editor](const Edits &edits) {
+        const QColor &wash = edits.adjustment.wash;
+        setChannels(editor, wash.red(), wash.green(), wash.blue());
+        editor->setValue(RGBOpacityEditFrame::Opacity, edits.adjustment.washOpacity);
+    });
 }

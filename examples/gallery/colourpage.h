@@ -8,7 +8,7 @@ class ColourPage : public Page
     Q_OBJECT
 
 public:
-    ColourPage(PictureView *view, LogPane *log);
+    ColourPage(EditHistory *history, LogPane *log);
 
 private:
     void addGain();

@@ -10,11 +10,13 @@ class CropPage : public RectPage
     Q_OBJECT
 
 public:
-    CropPage(PictureView *view, LogPane *log);
+    CropPage(PictureView *view, EditHistory *history, LogPane *log);
 
     PictureView::Overlay overlay() const override { return PictureView::Overlay::Crop; }
-    void setPictureSize(const QSize &size) override;
+    void startOn(const QSize &size, Edits &edits) override;
 
 private:
+    void showCrop(const QRect &crop);
+
     Vantor::Widgets::CropEditFrame *m_editor;
 };

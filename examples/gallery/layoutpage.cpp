@@ -2,7 +2,7 @@
 
 using Vantor::Widgets::LayoutEditFrame;
 
-LayoutPage::LayoutPage(PictureView *view, LogPane *log) : RectPage(tr("Layout"), view, log)
+LayoutPage::LayoutPage(EditHistory *history, LogPane *log) : RectPage(tr("Layout"), history, log)
 {
     addHeading(tr("Layout"),
                tr("Places a second picture on the first. The lock of this editor "
@@ -12,19 +12,22 @@ LayoutPage::LayoutPage(PictureView *view, LogPane *log) : RectPage(tr("Layout"),
     m_editor->setSizeLockEnable(true, LayoutEditFrame::OffsetLock);
     finish();
 
-    connect(m_editor, &LayoutEditFrame::valueChanged, this,
-            [this](int x, int y, int w, int h) { m_view->setLayer(QRect(x, y, w, h)); });
+    connect(m_editor, &LayoutEditFrame::valueChanged, this, [this](int x, int y, int w, int h) {
+        edit(tr("Layout"), [=](Edits &edits) { edits.layer = QRect(x, y, w, h); });
+    });
+    connect(m_history, &EditHistory::restored, this, [this](const Edits &edits) {
+        showRect(m_editor, [this, &edits] { m_editor->setValue(edits.layer); });
+    });
 }
 
-void LayoutPage::setPictureSize(const QSize &size)
+void LayoutPage::startOn(const QSize &size, Edits &edits)
 {
-    const QRect layer(size.width() * 5 / 8, size.height() * 5 / 8, size.width() * 5 / 16,
-                      size.height() * 5 / 16);
     m_editor->setSizeLock(false);
     m_editor->setRange(LayoutEditFrame::X, 0, size.width());
     m_editor->setRange(LayoutEditFrame::Y, 0, size.height());
     m_editor->setRange(LayoutEditFrame::Width, 1, size.width());
     m_editor->setRange(LayoutEditFrame::Height, 1, size.height());
-    m_editor->setValue(layer);
-    m_view->setLayer(layer);
+    const QSize layer(size.width() * 5 / 16, size.height() * 5 / 16);
+    edits.layer =
+        QRect(QPoint(size.width() * 5 / 8, size.height() * 5 / 8), layer.expandedTo(QSize(1, 1)));
 }

@@ -10,10 +10,10 @@ class LayoutPage : public RectPage
     Q_OBJECT
 
 public:
-    LayoutPage(PictureView *view, LogPane *log);
+    LayoutPage(EditHistory *history, LogPane *log);
 
     PictureView::Overlay overlay() const override { return PictureView::Overlay::Layer; }
-    void setPictureSize(const QSize &size) override;
+    void startOn(const QSize &size, Edits &edits) override;
 
 private:
     Vantor::Widgets::LayoutEditFrame *m_editor;

@@ -21,6 +21,12 @@ void handleMessage(QtMsgType type, const QMessageLogContext &context, const QStr
     if (pane && pane->thread() == QThread::currentThread()) {
         pane->record(type == QtDebugMsg ? QStringLiteral("log") : QStringLiteral("log, warning"),
                      message);
+        if (type == QtWarningMsg) {
+            Q_EMIT pane->warned(message);
+        }
+        if (type == QtDebugMsg || (pane->isEcho() && type != QtFatalMsg)) {
+            return;
+        }
     }
     previousHandler(type, context, message);
 }
@@ -57,5 +63,6 @@ void LogPane::record(const QString &who, const QString &what)
     verticalScrollBar()->setValue(verticalScrollBar()->maximum());
     if (m_echo) {
         std::puts(qPrintable(line));
+        std::fflush(stdout); // what the program around it says comes behind
     }
 }

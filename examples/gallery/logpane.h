@@ -14,8 +14,10 @@ public:
     explicit LogPane(QWidget *parent = nullptr);
     ~LogPane() override;
 
-    // Everything that is recorded goes to the standard output too.
+    // Everything that is recorded goes to the standard output too, and nothing else
+    // to the standard error output: two streams have no order.
     void setEcho(bool echo) { m_echo = echo; }
+    bool isEcho() const { return m_echo; }
     void record(const QString &who, const QString &what);
 
     // A receiver for any signal whose arguments are numbers or flags.
@@ -27,6 +29,9 @@ public:
                    signal + QLatin1Char('(') + texts.join(QStringLiteral(", ")) + QLatin1Char(')'));
         };
     }
+
+Q_SIGNALS:
+    void warned(const QString &message);
 
 private:
     template <typename T> static QString text(T value)

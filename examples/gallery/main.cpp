@@ -22,6 +22,9 @@ int main(int argc, char *argv[])
         }
     }
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // glyphs as sharp as the screen
+#endif
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("gallery"));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
@@ -51,9 +54,12 @@ int main(int argc, char *argv[])
 
     MainWindow window;
     const QStringList pictures = parser.positionalArguments();
-    const QString error = pictures.isEmpty() ? QString() : window.openPicture(pictures.first());
-    if (!error.isEmpty()) {
-        std::fprintf(stderr, "%s\n", qPrintable(error));
+    QString problem;
+    const bool isOpen = pictures.isEmpty() || window.openPicture(pictures.first(), &problem);
+    if (!problem.isEmpty()) {
+        std::fprintf(stderr, "%s\n", qPrintable(problem));
+    }
+    if (!isOpen) {
         return 1;
     }
     window.show();

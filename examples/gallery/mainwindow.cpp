@@ -3,6 +3,7 @@
 #include "adjustpage.h"
 #include "colourpage.h"
 #include "croppage.h"
+#include "edithistory.h"
 #include "layoutpage.h"
 #include "logpane.h"
 #include "maskpage.h"
@@ -12,6 +13,7 @@
 #include "testcard.h"
 
 #include <QtCore/QFileInfo>
+#include <QtGui/QCloseEvent>
 #include <QtGui/QImageReader>
 #include <QtGui/QImageWriter>
 #include <QtWidgets/QActionGroup>
@@ -25,10 +27,23 @@
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QStackedWidget>
 
+namespace {
+
+// What four bytes a pixel make of a larger one is more than a panel can hold, and
+// than Qt 6 reads.
+const int maxMegapixels = 64;
+
+double megapixels(const QSize &size)
+{
+    return double(size.width()) * size.height() / 1e6;
+}
+
+} // namespace
+
 MainWindow::MainWindow()
-    : m_view(new PictureView), m_log(new LogPane), m_stack(new QStackedWidget),
-      m_pageButtons(new QButtonGroup(this)), m_numberPad(new NumberPad(this)),
-      m_theme(new Theme(this))
+    : m_history(new EditHistory(this)), m_view(new PictureView), m_log(new LogPane),
+      m_stack(new QStackedWidget), m_pageButtons(new QButtonGroup(this)),
+      m_numberPad(new NumberPad(this)), m_theme(new Theme(this))
 {
     auto *pageBar = new QWidget;
     pageBar->setObjectName(QStringLiteral("pageBar"));
@@ -42,6 +57,7 @@ MainWindow::MainWindow()
     panelLayout->addWidget(pageBar);
     panelLayout->addWidget(m_stack);
 
+    connect(m_history, &EditHistory::changed, m_view, &PictureView::setEdits);
     createPages();
     for (int i = 0; i < m_pages.size(); ++i) {
         auto *button = new QPushButton(m_pages.at(i)->title());
@@ -73,16 +89,33 @@ MainWindow::MainWindow()
     m_theme->apply(Theme::TouchDark);
 }
 
-QString MainWindow::openPicture(const QString &fileName)
+bool MainWindow::openPicture(const QString &fileName, QString *problem)
 {
     QImageReader reader(fileName);
     reader.setAutoTransform(true);
+    if (megapixels(reader.size()) > maxMegapixels) {
+        *problem = tr("%1 has %2 megapixels. Up to %3 can be opened.")
+                       .arg(fileName)
+                       .arg(megapixels(reader.size()), 0, 'f', 1)
+                       .arg(maxMegapixels);
+        return false;
+    }
+    // Of a file that ends too soon most readers give what there is of the picture,
+    // and only log why.
+    QStringList warnings;
+    const auto connection = connect(m_log, &LogPane::warned, this,
+                                    [&](const QString &message) { warnings.append(message); });
     const QImage picture = reader.read();
+    disconnect(connection);
     if (picture.isNull()) {
-        return tr("%1 cannot be opened: %2").arg(fileName, reader.errorString());
+        *problem = tr("%1 cannot be opened: %2").arg(fileName, reader.errorString());
+        return false;
+    }
+    if (!warnings.isEmpty()) {
+        *problem = tr("%1 is not complete: %2").arg(fileName, warnings.first());
     }
     setPicture(picture, QFileInfo(fileName).fileName());
-    return {};
+    return true;
 }
 
 void MainWindow::showPage(int index)
@@ -99,9 +132,9 @@ QScrollArea *MainWindow::currentScrollArea() const
 
 void MainWindow::createPages()
 {
-    m_pages = {new AdjustPage(m_view, m_log), new CropPage(m_view, m_log),
-               new MaskPage(m_view, m_log), new LayoutPage(m_view, m_log),
-               new ColourPage(m_view, m_log)};
+    m_pages = {new AdjustPage(m_history, m_log), new CropPage(m_view, m_history, m_log),
+               new MaskPage(m_history, m_log), new LayoutPage(m_history, m_log),
+               new ColourPage(m_history, m_log)};
     for (Page *page : qAsConst(m_pages)) {
         m_stack->addWidget(new PageScroller(page));
     }
@@ -115,6 +148,13 @@ void MainWindow::createMenus()
                     QKeySequence::Save);
     file->addSeparator();
     file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+
+    QMenu *edit = menuBar()->addMenu(tr("&Edit"));
+    QAction *undo = m_history->stack()->createUndoAction(this, tr("&Undo"));
+    undo->setShortcuts(QKeySequence::Undo);
+    QAction *redo = m_history->stack()->createRedoAction(this, tr("&Redo"));
+    redo->setShortcuts(QKeySequence::Redo);
+    edit->addActions({undo, redo});
 
     QMenu *view = menuBar()->addMenu(tr("&View"));
     const auto addChoice = [](QMenu *menu, const QString &text, bool checked) {
@@ -152,39 +192,72 @@ void MainWindow::createMenus()
 void MainWindow::setPicture(const QImage &picture, const QString &name)
 {
     m_view->setPicture(picture);
+    Edits edits;
+    edits.adjustment = m_history->edits().adjustment;
     for (Page *page : qAsConst(m_pages)) {
-        page->setPictureSize(picture.size());
+        page->startOn(picture.size(), edits);
     }
+    m_history->reset(edits);
+    m_savedCrop = edits.crop;
     setWindowTitle(
         tr("%1 (%2 × %3) — Gallery").arg(name).arg(picture.width()).arg(picture.height()));
 }
 
 void MainWindow::chooseAndOpen()
 {
+    if (!mayLoseCrop()) {
+        return;
+    }
     const QString fileName = QFileDialog::getOpenFileName(
         this, tr("Open"), QString(), tr("Pictures (*.png *.jpg *.jpeg *.bmp *.gif *.svg)"));
-    const QString error = fileName.isEmpty() ? QString() : openPicture(fileName);
-    if (!error.isEmpty()) {
-        QMessageBox::critical(this, tr("Open"), error);
+    if (fileName.isEmpty()) {
+        return;
+    }
+    QString problem;
+    openPicture(fileName, &problem);
+    if (!problem.isEmpty()) {
+        QMessageBox::warning(this, tr("Open"), problem);
     }
 }
 
-QString MainWindow::saveCrop(const QString &fileName) const
+bool MainWindow::chooseAndSave()
 {
+    QFileDialog dialog(this, tr("Save cropped picture"), QString(),
+                       tr("PNG picture (*.png);;JPEG picture (*.jpg);;BMP picture (*.bmp)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.selectFile(tr("cropped"));
+    // The dialog itself adds the suffix, and then asks before it overwrites a file.
+    const auto takeSuffix = [&dialog](const QString &filter) {
+        dialog.setDefaultSuffix(filter.section(QStringLiteral("*."), 1).chopped(1));
+    };
+    takeSuffix(dialog.selectedNameFilter());
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, takeSuffix);
+    if (dialog.exec() != QDialog::Accepted) {
+        return false;
+    }
+    const QString fileName = dialog.selectedFiles().constFirst();
     QImageWriter writer(fileName);
     if (!writer.write(m_view->croppedPicture())) {
-        return tr("%1 cannot be written: %2").arg(fileName, writer.errorString());
+        QMessageBox::critical(this, dialog.windowTitle(),
+                              tr("%1 cannot be written: %2").arg(fileName, writer.errorString()));
+        return false;
     }
-    return {};
+    m_savedCrop = m_history->edits().crop;
+    return true;
 }
 
-void MainWindow::chooseAndSave()
+bool MainWindow::mayLoseCrop()
 {
-    const QString title = tr("Save cropped picture");
-    const QString fileName = QFileDialog::getSaveFileName(
-        this, title, QStringLiteral("cropped.png"), tr("Pictures (*.png *.jpg *.bmp)"));
-    const QString error = fileName.isEmpty() ? QString() : saveCrop(fileName);
-    if (!error.isEmpty()) {
-        QMessageBox::critical(this, title, error);
+    if (m_history->edits().crop == m_savedCrop) {
+        return true;
     }
+    const auto answer =
+        QMessageBox::question(this, tr("Crop"), tr("The cropped picture is not saved. Save it?"),
+                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && chooseAndSave());
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(mayLoseCrop());
 }

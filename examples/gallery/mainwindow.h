@@ -4,6 +4,7 @@
 
 #include <QtWidgets/QMainWindow>
 
+class EditHistory;
 class LogPane;
 class NumberPad;
 class Page;
@@ -20,9 +21,9 @@ class MainWindow : public QMainWindow
 public:
     MainWindow();
 
-    // Both return what went wrong, in words for the user, or an empty text.
-    QString openPicture(const QString &fileName);
-    QString saveCrop(const QString &fileName) const;
+    // Says in words for the user what is wrong, if the picture cannot be opened,
+    // or only in part: that returns true.
+    bool openPicture(const QString &fileName, QString *problem);
 
     const QVector<Page *> &pages() const { return m_pages; }
     void showPage(int index);
@@ -32,13 +33,19 @@ public:
     PictureView *view() const { return m_view; }
     NumberPad *numberPad() const { return m_numberPad; }
 
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
 private:
     void createPages();
     void createMenus();
     void setPicture(const QImage &picture, const QString &name);
     void chooseAndOpen();
-    void chooseAndSave();
+    bool chooseAndSave(); // false if the crop is not saved
+    bool mayLoseCrop(); // asks if need be
 
+    EditHistory *m_history;
+    QRect m_savedCrop;
     PictureView *m_view;
     LogPane *m_log;
     QVector<Page *> m_pages;

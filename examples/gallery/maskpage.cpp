@@ -2,7 +2,7 @@
 
 using Vantor::Widgets::MaskEditFrame;
 
-MaskPage::MaskPage(PictureView *view, LogPane *log) : RectPage(tr("Mask"), view, log)
+MaskPage::MaskPage(EditHistory *history, LogPane *log) : RectPage(tr("Mask"), history, log)
 {
     addHeading(tr("Mask"),
                tr("Four margins. Top and bottom together never pass the height of the "
@@ -15,15 +15,19 @@ MaskPage::MaskPage(PictureView *view, LogPane *log) : RectPage(tr("Mask"), view,
             m_log->receiver(tr("Mask"), QStringLiteral("maskValueChanged")));
     connect(m_editor, &MaskEditFrame::maskValueChanged, this,
             [this](int top, int bottom, int left, int right) {
-                m_view->setMask(QMargins(left, top, right, bottom));
+                edit(tr("Mask"),
+                     [=](Edits &edits) { edits.mask = QMargins(left, top, right, bottom); });
             });
+    connect(m_history, &EditHistory::restored, this, [this](const Edits &edits) {
+        const QMargins &mask = edits.mask;
+        m_editor->setMaskValue(mask.top(), mask.bottom(), mask.left(), mask.right());
+    });
 }
 
-void MaskPage::setPictureSize(const QSize &size)
+void MaskPage::startOn(const QSize &size, Edits &edits)
 {
     const int vertical = size.height() / 9;
     const int horizontal = size.width() / 16;
     m_editor->setMaskRange(size.width(), size.height());
-    m_editor->setMaskValue(vertical, vertical, horizontal, horizontal);
-    m_view->setMask(QMargins(horizontal, vertical, horizontal, vertical));
+    edits.mask = QMargins(horizontal, vertical, horizontal, vertical);
 }

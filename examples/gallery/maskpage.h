@@ -10,10 +10,10 @@ class MaskPage : public RectPage
     Q_OBJECT
 
 public:
-    MaskPage(PictureView *view, LogPane *log);
+    MaskPage(EditHistory *history, LogPane *log);
 
     PictureView::Overlay overlay() const override { return PictureView::Overlay::Mask; }
-    void setPictureSize(const QSize &size) override;
+    void startOn(const QSize &size, Edits &edits) override;
 
 private:
     Vantor::Widgets::MaskEditFrame *m_editor;

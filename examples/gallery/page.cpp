@@ -17,8 +17,8 @@ int textWidth(const QLabel &label)
 
 } // namespace
 
-Page::Page(const QString &title, PictureView *view, LogPane *log)
-    : m_view(view), m_log(log), m_title(title), m_layout(new QVBoxLayout(this))
+Page::Page(const QString &title, EditHistory *history, LogPane *log)
+    : m_history(history), m_log(log), m_title(title), m_layout(new QVBoxLayout(this))
 {
     m_layout->setSpacing(6);
 }
@@ -49,6 +49,7 @@ void Page::finish()
 {
     m_layout->addStretch();
     alignLabels();
+    m_history->watch(this);
 }
 
 void Page::changeEvent(QEvent *event)

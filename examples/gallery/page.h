@@ -1,5 +1,6 @@
 #pragma once
 
+#include "edithistory.h"
 #include "logpane.h"
 #include "pictureview.h"
 
@@ -13,12 +14,17 @@ class Page : public QWidget
     Q_OBJECT
 
 public:
-    Page(const QString &title, PictureView *view, LogPane *log);
+    Page(const QString &title, EditHistory *history, LogPane *log);
 
     // The title in lower case begins the names of the pictures of this page.
     const QString &title() const { return m_title; }
     virtual PictureView::Overlay overlay() const { return PictureView::Overlay::None; }
-    virtual void setPictureSize(const QSize &size) { Q_UNUSED(size) }
+    // Fits the ranges to a picture of this size and says what its edits start with.
+    virtual void startOn(const QSize &size, Edits &edits)
+    {
+        Q_UNUSED(size)
+        Q_UNUSED(edits)
+    }
 
     // Gives the labels of all rows the width of the widest text.
     void alignLabels();
@@ -34,12 +40,13 @@ protected:
         return editor;
     }
 
-    // Lets the given function change the adjustment of the picture.
-    template <typename Change> void adjust(Change change)
+    // Connected to an editor's signal: lets the function change the edits as the
+    // user changed the editor of this name.
+    template <typename Change> void edit(const QString &name, Change change)
     {
-        PictureAdjustment adjustment = m_view->adjustment();
-        change(adjustment);
-        m_view->setAdjustment(adjustment);
+        Edits edits = m_history->edits();
+        change(edits);
+        m_history->record(name, edits);
     }
 
     // Called when all editors are added.
@@ -50,7 +57,7 @@ protected:
     static constexpr int labelSpacing = 12;
     static constexpr int controlSpacing = 8;
 
-    PictureView *const m_view;
+    EditHistory *const m_history;
     LogPane *const m_log;
 
 private:

@@ -3,6 +3,7 @@
 #include <QtCore/QtGlobal>
 
 #include <cmath>
+#include <tuple>
 
 namespace {
 
@@ -19,7 +20,7 @@ Table tableOf(const PictureAdjustment &a, std::size_t channel)
     const double slope = a.contrast < 0 ? 1 + a.contrast / 100.0 : 1 + a.contrast * 3 / 100.0;
     const double lift = a.lift[channel] * a.liftMaster / 100.0 / 100.0;
     const double opacity = a.washOpacity / 100.0;
-    const double black = a.blackLevel / 255.0;
+    const double black = (a.blackLevel - 16) / 239.0;
     Table table {};
     for (std::size_t i = 0; i < table.size(); ++i) {
         double v = static_cast<double>(i) / 255.0;
@@ -33,7 +34,18 @@ Table tableOf(const PictureAdjustment &a, std::size_t channel)
     return table;
 }
 
+auto fieldsOf(const PictureAdjustment &a)
+{
+    return std::tie(a.brightness, a.contrast, a.gamma, a.saturation, a.blackLevel, a.gain, a.lift,
+                    a.liftMaster, a.wash, a.washOpacity);
+}
+
 } // namespace
+
+bool operator==(const PictureAdjustment &a, const PictureAdjustment &b)
+{
+    return fieldsOf(a) == fieldsOf(b);
+}
 
 QImage adjusted(const QImage &picture, const PictureAdjustment &adjustment)
 {

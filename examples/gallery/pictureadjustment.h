@@ -12,13 +12,15 @@ struct PictureAdjustment
     int contrast = 0; // -100 to 100
     double gamma = 1.0;
     double saturation = 1.0; // 0 is grey
-    int blackLevel = 0; // 0 to 255, the darkest level shown
+    int blackLevel = 16; // 16 to 255, of a video signal: 16 is black
     std::array<int, 3> gain = {100, 100, 100}; // percent, red, green, blue
     std::array<int, 3> lift = {0, 0, 0}; // -100 to 100, added to each channel
     int liftMaster = 100; // percent of the lift
     QColor wash = QColor(255, 140, 40);
     int washOpacity = 0; // percent
 };
+
+bool operator==(const PictureAdjustment &a, const PictureAdjustment &b);
 
 // Returns an RGB32 copy of the picture with the adjustment applied. All but
 // the saturation goes through one table for each channel, so that a preview is

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "pictureadjustment.h"
+#include "edits.h"
 
-#include <QtCore/QMargins>
 #include <QtWidgets/QWidget>
 
 // Shows the picture as large as the widget allows, with the adjustment and, on
-// top, what the current page is about. All rectangles are in picture pixels.
+// top, what the current page is about. The crop is moved or, by its edges and
+// corners, resized with the pointer.
 class PictureView : public QWidget
 {
     Q_OBJECT
@@ -17,44 +17,48 @@ public:
     explicit PictureView(QWidget *parent = nullptr);
 
     void setPicture(const QImage &picture);
-    const QImage &picture() const { return m_picture; }
     QImage croppedPicture() const;
 
-    const PictureAdjustment &adjustment() const { return m_adjustment; }
-    void setAdjustment(const PictureAdjustment &adjustment);
+    void setEdits(const Edits &edits);
     void setOverlay(Overlay overlay);
-    void setCrop(const QRect &crop);
-    void setMask(const QMargins &mask);
-    void setLayer(const QRect &layer);
+    // A crop of a locked size is only moved.
+    void setCropSizeLocked(bool locked);
+    bool isCropPressed() const { return m_isCropPressed; }
+    QRect cropInView() const { return toView(m_edits.crop).toRect(); }
+    static QSize leastCropSize(const QSize &picture);
 
     QSize sizeHint() const override;
 
 Q_SIGNALS:
+    void cropPressed();
     void cropDragged(const QRect &crop);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    void rescale();
     QRect pictureArea() const;
     QRectF toView(const QRect &rect) const;
+    bool isCropAt(const QPoint &pos, Qt::Edges *edges) const;
+    QRect draggedCrop(const QPoint &pos) const;
     void paintCrop(QPainter &painter);
     void paintMask(QPainter &painter);
     void paintLayer(QPainter &painter);
 
     QImage m_picture;
-    QImage m_preview; // the picture in the size of pictureArea()
+    QImage m_reduced; // the picture in no more pixels than any view has
+    // Both in the size of pictureArea(), in device pixels, and made when painted.
+    QImage m_preview;
     QImage m_shown; // the preview with the adjustment
     QImage m_layerPicture;
-    PictureAdjustment m_adjustment;
+    Edits m_edits;
     Overlay m_overlay = Overlay::None;
-    QRect m_crop;
-    QMargins m_mask;
-    QRect m_layer;
-    QPoint m_dragStart; // of the pointer, in view pixels
-    QRect m_dragCrop; // the crop at that moment, null while nothing is dragged
+    bool m_isCropSizeLocked = false;
+    bool m_isCropPressed = false;
+    QPoint m_dragStart; // where the pointer was pressed, in view pixels
+    QRect m_dragCrop; // the crop at that moment
+    Qt::Edges m_dragEdges; // those that follow the pointer; all, if none
 };

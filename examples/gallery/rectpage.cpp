@@ -1,5 +1,24 @@
 #include "rectpage.h"
 
+#include <slidereditframe.h>
+
+#include <QtCore/QSignalBlocker>
+#include <QtWidgets/QToolButton>
+
+namespace {
+
+// A lock goes by the rectangle at which it was switched on.
+void lockAnew(const QWidget &editor, const QString &lockName)
+{
+    auto *lock = editor.findChild<QToolButton *>(lockName);
+    if (lock->isChecked()) {
+        lock->setChecked(false);
+        lock->setChecked(true);
+    }
+}
+
+} // namespace
+
 void RectPage::setUp(Rect *editor, const QString &name, const QStringList &labels)
 {
     const Rect::Type fields[] = {Rect::X, Rect::Y, Rect::Width, Rect::Height};
@@ -21,4 +40,23 @@ void RectPage::setUp(Rect *editor, const QString &name, const QStringList &label
     connect(editor, &Rect::valueChanged, m_log, receiver("valueChanged"));
     connect(editor, &Rect::sizeLockChanged, m_log, receiver("sizeLockChanged"));
     connect(editor, &Rect::PositionLockChanged, m_log, receiver("PositionLockChanged"));
+}
+
+void RectPage::showRect(Rect *editor, const std::function<void()> &set)
+{
+    QRect before;
+    QRect after;
+    editor->value(before);
+    set();
+    editor->value(after);
+    for (const auto type : {Rect::X, Rect::Y, Rect::Width, Rect::Height}) {
+        editor->setValueChangeDirection(type, Vantor::Widgets::SliderEditFrame::AllowedToAny, 0);
+    }
+    const QSignalBlocker blocker(editor); // toggling a lock is reported
+    if (before.topLeft() != after.topLeft()) {
+        lockAnew(*editor, QStringLiteral("toolButtonLockPosition"));
+    }
+    if (before.size() != after.size()) {
+        lockAnew(*editor, QStringLiteral("toolButtonLockSize"));
+    }
 }

@@ -25,6 +25,7 @@ void ScriptedUser::play()
     playMaskAndLayout();
     playColour();
     playNumberPad();
+    playUndo();
 }
 
 void ScriptedUser::playAdjust()
@@ -101,6 +102,35 @@ void ScriptedUser::playNumberPad()
     pad->setEnabledByFocus(false);
 }
 
+// Each way to change something is one step back and one forth, on every page.
+void ScriptedUser::playUndo()
+{
+    const QString contrast = QStringLiteral("Contrast");
+    const QString gamma = QStringLiteral("Gamma");
+    showPage(QStringLiteral("Adjust"));
+    undoAndRedo(contrast, [&] { drag(contrast, -80); });
+    undoAndRedo(contrast, [&] { type(contrast, QStringLiteral("10+5\n")); });
+    undoAndRedo(gamma, [&] { hold(gamma, "sliderEditPlus"); });
+    undoAndRedo(gamma, [&] { drag(gamma, 300); });
+
+    const QString x = QStringLiteral("X");
+    showPage(QStringLiteral("Crop"));
+    undoAndRedo(x, [&] { drag(x, 100); });
+    undoAndRedo(QStringLiteral("Width"), [&] {
+        say(QStringLiteral("drags the crop's right edge in the picture"));
+        const QRect crop = m_window.view()->cropInView();
+        const QPoint edge(crop.right(), crop.center().y());
+        drag(m_window.view(), edge, edge - QPoint(40, 0));
+    });
+    for (const QString &page : {QStringLiteral("Layout"), QStringLiteral("Mask")}) {
+        const QString row = page == QLatin1String("Mask") ? QStringLiteral("Left") : x;
+        showPage(page);
+        undoAndRedo(row, [&] { drag(row, 300); });
+    }
+    showPage(QStringLiteral("Colour"));
+    undoAndRedo(QStringLiteral("Opacity"), [&] { drag(QStringLiteral("Opacity"), 40); });
+}
+
 void ScriptedUser::showPage(const QString &title)
 {
     for (int i = 0; i < m_window.pages().size(); ++i) {
@@ -123,6 +153,34 @@ void ScriptedUser::drag(const QString &row, int sliderPosition)
         User::moveHandle(handleOwner, start + (sliderPosition - start) * step / dragMoves);
     });
     User::dropHandle(handleOwner);
+    QApplication::processEvents();
+}
+
+void ScriptedUser::undoAndRedo(const QString &row, const std::function<void()> &change)
+{
+    const auto *field = this->row(row)->findChild<QAbstractSpinBox *>();
+    const QString before = field->text();
+    change();
+    const QString after = field->text();
+    User::press(Qt::Key_Z, Qt::ControlModifier);
+    const QString undone = field->text();
+    User::press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    const QString redone = field->text();
+    say(QStringLiteral("presses Ctrl+Z, Ctrl+Shift+Z: %1 goes from %2 to %3, to %4")
+            .arg(row, after, undone, redone));
+    if (undone != before || redone != after) {
+        qFatal("That was not one step.");
+    }
+}
+
+// Until the button has repeated its step.
+void ScriptedUser::hold(const QString &row, const char *button)
+{
+    say(QStringLiteral("holds %1 of %2").arg(QLatin1String(button), row));
+    auto *widget = this->row(row)->findChild<QWidget *>(QLatin1String(button));
+    User::pressAt(widget, widget->rect().center());
+    QTest::qWait(700);
+    User::releaseAt(widget, widget->rect().center());
     QApplication::processEvents();
 }
 

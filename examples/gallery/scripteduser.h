@@ -22,6 +22,7 @@ public:
     void play();
 
     void showPage(const QString &title);
+    QWidget *row(const QString &label) const;
     void drag(const QString &row, int sliderPosition);
     void click(const QString &row, const char *button);
     void click(const char *lockButton);
@@ -36,10 +37,12 @@ private:
     void playMaskAndLayout();
     void playColour();
     void playNumberPad();
+    void playUndo();
 
-    QWidget *row(const QString &label) const;
     QSlider *slider(const QString &row) const;
     void say(const QString &what) const;
+    void undoAndRedo(const QString &row, const std::function<void()> &change);
+    void hold(const QString &row, const char *button);
     void drag(QWidget *widget, const QPoint &from, const QPoint &to);
     static void move(const std::function<void(int)> &moveTo); // in steps from 1 to dragMoves
     void turnWheelOver(const QString &row);

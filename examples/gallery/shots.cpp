@@ -69,6 +69,19 @@ public:
         shootRectEditor(suffix);
     }
 
+    // A row whose field says that it has refused the entry.
+    void shootRefusedEntry(const QString &suffix)
+    {
+        const QString row = QStringLiteral("Contrast");
+        m_window.activateWindow();
+        ScriptedUser user(m_window);
+        user.showPage(QStringLiteral("Adjust"));
+        user.type(row, QStringLiteral("1/0\n"));
+        user.moveAway();
+        save(user.row(row)->grab(), QStringLiteral("entry-refused") + suffix);
+        user.type(row, QStringLiteral("0\n"));
+    }
+
     // The pad is a window of its own: it is laid over the picture of the main
     // window where it stands on the screen.
     void shootNumberPad(const QString &suffix)
@@ -138,16 +151,21 @@ bool takeShots(MainWindow &window, const QString &folder)
     user.type(QStringLiteral("Saturation"), QStringLiteral("6/5="));
     user.showPage(QStringLiteral("Crop"));
     user.type(QStringLiteral("Width"), QStringLiteral("12*75\n"));
-    user.click("toolButtonLockSize");
+    user.click("toolButtonLockPosition");
 
     Camera camera(window, folder);
+    const QSize size = window.size();
     const auto names = Theme::names();
     for (int i = 0; i < names.size(); ++i) {
         const QString suffix = QLatin1Char('-') + names.at(i).file;
         window.theme()->apply(static_cast<Theme::Kind>(i));
         camera.shootPages(suffix);
         camera.shootEditors(suffix);
+        camera.shootRefusedEntry(suffix);
         camera.shootNumberPad(suffix);
+        window.resize(780, 480);
+        camera.shootPages(suffix + QStringLiteral("-small"));
+        window.resize(size);
         window.theme()->setFontScale(1.5);
         camera.shootPages(suffix + QStringLiteral("-font150"));
         window.theme()->setFontScale(1.0);
