@@ -13,6 +13,7 @@
 #include "testcard.h"
 
 #include <QtCore/QFileInfo>
+#include <QtCore/QtEndian>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QImageReader>
 #include <QtGui/QImageWriter>
@@ -36,6 +37,18 @@ const int maxMegapixels = 64;
 double megapixels(const QSize &size)
 {
     return double(size.width()) * size.height() / 1e6;
+}
+
+// Qt's readers of these two take what there is of the picture without a word.
+bool endsTooSoon(const QString &fileName, const QByteArray &format)
+{
+    QFile file(fileName);
+    file.open(QIODevice::ReadOnly);
+    if (format == "bmp") {
+        file.seek(2);
+        return qFromLittleEndian<quint32>(file.read(4).constData()) > file.size();
+    }
+    return format == "gif" && file.seek(file.size() - 1) && file.read(1) != ";";
 }
 
 } // namespace
@@ -100,8 +113,8 @@ bool MainWindow::openPicture(const QString &fileName, QString *problem)
                        .arg(maxMegapixels);
         return false;
     }
-    // Of a file that ends too soon most readers give what there is of the picture,
-    // and only log why.
+    // The reader of JPEG gives what there is of the picture and only logs why.
+    const QByteArray format = reader.format(); // not known any more when it is read
     QStringList warnings;
     const auto connection = connect(m_log, &LogPane::warned, this,
                                     [&](const QString &message) { warnings.append(message); });
@@ -110,6 +123,9 @@ bool MainWindow::openPicture(const QString &fileName, QString *problem)
     if (picture.isNull()) {
         *problem = tr("%1 cannot be opened: %2").arg(fileName, reader.errorString());
         return false;
+    }
+    if (endsTooSoon(fileName, format)) {
+        warnings.append(tr("the file ends too soon"));
     }
     if (!warnings.isEmpty()) {
         *problem = tr("%1 is not complete: %2").arg(fileName, warnings.first());
