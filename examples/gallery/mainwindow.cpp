@@ -12,6 +12,7 @@
 #include "pictureview.h"
 #include "testcard.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QtEndian>
 #include <QtGui/QCloseEvent>
@@ -30,8 +31,7 @@
 
 namespace {
 
-// What four bytes a pixel make of a larger one is more than a panel can hold, and
-// than Qt 6 reads.
+// At four bytes a pixel these are 256 MB. Qt 6 itself reads no more.
 const int maxMegapixels = 64;
 
 double megapixels(const QSize &size)
@@ -43,7 +43,9 @@ double megapixels(const QSize &size)
 bool endsTooSoon(const QString &fileName, const QByteArray &format)
 {
     QFile file(fileName);
-    file.open(QIODevice::ReadOnly);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
     if (format == "bmp") {
         file.seek(2);
         return qFromLittleEndian<quint32>(file.read(4).constData()) > file.size();
@@ -244,7 +246,7 @@ bool MainWindow::chooseAndSave()
     dialog.selectFile(tr("cropped"));
     // The dialog itself adds the suffix, and then asks before it overwrites a file.
     const auto takeSuffix = [&dialog](const QString &filter) {
-        dialog.setDefaultSuffix(filter.section(QStringLiteral("*."), 1).chopped(1));
+        dialog.setDefaultSuffix(filter.section(QStringLiteral("*."), 1).remove(QLatin1Char(')')));
     };
     takeSuffix(dialog.selectedNameFilter());
     connect(&dialog, &QFileDialog::filterSelected, &dialog, takeSuffix);

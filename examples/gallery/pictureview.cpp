@@ -15,7 +15,7 @@ const QColor outline(255, 204, 77);
 // taken hold of.
 const int reach = 22;
 
-// A pass over so many pixels takes a few milliseconds; no view has more.
+// Enough for a large window, and scaled to it within a few milliseconds.
 const QSize reducedSize(2560, 1600);
 
 // Which of an extent's ends, if any, a position takes hold of. At least the middle
@@ -139,6 +139,7 @@ void PictureView::mousePressEvent(QMouseEvent *event)
 
 void PictureView::mouseMoveEvent(QMouseEvent *event)
 {
+    m_isCropPressed = m_isCropPressed && (event->buttons() & Qt::LeftButton);
     if (m_isCropPressed) {
         const QRect crop = draggedCrop(event->pos());
         if (crop != m_edits.crop) {

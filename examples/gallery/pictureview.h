@@ -49,7 +49,7 @@ private:
     void paintLayer(QPainter &painter);
 
     QImage m_picture;
-    QImage m_reduced; // the picture in no more pixels than any view has
+    QImage m_reduced; // what the preview is made of
     // Both in the size of pictureArea(), in device pixels, and made when painted.
     QImage m_preview;
     QImage m_shown; // the preview with the adjustment

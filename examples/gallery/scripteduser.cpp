@@ -178,6 +178,7 @@ void ScriptedUser::hold(const QString &row, const char *button)
 {
     say(QStringLiteral("holds %1 of %2").arg(QLatin1String(button), row));
     auto *widget = this->row(row)->findChild<QWidget *>(QLatin1String(button));
+    m_window.currentScrollArea()->ensureWidgetVisible(widget);
     User::pressAt(widget, widget->rect().center());
     QTest::qWait(700);
     User::releaseAt(widget, widget->rect().center());
