@@ -87,9 +87,10 @@ template <typename Row> void compareSetters(Row &row)
     frame.setLabelText("Gain");
     QCOMPARE(frame.labelText(), QString("Gain"));
     QStringList names {row.label->text()};
-    for (const QWidget *widget : QWidgetList({row.slider, row.spinBox, row.minus, row.plus}))
+    for (const QWidget *widget :
+         QWidgetList({row.frame, row.slider, row.spinBox, row.minus, row.plus}))
         names.append(widget->accessibleName());
-    QCOMPARE(names.join(", "), QString("Gain, Gain, Gain, Gain \u2212, Gain +"));
+    QCOMPARE(names.join(", "), QString("Gain, Gain, Gain, Gain, Gain \u2212, Gain +"));
     frame.setSliderProperty("channel", 3);
     QCOMPARE(row.slider->property("channel"), QVariant(3));
 

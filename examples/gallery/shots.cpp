@@ -79,8 +79,6 @@ public:
         user.type(row, QStringLiteral("1/0\n"));
         user.moveAway();
         save(user.row(row)->grab(), QStringLiteral("entry-refused") + suffix);
-        // Another value takes the mark away.
-        user.type(row, QStringLiteral("1\n"));
         user.type(row, QStringLiteral("0\n"));
     }
 

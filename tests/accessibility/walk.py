@@ -125,12 +125,12 @@ def children_of(window):
 
 
 def check_focusable(window):
-    """What takes the focus has a name; a row's frame and a field's own text go by their row's."""
+    """What takes the focus has a name; a field's own text goes by its field's."""
     focusable = [
         child
         for child in descendants(window)
         if child.getState().contains(pyatspi.STATE_FOCUSABLE)
-        and child.getRole() not in (pyatspi.ROLE_FRAME, pyatspi.ROLE_TEXT)
+        and child.getRole() != pyatspi.ROLE_TEXT
     ]
     nameless = [child.getRoleName() for child in focusable if not child.name]
     if nameless or not focusable:

@@ -181,7 +181,7 @@ void SliderEditFrame::setHorizontalSpacing(const int &nLabelSlider, const int &n
 
 /*!
     Shows \a text as the row's name. It also becomes the accessible name of
-    slider and spin box, and with a minus or plus sign that of the buttons.
+    the row, its slider and its spin box, and with a minus or plus sign that of the buttons.
 */
 void SliderEditFrame::setLabelText(const QString &text)
 {

@@ -57,6 +57,7 @@ void SliderRow::setLabelText(const QString &text) const
     // The label draws "&" as the mark of a shortcut and "&&" as "&".
     const QString name =
         QString(text).replace(QRegularExpression(QStringLiteral("&(.?)")), QStringLiteral("\\1"));
+    spinBox->parentWidget()->setAccessibleName(name);
     slider->setAccessibleName(name);
     spinBox->setAccessibleName(name);
     minus->setAccessibleName(name + QStringLiteral(" \u2212"));
