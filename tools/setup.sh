@@ -14,6 +14,11 @@ say() {
     printf '== %s\n' "$*"
 }
 
+fail() {
+    say "$@" >&2
+    exit 1
+}
+
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then
         "$@"
@@ -22,9 +27,31 @@ as_root() {
     fi
 }
 
-# Installs those of the named Debian packages that are missing, and says so.
+# Says what is done, runs it, and shows its output only where it fails.
+quietly() {
+    local what=$1 start=$SECONDS output
+    shift
+    output=$(mktemp)
+    printf '== %s: ' "$what"
+    if ! "$@" >"$output" 2>&1; then
+        printf 'failed\n'
+        cat "$output"
+        rm "$output"
+        exit 1
+    fi
+    printf '%d s\n' $((SECONDS - start))
+    rm "$output"
+}
+
+apt_install() {
+    as_root env DEBIAN_FRONTEND=noninteractive LC_ALL=C \
+        apt-get install -q --no-install-recommends "$@"
+}
+
+# Installs those of the named Debian packages that are missing, and says first
+# what that will take.
 need() {
-    local missing=() package
+    local missing=() package plan count fetch disk
     for package in "$@"; do
         if [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" != installed ]; then
             missing+=("$package")
@@ -34,10 +61,30 @@ need() {
         say "All packages are installed already: $*"
         return
     fi
-    say "Installing from Debian's packages: ${missing[*]}"
-    as_root apt-get update -qq
-    as_root env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y -qq --no-install-recommends "${missing[@]}"
+    say "Missing Debian packages: ${missing[*]}"
+    [ -n "$(command -v apt-get)" ] || fail "There is no apt-get here: install the packages by hand"
+    [ "$(id -u)" -eq 0 ] || [ -n "$(command -v sudo)" ] \
+        || fail "To install them, run this as root, or install sudo"
+
+    quietly "Reading the lists of packages" as_root apt-get update
+    plan=$(apt_install --assume-no "${missing[@]}" 2>&1) || true
+    count=$(sed -nE 's/.* ([0-9]+) newly installed.*/\1/p' <<<"$plan")
+    fetch=$(sed -nE 's/^Need to get (.*) of archives.*/\1/p' <<<"$plan")
+    disk=$(sed -nE 's/^After this operation, (.*) of additional.*/\1/p' <<<"$plan")
+    [ -n "$count" ] || fail "apt-get can't install them:"$'\n'"$plan"
+    say "With what they need: $count packages, $fetch to fetch, $disk on the disk"
+    quietly "Fetching them" apt_install -y --download-only "${missing[@]}"
+    quietly "Installing them" apt_install -y "${missing[@]}"
+}
+
+# The commands that work on the last commit rather than on the files as they are.
+need_clone() {
+    [ -e "$root/.git" ] || fail "$root is no clone: this works on its last commit"
+}
+
+# Writes the last commit as a tar archive, of a clone of another user's too.
+last_commit() {
+    git -c safe.directory="$root" -C "$root" archive HEAD
 }
 
 # Configures and builds a preset of CMakePresets.json in build/<preset>.
