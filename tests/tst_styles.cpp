@@ -1,17 +1,24 @@
 #include "recteditframe.h"
+#include "slidereditframe.h"
+#include "slidereditframedouble.h"
 #include "testuser.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QRegularExpression>
+#include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
+#include <QtWidgets/QVBoxLayout>
 
 #include <cmath>
 
 using Vantor::Widgets::RectEditFrame;
+using Vantor::Widgets::SliderEditFrame;
+using Vantor::Widgets::SliderEditFrameDouble;
 
-// The touch themes: readable, and large enough for a finger.
+// The touch themes: readable, large enough for a finger, and states to be seen.
 class tst_Styles : public QObject
 {
     Q_OBJECT
@@ -22,6 +29,8 @@ private Q_SLOTS:
     void contrast();
     void largeFont_data() { sheets(); }
     void largeFont();
+    void edges_data() { sheets(); }
+    void edges();
 
 private:
     static void sheets();
@@ -114,6 +123,75 @@ void tst_Styles::largeFont()
     for (const QLineEdit *field : editor.findChildren<QLineEdit *>()) {
         const QRect text = field->fontMetrics().boundingRect(field->text());
         QCOMPARE(field->size().expandedTo(text.size()), field->size());
+    }
+}
+
+namespace {
+
+// The upper edge in the middle of a widget, from outside to the first row of its inside.
+QVector<QColor> upperEdge(QWidget *widget)
+{
+    const QImage picture = widget->window()->grab().toImage();
+    const QPoint top = widget->mapTo(widget->window(), QPoint(widget->width() / 2, 0));
+    QVector<QColor> edge;
+    for (int y = 0; y < 8; ++y)
+        edge.append(picture.pixelColor(top + QPoint(0, y)));
+    return edge;
+}
+
+double contrastOfEdge(const QVector<QColor> &edge)
+{
+    double most = 0;
+    for (const QColor &color : edge)
+        most = qMax(most, contrastOf(color, edge.last()));
+    return most;
+}
+
+void setRefused(QWidget *field, bool on)
+{
+    field->setProperty("isEntryRefused", on);
+    field->style()->unpolish(field);
+    field->style()->polish(field);
+}
+
+} // namespace
+
+// Neither a row that takes the focus nor a field whose entry was refused moves
+// anything: only their edges change.
+void tst_Styles::edges()
+{
+    QWidget window;
+    QVBoxLayout layout(&window);
+    SliderEditFrame whole;
+    SliderEditFrameDouble decimal;
+    layout.addWidget(&whole);
+    layout.addWidget(&decimal);
+    window.setStyleSheet(sheet());
+    QVERIFY(User::show(window));
+    for (QWidget *row : {static_cast<QWidget *>(&whole), static_cast<QWidget *>(&decimal)}) {
+        auto *field = row->findChild<QAbstractSpinBox *>();
+        window.setFocus();
+        const auto plainRow = upperEdge(row);
+        const auto plainField = upperEdge(field);
+        const QRect place = field->geometry();
+        QVERIFY(contrastOfEdge(plainRow) < 1.1);
+
+        field->setFocus();
+        const auto focusedField = upperEdge(field);
+        User::type("1\n");
+        QCOMPARE(QApplication::focusWidget(), row);
+        QVERIFY(contrastOfEdge(upperEdge(row)) >= 3);
+        QCOMPARE(upperEdge(field), plainField);
+
+        setRefused(field, true);
+        const auto refusedField = upperEdge(field);
+        QVERIFY(contrastOfEdge(refusedField) >= 3);
+        QVERIFY(refusedField != plainField && refusedField != focusedField);
+        field->setFocus();
+        QCOMPARE(upperEdge(field), refusedField);
+        QCOMPARE(field->geometry(), place);
+        setRefused(field, false);
+        QCOMPARE(upperEdge(field), focusedField);
     }
 }
 
