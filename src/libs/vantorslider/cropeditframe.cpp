@@ -108,7 +108,7 @@ void CropEditFramePrivate::slotHeightValueChanged(int val)
 } // namespace Internal
 
 /*!
-    \class CropEditFrame
+    \class CropEditFrame cropeditframe.h vantorslider/cropeditframe.h
     \brief A rectangle editor that keeps a crop within an area.
 
     A field that the user changes stops where its position plus size would leave

@@ -4,7 +4,7 @@ namespace Vantor {
 namespace Widgets {
 
 /*!
-    \class LayoutEditFrame
+    \class LayoutEditFrame layouteditframe.h vantorslider/layouteditframe.h
     \brief The rectangle editor for layout rectangles: a RectEditFrame that
     hosts can tell apart by its class.
 */

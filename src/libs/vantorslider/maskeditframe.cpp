@@ -111,7 +111,7 @@ void MaskEditFramePrivate::slotRightValueChanged(int val)
 } // namespace Internal
 
 /*!
-    \class MaskEditFrame
+    \class MaskEditFrame maskeditframe.h vantorslider/maskeditframe.h
     \brief An editor for the four margins of a mask over an area.
 
     The margins stand in the fields of RectEditFrame: top in X, bottom in Y,

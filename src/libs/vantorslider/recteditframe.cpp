@@ -9,7 +9,7 @@ namespace Vantor {
 namespace Widgets {
 
 /*!
-    \class RectEditFrame
+    \class RectEditFrame recteditframe.h vantorslider/recteditframe.h
     \brief An editor for a rectangle: x, y, width and height as four slider
     rows in two panels, each panel with a lock.
 

@@ -78,7 +78,7 @@ void RGBAllEditFramePrivate::rgbValueChanged(int r, int g, int b)
 } // namespace Internal
 
 /*!
-    \class RGBAllEditFrame
+    \class RGBAllEditFrame rgballeditframe.h vantorslider/rgballeditframe.h
     \brief A colour editor with a master value: its row stands above the three
     channels. All four run from 0 to 255 and are at 50 at first.
 

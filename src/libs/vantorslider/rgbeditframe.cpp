@@ -89,7 +89,7 @@ void RGBEditFramePrivate::blueValueChanged(int val)
 } // namespace Internal
 
 /*!
-    \class RGBEditFrame
+    \class RGBEditFrame rgbeditframe.h vantorslider/rgbeditframe.h
     \brief A colour editor of three slider rows: red, green and blue, each 0 to
     255 and at 50 at first.
 

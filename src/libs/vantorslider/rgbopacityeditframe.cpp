@@ -77,7 +77,7 @@ void RGBOpacityEditFramePrivate::rgbValueChanged(int r, int g, int b)
 } // namespace Internal
 
 /*!
-    \class RGBOpacityEditFrame
+    \class RGBOpacityEditFrame rgbopacityeditframe.h vantorslider/rgbopacityeditframe.h
     \brief A colour editor with an opacity: three channels, each 0 to 255 and at
     50 at first, and below them the opacity, 0 to 100 and at 100.
 

@@ -10,7 +10,7 @@ namespace Vantor {
 namespace Widgets {
 
 /*!
-    \class SliderEditDoubleSpinBox
+    \class SliderEditDoubleSpinBox slidereditframe_p.h vantorslider/slidereditframe_p.h
     \brief The floating-point field of a slider editor: a spin box that takes a typed
     arithmetic expression.
 

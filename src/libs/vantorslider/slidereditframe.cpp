@@ -115,7 +115,7 @@ void SliderEditPrivate::slotButtonPlusClicked()
 } // namespace Internal
 
 /*!
-    \class SliderEditFrame
+    \class SliderEditFrame slidereditframe.h vantorslider/slidereditframe.h
     \brief A labelled editor for an integer parameter: name, slider, spin box,
     minus and plus button in one row.
 

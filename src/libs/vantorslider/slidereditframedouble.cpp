@@ -98,7 +98,7 @@ void SliderEditDoublePrivate::slotButtonPlusClicked()
 } // namespace Internal
 
 /*!
-    \class SliderEditFrameDouble
+    \class SliderEditFrameDouble slidereditframedouble.h vantorslider/slidereditframedouble.h
     \brief A labelled editor for a floating-point parameter: the twin of
     SliderEditFrame for \c double values with a given number of decimals.
 
@@ -339,7 +339,8 @@ int SliderEditFrameDouble::decimals() const
 
 /*!
     Sets the step of buttons, arrow keys and wheel to \a val. The slider's own
-    step follows with the next call that sets decimals or a range.
+    step, for its arrow keys, follows with the next call that sets decimals or
+    a range: set the step before them.
 */
 void SliderEditFrameDouble::setSingleStep(double val)
 {

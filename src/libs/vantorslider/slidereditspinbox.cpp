@@ -9,7 +9,7 @@ namespace Vantor {
 namespace Widgets {
 
 /*!
-    \class SliderEditSpinBox
+    \class SliderEditSpinBox slidereditframe_p.h vantorslider/slidereditframe_p.h
     \brief The integer field of a slider editor: a spin box that takes a typed
     arithmetic expression.
 
