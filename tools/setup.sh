@@ -73,6 +73,9 @@ need() {
     disk=$(sed -nE 's/^After this operation, (.*) of additional.*/\1/p' <<<"$plan")
     [ -n "$count" ] || fail "apt-get can't install them:"$'\n'"$plan"
     say "With what they need: $count packages, $fetch to fetch, $disk on the disk"
+    if [ "$count" -gt 200 ]; then
+        say "This is a first run: with the build 2 GB, and 5 to 10 minutes on two cores"
+    fi
     quietly "Fetching them" apt_install -y --download-only "${missing[@]}"
     quietly "Installing them" apt_install -y "${missing[@]}"
 }
