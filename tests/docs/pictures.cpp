@@ -15,10 +15,12 @@ using Vantor::Widgets::SliderEditFrameDouble;
 
 namespace {
 
-// A row of each kind in one column, as the guide says how.
+enum Columns { AsMade, Aligned };
+
+// A row of each kind, in one column as the guide says how.
 struct Rows
 {
-    Rows()
+    explicit Rows(Columns columns)
     {
         gain.setLabelText(QStringLiteral("Gain"));
         gain.setRange(0, 255);
@@ -28,12 +30,14 @@ struct Rows
         gamma.setDecimals(2);
         gamma.setRange(0.1, 4.0);
         gamma.setValue(2.2);
-        gain.setLabelFixedWidth(90);
-        gamma.setLabelFixedWidth(90);
-        gain.setButtonFixedWidth(50);
-        gamma.setButtonFixedWidth(50);
-        gain.setHorizontalSpacing(12, 8);
-        gamma.setHorizontalSpacing(12, 8);
+        if (columns == Aligned) {
+            gain.setLabelFixedWidth(90);
+            gamma.setLabelFixedWidth(90);
+            gain.setButtonFixedWidth(50);
+            gamma.setButtonFixedWidth(50);
+            gain.setHorizontalSpacing(12, 8);
+            gamma.setHorizontalSpacing(12, 8);
+        }
         auto *layout = new QVBoxLayout(&window);
         layout->addWidget(&gain);
         layout->addWidget(&gamma);
@@ -73,7 +77,7 @@ bool takeThem(const QDir &folder)
 {
     bool isOk = true;
     {
-        Rows rows;
+        Rows rows(AsMade);
         isOk &= User::show(rows.window);
         rows.window.setFocus();
         isOk &= save(rows.window, folder, QStringLiteral("rows-unthemed"));
@@ -82,7 +86,7 @@ bool takeThem(const QDir &folder)
         qApp->setStyleSheet(sheet(name));
         const QString suffix = QStringLiteral("-touch-") + name;
         {
-            Rows rows;
+            Rows rows(Aligned);
             isOk &= User::show(rows.window);
             rows.gain.findChild<QSpinBox *>()->setFocus();
             QApplication::processEvents();
@@ -96,7 +100,7 @@ bool takeThem(const QDir &folder)
         QApplication::setLayoutDirection(Qt::RightToLeft);
         qApp->setStyleSheet(mirrored(sheet(name)));
         {
-            Rows rows;
+            Rows rows(Aligned);
             isOk &= User::show(rows.window);
             rows.window.setFocus();
             isOk &= save(rows.window, folder, QStringLiteral("rows-right-to-left") + suffix);
