@@ -71,7 +71,11 @@ need() {
     count=$(sed -nE 's/.* ([0-9]+) newly installed.*/\1/p' <<<"$plan")
     fetch=$(sed -nE 's/^Need to get (.*) of archives.*/\1/p' <<<"$plan")
     disk=$(sed -nE 's/^After this operation, (.*) of additional.*/\1/p' <<<"$plan")
-    [ -n "$count" ] || fail "apt-get can't install them:"$'\n'"$plan"
+    if [ -z "$count" ]; then
+        # Once more, to be seen: it only warns of an archive that it can't reach.
+        as_root apt-get update || true
+        fail "apt-get can't install them:"$'\n'"$plan"
+    fi
     say "With what they need: $count packages, $fetch to fetch, $disk on the disk"
     if [ "$count" -gt 200 ]; then
         say "This is a first run: with the build 2 GB, and 5 to 10 minutes on two cores"
