@@ -2,9 +2,10 @@
 // guide_pictures FOLDER. They are taken of real editors after real events.
 #include "slidereditframe.h"
 #include "slidereditframedouble.h"
-#include "userevents.h"
 
 #include <QtCore/QDir>
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QVBoxLayout>
 
@@ -44,6 +45,12 @@ struct Rows
         window.resize(600, 10);
     }
 
+    bool show()
+    {
+        window.show();
+        return QTest::qWaitForWindowActive(&window);
+    }
+
     QWidget window;
     SliderEditFrame gain;
     SliderEditFrameDouble gamma;
@@ -62,6 +69,16 @@ QString mirrored(QString text)
         .replace(QLatin1String("::other-page"), QLatin1String("::add-page"));
 }
 
+// The field selects its text as soon as it has the focus.
+void enter(const SliderEditFrame &row, const QString &expression)
+{
+    auto *field = row.findChild<QSpinBox *>();
+    field->setFocus();
+    QApplication::processEvents();
+    QTest::keyClicks(field, expression);
+    QTest::keyClick(field, Qt::Key_Return);
+}
+
 bool save(QWidget &widget, const QDir &folder, const QString &name)
 {
     QApplication::processEvents();
@@ -78,7 +95,7 @@ bool takeThem(const QDir &folder)
     bool isOk = true;
     {
         Rows rows(AsMade);
-        isOk &= User::show(rows.window);
+        isOk &= rows.show();
         rows.window.setFocus();
         isOk &= save(rows.window, folder, QStringLiteral("rows-unthemed"));
     }
@@ -87,21 +104,17 @@ bool takeThem(const QDir &folder)
         const QString suffix = QStringLiteral("-touch-") + name;
         {
             Rows rows(Aligned);
-            isOk &= User::show(rows.window);
-            rows.gain.findChild<QSpinBox *>()->setFocus();
-            QApplication::processEvents();
-            User::type(QStringLiteral("12*8\n"));
+            isOk &= rows.show();
+            enter(rows.gain, QStringLiteral("12*8"));
             isOk &= save(rows.gain, folder, QStringLiteral("row-focus") + suffix);
-            rows.gain.findChild<QSpinBox *>()->setFocus();
-            QApplication::processEvents();
-            User::type(QStringLiteral("1/0\n"));
+            enter(rows.gain, QStringLiteral("1/0"));
             isOk &= save(rows.gain, folder, QStringLiteral("row-refused") + suffix);
         }
         QApplication::setLayoutDirection(Qt::RightToLeft);
         qApp->setStyleSheet(mirrored(sheet(name)));
         {
             Rows rows(Aligned);
-            isOk &= User::show(rows.window);
+            isOk &= rows.show();
             rows.window.setFocus();
             isOk &= save(rows.window, folder, QStringLiteral("rows-right-to-left") + suffix);
         }
