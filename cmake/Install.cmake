@@ -8,17 +8,14 @@ set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/VantorSlider)
 set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 set(data_dir ${CMAKE_INSTALL_DATADIR}/vantorslider)
 
-# The two spin boxes are public, though their header has a private name.
-file(GLOB headers ${PROJECT_SOURCE_DIR}/src/libs/vantorslider/*.h)
-list(FILTER headers EXCLUDE REGEX "_p\\.h$|qlineeditcal\\.h$")
-list(APPEND headers ${PROJECT_SOURCE_DIR}/src/libs/vantorslider/slidereditframe_p.h)
-
-target_include_directories(vantorslider PUBLIC $<INSTALL_INTERFACE:${include_dir}>)
+# For <slidereditframe.h> and for <vantorslider/slidereditframe.h>.
+target_include_directories(vantorslider PUBLIC
+    $<INSTALL_INTERFACE:${include_dir}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
 
 install(TARGETS vantorslider EXPORT VantorSliderTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-        COMPONENT runtime NAMELINK_COMPONENT development)
-install(FILES ${headers} DESTINATION ${include_dir} COMPONENT development)
+        COMPONENT runtime NAMELINK_COMPONENT development
+    PUBLIC_HEADER DESTINATION ${include_dir} COMPONENT development)
 if(EXISTS ${PROJECT_SOURCE_DIR}/styles)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/styles DESTINATION ${data_dir} COMPONENT runtime
         FILES_MATCHING PATTERN *.qss PATTERN *.svg)
@@ -41,7 +38,7 @@ configure_file(${CMAKE_CURRENT_LIST_DIR}/vantorslider.pc.in
 install(FILES ${PROJECT_BINARY_DIR}/vantorslider.pc DESTINATION ${pkgconfig_dir}
     COMPONENT development)
 
-file(RELATIVE_PATH include_from_data /${data_dir} /${include_dir})
+file(RELATIVE_PATH include_from_data /${data_dir} /${CMAKE_INSTALL_INCLUDEDIR})
 file(RELATIVE_PATH lib_from_data /${data_dir} /${CMAKE_INSTALL_LIBDIR})
 configure_file(${CMAKE_CURRENT_LIST_DIR}/vantorslider.pri.in
     ${PROJECT_BINARY_DIR}/vantorslider.pri @ONLY)

@@ -2,6 +2,9 @@
 // real click and prints what the editor signals.
 #include <slidereditframe.h>
 #include <slidereditframe_p.h>
+// Either name may stand in a host, or both.
+#include <vantorslider/slidereditframe.h>
+#include <vantorslider/slidereditframedouble.h>
 
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QApplication>
