@@ -92,7 +92,7 @@ void tst_LineEditCal::editing()
         if (script.at(i) == '<') {
             User::press(Qt::Key_Left);
         } else if (script.at(i) == '[') {
-            const int end = script.indexOf(']', i);
+            const int end = static_cast<int>(script.indexOf(']', i));
             User::paste(script.mid(i + 1, end - i - 1));
             i = end;
         } else if (script.at(i).isHighSurrogate()) {
