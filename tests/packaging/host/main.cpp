@@ -14,7 +14,9 @@
 
 static void send(QWidget *widget, QEvent::Type type, Qt::MouseButtons buttons)
 {
-    QMouseEvent event(type, widget->rect().center(), Qt::LeftButton, buttons, Qt::NoModifier);
+    const QPoint centre = widget->rect().center();
+    QMouseEvent event(type, centre, widget->mapToGlobal(centre), Qt::LeftButton, buttons,
+                      Qt::NoModifier);
     QApplication::sendEvent(widget, &event);
 }
 
