@@ -13,12 +13,19 @@
 #include "slidereditframe.h"
 
 #include <QtCore/QSignalBlocker>
-#include <QtScript/QScriptEngine>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 
 #include <memory>
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#include <QtScript/QScriptEngine>
+using ScriptEngine = QScriptEngine;
+#else
+#include <QtQml/QJSEngine>
+using ScriptEngine = QJSEngine;
+#endif
 
 using namespace Vantor::Widgets;
 
@@ -210,8 +217,8 @@ Figure compareEnter()
     QSpinBox *bareField = bare.editor->ui.spinBox;
     QObject::connect(bareField, &QSpinBox::editingFinished, bareField, [&bare, bareField] {
         if (bareField->hasFocus()) {
-            QScriptEngine engine;
-            bareField->setValue(engine.evaluate(QStringLiteral("12*3")).toInt32());
+            ScriptEngine engine;
+            bareField->setValue(qRound(engine.evaluate(QStringLiteral("12*3")).toNumber()));
             bare.editor->setFocus(Qt::OtherFocusReason);
         }
     });

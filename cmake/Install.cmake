@@ -3,51 +3,53 @@
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
 
-set(include_dir ${CMAKE_INSTALL_INCLUDEDIR}/vantorslider)
-set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/VantorSlider)
+# The headers stand in a folder vantorslider of the include folder, which is the
+# prefix's own with Qt 5.
+set(include_dir ${CMAKE_INSTALL_INCLUDEDIR})
+if(VANTORSLIDER_QT GREATER 5)
+    string(APPEND include_dir /${library_name})
+endif()
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${package_name})
 set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 set(data_dir ${CMAKE_INSTALL_DATADIR}/vantorslider)
 
-# The two spin boxes are public, though their header has a private name.
-file(GLOB headers ${PROJECT_SOURCE_DIR}/src/libs/vantorslider/*.h)
-list(FILTER headers EXCLUDE REGEX "_p\\.h$|qlineeditcal\\.h$")
-list(APPEND headers ${PROJECT_SOURCE_DIR}/src/libs/vantorslider/slidereditframe_p.h)
+# For <slidereditframe.h> and for <vantorslider/slidereditframe.h>.
+target_include_directories(vantorslider PUBLIC
+    $<INSTALL_INTERFACE:${include_dir}/vantorslider> $<INSTALL_INTERFACE:${include_dir}>)
 
-target_include_directories(vantorslider PUBLIC $<INSTALL_INTERFACE:${include_dir}>)
-
-install(TARGETS vantorslider EXPORT VantorSliderTargets
+install(TARGETS vantorslider EXPORT ${package_name}Targets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-        COMPONENT runtime NAMELINK_COMPONENT development)
-install(FILES ${headers} DESTINATION ${include_dir} COMPONENT development)
+        COMPONENT runtime NAMELINK_COMPONENT development
+    PUBLIC_HEADER DESTINATION ${include_dir}/vantorslider COMPONENT development)
 if(EXISTS ${PROJECT_SOURCE_DIR}/styles)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/styles DESTINATION ${data_dir} COMPONENT runtime
         FILES_MATCHING PATTERN *.qss PATTERN *.svg)
 endif()
 
-install(EXPORT VantorSliderTargets NAMESPACE VantorSlider:: DESTINATION ${package_dir}
+install(EXPORT ${package_name}Targets NAMESPACE VantorSlider:: DESTINATION ${package_dir}
     COMPONENT development)
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/VantorSliderConfig.cmake.in
-    ${PROJECT_BINARY_DIR}/VantorSliderConfig.cmake INSTALL_DESTINATION ${package_dir})
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/VantorSliderConfigVersion.cmake
+    ${PROJECT_BINARY_DIR}/${package_name}Config.cmake INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/${package_name}ConfigVersion.cmake
     COMPATIBILITY SameMajorVersion)
-install(FILES ${PROJECT_BINARY_DIR}/VantorSliderConfig.cmake
-    ${PROJECT_BINARY_DIR}/VantorSliderConfigVersion.cmake
+install(FILES ${PROJECT_BINARY_DIR}/${package_name}Config.cmake
+    ${PROJECT_BINARY_DIR}/${package_name}ConfigVersion.cmake
     DESTINATION ${package_dir} COMPONENT development)
 
 file(RELATIVE_PATH prefix_from_pkgconfig /${pkgconfig_dir} /)
 string(REGEX REPLACE "/$" "" prefix_from_pkgconfig ${prefix_from_pkgconfig})
 configure_file(${CMAKE_CURRENT_LIST_DIR}/vantorslider.pc.in
-    ${PROJECT_BINARY_DIR}/vantorslider.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/vantorslider.pc DESTINATION ${pkgconfig_dir}
+    ${PROJECT_BINARY_DIR}/${library_name}.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/${library_name}.pc DESTINATION ${pkgconfig_dir}
     COMPONENT development)
 
 file(RELATIVE_PATH include_from_data /${data_dir} /${include_dir})
 file(RELATIVE_PATH lib_from_data /${data_dir} /${CMAKE_INSTALL_LIBDIR})
 configure_file(${CMAKE_CURRENT_LIST_DIR}/vantorslider.pri.in
-    ${PROJECT_BINARY_DIR}/vantorslider.pri @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/vantorslider.pri DESTINATION ${data_dir}
+    ${PROJECT_BINARY_DIR}/${library_name}.pri @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/${library_name}.pri DESTINATION ${data_dir}
     COMPONENT development)
 
 # The build tree serves a host as an installed one does.
-export(EXPORT VantorSliderTargets NAMESPACE VantorSlider::
-    FILE ${PROJECT_BINARY_DIR}/VantorSliderTargets.cmake)
+export(EXPORT ${package_name}Targets NAMESPACE VantorSlider::
+    FILE ${PROJECT_BINARY_DIR}/${package_name}Targets.cmake)

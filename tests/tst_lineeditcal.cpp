@@ -2,6 +2,8 @@
 #include "qlineeditcal.h"
 #include "testuser.h"
 
+#include <QtCore/QFile>
+
 using Vantor::Widgets::LineEditCal;
 
 class tst_LineEditCal : public QObject
@@ -12,6 +14,8 @@ private Q_SLOTS:
     void editing_data();
     void editing();
     void results();
+    void expressions_data();
+    void expressions();
     void decimalsOfEditedResult();
     void order();
     void editingFinished();
@@ -92,7 +96,7 @@ void tst_LineEditCal::editing()
         if (script.at(i) == '<') {
             User::press(Qt::Key_Left);
         } else if (script.at(i) == '[') {
-            const int end = script.indexOf(']', i);
+            const int end = static_cast<int>(script.indexOf(']', i));
             User::paste(script.mid(i + 1, end - i - 1));
             i = end;
         } else if (script.at(i).isHighSurrogate()) {
@@ -128,6 +132,34 @@ void tst_LineEditCal::results()
     check("7=", 0, 5, 1, 8, "5"); // inverted: the minimum wins
     check("1/0=", 2, -100, 100, 2.5F, "2.5");
     check("1/0=", 2, -100, 100, 1234567, "1.23457e+06");
+}
+
+// Whatever engine evaluates: no text gives another number.
+void tst_LineEditCal::expressions_data()
+{
+    QTest::addColumn<QString>("expression");
+    QTest::addColumn<QString>("result");
+
+    QFile table(EXPRESSIONS);
+    QVERIFY(table.open(QIODevice::ReadOnly));
+    while (!table.atEnd()) {
+        const QByteArrayList words = table.readLine().trimmed().split(' ');
+        if (words.first() == "#")
+            continue;
+        const bool fails = words.size() > 2 && QT_VERSION >= QT_VERSION_CHECK(6, 0, 0);
+        QTest::newRow(words.at(0))
+            << QString(words.at(0)) << QString(fails ? "fails" : words.at(1));
+    }
+}
+
+void tst_LineEditCal::expressions()
+{
+    QFETCH(QString, expression);
+    Field field;
+    field.setResultsRadixPointSeveral(3);
+    field.setLineEditMinOrMax(-1e5F, 1e5F);
+    field.insert(expression + '=');
+    QTEST(field.text() == "8" ? QString("fails") : field.text(), "result");
 }
 
 // The decimal rule looks back at the tokens of the last filtering pass, which a

@@ -30,6 +30,11 @@ int setting(const char *name, int otherwise)
     return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
 }
 
+int rowCount(const EditUser &user)
+{
+    return static_cast<int>(user.rows.size());
+}
+
 // One editor, its user and its model, which the session of its kind owns.
 class Session
 {
@@ -58,7 +63,7 @@ public:
         QVERIFY(User::show(m_editor));
         m_user.log.take();
         for (int i = 0; i < setting("VANTORSLIDER_GESTURES", 2500); ++i) {
-            const int row = random(0, m_user.rows.size() - 1);
+            const int row = random(0, rowCount(m_user) - 1);
             const QString gesture = random(0, 9) == 0 ? program() : user(row);
             const QStringList actual = m_user.log.take();
             QStringList expected;
@@ -173,7 +178,7 @@ protected:
     // Values beyond the range too, which the rows clamp; a mode.
     QString program() override
     {
-        const int i = random(0, m_user.rows.size() - 1), val = random(-20, 300);
+        const int i = random(0, rowCount(m_user) - 1), val = random(-20, 300);
         m_frame.setValue(typename Frame::Type(2 << i), val);
         m_model.rows[i].set(val);
         const bool isReleaseMode = random(0, 1), isSampling = random(0, 9) == 0;
@@ -191,7 +196,7 @@ protected:
 private:
     Frame m_frame;
     EditUser m_user {rowsOf(m_frame).values().toVector()};
-    EditorModel m_model {m_user.rows.size()};
+    EditorModel m_model {rowCount(m_user)};
 };
 
 template <typename Frame> class RectSession : public Session

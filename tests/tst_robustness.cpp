@@ -8,8 +8,9 @@
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QMetaMethod>
 #include <QtCore/QThread>
-#include <QtWidgets/QAction>
 #include <QtWidgets/QDialog>
+
+#include <QAction> // of QtWidgets or, with Qt 6, of QtGui
 
 #include <climits>
 #include <cmath>
@@ -335,10 +336,10 @@ enum Held { Handle, HandleInReleaseMode, HandleSampled, Button, ButtonByKey };
 // The timers of an editor and its children, the cursor's apart.
 int timersOf(QWidget *editor)
 {
-    int count = 0;
+    QList<QAbstractEventDispatcher::TimerInfo> timers;
     for (QWidget *widget : editor->findChildren<QWidget *>() + QWidgetList {editor})
-        count += QAbstractEventDispatcher::instance()->registeredTimers(widget).size();
-    return count;
+        timers += QAbstractEventDispatcher::instance()->registeredTimers(widget);
+    return static_cast<int>(timers.size());
 }
 
 // Takes the editor away within the first report of what is held, or after it.

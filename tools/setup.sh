@@ -5,10 +5,24 @@ set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-build_packages=(
-    cmake fonts-dejavu-core g++ libqt5svg5-dev make ninja-build pkg-config
-    qtbase5-dev qtscript5-dev qttools5-dev qttools5-dev-tools qt5-qmake
+qt5_packages=(
+    libqt5svg5-dev qt5-qmake qtbase5-dev qtscript5-dev qttools5-dev qttools5-dev-tools
 )
+qt6_packages=(
+    libgl-dev qmake6 qt6-base-dev qt6-declarative-dev qt6-svg-dev qt6-tools-dev
+    qt6-tools-dev-tools
+)
+build_packages=(cmake fonts-dejavu-core g++ make ninja-build pkg-config)
+
+# With VANTORSLIDER_QT=6 a command works on the build for Qt 6, whose presets and
+# folders have this ending.
+if [ "${VANTORSLIDER_QT:-5}" = 6 ]; then
+    ending=-qt6
+    build_packages+=("${qt6_packages[@]}")
+else
+    ending=
+    build_packages+=("${qt5_packages[@]}")
+fi
 
 say() {
     printf '== %s\n' "$*"

@@ -18,7 +18,6 @@
 #include <QtGui/QCloseEvent>
 #include <QtGui/QImageReader>
 #include <QtGui/QImageWriter>
-#include <QtWidgets/QActionGroup>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QFileDialog>
@@ -28,6 +27,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QStackedWidget>
+
+#include <QActionGroup> // of QtWidgets or, with Qt 6, of QtGui
 
 namespace {
 
@@ -161,11 +162,12 @@ void MainWindow::createPages()
 void MainWindow::createMenus()
 {
     QMenu *file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("&Open…"), this, &MainWindow::chooseAndOpen, QKeySequence::Open);
-    file->addAction(tr("&Save cropped picture…"), this, &MainWindow::chooseAndSave,
-                    QKeySequence::Save);
+    file->addAction(tr("&Open…"), this, &MainWindow::chooseAndOpen)
+        ->setShortcut(QKeySequence::Open);
+    file->addAction(tr("&Save cropped picture…"), this, &MainWindow::chooseAndSave)
+        ->setShortcut(QKeySequence::Save);
     file->addSeparator();
-    file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+    file->addAction(tr("&Quit"), this, &QWidget::close)->setShortcut(QKeySequence::Quit);
 
     QMenu *edit = menuBar()->addMenu(tr("&Edit"));
     QAction *undo = m_history->stack()->createUndoAction(this, tr("&Undo"));

@@ -129,13 +129,14 @@ private:
 void play(const QString &input)
 {
     Field field;
+    const int length = static_cast<int>(input.length());
     const auto code = [&input](int i) { return i < input.length() ? input[i].unicode() : 0; };
-    for (int i = 0; i < input.length(); ++i) {
+    for (int i = 0; i < length; ++i) {
         switch (code(i)) {
         case 1: {
-            const int end = input.indexOf(QChar(2), i);
+            const int end = static_cast<int>(input.indexOf(QChar(2), i));
             const int begin = i + 1;
-            i = end < 0 ? input.length() : end;
+            i = end < 0 ? length : end;
             field.insert(input.mid(begin, i - begin));
             break;
         }
@@ -169,8 +170,10 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     static char name[] = "fuzz";
     static char *arguments[] = {name, nullptr};
     static const bool isSet = qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication application(argumentCount, arguments);
+    // Never deleted: Qt 6 has it outlive what its own end needs.
+    static const auto *application = new QApplication(argumentCount, arguments);
     Q_UNUSED(isSet)
+    Q_UNUSED(application)
     play(QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<int>(size)));
     return 0;
 }

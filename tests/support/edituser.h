@@ -119,7 +119,10 @@ public:
     QToolButton *const sizeLock;
 
 private:
-    static int rowIndex(const QString &action) { return QString("xywh").indexOf(action[0]); }
+    static int rowIndex(const QString &action)
+    {
+        return static_cast<int>(QString("xywh").indexOf(action[0]));
+    }
 
     void perform(const QString &action, const QStringList &words)
     {

@@ -6,6 +6,7 @@
 #include <QtCore/QLocale>
 #include <QtCore/QSignalBlocker>
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -59,7 +60,7 @@ double numberFromText(const SpinBox *spinBox, const LineEditCal *calculator, con
     if (!number || (isRefused && text == QString::number(double(saturatedFloat(value)), 'g', 6))) {
         return value;
     }
-    return qBound<double>(spinBox->minimum(), *number, spinBox->maximum());
+    return std::clamp<double>(*number, spinBox->minimum(), spinBox->maximum());
 }
 
 // What the user has entered and the value does not say yet.

@@ -146,7 +146,7 @@ void LineEditCal::onSlotTextChanged(QString text)
         m_beforeText.clear();
         return;
     }
-    m_cursorPosition = cursorPosition() - entry.prefix.length();
+    m_cursorPosition = cursorPosition() - static_cast<int>(entry.prefix.length());
     if (entry.text.endsWith(QLatin1Char('='))) {
         const QPointer<LineEditCal> self(this);
         setShowResult(entry.text.left(entry.text.length() - 1));
@@ -260,8 +260,8 @@ bool LineEditCal::setRadixPointSeveral(QString &strText, const int &index)
     if (static_cast<std::size_t>(index) >= m_vecStringResults.size()) {
         return false;
     }
-    const int point = strText.indexOf(QLatin1Char('.'));
-    const int decimals = point < 0 ? 0 : strText.length() - point - 1;
+    const auto point = strText.indexOf(QLatin1Char('.'));
+    const auto decimals = point < 0 ? 0 : strText.length() - point - 1;
     const bool isSecondPoint = strText.count(QLatin1Char('.')) > 1;
     if (!isSecondPoint && decimals <= m_inputSeveral) {
         return false;
@@ -314,7 +314,7 @@ void LineEditCal::setEntryRefused(bool isRefused)
 void LineEditCal::setEntryText(const QString &entry, int cursorPosition)
 {
     setResultText(entry);
-    setCursorPosition(entryOf(text()).prefix.length() + cursorPosition);
+    setCursorPosition(static_cast<int>(entryOf(text()).prefix.length()) + cursorPosition);
     m_beforeText = entry;
 }
 

@@ -3,6 +3,7 @@
 #include <QtCore/QRect>
 #include <QtCore/QtGlobal>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -15,8 +16,8 @@ namespace Internal {
 
 inline int saturatedInt(qint64 value)
 {
-    return static_cast<int>(
-        qBound<qint64>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
+    return static_cast<int>(std::clamp<qint64>(value, std::numeric_limits<int>::min(),
+                                               std::numeric_limits<int>::max()));
 }
 
 // NaN has no place on a scale; it stands at 0.
@@ -25,14 +26,14 @@ inline int saturatedInt(double value)
     if (std::isnan(value)) {
         return 0;
     }
-    return static_cast<int>(
-        qBound<double>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
+    return static_cast<int>(std::clamp<double>(value, std::numeric_limits<int>::min(),
+                                               std::numeric_limits<int>::max()));
 }
 
 inline float saturatedFloat(double value)
 {
-    return static_cast<float>(qBound<double>(std::numeric_limits<float>::lowest(), value,
-                                             std::numeric_limits<float>::max()));
+    return static_cast<float>(std::clamp<double>(value, std::numeric_limits<float>::lowest(),
+                                                 std::numeric_limits<float>::max()));
 }
 
 inline int saturatedSum(int a, int b)

@@ -1,5 +1,7 @@
 #include "scriptengine_p.h"
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QThread>
 #include <QtCore/QTimer>
@@ -131,3 +133,5 @@ std::optional<QString> evaluateScript(const QString &text, bool mayLoop)
 } // namespace Internal
 } // namespace Widgets
 } // namespace Vantor
+
+#endif

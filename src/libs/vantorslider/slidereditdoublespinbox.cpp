@@ -134,7 +134,7 @@ void SliderEditDoubleSpinBox::setSuffixShow()
     if (isPending) {
         const QSignalBlocker blocker(lineEdit());
         lineEdit()->setText(entry);
-        lineEdit()->setCursorPosition(entry.length() - m_strSuffix.length());
+        lineEdit()->setCursorPosition(static_cast<int>(entry.length() - m_strSuffix.length()));
     }
 }
 

@@ -108,8 +108,8 @@ void SliderEditSlider::changeEvent(QEvent *event)
 void SliderEditSlider::releasePointer()
 {
     m_isMousePressed = false;
-    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), Qt::LeftButton, Qt::NoButton,
-                        Qt::NoModifier);
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton,
+                        Qt::NoButton, Qt::NoModifier);
     QSlider::mouseReleaseEvent(&release);
 }
 

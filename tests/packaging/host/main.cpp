@@ -2,6 +2,9 @@
 // real click and prints what the editor signals.
 #include <slidereditframe.h>
 #include <slidereditframe_p.h>
+// Either name may stand in a host, or both.
+#include <vantorslider/slidereditframe.h>
+#include <vantorslider/slidereditframedouble.h>
 
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QApplication>
@@ -11,7 +14,9 @@
 
 static void send(QWidget *widget, QEvent::Type type, Qt::MouseButtons buttons)
 {
-    QMouseEvent event(type, widget->rect().center(), Qt::LeftButton, buttons, Qt::NoModifier);
+    const QPoint centre = widget->rect().center();
+    QMouseEvent event(type, centre, widget->mapToGlobal(centre), Qt::LeftButton, buttons,
+                      Qt::NoModifier);
     QApplication::sendEvent(widget, &event);
 }
 
