@@ -158,6 +158,9 @@ void tst_TypedEntries::whole_data()
     add(hundred, "12*3=#", "36", "36 px", {{"suffix", " px"}});
     add(hundred, "12*3\t", "36", "$36", {{"prefix", "$"}});
     add(hundred, "07a^#", "8", "+8/s", {{"prefix", "+"}, {"suffix", "/s"}});
+    add({0, 9999999, 1234567}, "1/0\n", "", "1234567 px", {{"suffix", " px"}});
+    add({0, 9999, 1234}, "1,234\n", "234", "234"); // a comma groups no digits
+    add({0, 9999, 10}, "1,234^#", "235", "235");
     add({0, 100, 0}, "#", "", "off", {{"specialValueText", "off"}});
     add({0, 100, 7}, "0\n", "0", "off", {{"specialValueText", "off"}});
 }
@@ -174,6 +177,7 @@ void tst_TypedEntries::fraction_data()
     add(thousandths, "[1,,2]#", "", "1.234");
     add({0, 1e7, 1234567, 2}, "1/0\n", "", "1234567.00"); // shown as 1.23457e+06
     add({0, 99999, 12345.67, 2}, "1/0\t", "", "12345.67");
+    add({0, 99999, 12345.67, 2}, "1/0\t", "", "$12345.67", {{"prefix", "$"}});
     add(ten, "2.5\n", "2.5", "2.50", {{"locale", QLocale(QLocale::German)}});
     const QVariantMap mm {{"suffix", "mm"}};
     add(thousandths, "#", "", "1.234mm", mm);

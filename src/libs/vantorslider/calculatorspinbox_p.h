@@ -31,8 +31,8 @@ bool isFinishingKey(const QKeyEvent *event);
 // country, and a spin box that read it by a German locale would take 0.25 for 25.
 void keepDecimalPoint(QAbstractSpinBox *spinBox, const QEvent *event);
 
-// The number that the box shows, without prefix and suffix; nothing for an expression.
-template <typename SpinBox> std::optional<double> numberIn(const SpinBox *spinBox, QString text)
+// What stands between prefix and suffix.
+template <typename SpinBox> QString bareText(const SpinBox *spinBox, QString text)
 {
     if (text.startsWith(spinBox->prefix())) {
         text.remove(0, spinBox->prefix().length());
@@ -40,8 +40,15 @@ template <typename SpinBox> std::optional<double> numberIn(const SpinBox *spinBo
     if (text.endsWith(spinBox->suffix())) {
         text.chop(spinBox->suffix().length());
     }
-    bool isNumber = false;
-    const double number = QLocale::c().toDouble(text, &isNumber);
+    return text;
+}
+
+// The number that a bare text is; nothing for an expression. A comma is an operator,
+// where Qt would take it for one that groups digits.
+inline std::optional<double> numberIn(const QString &text)
+{
+    bool isNumber = !text.contains(QLatin1Char(','));
+    const double number = isNumber ? QLocale::c().toDouble(text, &isNumber) : 0;
     return isNumber && !std::isnan(number) ? std::optional<double>(number) : std::nullopt;
 }
 
@@ -54,10 +61,11 @@ template <typename SpinBox> std::optional<double> numberIn(const SpinBox *spinBo
 template <typename SpinBox>
 double numberFromText(const SpinBox *spinBox, const LineEditCal *calculator, const QString &text)
 {
-    const std::optional<double> number = numberIn(spinBox, text);
+    const QString bare = bareText(spinBox, text);
+    const std::optional<double> number = numberIn(bare);
     const double value = spinBox->value();
     const bool isRefused = calculator != nullptr && calculator->isEntryRefused();
-    if (!number || (isRefused && text == QString::number(double(saturatedFloat(value)), 'g', 6))) {
+    if (!number || (isRefused && bare == QString::number(double(saturatedFloat(value)), 'g', 6))) {
         return value;
     }
     return std::clamp<double>(*number, spinBox->minimum(), spinBox->maximum());
@@ -77,7 +85,7 @@ template <typename SpinBox> Entry pendingEntry(const SpinBox *spinBox, const QSt
                       : spinBox->prefix() + valueText + spinBox->suffix())) {
         return Entry::None;
     }
-    if (!numberIn(spinBox, text)) {
+    if (!numberIn(bareText(spinBox, text))) {
         return Entry::Expression;
     }
     return spinBox->valueFromText(text) == spinBox->value() ? Entry::None : Entry::Number;
