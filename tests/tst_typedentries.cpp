@@ -22,6 +22,8 @@ private Q_SLOTS:
     void refused();
     void inADestroyedWindow_data();
     void inADestroyedWindow() { run(); }
+    void inAWindowShownByItsConstructor_data();
+    void inAWindowShownByItsConstructor() { run(); }
     void leavesTheHostItsEvents_data();
     void leavesTheHostItsEvents() { run(); }
     void replacedLineEdit();
@@ -232,6 +234,7 @@ namespace {
 
 template <typename Window> struct Host : Window
 {
+    using Window::Window;
     ~Host() override { isGone = true; }
     void receive() { QVERIFY(!isGone); }
     bool isGone = false;
@@ -264,6 +267,30 @@ void tst_TypedEntries::inADestroyedWindow_data()
         addForBoth("host's dialog, " + typed,
                    [=](auto &row) { destroyWindow<Host<QDialog>>(row, typed); });
     }
+}
+
+// The window is of its base class as yet when the field gets the focus.
+void tst_TypedEntries::inAWindowShownByItsConstructor_data()
+{
+    QTest::addColumn<Check>("check");
+    addForBoth("dialog", [](auto &row) {
+        struct Shown : QDialog
+        {
+            explicit Shown(decltype(row) row)
+            {
+                row.frame->setParent(this);
+                row.frame->show();
+                User::show(*this);
+                row.spinBox->setFocus();
+            }
+        };
+        Host<Shown> window(row);
+        QCoreApplication::processEvents();
+        row.field->selectAll();
+        User::type("1/4*4\t");
+        QCOMPARE(reportsOf(row.log), QString("1"));
+        row.frame->setParent(&row.page);
+    });
 }
 
 // Timers of the host and what the user does next wait for the end of a script. A

@@ -1,12 +1,21 @@
 #include "hostwindow_p.h"
 
+#include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
 
 namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
+// A host may show its window in a constructor: it becomes one of a derived class
+// after that.
 void HostWindow::remember()
+{
+    rememberType();
+    QTimer::singleShot(0, m_widget, [this] { rememberType(); });
+}
+
+void HostWindow::rememberType()
 {
     const QWidget &window = *m_widget->window();
     m_window = &window;

@@ -21,11 +21,13 @@ class HostWindow
 public:
     explicit HostWindow(const QWidget *widget) : m_widget(widget) { }
 
-    // When the user comes to the widget: the window is whole then.
+    // When the user comes to the widget: the window is whole then, or soon.
     void remember();
     bool isBeingDestroyed() const;
 
 private:
+    void rememberType();
+
     const QWidget *m_widget;
     // Only to be compared; it may be gone.
     const QWidget *m_window = nullptr;
