@@ -141,6 +141,7 @@ void tst_Robustness::hugeTexts_data()
         {"calls", '1' + QString("()").repeated(16000)},
         {"division or pattern", "/(((1*)*)*)*2/(111111111111111111111)"},
         {"pattern", "/(" + QStringLiteral("1*").repeated(14) + "2)/(111111111111111111111)"},
+        {"nested pattern", "/1" + QString(100000, '(') + '1' + QString(100000, ')') + '/'},
         {"equals", QString(1000000, '=')},
         {"zeros", QString(1000000, '0') + '7'},
         {"million", QString("1+").repeated(500000) + '1'},

@@ -22,13 +22,15 @@ bool isTypedExpression(const QString &expression)
 
 // A "/" where an operand is due begins a pattern of the script language. Called
 // with a text, that can go on matching for hours, and no native call can be
-// abandoned. No arithmetic is written so; a comment before a bracket, 4//(2),
-// is taken for one as well.
-bool callsPattern(const QString &expression)
+// abandoned; compiled, it takes stack for each bracket that it opens. No arithmetic
+// is written so; a comment before a bracket, 4//(2), is taken for one as well.
+bool hasUnboundedPattern(const QString &expression)
 {
     static const QRegularExpression pattern(QStringLiteral("(^|[-,+*/(=])/"));
     static const QRegularExpression call(QStringLiteral("[)/]\\("));
-    return expression.contains(pattern) && expression.contains(call);
+    constexpr int maxBrackets = 1000;
+    return expression.contains(pattern)
+        && (expression.contains(call) || expression.count(QLatin1Char('(')) > maxBrackets);
 }
 
 // An array of a given length takes its memory at once, and ends the process where
@@ -46,7 +48,7 @@ bool cannotBeAbandoned(const QString &script)
 std::optional<QString> evaluateExpression(const QString &expression)
 {
     const bool isTyped = isTypedExpression(expression);
-    if (isTyped ? callsPattern(expression) : cannotBeAbandoned(expression)) {
+    if (isTyped ? hasUnboundedPattern(expression) : cannotBeAbandoned(expression)) {
         return std::nullopt;
     }
     std::optional<QString> result = evaluateScript(expression, !isTyped);
