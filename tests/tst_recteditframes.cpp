@@ -188,7 +188,7 @@ static void row(const char *name, const QString &steps)
     QTest::newRow(name) << steps;
 }
 
-// What the random gestures do not come across: round numbers, halves, the ends of int.
+// Two halves, the area's edges and the ends of int, each where the rule turns.
 void tst_RectEditFrames::rectangles_data()
 {
     QTest::addColumn<QString>("steps");
@@ -225,6 +225,19 @@ void tst_RectEditFrames::rectangles_data()
         "set 0 0 100 0 | size lock on: sizeLock(true) | h=50: h(50) (0,0,100,50) | "
         "range h 10 500 | w=70: h(0) w(70) (0,0,70,10) | range h 0 0 | "
         "w=80: h(0) w(80) (0,0,80,0)");
+    row("height beyond both edges",
+        "range w 0 300 | range h 0 100 | range y 0 100 | set 0 50 200 50 | "
+        "size lock on: sizeLock(true) | h=90: w(300) h(75) (0,50,300,75)");
+    row("height at the area's edge",
+        "range h 0 100 | set 0 50 200 20 | size lock on: sizeLock(true) | "
+        "h=50: w(500) h(50) (0,50,500,50) | range h 0 300 | h+: w(500) h(50) (0,50,500,50)");
+    row("height below the least width",
+        "range w 30 1000 | set 0 0 99 33 | size lock on: sizeLock(true) | "
+        "h=5: w(99) h(33) (0,0,99,33)");
+    row("position lock lets go",
+        "range y 0 30 | set 10 20 0 0 | lock position: positionLock(true) | "
+        "x=25: x(25) (25,30,0,0) | x+: x(25) (25,30,0,0) | lock position: positionLock(false) | "
+        "x=40: x(40) (40,30,0,0)");
     // Floats hold these numbers exactly, so the fields can be typed into.
     row("position saturates",
         "range x -2147483648 2147483647 | range y -2147483648 2147483647 | "
@@ -262,6 +275,16 @@ void tst_RectEditFrames::crops_data()
         "area 0 0 -2147483648 1 2147483647 10 | "
         "ranges: 0..2147483647 0..9 -2147483648..2147483647 1..10 | range x 3 7 | "
         "ranges: 3..7 0..9 -2147483648..2147483647 1..10");
+    row("width and x share the area",
+        "crop 1000 0 800 100 | w=1000: crop(1000,0,920,100) w(1000) (1000,0,1000,100) | "
+        "x+: x(1000) (1000,0,920,100)");
+    row("height and y share the area",
+        "crop 0 100 100 300 | y=900: crop(0,780,100,300) y(900) (0,900,100,300) | "
+        "h+: h(300) (0,780,100,300)");
+    row("one beyond the area",
+        "crop 1000 0 900 100 | w=921: crop(1000,0,920,100) w(921) (1000,0,921,100) | "
+        "crop 1000 0 900 100 | x-: crop(999,0,900,100) x(999) (999,0,900,100) | "
+        "w=921: crop(999,0,921,100) w(921) (999,0,921,100) | x+: x(999) (999,0,921,100)");
     row("a rectangle that is set is no change",
         "rect 5 0 110 100 | fields: 5 0 110 100 | set 4 0 110 100 | x+: x(5) (5,0,110,100)");
     row("nothing is the crop of the start",
@@ -295,6 +318,15 @@ void tst_RectEditFrames::masks_data()
     // The limits are 0 at first, and no margins are what the mask starts with.
     row("no area", "x=5: x(5) (5,0,0,0) | fields: 0 0 0 0");
     row("ranges", area + "ranges: 0..1080 0..1080 0..1920 0..1920");
+    row("left and right share the width",
+        area
+            + "mask 0 0 100 1800 | w=200: mask(0,0,120,1800) w(200) (0,0,200,1800) | "
+              "w+: w(120) (0,0,120,1800) | h+: h(1800) (0,0,120,1800)");
+    row("left reaches the limit",
+        area
+            + "mask 0 0 100 1800 | w=120: mask(0,0,120,1800) w(120) (0,0,120,1800) | "
+              "w+: w(120) (0,0,120,1800)");
+    row("right", area + "mask 0 0 1000 0 | h=900: mask(0,0,1000,900) h(900) (0,0,1000,900)");
     row("set beyond the limits",
         area
             + "mask 1000 900 0 2000 | fields: 1000 900 0 1920 | "

@@ -15,6 +15,7 @@ class tst_RGBEditFrames : public QObject
 private Q_SLOTS:
     void form();
     void values();
+    void reports();
     void blockKeepsItsRows();
     void labelMaxLength();
 };
@@ -93,6 +94,27 @@ void tst_RGBEditFrames::values()
     opacity.setValue(RGBOpacityEditFrame::R, 255);
     opacity.setValue(RGBOpacityEditFrame::Opacity, 150);
     QCOMPARE(valuesOf(opacity), QString("255 50 50 100"));
+}
+
+// Each row in its place of the signal.
+void tst_RGBEditFrames::reports()
+{
+    const auto check = [](auto &&frame, const char *expected) {
+        EventLog log;
+        log.watch(&frame, &std::remove_reference_t<decltype(frame)>::valueChanged, QString());
+        QVERIFY(User::show(frame));
+        log.take();
+        for (const Row &row : rowsOf(frame))
+            User::click(row.minus);
+        QCOMPARE(log.take().join(' '), QString(expected));
+    };
+    check(RGBEditFrame(), "(49, 50, 50) (49, 49, 50) (49, 49, 49)");
+    RGBAllEditFrame all;
+    all.setValue(RGBAllEditFrame::ALL, 80);
+    check(all, "(49, 50, 50, 80) (49, 49, 50, 80) (49, 49, 49, 80) (49, 49, 49, 79)");
+    RGBOpacityEditFrame opacity;
+    opacity.setValue(RGBOpacityEditFrame::Opacity, 80);
+    check(opacity, "(49, 50, 50, 80) (49, 49, 50, 80) (49, 49, 49, 80) (49, 49, 49, 79)");
 }
 
 // A block that is hidden as a whole leaves its rows as they are.
