@@ -238,6 +238,13 @@ void tst_RectEditFrames::rectangles_data()
         "range y 0 30 | set 10 20 0 0 | lock position: positionLock(true) | "
         "x=25: x(25) (25,30,0,0) | x+: x(25) (25,30,0,0) | lock position: positionLock(false) | "
         "x=40: x(40) (40,30,0,0)");
+    row("y is let go",
+        "range x 0 30 | set 20 10 0 0 | lock position: positionLock(true) | "
+        "y=25: y(25) (30,25,0,0) | lock position: positionLock(false) | y=40: y(40) (30,40,0,0)");
+    row("the height is let go",
+        "range w 0 100 | set 0 0 20 40 | size lock on: sizeLock(true) | "
+        "h=300: w(100) h(200) (0,0,100,200) | size lock off: sizeLock(false) | "
+        "h=300: h(300) (0,0,100,300)");
     // Floats hold these numbers exactly, so the fields can be typed into.
     row("position saturates",
         "range x -2147483648 2147483647 | range y -2147483648 2147483647 | "
@@ -278,6 +285,9 @@ void tst_RectEditFrames::crops_data()
     row("width and x share the area",
         "crop 1000 0 800 100 | w=1000: crop(1000,0,920,100) w(1000) (1000,0,1000,100) | "
         "x+: x(1000) (1000,0,920,100)");
+    row("the width stays at the edge",
+        "crop 1000 0 800 100 | w=1000: crop(1000,0,920,100) w(1000) (1000,0,1000,100) | "
+        "w+: w(920) (1000,0,920,100)");
     row("height and y share the area",
         "crop 0 100 100 300 | y=900: crop(0,780,100,300) y(900) (0,900,100,300) | "
         "h+: h(300) (0,780,100,300)");
@@ -322,6 +332,10 @@ void tst_RectEditFrames::masks_data()
         area
             + "mask 0 0 100 1800 | w=200: mask(0,0,120,1800) w(200) (0,0,200,1800) | "
               "w+: w(120) (0,0,120,1800) | h+: h(1800) (0,0,120,1800)");
+    row("bottom stays at the limit",
+        area
+            + "mask 1000 0 0 0 | y=200: mask(1000,80,0,0) y(200) (1000,200,0,0) | "
+              "y+: y(80) (1000,80,0,0)");
     row("left reaches the limit",
         area
             + "mask 0 0 100 1800 | w=120: mask(0,0,120,1800) w(120) (0,0,120,1800) | "
