@@ -141,11 +141,18 @@ void tst_Robustness::hugeTexts_data()
         {"calls", '1' + QString("()").repeated(16000)},
         {"division or pattern", "/(((1*)*)*)*2/(111111111111111111111)"},
         {"pattern", "/(" + QStringLiteral("1*").repeated(14) + "2)/(111111111111111111111)"},
-        {"nested pattern", "/1" + QString(100000, '(') + '1' + QString(100000, ')') + '/'},
         {"equals", QString(1000000, '=')},
         {"zeros", QString(1000000, '0') + '7'},
         {"million", QString("1+").repeated(500000) + '1'},
         {"beyond the first plane", QString::fromUtf8("\xf0\x9f\x98\x80").repeated(16000)}};
+    // Longer than Qt lets a field be unless its host says so.
+    addForBoth("nested pattern", [](auto &row) {
+        row.field->setMaxLength(300000);
+        row.type({});
+        User::paste("/1" + QString(100000, '(') + '1' + QString(100000, ')') + '/');
+        User::press(Qt::Key_Return);
+        compareFieldWorks(row);
+    });
     for (auto text = texts.begin(); text != texts.end(); ++text) {
         for (const QString end : {"", "="}) {
             addForBoth(text.key() + end, [typed = *text + end](auto &row) {
