@@ -175,6 +175,7 @@ void tst_TypedEntries::fraction_data()
     add(ten, "4.6=+\n", "4.6", "4.60"); // the last result that was accepted counts
     add(ten, "0/0\n", "", "1.00");
     add(ten, "5/4^#", "1.26", "1.26");
+    add(ten, "3/2!", "1.5", "1.50");
     add(thousandths, "0/0\n", "", "1.234");
     add(thousandths, "[1,,2]#", "", "1.234");
     add({0, 1e7, 1234567, 2}, "1/0\n", "", "1234567.00"); // shown as 1.23457e+06
