@@ -26,6 +26,8 @@ private Q_SLOTS:
     void inAWindowShownByItsConstructor() { run(); }
     void leavesTheHostItsEvents_data();
     void leavesTheHostItsEvents() { run(); }
+    void focusProxy_data();
+    void focusProxy() { run(); }
     void replacedLineEdit();
 
 private:
@@ -332,6 +334,18 @@ void tst_TypedEntries::leavesTheHostItsEvents_data()
             QTRY_VERIFY(!watched);
         });
     }
+}
+
+// Enter can't hand the focus to the row then.
+void tst_TypedEntries::focusProxy_data()
+{
+    QTest::addColumn<Check>("check");
+    addForBoth("Enter", [](auto &row) {
+        row.frame->setFocusProxy(row.spinBox);
+        enter(row, "3*9\n");
+        QCOMPARE(reportsOf(row.log), QString(row.isInt ? "27" : "1"));
+        QVERIFY(row.spinBox->hasFocus());
+    });
 }
 
 void tst_TypedEntries::replacedLineEdit()
