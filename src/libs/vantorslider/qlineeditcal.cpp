@@ -5,8 +5,8 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
-#include <QtCore/QVariant>
-#include <QtWidgets/QAbstractSpinBox>
+#include <QtWidgets/QDoubleSpinBox>
+#include <QtWidgets/QSpinBox>
 #include <QtWidgets/QStyle>
 
 #include <algorithm>
@@ -113,17 +113,20 @@ bool LineEditCal::isEntryRefused() const
 LineEditCal::Entry LineEditCal::entryOf(const QString &text) const
 {
     Entry entry {{}, text, {}};
-    if (const QObject *spinBox = parent()) {
-        const QString prefix = spinBox->property("prefix").toString();
-        if (entry.text.startsWith(prefix)) {
-            entry.prefix = prefix;
-            entry.text.remove(0, prefix.length());
+    const auto strip = [&entry](const auto *spinBox) {
+        if (entry.text.startsWith(spinBox->prefix())) {
+            entry.prefix = spinBox->prefix();
+            entry.text.remove(0, entry.prefix.length());
         }
-        const QString suffix = spinBox->property("suffix").toString();
-        if (entry.text.endsWith(suffix)) {
-            entry.suffix = suffix;
-            entry.text.chop(suffix.length());
+        if (entry.text.endsWith(spinBox->suffix())) {
+            entry.suffix = spinBox->suffix();
+            entry.text.chop(entry.suffix.length());
         }
+    };
+    if (const auto *whole = qobject_cast<const QSpinBox *>(parent())) {
+        strip(whole);
+    } else if (const auto *fraction = qobject_cast<const QDoubleSpinBox *>(parent())) {
+        strip(fraction);
     }
     return entry;
 }
@@ -222,20 +225,23 @@ void LineEditCal::setIntereptString(QString &strText, bool &bCursor)
 bool LineEditCal::takeToken(std::size_t index, const QString &text, int start, int length)
 {
     const QChar *const begin = text.constData() + start;
+    const bool isNumber = length > 0 && !CalculatorPatterns::instance().isMark(*begin);
     const bool isKnown = index < m_vecStringResults.size();
-    const bool isUnchanged = isKnown
+    if (isKnown
         && std::equal(begin, begin + length, m_vecStringResults[index].cbegin(),
-                      m_vecStringResults[index].cend());
-    QString token = isUnchanged ? m_vecStringResults[index] : QString(begin, length);
+                      m_vecStringResults[index].cend())) {
+        return isNumber && setRadixPointSeveral(m_vecStringResults[index], static_cast<int>(index));
+    }
+    QString token(begin, length);
     bool isCorrected = false;
-    if (length > 0 && !CalculatorPatterns::instance().isMark(*begin)) {
+    if (isNumber) {
         setStringFormat(token, isCorrected);
         isCorrected |= setRadixPointSeveral(token, static_cast<int>(index));
     }
-    if (!isKnown) {
-        m_vecStringResults.push_back(token);
-    } else if (!isUnchanged || isCorrected) {
+    if (isKnown) {
         m_vecStringResults[index] = token;
+    } else {
+        m_vecStringResults.push_back(token);
     }
     return isCorrected;
 }
@@ -275,7 +281,7 @@ void LineEditCal::setShowResult(const QString &strText)
     const std::optional<QString> result = Internal::evaluateExpression(strText);
     if (!result) {
         setEntryRefused(true);
-        setResultText(beforeResult());
+        setResultText(aroundEntry(beforeResult()));
         return;
     }
     // A text that is no number counts as 0; NaN passes both comparisons.
@@ -290,7 +296,7 @@ void LineEditCal::setShowResult(const QString &strText)
     m_beforeResult = m_beforeText;
     m_isInitialResultPending = false;
     setEntryRefused(std::isnan(value));
-    setResultText(m_beforeText);
+    setResultText(aroundEntry(m_beforeText));
 }
 
 // The spin box around the field says so to style sheets, which need a polish to see
@@ -313,15 +319,22 @@ void LineEditCal::setEntryRefused(bool isRefused)
 // What the filtering pass leaves, with the cursor in it.
 void LineEditCal::setEntryText(const QString &entry, int cursorPosition)
 {
-    setResultText(entry);
-    setCursorPosition(static_cast<int>(entryOf(text()).prefix.length()) + cursorPosition);
+    const Entry shown = entryOf(text());
+    setResultText(shown.prefix + entry + shown.suffix);
+    setCursorPosition(static_cast<int>(shown.prefix.length()) + cursorPosition);
     m_beforeText = entry;
 }
 
 void LineEditCal::setResultText(QString text)
 {
-    const Entry shown = entryOf(QLineEdit::text());
-    QLineEdit::setText(shown.prefix + text + shown.suffix);
+    QLineEdit::setText(text);
+}
+
+// The text with another entry between prefix and suffix.
+QString LineEditCal::aroundEntry(const QString &entry) const
+{
+    const Entry shown = entryOf(text());
+    return shown.prefix + entry + shown.suffix;
 }
 
 } // namespace Widgets

@@ -42,6 +42,7 @@ private:
     };
 
     Entry entryOf(const QString &text) const;
+    QString aroundEntry(const QString &entry) const;
     void setTextFormat(QString strText);
     void setExpressionFormat(QString strText);
     void setIntereptString(QString &strText, bool &bCursor);
