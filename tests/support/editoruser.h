@@ -1,0 +1,175 @@
+#pragma once
+
+#include "eventlog.h"
+#include "slidereditframe.h"
+#include "slidereditframedouble.h"
+#include "testuser.h"
+
+#include <QtWidgets/QAbstractSpinBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QToolButton>
+
+#include <functional>
+
+// A slider editor of either kind, alone or in a composite editor, and what a user
+// finds in it.
+struct EditorRow
+{
+    explicit EditorRow(QWidget *editor, const QString &nameInEditor = {});
+
+    // Clicks into the field, which selects its text, and types over it.
+    void type(const QString &text) const;
+
+    QString name; // in a composite editor: x, y, w, h, r, g, b, all or opacity
+    QWidget *frame;
+    Vantor::Widgets::SliderEditFrame *whole; // the frame where it is the integer one
+    QLabel *label;
+    QSlider *slider;
+    QAbstractSpinBox *spinBox;
+    QLineEdit *field;
+    QToolButton *minus;
+    QToolButton *plus;
+};
+
+// The rows of an editor in the order of their type flags: 2, 4, 8, 16. A mask's
+// margins go by x, y, w and h, too.
+QVector<EditorRow> rowsOf(QWidget &editor);
+
+// "0..99"
+QString limits(int min, int max);
+
+// The page around the editor under test. What reaches it is in the log.
+class Page : public QWidget
+{
+public:
+    explicit Page(EventLog &log);
+
+protected:
+    void wheelEvent(QWheelEvent *) override { m_log.add("page"); }
+    void keyPressEvent(QKeyEvent *) override { m_log.add("key"); }
+
+private:
+    EventLog &m_log;
+};
+
+// An editor on a page, its user and the program around it, who work by the steps of
+// a table:
+//
+//     range 0 50 | hold 20 60: 20 50 | drop | shown: 50
+//
+// Each step is what is done and, behind the colon, all that is heard of it, in order.
+// In a composite editor a row's name comes first: "w enter 3: h(2) w(3) (0,0,3,2)".
+//
+// What is heard: "20" is a row's report, "h(2)" a rectangle editor's signal of that
+// field, "(0,0,3,2)" any editor's valueChanged(); "finished" and "left" are the
+// messages of an entry, "page" and "key" a turn of the wheel and a key that come to
+// the page around the editor.
+//
+// What the user does:
+//   plus, minus, space      clicks a step button, presses plus by the space bar
+//   hold, move, drop        takes the slider's handle, moves it to each of the
+//                           positions that follow, lets it go
+//   groove before, after    clicks beside the handle
+//   click, elsewhere        clicks into the field, on the page
+//   type 12*3               clicks into the field and types; "\n" is Enter
+//   keys *2, paste 07       goes on where the focus is
+//   enter 12*3              types and presses Enter; its messages go without saying
+//   up, down, right         presses an arrow key
+//   wheel                   turns it over the slider, then over the field
+//   leave                   moves the pointer off the slider
+//   lock position, size     clicks a lock button
+// What the program does to a row:
+//   value, range, step, pageStep, decimals, direction (flags and value), wheelEnabled,
+//   released, sampled, tick (of the sampling), focus, hide, hideSlider, disable,
+//   enable; suffix, prefix, specialValueText and so on: properties of the spin box
+// and to a rectangle, a crop or a mask:
+//   range (of the named row), set, sizeLock on or off, ratio; area, areaFrom,
+//   leastPosition, leastSize, crop, rect; area, mask
+// What both find:
+//   shown      the field and, behind a slash, the slider where it differs, of all rows
+//   ranges     of all rows
+//   timer      whether the sampling "runs" or "stands"
+//   focused    "editor" where the row has the focus, or "other"
+//   pressed, refused   whether the handle is held, whether the entry was refused
+class EditorUser
+{
+public:
+    // A slider editor goes from 0 to 100 positions of its slider in steps of one and
+    // stands at 10. Its values are counted in units. A rectangle editor has its locks.
+    explicit EditorUser(QWidget *editor, double unit = 1);
+    virtual ~EditorUser() = default;
+
+    // Fails the test at the first step of which something else is heard than it says.
+    void play(const QString &steps);
+    void perform(const QString &action);
+    // What was heard since the last call.
+    QString heard();
+    QString shown() const;
+
+    EventLog log;
+    Page page {log};
+    QVector<EditorRow> rows;
+
+private:
+    struct Step
+    {
+        const EditorRow &row;
+        int index;
+        QString text; // behind the verb
+        QString word(int i) const { return text.section(' ', i, i); }
+        int number(int i) const { return word(i).toInt(); }
+    };
+    using Action = std::function<void(const Step &)>;
+
+    template <typename Frame> void add(Frame *frame);
+    void addRect(QWidget *editor);
+    QString inUnits(double value) const { return QString::number(value / m_unit, 'g', 12); }
+
+    QMap<QString, Action> m_actions;
+    const double m_unit;
+};
+
+// The user of an editor of that class. A slider editor's unit is, unless the test wants
+// another, a position of the slider.
+template <typename Frame> class UserOf : public EditorUser
+{
+public:
+    static constexpr bool isWhole = !std::is_same_v<Frame, Vantor::Widgets::SliderEditFrameDouble>;
+    static constexpr double position = isWhole ? 1 : 0.01;
+
+    explicit UserOf(double unit = position, Frame *editor = new Frame)
+        : EditorUser(editor, unit), frame(editor)
+    {
+    }
+
+    Frame *const frame;
+    // The only, or first, row.
+    const EditorRow row = rows.first();
+};
+
+// A test whose data rows bring their own code.
+using Check = std::function<void()>;
+Q_DECLARE_METATYPE(Check)
+
+inline void runCheck()
+{
+    QFETCH(Check, check);
+    check();
+}
+
+// Adds the check for the integer and for the floating-point editor. It takes the user
+// of either.
+template <typename BothCheck> void addForBoth(const QString &name, const BothCheck &check)
+{
+    using namespace Vantor::Widgets;
+    const auto add = [&](const char *kind, auto frame) {
+        using AnyUser = UserOf<std::remove_pointer_t<decltype(frame)>>;
+        QTest::addRow("%s, %s", kind, qPrintable(name)) << Check([check] {
+            AnyUser user;
+            check(user);
+        });
+    };
+    add("int", static_cast<SliderEditFrame *>(nullptr));
+    add("double", static_cast<SliderEditFrameDouble *>(nullptr));
+}
