@@ -1,15 +1,18 @@
-#include "editorrow.h"
+#include "editoruser.h"
 #include "slidereditframe_p.h"
+
+#include <QtWidgets/QVBoxLayout>
 
 using Vantor::Widgets::SliderEditDoubleSpinBox;
 using Vantor::Widgets::SliderEditSpinBox;
 
+// The two number fields as a host finds them outside of any editor.
 class tst_SpinBoxes : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void anyTextIsValid();
+    void keys_data();
     void keys();
     void suffix();
     void suffixSetLater();
@@ -46,51 +49,52 @@ struct SpinBoxes
 
 } // namespace
 
-void tst_SpinBoxes::anyTextIsValid()
+void tst_SpinBoxes::keys_data()
 {
-    SpinBoxes boxes;
-    for (const QAbstractSpinBox *box : {static_cast<QAbstractSpinBox *>(&boxes.whole),
-                                        static_cast<QAbstractSpinBox *>(&boxes.fraction)}) {
-        QVERIFY(box->testAttribute(Qt::WA_AcceptTouchEvents));
-        QString text = "any text";
-        int pos = 3;
-        QCOMPARE(box->validate(text, pos), QValidator::Acceptable);
-        QCOMPARE(text + QString::number(pos), QString("any text3"));
+    QTest::addColumn<bool>("isWhole");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("heard");
+    const auto row = [](bool isWhole, const char *typed, const char *text, const char *heard) {
+        QTest::addRow("%s, %s: %s", isWhole ? "int" : "double", typed, heard)
+            << isWhole << typed << text << heard;
+    };
+    // Neither does the base interpret the text on these keys nor the page see them.
+    for (const bool isWhole : {true, false}) {
+        row(isWhole, "5\n", "5", "editing() enter()");
+        row(isWhole, "5\r", "5", "editing() enter()");
     }
+    // The integer box says so before the base interprets the text.
+    row(true, "5\t", "5", "editing() value(5) editing()");
+    row(false, "5\t", "5.00", "value(5) editing()");
+    row(true, "2*3=", "6", "enter()");
+    row(true, "1000=", "100", "enter()");
+    row(true, "-1=", "0", "enter()");
+    row(true, "2+=", "7", "enter()");
+    row(false, "1.259=", "1.25", "editing()");
+    row(false, "1000=", "9.50", "editing()");
+    row(false, "-1=", "0.50", "editing()");
+    row(false, "2+=", "7.5", "editing()");
 }
 
 void tst_SpinBoxes::keys()
 {
-    const auto check = [](bool isInt, const QString &typed, const QString &text,
-                          const QStringList &log) {
-        SpinBoxes boxes;
-        boxes.whole.setSpinBoxCal(7, 100, 0, 0, 2);
-        boxes.fraction.setSpinBoxCal(7.5F, 9.5F, 0.5F, 2, 2, false);
-        auto *const box = isInt ? static_cast<QAbstractSpinBox *>(&boxes.whole) : &boxes.fraction;
-        box->setFocus();
-        box->selectAll();
-        User::type(typed);
-        QCOMPARE(box->text(), text);
-        QCOMPARE(boxes.log.take(), log);
-    };
-    // Neither does the base interpret the text on these keys nor the page see them.
-    for (const bool isInt : {true, false}) {
-        check(isInt, "5\n", "5", {"editing()", "enter()"});
-        check(isInt, "5\r", "5", {"editing()", "enter()"});
-    }
-    // The integer box says so before the base interprets the text.
-    check(true, "5\t", "5", {"editing()", "value(5)", "editing()"});
-    check(false, "5\t", "5.00", {"value(5)", "editing()"});
-
-    check(true, "2*3=", "6", {"enter()"});
-    check(true, "1000=", "100", {"enter()"});
-    check(true, "-1=", "0", {"enter()"});
-    check(true, "2+=", "7", {"enter()"});
-    check(false, "3/4=", "0.75", {"editing()"});
-    check(false, "1.259=", "1.25", {"editing()"});
-    check(false, "1000=", "9.50", {"editing()"});
-    check(false, "-1=", "0.50", {"editing()"});
-    check(false, "2+=", "7.5", {"editing()"});
+    QFETCH(bool, isWhole);
+    QFETCH(QString, typed);
+    SpinBoxes boxes;
+    boxes.whole.setSpinBoxCal(7, 100, 0, 0, 2);
+    boxes.fraction.setSpinBoxCal(7.5F, 9.5F, 0.5F, 2, 2, false);
+    auto *const box = isWhole ? static_cast<QAbstractSpinBox *>(&boxes.whole) : &boxes.fraction;
+    QVERIFY(box->testAttribute(Qt::WA_AcceptTouchEvents));
+    box->setFocus();
+    box->selectAll();
+    User::type(typed);
+    QTEST(box->text(), "text");
+    QTEST(boxes.log.take().join(' '), "heard");
+    QString text = "any text";
+    int pos = 3;
+    QCOMPARE(box->validate(text, pos), QValidator::Acceptable);
+    QCOMPARE(text + QString::number(pos), QString("any text3"));
 }
 
 void tst_SpinBoxes::suffix()

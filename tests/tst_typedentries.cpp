@@ -1,9 +1,8 @@
-#include "editorrow.h"
+#include "editoruser.h"
 #include "slidereditframe_p.h"
 
 #include <QtWidgets/QDialog>
-
-#include <climits>
+#include <QtWidgets/QVBoxLayout>
 
 using namespace Vantor::Widgets;
 
@@ -20,217 +19,157 @@ private Q_SLOTS:
     void fraction() { play<SliderEditFrameDouble>(); }
     void refused_data();
     void refused();
-    void inADestroyedWindow_data();
-    void inADestroyedWindow() { run(); }
-    void inAWindowShownByItsConstructor_data();
-    void inAWindowShownByItsConstructor() { run(); }
-    void leavesTheHostItsEvents_data();
-    void leavesTheHostItsEvents() { run(); }
+    void windows_data();
+    void windows() { runCheck(); }
+    void scripts_data();
+    void scripts() { runCheck(); }
     void focusProxy_data();
-    void focusProxy() { run(); }
+    void focusProxy() { runCheck(); }
     void replacedLineEdit();
 
 private:
-    static void run()
-    {
-        QFETCH(Check, check);
-        check();
-    }
     template <typename Frame> static void play();
 };
 
-namespace {
-
-struct Range
+// The value goes from one number to another and stands at a third; a fourth is the
+// decimals.
+static void row(const QString &range, const QString &steps, const QString &shown)
 {
-    double min, max, value;
-    int decimals = 2;
-};
-
-} // namespace
-
-Q_DECLARE_METATYPE(Range)
-
-namespace {
-
-// Types the text over what the field shows. What stands in "[]" is pasted, "^" and
-// "v" are arrow keys, "#" a click elsewhere, "@" one into the field again, and "!"
-// hides the row.
-template <typename Row> void enter(Row &row, const QString &text)
-{
-    row.type({});
-    for (int i = 0; i < text.size(); ++i) {
-        const QChar c = text.at(i);
-        if (c == '[') {
-            const int end = static_cast<int>(text.lastIndexOf(']'));
-            User::paste(text.mid(i + 1, end - i - 1));
-            i = end;
-        } else if (c == '^' || c == 'v') {
-            User::press(c == '^' ? Qt::Key_Up : Qt::Key_Down);
-        } else if (c == '#') {
-            QTest::mouseClick(row.page.windowHandle(), Qt::LeftButton, {}, QPoint(1, 1));
-            row.page.setFocus();
-        } else if (c == '!') {
-            row.frame->hide();
-        } else if (c == '@') {
-            row.type({});
-        } else {
-            User::type(c);
-        }
-    }
+    QString name = range + " | " + steps;
+    name.replace('\n', "Enter").replace('\t', "Tab");
+    QTest::newRow(qPrintable(name)) << range << steps << shown;
 }
 
-// The numbers that were reported, without the messages around them.
-QString reportsOf(EventLog &log)
+static void addColumns()
 {
-    QStringList reports;
-    for (const QString &entry : log.take()) {
-        if (entry.startsWith("valueChanged"))
-            reports.append(entry.mid(13).chopped(1));
-        else if (!entry.startsWith("debug: SpinBox") && entry != "page: key")
-            reports.append(entry);
-    }
-    return reports.join(' ');
+    QTest::addColumn<QString>("range");
+    QTest::addColumn<QString>("steps");
+    QTest::addColumn<QString>("shown");
 }
-
-void addColumns()
-{
-    QTest::addColumn<Range>("range");
-    QTest::addColumn<QVariantMap>("settings");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("reports");
-    QTest::addColumn<QString>("text");
-}
-
-void add(const Range &range, const QString &typed, const QString &reports, const QString &text,
-         const QVariantMap &settings = {})
-{
-    QString name = QStringLiteral("%1 in %2..%3").arg(typed).arg(range.min).arg(range.max);
-    for (auto setting = settings.begin(); setting != settings.end(); ++setting)
-        name += ' ' + setting.key();
-    QTest::newRow(qPrintable(name.replace('\n', "Enter").replace('\t', "Tab")))
-        << range << settings << typed << reports << text;
-}
-
-} // namespace
 
 template <typename Frame> void tst_TypedEntries::play()
 {
-    QFETCH(Range, range);
-    QFETCH(QVariantMap, settings);
-    QFETCH(QString, typed);
-    EditorRow<Frame> row;
-    using Value = typename EditorRow<Frame>::Value;
-    if constexpr (!EditorRow<Frame>::isInt)
-        row.frame->setDecimals(range.decimals);
-    row.frame->setRange(static_cast<Value>(range.min), static_cast<Value>(range.max));
-    row.frame->setValue(static_cast<Value>(range.value));
-    for (auto setting = settings.begin(); setting != settings.end(); ++setting)
-        row.spinBox->setProperty(qPrintable(setting.key()), setting.value());
-    QVERIFY(User::show(row.page));
-    row.page.setFocus();
-    row.log.take();
-    enter(row, typed);
-    QTEST(row.spinBox->text(), "text");
-    QTEST(reportsOf(row.log), "reports");
+    QFETCH(QString, range);
+    QFETCH(QString, steps);
+    const QStringList numbers = range.split(' ');
+    UserOf<Frame> user(1);
+    if (numbers.size() > 3)
+        user.perform("decimals " + numbers[3]);
+    user.play("range " + numbers[0] + ' ' + numbers[1] + " | value " + numbers[2]);
+    user.play(steps);
+    QTEST(user.shown(), "shown");
     // Another pass of the focus finds nothing new.
-    row.frame->show();
-    enter(row, "#");
-    QTEST(row.spinBox->text(), "text");
-    QCOMPARE(reportsOf(row.log), QString());
+    for (const QString action : {"show", "click", "elsewhere"})
+        user.perform(action);
+    QTEST(user.shown(), "shown");
+    QCOMPARE(user.heard().remove("finished").trimmed(), QString());
 }
 
 void tst_TypedEntries::whole_data()
 {
     addColumns();
-    const Range any {INT_MIN, INT_MAX, 10}, precise {0, 16777217, 16777217}, hundred {0, 100, 50};
-    add(any, "2147483647\n", "2147483647", "2147483647");
-    add(any, "9999999999\t", "2147483647", "2147483647");
-    add(any, "-9999999999#", "-2147483648", "-2147483648");
-    add(any, "16777217\n", "16777216", "16777216"); // the calculator's precision
-    add(precise, "((1)\n", "", "16777217");
-    add(precise, "[1 000]!", "", "16777217");
-    add(precise, "0/0\t", "", "16777217");
-    add(hundred, "127/2\n", "64", "64");
-    add(hundred, "127/2!", "64", "64");
-    add(hundred, "127/2^#", "65", "65");
-    add(hundred, "127/2v#", "63", "63");
-    add(hundred, "1/0^#", "51", "51");
-    add(hundred, "7^#", "8", "8");
-    add(hundred, "[for(i=0;i<9;i++);7=]\t", "7", "7");
-    add(hundred, "12*3\n", "36", "36 px", {{"suffix", " px"}});
-    add(hundred, "12*3=#", "36", "36 px", {{"suffix", " px"}});
-    add(hundred, "12*3\t", "36", "$36", {{"prefix", "$"}});
-    add(hundred, "07a^#", "8", "+8/s", {{"prefix", "+"}, {"suffix", "/s"}});
-    add({0, 9999999, 1234567}, "1/0\n", "", "1234567 px", {{"suffix", " px"}});
-    add({0, 9999, 1234}, "1,234\n", "234", "234"); // a comma groups no digits
-    add({0, 9999, 10}, "1,234^#", "235", "235");
-    add({0, 100, 0}, "#", "", "off", {{"specialValueText", "off"}});
-    add({0, 100, 7}, "0\n", "0", "off", {{"specialValueText", "off"}});
+    row("0 100 10", "enter 5*2 | focused: editor", "10");
+    row("0 100 10", "enter -5: 0", "0");
+    row("0 100 10", "type 12*3=: finished 36 finished left", "36");
+    row("0 100 10", "range 0 300 | enter 250: 100 | enter 250: 250", "250"); // bounds as of value
+    row("0 100 10", "value 500 | type \t: finished 100 finished", "100");
+    row("0 243 243", "range 0 191 | type 1/0\n: finished 191 finished finished left", "191");
+    row("-2147483648 2147483647 10", "enter 2147483647: 2147483647", "2147483647");
+    row("-2147483648 2147483647 10", "type 9999999999\t: finished 2147483647 finished",
+        "2147483647");
+    row("-2147483648 2147483647 10", "type -9999999999 | elsewhere: finished -2147483648 finished",
+        "-2147483648");
+    row("-2147483648 2147483647 10", "enter 16777217: 16777216",
+        "16777216"); // the calculator's precision
+    row("0 16777217 16777217", "enter ((1)", "16777217");
+    row("0 16777217 16777217", "click | paste 1 000 | hide: finished finished", "16777217");
+    row("0 16777217 16777217", "type 0/0\t: finished finished", "16777217");
+    row("0 100 50", "enter 127/2: 64", "64");
+    row("0 100 50", "type 127/2 | hide: 64 finished finished", "64");
+    row("0 100 50", "type 127/2 | up: 65 | elsewhere: finished finished", "65");
+    row("0 100 50", "type 127/2 | down: 63 | elsewhere: finished finished", "63");
+    row("0 100 50", "type 1/0 | up: 51 | elsewhere: finished finished", "51");
+    row("0 100 50", "type 7 | up: 8 | elsewhere: finished finished", "8");
+    row("0 100 50", "click | paste for(i=0;i<9;i++);7=: finished 7 finished left", "7");
+    row("0 100 50", "suffix  px | enter 12*3: 36", "36 px");
+    row("0 100 50", "suffix  px | type 12*3=: finished 36 finished left | elsewhere", "36 px");
+    row("0 100 50", "prefix $ | type 12*3\t: finished 36 finished", "$36");
+    row("0 100 50", "prefix + | suffix /s | type 07a | up: 8 | elsewhere: finished finished",
+        "+8/s");
+    row("0 9999999 1234567", "suffix  px | enter 1/0", "1234567 px");
+    row("0 9999 1234", "enter 1,234: 234", "234"); // a comma groups no digits
+    row("0 9999 10", "type 1,234 | up: 235 | elsewhere: finished finished", "235");
+    row("0 100 0", "specialValueText off | click | elsewhere: finished finished", "off");
+    row("0 100 7", "specialValueText off | enter 0: 0", "off");
 }
 
 void tst_TypedEntries::fraction_data()
 {
     addColumns();
-    const Range ten {0, 10, 1}, thousandths {0, 9999, 1.234, 3}, great {0, 9999999, 1234567.891, 3};
-    add(ten, "4.6=#", "4.6", "4.60");
-    add(ten, "4.6=+\n", "4.6", "4.60"); // the last result that was accepted counts
-    add(ten, "0/0\n", "", "1.00");
-    add(ten, "5/4^#", "1.26", "1.26");
-    add(ten, "3/2!", "1.5", "1.50");
-    add(thousandths, "0/0\n", "", "1.234");
-    add(thousandths, "[1,,2]#", "", "1.234");
-    add({0, 1e7, 1234567, 2}, "1/0\n", "", "1234567.00"); // shown as 1.23457e+06
-    add({0, 99999, 12345.67, 2}, "1/0\t", "", "12345.67");
-    add({0, 99999, 12345.67, 2}, "1/0\t", "", "$12345.67", {{"prefix", "$"}});
-    add(ten, "2.5\n", "2.5", "2.50", {{"locale", QLocale(QLocale::German)}});
-    const QVariantMap mm {{"suffix", "mm"}};
-    add(thousandths, "#", "", "1.234mm", mm);
-    add(great, "#", "", "1234567.891mm", mm);
-    add({0, 9999, 2, 4}, "#", "", "2.0000mm", mm);
-    add(ten, "3#", "3", "3.00mm", mm);
-    add(ten, "3/2=#", "1.5", "1.50mm", mm);
-    add(ten, "3/2\n", "1.5", "$1.50", {{"prefix", "$"}});
-    add({0, 10, 0}, "#", "", "off", {{"specialValueText", "off"}, {"suffix", "mm"}});
+    row("0 1 0.1", "enter 1/4: 0.25 | focused: editor", "0.25");
+    row("0 1 0.1", "type 1/4= | shown: 0.25/10 | focused: other | keys \t: 0.25 | focused: other",
+        "0.25");
+    row("0 1 0.1", "enter 0.259: 0.25", "0.25");
+    row("0 1 0.1", "enter 0.1", "0.10");
+    row("0 1 0.1", "enter 9: 1", "1.00");
+    row("0 10 1", "type 4.6= | elsewhere: 4.6", "4.60");
+    row("0 10 1", "enter 4.6=+: 4.6", "4.60"); // the last result that was accepted counts
+    row("0 10 1", "enter 0/0", "1.00");
+    row("0 10 1", "type 5/4 | up: 1.26 | elsewhere", "1.26");
+    row("0 10 1", "type 3/2 | hide: 1.5", "1.50");
+    row("0 9999 1.234 3", "enter 0/0", "1.234");
+    row("0 9999 1.234 3", "click | paste 1,,2 | elsewhere", "1.234");
+    row("0 1e7 1234567 2", "enter 1/0", "1234567.00"); // shown as 1.23457e+06
+    row("0 99999 12345.67 2", "type 1/0\t", "12345.67");
+    row("0 99999 12345.67 2", "prefix $ | type 1/0\t", "$12345.67");
+    row("0 10 1", "locale de_DE | enter 2.5: 2.5", "2.50");
+    row("0 9999 1.234 3", "suffix mm | click | elsewhere", "1.234mm");
+    row("0 9999999 1234567.891 3", "suffix mm | click | elsewhere", "1234567.891mm");
+    row("0 9999 2 4", "suffix mm | click | elsewhere", "2.0000mm");
+    row("0 10 1", "suffix mm | type 3 | elsewhere: 3", "3.00mm");
+    row("0 10 1", "suffix mm | type 3/2= | elsewhere: 1.5", "1.50mm");
+    row("0 10 1", "prefix $ | enter 3/2: 1.5", "$1.50");
+    row("0 100 0.1", "suffix mm | type 1/4=+1\n: 1.25", "1.25mm");
+    row("0 100 0.1", "suffix mm | enter 1/0", "0.10mm");
+    // The calculator's text is clamped in float and has two decimals.
+    row("0 999999.99 0.1", "enter 2000000: 999999.99", "999999.99");
+    row("0 0.996 0.1 3", "enter 5: 0.996", "0.996");
+    // A failed entry shows the value in six digits, which are an entry, too.
+    row("0 9999 1234.567 3", "enter 1/0 | enter 1234.57: 1234.57", "1234.570");
+    // It learns a value and new bounds from the program's next value alone, as floats.
+    row("0 1 0.1", "range 0 5 | type 4=\t: 1 | value 1 | enter 4: 4", "4.00");
+    row("0 10 1.5", "type 1/0= | shown: 1.5 | keys \t", "1.50");
+    row("0 10 1", "value 1e300 | type 1/0=: 10 | shown: 3.40282e+38/1000 | keys \t", "10.00");
+    // More decimals than the field has.
+    row("0 100 1 0", "enter 8/3: 3", "3");
+    row("0 100 1 1", "type 8/3=\t: 2.7", "2.7");
+    row("0 10 0", "specialValueText off | suffix mm | click | elsewhere", "off");
 }
 
 void tst_TypedEntries::refused_data()
 {
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<bool>("isRefused");
-    const auto add = [](const char *typed, bool isRefused) {
-        QTest::newRow(typed) << typed << isRefused;
-    };
-    add("5\n", false);
-    add("1/0\n", true);
-    add("0/0\t", true);
-    add("2+=", true);
-    add("[while(1);]#", true);
-    add("1/0\n@3", false); // edited
-    add("1/0\n@10", false); // to what is shown
-    add("1/0^", false); // another value
-    add("1/0\n+", false); // the button
-    add("1/0\ns", false); // the host's value
-    add("1/0\n#", true);
+    QTest::addColumn<QString>("steps");
+    for (const QString steps :
+         {"enter 5: 5 | refused: no", "enter 1/0 | refused: yes | elsewhere | refused: yes",
+          "type 0/0\t: finished finished | refused: yes",
+          "type 2+=: finished finished left | refused: yes",
+          "click | paste while(1); | elsewhere: finished finished | refused: yes",
+          "enter 1/0 | type 3 | refused: no", "enter 1/0 | type 10 | refused: no",
+          "type 1/0 | up: 11 | refused: no", "enter 1/0 | plus: 11 | refused: no",
+          "enter 1/0 | value 10 | refused: no"})
+        QTest::newRow(qPrintable(steps)) << steps;
 }
 
 // Style sheets see it at once: the field of a refused entry is red.
 void tst_TypedEntries::refused()
 {
-    QFETCH(QString, typed);
-    EditorRow<SliderEditFrame> row;
-    row.page.setStyleSheet(
+    QFETCH(QString, steps);
+    UserOf<SliderEditFrame> user;
+    user.page.setStyleSheet(
         "QSpinBox { color: black } QSpinBox[isEntryRefused=\"true\"] { color: red }");
-    QVERIFY(User::show(row.page));
-    const bool isHost = typed.endsWith('s'), isButton = typed.endsWith("\n+");
-    enter(row, isHost || isButton ? typed.chopped(1) : typed);
-    if (isHost)
-        row.frame->setValue(10);
-    if (isButton)
-        User::click(row.plus);
-    QTEST(row.spinBox->property("isEntryRefused").toBool(), "isRefused");
-    const bool isRed = row.spinBox->palette().color(QPalette::Text) == Qt::red;
-    QTEST(isRed, "isRefused");
+    user.play(steps);
+    const bool isRed = user.row.spinBox->palette().color(QPalette::Text) == Qt::red;
+    QCOMPARE(isRed, steps.endsWith("yes"));
 }
 
 namespace {
@@ -239,96 +178,89 @@ template <typename Window> struct Host : Window
 {
     using Window::Window;
     ~Host() override { isGone = true; }
-    void receive() { QVERIFY(!isGone); }
     bool isGone = false;
 };
 
-template <typename Window, typename Row> void destroyWindow(Row &row, const QString &typed)
+template <typename Window, typename AnyUser> void destroyWindow(AnyUser &user, const QString &typed)
 {
     auto *const window = new Window;
-    row.frame->setParent(window);
-    row.frame->show();
+    user.frame->setParent(window);
+    user.frame->show();
     QVERIFY(User::show(*window));
-    User::click(row.spinBox);
-    QCoreApplication::processEvents();
-    User::type(typed);
-    row.log.take();
+    user.perform("type " + typed);
+    user.heard();
     delete window;
-    QCOMPARE(row.log.take(), QStringList());
-}
-
-} // namespace
-
-// Qt hides it when the host's part of it is gone; a pending entry is dropped.
-void tst_TypedEntries::inADestroyedWindow_data()
-{
-    QTest::addColumn<Check>("check");
-    for (const QString typed : {"42", "1+1", "7="}) {
-        addForBoth("widget, " + typed, [=](auto &row) { destroyWindow<QWidget>(row, typed); });
-        addForBoth("host's widget, " + typed,
-                   [=](auto &row) { destroyWindow<Host<QWidget>>(row, typed); });
-        addForBoth("host's dialog, " + typed,
-                   [=](auto &row) { destroyWindow<Host<QDialog>>(row, typed); });
-    }
+    QCOMPARE(user.heard(), QString());
 }
 
 // The window is of its base class as yet when the field gets the focus.
-void tst_TypedEntries::inAWindowShownByItsConstructor_data()
+template <typename AnyUser> struct ShownByItsConstructor : QDialog
+{
+    explicit ShownByItsConstructor(AnyUser &user)
+    {
+        user.frame->setParent(this);
+        user.frame->show();
+        User::show(*this);
+        user.row.spinBox->setFocus();
+    }
+};
+
+} // namespace
+
+// Qt hides a field when the host's part of its window is gone; a pending entry is
+// dropped then.
+void tst_TypedEntries::windows_data()
 {
     QTest::addColumn<Check>("check");
-    addForBoth("dialog", [](auto &row) {
-        struct Shown : QDialog
-        {
-            explicit Shown(decltype(row) row)
-            {
-                row.frame->setParent(this);
-                row.frame->show();
-                User::show(*this);
-                row.spinBox->setFocus();
-            }
-        };
-        Host<Shown> window(row);
+    for (const QString typed : {"42", "1+1", "7="}) {
+        addForBoth("widget, " + typed, [=](auto &user) { destroyWindow<QWidget>(user, typed); });
+        addForBoth("host's widget, " + typed,
+                   [=](auto &user) { destroyWindow<Host<QWidget>>(user, typed); });
+        addForBoth("host's dialog, " + typed,
+                   [=](auto &user) { destroyWindow<Host<QDialog>>(user, typed); });
+    }
+    addForBoth("shown by its constructor", [](auto &user) {
+        Host<ShownByItsConstructor<std::decay_t<decltype(user)>>> window(user);
         QCoreApplication::processEvents();
-        row.field->selectAll();
-        User::type("1/4*4\t");
-        QCOMPARE(reportsOf(row.log), QString("1"));
-        row.frame->setParent(&row.page);
+        user.row.field->selectAll();
+        user.perform("keys 1/4*4\t");
+        QCOMPARE(user.heard().remove("finished").trimmed(), QString(user.isWhole ? "1" : "100"));
+        user.frame->setParent(&user.page);
     });
 }
 
 // Timers of the host and what the user does next wait for the end of a script. A
 // dialog may close on a key then, and go.
-void tst_TypedEntries::leavesTheHostItsEvents_data()
+void tst_TypedEntries::scripts_data()
 {
     QTest::addColumn<Check>("check");
     for (const QString script : {"for(;;){}", "for(i=1;i<1e4;i++);7"}) {
         const bool isEndless = script.contains("{}");
         for (const QString end : {"\n", "\t", "="}) {
-            addForBoth(script + QString(end).replace('\n', "Enter").replace('\t', "Tab"),
-                       [=](auto &row) {
-                           row.type({});
-                           User::paste(script);
-                           row.log.take();
-                           QTimer::singleShot(0, &row.page, [&row] { row.log.add("host"); });
-                           User::type(end);
-                           // With "=" the floating-point field reports when it is left.
-                           const QString reports = reportsOf(row.log);
-                           const bool isReported = !isEndless && (row.isInt || end != "=");
-                           QCOMPARE(reports, QString(isReported ? row.isInt ? "7" : "1" : ""));
-                           QString later;
-                           QTRY_COMPARE(later += reportsOf(row.log), QString("host"));
-                       });
+            addForBoth(
+                script + QString(end).replace('\n', "Enter").replace('\t', "Tab"), [=](auto &user) {
+                    user.perform("click");
+                    user.perform("paste " + script);
+                    QTimer::singleShot(0, &user.page, [&user] { user.log.add("host"); });
+                    user.perform("keys " + end);
+                    // With "=" the floating-point field reports when it is left.
+                    const bool isReported = !isEndless && (user.isWhole || end != "=");
+                    const QString heard = user.heard().remove("finished").remove("left").trimmed();
+                    QCOMPARE(heard, QString(isReported ? user.isWhole ? "7" : "100" : ""));
+                    QString later;
+                    QTRY_COMPARE(later += user.heard(), QString("host"));
+                });
         }
-        addForBoth(script + " and Escape", [=](auto &row) {
+        addForBoth(script + " and Escape", [=](auto &user) {
             auto *const dialog = new QDialog;
             dialog->setAttribute(Qt::WA_DeleteOnClose);
             dialog->setLayout(new QVBoxLayout);
-            dialog->layout()->addWidget(row.frame);
+            dialog->layout()->addWidget(user.frame);
             QVERIFY(User::show(*dialog));
-            row.type({});
-            User::paste(script);
+            user.perform("click");
+            user.perform("paste " + script);
             QApplication::postEvent(dialog, new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, {}));
-            User::type("\t");
+            user.perform("keys \t");
             QPointer<QWidget> watched(dialog);
             QVERIFY(watched);
             QTRY_VERIFY(!watched);
@@ -340,11 +272,10 @@ void tst_TypedEntries::leavesTheHostItsEvents_data()
 void tst_TypedEntries::focusProxy_data()
 {
     QTest::addColumn<Check>("check");
-    addForBoth("Enter", [](auto &row) {
-        row.frame->setFocusProxy(row.spinBox);
-        enter(row, "3*9\n");
-        QCOMPARE(reportsOf(row.log), QString(row.isInt ? "27" : "1"));
-        QVERIFY(row.spinBox->hasFocus());
+    addForBoth("Enter", [](auto &user) {
+        user.frame->setFocusProxy(user.row.spinBox);
+        user.play(user.isWhole ? "type 3*9\n: finished 27 left" : "enter 3*9: 100");
+        QVERIFY(user.row.spinBox->hasFocus());
     });
 }
 

@@ -52,6 +52,19 @@ Page::Page(EventLog &log) : m_log(log)
     resize(1000, 100);
 }
 
+void Page::keyPressEvent(QKeyEvent *event)
+{
+    // Qt's field passes on the keys that paste.
+    if (event->modifiers() != Qt::ControlModifier)
+        m_log.add("key");
+}
+
+// Positions of the slider for a value of 1.
+static double scaleOf(const EditorRow &row)
+{
+    return std::pow(10.0, row.frame->property("decimals").toInt());
+}
+
 EditorUser::EditorUser(QWidget *editor, double unit) : rows(rowsOf(*editor)), m_unit(unit)
 {
     const auto press = [](Qt::Key key) { return [key](const Step &) { User::press(key); }; };
@@ -167,26 +180,21 @@ template <typename Frame> void EditorUser::add(Frame *frame)
     m_actions.insert("released", [=](const Step &) { frame->setReleaseMode(true); });
     // Long enough for the ticks to come by hand.
     m_actions.insert("sampled", [=](const Step &) { frame->setTimeSamplingRate(60000); });
+    m_actions.insert("locale",
+                     [](const Step &step) { step.row.spinBox->setLocale(QLocale(step.text)); });
     for (const char *property : {"suffix", "prefix", "specialValueText"})
         m_actions.insert(property, setText(property));
-    // Positions of the slider for a value of 1.
-    const auto scale = [frame] {
-        if constexpr (std::is_same_v<Value, double>)
-            return std::pow(10.0, frame->decimals());
-        else
-            return 1;
-    };
     if constexpr (std::is_same_v<Value, double>)
         m_actions.insert("decimals", [=](const Step &step) { frame->setDecimals(step.number(0)); });
-    const Value position = static_cast<Value>(1.0 / scale());
+    const Value position = static_cast<Value>(1 / scaleOf(rows.first()));
     frame->setSingleStep(position);
     frame->setRange(0, 100 * position);
     frame->setValue(10 * position);
     // A receiver finds the children updated.
-    const QSlider *slider = rows.first().slider;
+    const EditorRow &row = rows.first();
     QObject::connect(frame, &Frame::valueChanged, &page, [=](Value reported) {
         log.add(inUnits(reported));
-        if (slider->value() != qRound(double(reported) * scale()))
+        if (row.slider->value() != qRound(reported * scaleOf(row)))
             log.add("too early");
     });
 }
@@ -281,10 +289,11 @@ QString EditorUser::shown() const
 {
     QStringList texts;
     for (const EditorRow &row : rows) {
-        const QString text =
-            m_unit == 1 ? row.spinBox->text() : inUnits(row.spinBox->text().toDouble());
-        const QString position = QString::number(row.slider->value());
-        texts.append(text == position ? text : text + '/' + position);
+        const double value = row.spinBox->property("cleanText").toDouble();
+        const int position = row.slider->value();
+        texts.append(m_unit == 1 ? row.spinBox->text() : inUnits(value));
+        if (position != qRound(value * scaleOf(row)))
+            texts.last() += '/' + QString::number(position);
     }
     return texts.join(' ');
 }

@@ -47,7 +47,7 @@ public:
 
 protected:
     void wheelEvent(QWheelEvent *) override { m_log.add("page"); }
-    void keyPressEvent(QKeyEvent *) override { m_log.add("key"); }
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     EventLog &m_log;
@@ -82,12 +82,13 @@ private:
 // What the program does to a row:
 //   value, range, step, pageStep, decimals, direction (flags and value), wheelEnabled,
 //   released, sampled, tick (of the sampling), focus, hide, hideSlider, disable,
-//   enable; suffix, prefix, specialValueText and so on: properties of the spin box
+//   enable; suffix, prefix, specialValueText and locale of the spin box
 // and to a rectangle, a crop or a mask:
 //   range (of the named row), set, sizeLock on or off, ratio; area, areaFrom,
 //   leastPosition, leastSize, crop, rect; area, mask
 // What both find:
-//   shown      the field and, behind a slash, the slider where it differs, of all rows
+//   shown      what the fields hold, each with the slider's position behind a slash where
+//              that is another
 //   ranges     of all rows
 //   timer      whether the sampling "runs" or "stands"
 //   focused    "editor" where the row has the focus, or "other"
