@@ -56,7 +56,8 @@ void tst_SpinBoxes::keys_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("heard");
     const auto row = [](bool isWhole, const char *typed, const char *text, const char *heard) {
-        QTest::addRow("%s, %s: %s", isWhole ? "int" : "double", typed, heard)
+        QTest::addRow("%s, %s: %s", isWhole ? "int" : "double",
+                      QByteArray(typed).toPercentEncoding("*/+=").constData(), heard)
             << isWhole << typed << text << heard;
     };
     // Neither does the base interpret the text on these keys nor the page see them.
