@@ -80,7 +80,12 @@ MainWindow::MainWindow()
         button->setCheckable(true);
         barLayout->addWidget(button);
         m_pageButtons->addButton(button, i);
-        connect(button, &QPushButton::clicked, this, [this, i] { showPage(i); });
+        // A screen reader toggles it rather than clicks it.
+        connect(button, &QPushButton::toggled, this, [this, i](bool isChecked) {
+            if (isChecked) {
+                showPage(i);
+            }
+        });
     }
 
     auto *left = new QSplitter(Qt::Vertical);

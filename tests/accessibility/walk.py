@@ -1,11 +1,12 @@
 #!/usr/bin/python3
-"""Reads the editors as a screen reader does: usage: walk.py HOST
+"""Reads the editors as a screen reader does: usage: walk.py GALLERY
 
-Walks the host's window over the accessibility bus, finds the children of each
-row by the row's name and in their order, presses the buttons and hears the
+Walks the pages of the gallery over the accessibility bus, finds the children of
+each row by the row's name and in their order, presses the buttons and hears the
 values change. Exits with 1 and says what it found where that differs.
 """
 
+import math
 import subprocess
 import sys
 import time
@@ -15,19 +16,22 @@ from gi.repository import Gio, GLib
 
 PATIENCE_S = 20
 
-# The rows in the window's order, with a step of their plus button.
-ROWS = [
-    ("Gain", 1),
-    ("Gamma", 0.25),
-    ("Red", 1),
-    ("Green", 1),
-    ("Blue", 1),
-    ("Opacity", 1),
-    ("X", 1),
-    ("Y", 1),
-    ("Width", 1),
-    ("Height", 1),
-]
+# The rows of each page in their order, and the locks behind the rows of a panel.
+PAGES = {
+    "Adjust": ["Continuous", "On release", "Every 100 ms", "Contrast", "Gamma", "Saturation",
+               "Black level"],
+    "Crop": ["X", "Y", "Lock position", "Width", "Height", "Lock size"],
+    "Mask": ["Top", "Bottom", "Left", "Right"],
+    "Layout": ["X", "Y", "Width", "Height", "Lock size"],
+    "Colour": ["Red", "Green", "Blue", "Master", "Red", "Green", "Blue",
+               "Red", "Green", "Blue", "Opacity"],
+}
+
+# A step is 1 where it is not this.
+STEPS = {"Gamma": 0.05, "Saturation": 0.05}
+
+# The gallery lets each of these rows show what the user does with another one.
+ALIKE = PAGES["Adjust"][:3]
 
 ROLES = {
     pyatspi.ROLE_LABEL: "label",
@@ -37,17 +41,19 @@ ROLES = {
     pyatspi.ROLE_CHECK_BOX: "lock",
 }
 
-# The buttons behind the last row of a panel.
-LOCKS = {"Y": "Lock position", "Height": "Lock size"}
-
 
 def fail(message):
     sys.exit(f"FAIL: {message}")
 
 
+def is_showing(accessible):
+    return accessible.getState().contains(pyatspi.STATE_SHOWING)
+
+
 def descendants(accessible):
+    """Those that show: neither another page nor a lock that is switched off."""
     for child in accessible:
-        if child is not None:
+        if child is not None and is_showing(child):
             yield child
             yield from descendants(child)
 
@@ -77,7 +83,7 @@ def find_window(pid):
     for application in desktop:
         if application is not None and application.get_process_id() == pid:
             for window in application:
-                if window.name == "Editors":
+                if window.name.endswith("Gallery"):
                     return window
     return None
 
@@ -95,40 +101,37 @@ def wait_for(condition):
     return None
 
 
-def start_host(command):
-    host = subprocess.Popen(command)
-    window = wait_for(lambda: find_window(host.pid))
+def start(command):
+    gallery = subprocess.Popen(command)
+    window = wait_for(lambda: find_window(gallery.pid))
     if window is None:
-        host.terminate()
+        gallery.terminate()
         fail("no window on the accessibility bus")
-    return host, window
+    return gallery, window
 
 
-def expected_children():
-    for name, _ in ROWS:
-        yield ("label", name)
-        yield ("slider", name)
-        yield ("field", name)
-        yield ("button", name + " \N{MINUS SIGN}")
-        yield ("button", name + " +")
-        if name in LOCKS:
-            yield ("lock", LOCKS[name])
+def show_page(window, name):
+    """Toggles the page's button and waits for the page."""
+    stack = pyatspi.findDescendant(window, lambda a: a.getRole() == pyatspi.ROLE_LAYERED_PANE)
+    page = stack[list(PAGES).index(name)]
+
+    def is_shown_alone():
+        stack.clear_cache()  # nobody tells it what is hidden now
+        return [other for other in stack if is_showing(other)] == [page]
+
+    if not is_shown_alone():
+        button = pyatspi.findDescendant(window, lambda a: a.name == name)
+        button.queryAction().doAction(0)
+    if not wait_for(is_shown_alone):
+        fail(f"the page {name} does not show")
+    return page
 
 
-def children_of(window):
-    """The named children; the panels and a field's own text have no name."""
-    return [
-        (ROLES[child.getRole()], child.name, child)
-        for child in descendants(window)
-        if child.getRole() in ROLES and child.name
-    ]
-
-
-def check_focusable(window):
+def check_focusable(page):
     """What takes the focus has a name; a field's own text goes by its field's."""
     focusable = [
         child
-        for child in descendants(window)
+        for child in descendants(page)
         if child.getState().contains(pyatspi.STATE_FOCUSABLE)
         and child.getRole() != pyatspi.ROLE_TEXT
     ]
@@ -138,54 +141,91 @@ def check_focusable(window):
     print(f"{len(focusable)} children that take the focus have names")
 
 
-def check_names(children):
+def children_of(page):
+    """The named children of the editors; the labels beside the editors are headings."""
+    return [
+        (ROLES[child.getRole()], child.name, child)
+        for child in descendants(page)
+        if child.getRole() in ROLES and child.name
+        and child.parent.getRole() == pyatspi.ROLE_FRAME
+    ]
+
+
+def expected_children(names):
+    for name in names:
+        if name.startswith("Lock"):
+            yield ("lock", name)
+        else:
+            yield ("label", name)
+            yield ("slider", name)
+            yield ("field", name)
+            yield ("button", name + " \N{MINUS SIGN}")
+            yield ("button", name + " +")
+
+
+def check_names(children, names):
     found = [(role, name) for role, name, _ in children]
-    expected = list(expected_children())
+    expected = list(expected_children(names))
     if found != expected:
-        fail(f"the window reads\n{found}\nand not\n{expected}")
+        fail(f"the page reads\n{found}\nand not\n{expected}")
     print(f"{len(found)} children read by their names, in order")
 
 
-def check_change(children, heard, row, button, step):
-    by_name = {(role, name): child for role, name, child in children}
-    field = by_name[("field", row)].queryValue()
-    slider = by_name[("slider", row)].queryValue()
-    before = field.currentValue
+def rows_of(children):
+    """The children of each row, which are in order: label, slider, field, minus, plus."""
+    children = [child for role, _, child in children if role != "lock"]
+    return [children[i:i + 5] for i in range(0, len(children), 5)]
+
+
+def check_change(rows, heard, row, button, step):
+    _, slider, field, *_ = row
+    changing = [other for other in rows if row[0].name in ALIKE and other[0].name in ALIKE]
+    expected = [part for other in changing or [row] for part in other[1:3]]
+    value = field.queryValue()
+    before = value.currentValue
     heard.clear()
-    by_name[("button", button)].queryAction().doAction(0)
-    if not wait_for(lambda: {role for role, _, _ in heard} == {"field", "slider"}):
-        fail(f"{button} pressed, but heard only {heard}")
-    if {name for _, name, _ in heard} != {row}:
-        fail(f"{button} pressed, and heard of another row: {heard}")
-    told = [float(text) for role, _, text in heard if role == "field"]
-    if told != [before + step] or field.currentValue != before + step:
-        fail(f"{button}: from {before:g} to {field.currentValue:g}, heard {told}")
-    print(f"{button}: {before:g} to {told[0]:g}, slider at {slider.currentValue:g}")
+    button.queryAction().doAction(0)
+    if not wait_for(lambda: all(part in [source for source, _ in heard] for part in expected)):
+        fail(f"{button.name} pressed, but heard only {heard}")
+    if not all(source in expected for source, _ in heard):
+        fail(f"{button.name} pressed, and heard of another row: {heard}")
+    told = [float(text) for source, text in heard if source == field]
+    if len(told) != 1 or not all(
+            math.isclose(v, before + step) for v in (told[0], value.currentValue)):
+        fail(f"{button.name}: from {before:g} to {value.currentValue:g}, heard {told}")
+    print(f"{button.name}: {before:g} to {told[0]:g}, slider at {slider.queryValue().currentValue:g}")
 
 
 def main():
     enable_accessibility()
-    host, window = start_host(sys.argv[1:])
+    gallery, window = start(sys.argv[1:])
     heard = []
 
     # A slider tells its value, a field the text that it shows now.
     def hear(event):
-        role = ROLES.get(event.source.getRole()) if event.source else None
-        if role in ("field", "slider"):
-            heard.append((role, event.source.name, event.any_data))
+        if event.source and ROLES.get(event.source.getRole()) in ("field", "slider"):
+            heard.append((event.source, event.any_data))
 
     try:
         for event in ("object:property-change:accessible-value", "object:text-changed:insert"):
             pyatspi.Registry.registerEventListener(hear, event)
-        children = children_of(window)
-        check_focusable(window)
-        check_names(children)
-        for name, step in ROWS:
-            check_change(children, heard, name, name + " +", step)
-            check_change(children, heard, name, name + " \N{MINUS SIGN}", -step)
+        for name, row_names in PAGES.items():
+            page = show_page(window, name)
+            children = children_of(page)
+            check_focusable(page)
+            check_names(children, row_names)
+            rows = rows_of(children)
+            for row in rows:
+                _, slider, _, minus, plus = row
+                step = STEPS.get(row[0].name, 1)
+                there_and_back = [(plus, step), (minus, -step)]
+                if slider.queryValue().currentValue == slider.queryValue().maximumValue:
+                    there_and_back.reverse()
+                for button, change in there_and_back:
+                    check_change(rows, heard, row, button, change)
     finally:
-        host.terminate()
-        host.wait()
+        gallery.terminate()
+        gallery.wait()
     print("PASS")
 
 
