@@ -1,0 +1,169 @@
+#include "eventlog.h"
+#include "slidereditframe.h"
+#include "slidereditframedouble.h"
+#include "testuser.h"
+#include "ui_alleditors.h"
+
+#include <QtCore/QMetaProperty>
+#include <QtCore/QStringListModel>
+#include <QtWidgets/QDataWidgetMapper>
+
+#ifdef DESIGNER_PLUGIN
+#include <QtCore/QBuffer>
+#include <QtCore/QPluginLoader>
+#include <QtGui/QIcon>
+#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
+#include <QtUiTools/QUiLoader>
+#endif
+
+using Vantor::Widgets::SliderEditFrame;
+using Vantor::Widgets::SliderEditFrameDouble;
+
+// What style sheets, mappers, forms and Designer do with the editors.
+class tst_Forms : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void silentWrites();
+    void mapper();
+    void form();
+};
+
+namespace {
+
+// What a form may set, of what there is.
+QString describe(const QWidget &editor)
+{
+    QStringList texts;
+    for (const char *name : {"enabled", "labelText", "decimals", "minimum", "maximum", "singleStep",
+                             "pageStep", "value", "suffix"})
+        texts.append(editor.property(name).toString());
+    texts.removeAll(QString());
+    return texts.join(' ');
+}
+
+QStringList describeEditors(const QWidget &form)
+{
+    QStringList lines;
+    for (const auto *editor : form.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
+        lines.append(editor->metaObject()->className() + (' ' + describe(*editor)));
+    return lines.replaceInStrings("Vantor::Widgets::", QString());
+}
+
+// By a style sheet, which goes the way of a form.
+template <typename Frame> void compareWrites(QString settings, const QString &expected)
+{
+    EventLog log;
+    Frame frame;
+    log.watch(&frame, &Frame::valueChanged, "valueChanged");
+    settings.replace(QRegularExpression("(\\w+):"), "qproperty-\\1:");
+    frame.setStyleSheet("*[isSliderFrame='true'] { " + settings + " }");
+    frame.ensurePolished();
+    QCOMPARE(describe(frame), expected);
+    // Both ends by the same scale, whichever it is.
+    const auto *slider = frame.template findChild<QSlider *>();
+    QCOMPARE(1.0 * slider->minimum() * frame.maximum(), 1.0 * slider->maximum() * frame.minimum());
+    QCOMPARE(log.take(), QStringList());
+}
+
+// What the mapper writes is silent, at first and when it answers the user's click.
+template <typename Frame> void compareMapping(const QString &modelled, const QString &stepped)
+{
+    EventLog log;
+    QStringListModel model({modelled});
+    Frame frame;
+    log.watch(&frame, &Frame::valueChanged, "valueChanged");
+    QDataWidgetMapper mapper;
+    mapper.setModel(&model);
+    mapper.addMapping(&frame, 0);
+    QObject::connect(&frame, &Frame::valueChanged, &mapper, &QDataWidgetMapper::submit);
+    mapper.toFirst();
+    QVERIFY(User::show(frame));
+    User::click(frame.template findChild<QWidget *>("sliderEditPlus"));
+    QCOMPARE(log.take(), QStringList("valueChanged(" + stepped + ')'));
+    QCOMPARE(model.stringList(), QStringList(stepped));
+    const QMetaProperty mapped = Frame::staticMetaObject.userProperty();
+    QCOMPARE(mapped.notifySignal().name(), QByteArray("valueChanged"));
+}
+
+} // namespace
+
+void tst_Forms::silentWrites()
+{
+    const auto compareInt = compareWrites<SliderEditFrame>;
+    const auto compareDouble = compareWrites<SliderEditFrameDouble>;
+    compareInt("", "true 0 99 1 10 0");
+    compareDouble("", "true 2 0 99.99 1 10 0");
+    const QString full = "minimum: -20; maximum: 40; singleStep: 5; pageStep: 7; value: 30";
+    compareInt("labelText: Gain; " + full, "true Gain -20 40 5 7 30");
+    compareDouble("decimals: 1; " + full, "true 1 -20 40 5 7 30");
+    compareInt("value: 50; minimum: 200", "true 200 200 1 10 200");
+    compareDouble("value: 50; minimum: 200", "true 2 200 200 1 10 200");
+    // The floating-point editor can't cross its lower end from above.
+    compareInt("value: 50; maximum: -3", "true -3 -3 1 10 -3");
+}
+
+void tst_Forms::mapper()
+{
+    compareMapping<SliderEditFrame>("36", "37");
+    compareMapping<SliderEditFrameDouble>("0.5", "1.5");
+}
+
+// The form that uic compiles, and the same read at run time by the plug-in.
+void tst_Forms::form()
+{
+    QWidget compiled;
+    Ui::AllEditors().setupUi(&compiled);
+    const QStringList expected {
+        "SliderEditFrame true Gain -20 200 5 10 120",
+        "SliderEditFrameDouble true Gamma 1 0.5 2.5 0.1 10 1.2",
+        "RGBEditFrame true",
+        "RGBAllEditFrame true",
+        "RGBOpacityEditFrame true",
+        "RectEditFrame false",
+        "CropEditFrame true",
+        "MaskEditFrame true",
+        "LayoutEditFrame true",
+        "SliderEditSpinBox true 0 4000 1 1080",
+        "SliderEditDoubleSpinBox true 2 0 99.99 1 1.5  dB"};
+    QCOMPARE(describeEditors(compiled), expected);
+
+#ifdef DESIGNER_PLUGIN
+    QPluginLoader plugin(DESIGNER_PLUGIN);
+    const auto *box = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(plugin.instance());
+    QVERIFY2(box, qPrintable(plugin.errorString()));
+    QUiLoader loader;
+    // No other folder can lend an editor.
+    loader.clearPluginPaths();
+    loader.addPluginPath(QFileInfo(DESIGNER_PLUGIN).path());
+    QFile file(FORM);
+    const std::unique_ptr<QWidget> read(loader.load(&file));
+    QVERIFY2(read, qPrintable(loader.errorString()));
+    QVERIFY(read->findChild<SliderEditFrame *>());
+    QCOMPARE(describeEditors(*read), expected);
+
+    // What the widget box shows and drops into a form.
+    const auto entries = box->customWidgets();
+    QCOMPARE(entries.size(), expected.size());
+    for (int i = 0; i < entries.size(); ++i) {
+        const QDesignerCustomWidgetInterface *entry = entries[i];
+        QVERIFY(QFile::exists(HEADERS "/" + entry->includeFile()));
+        QVERIFY(!entry->isContainer() && !entry->icon().availableSizes().isEmpty());
+        QVERIFY(!entry->group().isEmpty() && !entry->toolTip().isEmpty());
+        QBuffer dom;
+        dom.setData(entry->domXml().toUtf8());
+        const std::unique_ptr<QWidget> dropped(loader.load(&dom));
+        QVERIFY2(dropped, qPrintable(loader.errorString()));
+        QCOMPARE(QString(dropped->metaObject()->className()), entry->name());
+        QCOMPARE(entry->name().section(':', -1), expected[i].section(' ', 0, 0));
+    }
+#endif
+}
+
+int main(int argc, char *argv[])
+{
+    return runTest<tst_Forms>(argc, argv);
+}
+
+#include "tst_forms.moc"
