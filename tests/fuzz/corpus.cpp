@@ -1,28 +1,22 @@
-// Plays the fuzzer's inputs, given as files or folders, without the fuzzer.
+// Plays the fuzzer's inputs, the files of a folder, without the fuzzer.
 
-#include <QtCore/QDirIterator>
-#include <QtCore/QFile>
+#include <QtCore/QDir>
 
 #include <cstdio>
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size);
 
-int main(int argc, char *argv[])
+int main(int, char *argv[])
 {
-    int count = 0;
-    for (int i = 1; i < argc; ++i) {
-        QDirIterator files(QString::fromLocal8Bit(argv[i]), QDir::Files);
-        while (files.hasNext()) {
-            QFile file(files.next());
-            if (!file.open(QIODevice::ReadOnly))
-                return 1;
-            std::printf("%s\n", qPrintable(file.fileName()));
-            const QByteArray input = file.readAll();
-            LLVMFuzzerTestOneInput(reinterpret_cast<const unsigned char *>(input.constData()),
-                                   static_cast<std::size_t>(input.size()));
-            ++count;
-        }
+    const auto files = QDir(QString::fromLocal8Bit(argv[1])).entryInfoList(QDir::Files);
+    for (const QFileInfo &info : files) {
+        QFile file(info.filePath());
+        if (!file.open(QIODevice::ReadOnly))
+            return 1;
+        std::fprintf(stderr, "%s\n", qPrintable(info.fileName()));
+        const QByteArray input = file.readAll();
+        LLVMFuzzerTestOneInput(reinterpret_cast<const unsigned char *>(input.constData()),
+                               static_cast<std::size_t>(input.size()));
     }
-    std::printf("%d inputs\n", count);
-    return count > 0 ? 0 : 1;
+    return files.isEmpty() ? 1 : 0;
 }
