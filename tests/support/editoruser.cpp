@@ -145,11 +145,11 @@ EditorUser::EditorUser(QWidget *editor, double unit) : rows(rowsOf(*editor)), m_
     else if (auto *const fraction = qobject_cast<SliderEditFrameDouble *>(editor))
         add(fraction);
     else if (auto *const rgb = qobject_cast<RGBEditFrame *>(editor))
-        log.watch(rgb, &RGBEditFrame::valueChanged, {});
+        addComposite(rgb);
     else if (auto *const all = qobject_cast<RGBAllEditFrame *>(editor))
-        log.watch(all, &RGBAllEditFrame::valueChanged, {});
+        addComposite(all);
     else if (auto *const opacity = qobject_cast<RGBOpacityEditFrame *>(editor))
-        log.watch(opacity, &RGBOpacityEditFrame::valueChanged, {});
+        addComposite(opacity);
     else
         addRect(editor);
     User::show(page);
@@ -199,6 +199,18 @@ template <typename Frame> void EditorUser::add(Frame *frame)
     });
 }
 
+// The program around a composite editor.
+template <typename Frame> void EditorUser::addComposite(Frame *frame)
+{
+    const auto type = [](const Step &step) { return typename Frame::Type(2 << step.index); };
+    log.watch(frame, &Frame::valueChanged, {});
+    m_actions.insert("value",
+                     [=](const Step &step) { frame->setValue(type(step), step.number(0)); });
+    m_actions.insert("range", [=](const Step &step) {
+        frame->setRange(type(step), step.number(0), step.number(1));
+    });
+}
+
 // The program around a rectangle editor.
 void EditorUser::addRect(QWidget *editor)
 {
@@ -208,7 +220,7 @@ void EditorUser::addRect(QWidget *editor)
             action(step.number(0), step.number(1), step.number(2), step.number(3));
         });
     };
-    log.watch(rect, &RectEditFrame::valueChanged, {});
+    addComposite(rect);
     log.watch(rect, &RectEditFrame::xValueChanged, "x");
     log.watch(rect, &RectEditFrame::yValueChanged, "y");
     log.watch(rect, &RectEditFrame::widthValueChanged, "w");
@@ -218,9 +230,6 @@ void EditorUser::addRect(QWidget *editor)
     rect->setPositionLockEnable(true);
     rect->setSizeLockEnable(true, RectEditFrame::SizeScaleLock);
     add("set", [=](int x, int y, int w, int h) { rect->setValue(x, y, w, h); });
-    m_actions.insert("range", [=](const Step &step) {
-        rect->setRange(RectEditFrame::Type(2 << step.index), step.number(0), step.number(1));
-    });
     m_actions.insert("sizeLock", [=](const Step &step) { rect->setSizeLock(step.text == "on"); });
     m_actions.insert("ratio", [=](const Step &step) { rect->setSizeLock(step.text.toDouble()); });
     m_actions.insert("lock", [=](const Step &step) {
