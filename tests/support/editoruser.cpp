@@ -67,18 +67,33 @@ static double scaleOf(const EditorRow &row)
 
 EditorUser::EditorUser(QWidget *editor, double unit) : rows(rowsOf(*editor)), m_unit(unit)
 {
+    addGestures();
+    addSights();
+    page.layout()->addWidget(editor);
+    if (auto *const whole = qobject_cast<SliderEditFrame *>(editor))
+        add(whole);
+    else if (auto *const fraction = qobject_cast<SliderEditFrameDouble *>(editor))
+        add(fraction);
+    else if (auto *const rgb = qobject_cast<RGBEditFrame *>(editor))
+        addComposite(rgb);
+    else if (auto *const all = qobject_cast<RGBAllEditFrame *>(editor))
+        addComposite(all);
+    else if (auto *const opacity = qobject_cast<RGBOpacityEditFrame *>(editor))
+        addComposite(opacity);
+    else
+        addRect(editor);
+    User::show(page);
+    log.take(); // the platform's own messages
+}
+
+void EditorUser::addGestures()
+{
     const auto press = [](Qt::Key key) { return [key](const Step &) { User::press(key); }; };
     const auto move = [](const Step &step) {
         for (const QString &position : step.text.split(' '))
             User::moveHandle(step.row.slider, position.toInt());
     };
     const auto type = [](const Step &step) { step.row.type(step.text); };
-    const auto hear = [this](auto textOf) {
-        return [this, textOf](const Step &step) { log.add(textOf(step)); };
-    };
-    const auto hearYes = [this](auto isSo) {
-        return [this, isSo](const Step &step) { log.add(isSo(step) ? "yes" : "no"); };
-    };
     m_actions = {
         {"plus", [](const Step &step) { User::click(step.row.plus); }},
         {"minus", [](const Step &step) { User::click(step.row.minus); }},
@@ -121,39 +136,30 @@ EditorUser::EditorUser(QWidget *editor, double unit) : rows(rowsOf(*editor)), m_
         {"show", [](const Step &step) { step.row.frame->show(); }},
         {"hide", [](const Step &step) { step.row.frame->hide(); }},
         {"disable", [](const Step &step) { step.row.frame->setEnabled(false); }},
-        {"enable", [](const Step &step) { step.row.frame->setEnabled(true); }},
-        {"shown", hear([this](const Step &) { return shown(); })},
-        {"ranges", hear([this](const Step &) {
-             QStringList texts;
-             for (const EditorRow &row : rows)
-                 texts.append(limits(row.slider->minimum(), row.slider->maximum()));
-             return texts.join(' ');
-         })},
-        {"timer", hear([](const Step &step) {
-             return samplingInterval(step.row.frame) > 0 ? "runs" : "stands";
-         })},
-        {"focused",
-         hear([](const Step &step) { return step.row.frame->hasFocus() ? "editor" : "other"; })},
-        {"pressed", hearYes([](const Step &step) { return step.row.whole->isMousePressed(); })},
-        {"refused", hearYes([](const Step &step) {
-             return step.row.spinBox->property("isEntryRefused").toBool();
-         })}};
+        {"enable", [](const Step &step) { step.row.frame->setEnabled(true); }}};
+}
 
-    page.layout()->addWidget(editor);
-    if (auto *const whole = qobject_cast<SliderEditFrame *>(editor))
-        add(whole);
-    else if (auto *const fraction = qobject_cast<SliderEditFrameDouble *>(editor))
-        add(fraction);
-    else if (auto *const rgb = qobject_cast<RGBEditFrame *>(editor))
-        addComposite(rgb);
-    else if (auto *const all = qobject_cast<RGBAllEditFrame *>(editor))
-        addComposite(all);
-    else if (auto *const opacity = qobject_cast<RGBOpacityEditFrame *>(editor))
-        addComposite(opacity);
-    else
-        addRect(editor);
-    User::show(page);
-    log.take(); // the platform's own messages
+void EditorUser::addSights()
+{
+    const auto add = [this](const char *word, auto textOf) {
+        m_actions.insert(word, [this, textOf](const Step &step) { log.add(textOf(step)); });
+    };
+    add("shown", [this](const Step &) { return shown(); });
+    add("ranges", [this](const Step &) {
+        QStringList texts;
+        for (const EditorRow &row : rows)
+            texts.append(limits(row.slider->minimum(), row.slider->maximum()));
+        return texts.join(' ');
+    });
+    add("timer",
+        [](const Step &step) { return samplingInterval(step.row.frame) > 0 ? "runs" : "stands"; });
+    add("focused",
+        [](const Step &step) { return step.row.frame->hasFocus() ? "editor" : "other"; });
+    add("pressed",
+        [](const Step &step) { return step.row.whole->isMousePressed() ? "yes" : "no"; });
+    add("refused", [](const Step &step) {
+        return step.row.spinBox->property("isEntryRefused").toBool() ? "yes" : "no";
+    });
 }
 
 // The program around a slider editor.
@@ -177,9 +183,7 @@ template <typename Frame> void EditorUser::add(Frame *frame)
     });
     m_actions.insert("hideSlider", [=](const Step &) { frame->setSliderVisible(false); });
     m_actions.insert("wheelEnabled", [=](const Step &) { frame->setSpinBoxWheelEnable(true); });
-    m_actions.insert("released", [=](const Step &) { frame->setReleaseMode(true); });
-    // Long enough for the ticks to come by hand.
-    m_actions.insert("sampled", [=](const Step &) { frame->setTimeSamplingRate(60000); });
+    addModes(frame);
     m_actions.insert("locale",
                      [](const Step &step) { step.row.spinBox->setLocale(QLocale(step.text)); });
     for (const char *property : {"suffix", "prefix", "specialValueText"})
@@ -199,11 +203,19 @@ template <typename Frame> void EditorUser::add(Frame *frame)
     });
 }
 
+template <typename Frame> void EditorUser::addModes(Frame *frame)
+{
+    m_actions.insert("released", [=](const Step &) { frame->setReleaseMode(true); });
+    // Long enough for the ticks to come by hand.
+    m_actions.insert("sampled", [=](const Step &) { frame->setTimeSamplingRate(60000); });
+}
+
 // The program around a composite editor.
 template <typename Frame> void EditorUser::addComposite(Frame *frame)
 {
     const auto type = [](const Step &step) { return typename Frame::Type(2 << step.index); };
     log.watch(frame, &Frame::valueChanged, {});
+    addModes(frame);
     m_actions.insert("value",
                      [=](const Step &step) { frame->setValue(type(step), step.number(0)); });
     m_actions.insert("range", [=](const Step &step) {
@@ -231,6 +243,10 @@ void EditorUser::addRect(QWidget *editor)
     rect->setSizeLockEnable(true, RectEditFrame::SizeScaleLock);
     add("set", [=](int x, int y, int w, int h) { rect->setValue(x, y, w, h); });
     m_actions.insert("sizeLock", [=](const Step &step) { rect->setSizeLock(step.text == "on"); });
+    m_actions.insert("lockType", [=](const Step &step) {
+        rect->setSizeLockEnable(
+            true, step.text == "offset" ? RectEditFrame::OffsetLock : RectEditFrame::SizeScaleLock);
+    });
     m_actions.insert("ratio", [=](const Step &step) { rect->setSizeLock(step.text.toDouble()); });
     m_actions.insert("lock", [=](const Step &step) {
         User::click(rect->findChild<QToolButton *>(step.text == "size" ? "toolButtonLockSize"

@@ -79,12 +79,14 @@ private:
 //   wheel                   turns it over the slider, then over the field
 //   leave                   moves the pointer off the slider
 //   lock position, size     clicks a lock button
-// What the program does to a row (value and range to one of a composite editor, too):
-//   value, range, step, pageStep, decimals, direction (flags and value), wheelEnabled,
-//   released, sampled, tick (of the sampling), focus, hide, hideSlider, disable,
-//   enable; suffix, prefix, specialValueText and locale of the spin box
-// and to a rectangle, a crop or a mask:
-//   set, sizeLock on or off, ratio; area, areaFrom,
+// What the program does to any row:
+//   value, range, tick (of the sampling), focus, show, hide, disable, enable
+// to all rows: released, sampled
+// to a slider editor:
+//   step, pageStep, decimals, direction (flags and value), wheelEnabled, hideSlider;
+//   suffix, prefix, specialValueText and locale of the spin box
+// to a rectangle, a crop or a mask:
+//   set, sizeLock on or off, ratio, lockType offset or scale; area, areaFrom,
 //   leastPosition, leastSize, crop, rect; area, mask
 // What both find:
 //   shown      what the fields hold, each with the slider's position behind a slash where
@@ -123,7 +125,10 @@ private:
     };
     using Action = std::function<void(const Step &)>;
 
+    void addGestures();
+    void addSights();
     template <typename Frame> void add(Frame *frame);
+    template <typename Frame> void addModes(Frame *frame);
     template <typename Frame> void addComposite(Frame *frame);
     void addRect(QWidget *editor);
     QString inUnits(double value) const { return QString::number(value / m_unit, 'g', 12); }
