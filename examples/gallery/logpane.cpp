@@ -37,7 +37,6 @@ LogPane::LogPane(QWidget *parent) : QPlainTextEdit(parent)
 {
     setReadOnly(true);
     setFocusPolicy(Qt::NoFocus);
-    setLineWrapMode(NoWrap);
     setMaximumBlockCount(2000);
     // Only the family is set, so that the size follows the application's font.
     QFont font;
