@@ -51,8 +51,9 @@ QVector<EditorDescription> descriptions()
 
 EditorCollection::EditorCollection(QObject *parent) : QObject(parent)
 {
-    for (const EditorDescription &description : descriptions())
+    for (const EditorDescription &description : descriptions()) {
         m_plugins.append(new EditorPlugin(description, this));
+    }
 }
 
 QList<QDesignerCustomWidgetInterface *> EditorCollection::customWidgets() const

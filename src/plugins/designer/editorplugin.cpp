@@ -2,8 +2,10 @@
 
 #include <QtGui/QIcon>
 
-EditorPlugin::EditorPlugin(const EditorDescription &description, QObject *parent)
-    : QObject(parent), m_description(description)
+#include <utility>
+
+EditorPlugin::EditorPlugin(EditorDescription description, QObject *parent)
+    : QObject(parent), m_description(std::move(description))
 {
 }
 
@@ -37,8 +39,9 @@ QIcon EditorPlugin::icon() const
 {
     const QIcon drawing(QStringLiteral(":/vantorslider/icons/%1.svg").arg(shortName().toLower()));
     QIcon icon;
-    for (const int size : {22, 44})
+    for (const int size : {22, 44}) {
         icon.addPixmap(drawing.pixmap(size, size));
+    }
     return icon;
 }
 

@@ -21,7 +21,7 @@ class EditorPlugin : public QObject, public QDesignerCustomWidgetInterface
     Q_INTERFACES(QDesignerCustomWidgetInterface)
 
 public:
-    explicit EditorPlugin(const EditorDescription &description, QObject *parent);
+    explicit EditorPlugin(EditorDescription description, QObject *parent);
 
     QString name() const override;
     QString group() const override;
