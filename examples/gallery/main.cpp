@@ -16,8 +16,9 @@ int main(int argc, char *argv[])
     // The platform is chosen before the application exists, hence before the
     // options can be parsed properly.
     for (int i = 1; i < argc; ++i) {
-        if (std::strncmp(argv[i], "--shots", 7) == 0
-            && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        const bool needsNoDisplay =
+            std::strncmp(argv[i], "--shots", 7) == 0 || std::strcmp(argv[i], "--play") == 0;
+        if (needsNoDisplay && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
             qputenv("QT_QPA_PLATFORM", "offscreen");
         }
     }
@@ -43,13 +44,21 @@ int main(int argc, char *argv[])
                        "the signals."),
         QStringLiteral("folder"));
     parser.addOption(shotsOption);
+    const QCommandLineOption playOption(
+        QStringLiteral("play"),
+        QStringLiteral("Play a scripted user and print the signals; fail where something comes "
+                       "out otherwise than the user expects."));
+    parser.addOption(playOption);
     parser.process(app);
 
-    if (parser.isSet(shotsOption)) {
+    if (parser.isSet(shotsOption) || parser.isSet(playOption)) {
         MainWindow window;
         window.log()->setEcho(true);
         window.show();
         ScriptedUser(window).play();
+    }
+    if (parser.isSet(playOption) && !parser.isSet(shotsOption)) {
+        return 0;
     }
 
     MainWindow window;

@@ -60,7 +60,9 @@ void ScriptedUser::playCrop()
 
     say(QStringLiteral("drags the rectangle in the picture, which sets the editor silently"));
     PictureView *view = m_window.view();
+    const QString x = fieldText(QStringLiteral("X"));
     drag(view, view->rect().center(), view->rect().center() + QPoint(-60, -40));
+    expect(fieldText(QStringLiteral("X")) != x, "the editor shows where the crop was dragged to");
 }
 
 void ScriptedUser::playMaskAndLayout()
@@ -97,8 +99,8 @@ void ScriptedUser::playNumberPad()
     for (const char *key : {"7", "*", "6", "⏎"}) {
         click(pad->button(QString::fromUtf8(key)));
     }
-    say(pad->isVisible() ? QStringLiteral("sees the pad still open")
-                         : QStringLiteral("sees the pad closed"));
+    expect(!pad->isVisible(), "Enter closes the pad");
+    expect(fieldText(QStringLiteral("Contrast")) == QLatin1String("42"), "the pad's taps count");
     pad->setEnabledByFocus(false);
 }
 
@@ -158,19 +160,16 @@ void ScriptedUser::drag(const QString &row, int sliderPosition)
 
 void ScriptedUser::undoAndRedo(const QString &row, const std::function<void()> &change)
 {
-    const auto *field = this->row(row)->findChild<QAbstractSpinBox *>();
-    const QString before = field->text();
+    const QString before = fieldText(row);
     change();
-    const QString after = field->text();
+    const QString after = fieldText(row);
     User::press(Qt::Key_Z, Qt::ControlModifier);
-    const QString undone = field->text();
+    const QString undone = fieldText(row);
     User::press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    const QString redone = field->text();
+    const QString redone = fieldText(row);
     say(QStringLiteral("presses Ctrl+Z, Ctrl+Shift+Z: %1 goes from %2 to %3, to %4")
             .arg(row, after, undone, redone));
-    if (undone != before || redone != after) {
-        qFatal("That was not one step.");
-    }
+    expect(after != before && undone == before && redone == after, "that was one step");
 }
 
 // Until the button has repeated its step.
@@ -236,6 +235,18 @@ QSlider *ScriptedUser::slider(const QString &row) const
     return this->row(row)->findChild<QSlider *>();
 }
 
+QString ScriptedUser::fieldText(const QString &row) const
+{
+    return this->row(row)->findChild<QAbstractSpinBox *>()->text();
+}
+
+void ScriptedUser::expect(bool isSo, const char *what)
+{
+    if (!isSo) {
+        qFatal("The scripted user expected that %s.", what);
+    }
+}
+
 void ScriptedUser::say(const QString &what) const
 {
     m_window.log()->record(QStringLiteral("— user"), what);
@@ -277,6 +288,7 @@ void ScriptedUser::turnWheelOver(const QString &row)
             .arg(target->value())
             .arg(top)
             .arg(bar->value()));
+    expect(target->value() == value && bar->value() > top, "the wheel scrolls the page alone");
     m_window.resize(size);
 }
 

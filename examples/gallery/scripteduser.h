@@ -18,7 +18,8 @@ class ScriptedUser : public QObject
 public:
     explicit ScriptedUser(MainWindow &window);
 
-    // A tour of every page; what it does and what comes of it is in the log.
+    // A tour of every page; what it does and what comes of it is in the log. The
+    // program ends where something comes out otherwise than the user expects.
     void play();
 
     void showPage(const QString &title);
@@ -40,6 +41,8 @@ private:
     void playUndo();
 
     QSlider *slider(const QString &row) const;
+    QString fieldText(const QString &row) const;
+    static void expect(bool isSo, const char *what);
     void say(const QString &what) const;
     void undoAndRedo(const QString &row, const std::function<void()> &change);
     void hold(const QString &row, const char *button);
