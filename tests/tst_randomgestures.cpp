@@ -118,10 +118,9 @@ private:
         if (!m_user.rows[0].whole)
             gesture.replace("/1", "/100");
         const bool isLock = gesture.startsWith("lock"), isEntry = gesture.contains('(');
-        const QString name = m_user.rows[row].name;
         bool isChange = false;
         for (const QString &action : gesture.split(" | ")) {
-            const QString heard = perform(isLock || name.isEmpty() ? action : name + ' ' + action);
+            const QString heard = perform(isLock ? action : m_user.rows[row].step(action));
             verify(!heard.contains("warning") && !heard.contains("too early"), "A complaint");
             int count = 0;
             for (const QString &word : heard.split(' ')) {

@@ -20,6 +20,11 @@ struct EditorRow
 
     // Clicks into the field, which selects its text, and types over it.
     void type(const QString &text) const;
+    // The action as a step of a table.
+    QString step(const QString &action) const
+    {
+        return name.isEmpty() ? action : name + ' ' + action;
+    }
 
     QString name; // in a composite editor: x, y, w, h, r, g, b, all or opacity
     QWidget *frame;
