@@ -23,8 +23,6 @@ private Q_SLOTS:
     void windows() { runCheck(); }
     void scripts_data();
     void scripts() { runCheck(); }
-    void focusProxy_data();
-    void focusProxy() { runCheck(); }
     void replacedLineEdit();
 
 private:
@@ -174,11 +172,10 @@ void tst_TypedEntries::refused()
 
 namespace {
 
+// A class of the host's own, which its destructor leaves before it hides the fields.
 template <typename Window> struct Host : Window
 {
     using Window::Window;
-    ~Host() override { isGone = true; }
-    bool isGone = false;
 };
 
 template <typename Window, typename AnyUser> void destroyWindow(AnyUser &user, const QString &typed)
@@ -214,8 +211,6 @@ void tst_TypedEntries::windows_data()
     QTest::addColumn<Check>("check");
     for (const QString typed : {"42", "1+1", "7="}) {
         addForBoth("widget, " + typed, [=](auto &user) { destroyWindow<QWidget>(user, typed); });
-        addForBoth("host's widget, " + typed,
-                   [=](auto &user) { destroyWindow<Host<QWidget>>(user, typed); });
         addForBoth("host's dialog, " + typed,
                    [=](auto &user) { destroyWindow<Host<QDialog>>(user, typed); });
     }
@@ -223,9 +218,14 @@ void tst_TypedEntries::windows_data()
         Host<ShownByItsConstructor<std::decay_t<decltype(user)>>> window(user);
         QCoreApplication::processEvents();
         user.row.field->selectAll();
-        user.perform("keys 1/4*4\t");
-        QCOMPARE(user.heard().remove("finished").trimmed(), QString(user.isWhole ? "1" : "100"));
+        user.play(user.isWhole ? "keys 1/4*4\t: finished 1 finished" : "keys 1/4*4\t: 100");
         user.frame->setParent(&user.page);
+    });
+    // Enter can't hand the focus to the row then.
+    addForBoth("focus proxy", [](auto &user) {
+        user.frame->setFocusProxy(user.row.spinBox);
+        user.play(user.isWhole ? "type 3*9\n: finished 27 left" : "enter 3*9: 100");
+        QVERIFY(user.row.spinBox->hasFocus());
     });
 }
 
@@ -235,48 +235,30 @@ void tst_TypedEntries::scripts_data()
 {
     QTest::addColumn<Check>("check");
     for (const QString script : {"for(;;){}", "for(i=1;i<1e4;i++);7"}) {
-        const bool isEndless = script.contains("{}");
         for (const QString end : {"\n", "\t", "="}) {
-            addForBoth(
-                script + QString(end).replace('\n', "Enter").replace('\t', "Tab"), [=](auto &user) {
-                    user.perform("click");
-                    user.perform("paste " + script);
-                    QTimer::singleShot(0, &user.page, [&user] { user.log.add("host"); });
-                    user.perform("keys " + end);
-                    // With "=" the floating-point field reports when it is left.
-                    const bool isReported = !isEndless && (user.isWhole || end != "=");
-                    const QString heard = user.heard().remove("finished").remove("left").trimmed();
-                    QCOMPARE(heard, QString(isReported ? user.isWhole ? "7" : "100" : ""));
-                    QString later;
-                    QTRY_COMPARE(later += user.heard(), QString("host"));
-                });
+            addForBoth(script + QString(end).replace('\n', "Enter").replace('\t', "Tab"),
+                       [=](auto &user) {
+                           user.play("click | paste " + script);
+                           QTimer::singleShot(0, &user.page, [&user] { user.log.add("host"); });
+                           user.perform("keys " + end);
+                           QVERIFY(!user.heard().contains("host"));
+                           QString later;
+                           QTRY_COMPARE(later += user.heard(), QString("host"));
+                       });
         }
         addForBoth(script + " and Escape", [=](auto &user) {
-            auto *const dialog = new QDialog;
+            const QPointer<QDialog> dialog(new QDialog);
             dialog->setAttribute(Qt::WA_DeleteOnClose);
             dialog->setLayout(new QVBoxLayout);
             dialog->layout()->addWidget(user.frame);
             QVERIFY(User::show(*dialog));
-            user.perform("click");
-            user.perform("paste " + script);
+            user.play("click | paste " + script);
             QApplication::postEvent(dialog, new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, {}));
             user.perform("keys \t");
-            QPointer<QWidget> watched(dialog);
-            QVERIFY(watched);
-            QTRY_VERIFY(!watched);
+            QVERIFY(dialog);
+            QTRY_VERIFY(!dialog);
         });
     }
-}
-
-// Enter can't hand the focus to the row then.
-void tst_TypedEntries::focusProxy_data()
-{
-    QTest::addColumn<Check>("check");
-    addForBoth("Enter", [](auto &user) {
-        user.frame->setFocusProxy(user.row.spinBox);
-        user.play(user.isWhole ? "type 3*9\n: finished 27 left" : "enter 3*9: 100");
-        QVERIFY(user.row.spinBox->hasFocus());
-    });
 }
 
 void tst_TypedEntries::replacedLineEdit()
