@@ -1,227 +1,208 @@
-#include "edituser.h"
+#include "editoruser.h"
+#include "recteditframe.h"
 #include "rgballeditframe.h"
 #include "rgbeditframe.h"
 #include "rgbopacityeditframe.h"
 
-#include <QtCore/QMetaEnum>
 #include <QtWidgets/QLayout>
 
 using namespace Vantor::Widgets;
 
 // What every composite editor does alike with its rows: the operations that a
-// type flag sends to one row, those that reach all rows, visibility and spacing.
+// type flag sends to one row, those that reach all rows, visibility and form. The
+// colour editors report and read their values here, too.
 class tst_CompositeEditors : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void rows_data();
-    void rows();
-    void spacing();
-    void spacingOfPanels();
+    void rows() { runCheck(); }
+    void form();
+    void blockKeepsItsRows();
+    void labelMaxLength();
 };
 
 namespace {
 
-// A row as host and user find it. Drag and wheel are slow to try out.
-using Settings = QMap<QString, QString>;
-
-Settings settingsOf(const Row &row, bool withGestures)
+// A row as host and user find it.
+QStringList settingsOf(const EditorRow &row)
 {
     const auto widths = [](const QWidget *widget) {
         return limits(widget->minimumWidth(), widget->maximumWidth());
     };
     const auto right = [&row](const char *layout) {
-        return row.frame->findChild<QLayout *>(layout)->contentsMargins().right();
+        return QString::number(row.frame->findChild<QLayout *>(layout)->contentsMargins().right());
     };
-    const auto both = [](const auto &first, const auto &second) {
-        return QStringLiteral("%1,%2").arg(first).arg(second);
-    };
-    Settings settings {
-        {"text", row.label->text()},
-        {"labelWidth", widths(row.label)},
-        {"buttonWidths", both(widths(row.minus), widths(row.plus))},
-        {"spinBoxWidth", widths(row.spinBox)},
-        {"spacings", both(right("nameLayout"), right("sliderLayout"))},
-        {"value", row.spinBox->text()},
-        {"range", limits(row.frame->minimum(), row.frame->maximum())},
-        {"pageStep", QString::number(row.slider->pageStep())},
-        {"repeat", both(row.minus->autoRepeat(), row.plus->autoRepeat())},
-        {"delay", both(row.minus->autoRepeatDelay(), row.plus->autoRepeatDelay())},
-        {"interval", both(row.minus->autoRepeatInterval(), row.plus->autoRepeatInterval())}};
-    const int value = row.frame->value();
-    row.frame->setValue(20);
+    const int value = row.whole->value();
+    QStringList settings {"text=" + row.label->text(),
+                          "label=" + widths(row.label),
+                          "plus=" + widths(row.plus),
+                          "box=" + widths(row.spinBox),
+                          "gaps=" + right("nameLayout") + ',' + right("sliderLayout"),
+                          "value=" + row.spinBox->text(),
+                          "range=" + limits(row.slider->minimum(), row.slider->maximum()),
+                          "pageStep=" + QString::number(row.slider->pageStep()),
+                          "repeat=" + QString::number(row.plus->autoRepeat()),
+                          "delay=" + QString::number(row.plus->autoRepeatDelay()),
+                          "interval=" + QString::number(row.plus->autoRepeatInterval())};
+    row.whole->setValue(20);
     User::click(row.plus);
-    settings["plus"] = QString::number(row.frame->value());
-    if (withGestures) {
-        // While the user holds the handle away from the value.
-        row.frame->setValue(20);
-        User::grabHandle(row.slider);
-        User::moveHandle(row.slider, row.slider->maximum());
-        settings["drag"] = row.frame->value() == 20 ? "kept" : "followed";
-        settings["sampling"] = QString::number(samplingInterval(row.frame));
-        User::dropHandle(row.slider);
-        row.frame->setValue(20);
-        User::click(row.spinBox);
-        User::turnWheel(row.spinBox);
-        settings["wheel"] = row.frame->value() == 20 ? "stays" : "turns";
-    }
-    row.frame->setValue(value);
+    settings.append("step=" + QString::number(row.whole->value() - 20));
+    row.whole->setValue(20);
+    User::grabHandle(row.slider);
+    User::moveHandle(row.slider, row.slider->maximum());
+    settings.append(row.whole->value() == 20 ? "drag=kept" : "drag=followed");
+    settings.append("ticks=" + QString::number(samplingInterval(row.frame)));
+    User::dropHandle(row.slider);
+    row.whole->setValue(20);
+    User::click(row.spinBox);
+    User::turnWheel(row.spinBox);
+    settings.append(row.whole->value() == 20 ? "wheel=stays" : "wheel=turns");
+    row.whole->setValue(value);
     return settings;
 }
 
-// An operation and what it makes of a row, "delay=321,321": of the row that the
-// flag names, or of all rows where there is no warning for a wrong flag.
+template <typename Frame> constexpr bool isRect = std::is_same_v<Frame, RectEditFrame>;
+
+// An operation by the end of its warning, what it makes of a row, and how it is called.
 template <typename Frame> struct Operation
 {
-    const char *name;
-    QString warning;
-    std::function<void(Frame &, typename Frame::Type)> call;
+    QString name;
     QString result;
+    std::function<void(Frame &, typename Frame::Type)> call;
+    bool isForAll = false;
 };
 
-template <typename Frame> QVector<Operation<Frame>> operations()
+template <typename F, typename T = typename F::Type> QVector<Operation<F>> operationsOf()
 {
-    using F = Frame;
-    using T = typename Frame::Type;
-    const bool isRect = std::is_base_of<RectEditFrame, Frame>::value;
-    const QString set = isRect ? "Set Rect " : "Set RGB ";
-    return {
-        {"setLabelText", isRect ? "Set Rect label text" : "Set RGBAll label text",
-         [](F &f, T t) { f.setLabelText(t, "Gain"); }, "text=Gain"},
-        {"setLabelWidthRange", set + "label width range",
-         [](F &f, T t) { f.setLabelWidthRange(t, 90, 20); }, "labelWidth=20..90"},
-        {"setLabelFixedWidth", set + "label fixed width",
-         [](F &f, T t) { f.setLabelFixedWidth(t, 33); }, "labelWidth=33..33"},
-        {"setButtonWidthRange", set + "button width range",
-         [](F &f, T t) { f.setButtonWidthRange(t, 60, 30); }, "buttonWidths=30..60,30..60"},
-        {"setButtonFixedWidth", set + "button fixed width",
-         [](F &f, T t) { f.setButtonFixedWidth(t, 41); }, "buttonWidths=41..41,41..41"},
-        {"setSpinBoxWidthRange", set + "spinbox width range",
-         [](F &f, T t) { f.setSpinBoxWidthRange(t, 80, 40); }, "spinBoxWidth=40..80"},
-        {"setSpinBoxFixedWidth", set + "spinbox fixed width",
-         [](F &f, T t) { f.setSpinBoxFixedWidth(t, 72); }, "spinBoxWidth=72..72"},
-        {"setValue", set + "value", [](F &f, T t) { f.setValue(t, 77); }, "value=77"},
-        {"setRange", isRect ? "Set Rect value range" : "Set RGB range",
-         [](F &f, T t) { f.setRange(t, 0, 110); }, "range=0..110"},
-        {"setSingleStep", set + "single step", [](F &f, T t) { f.setSingleStep(t, 3); }, "plus=23"},
-        {"setPageStep", set + "page step", [](F &f, T t) { f.setPageStep(t, 7); }, "pageStep=7"},
-        {"setHorizontalSpacing", "", [](F &f, T) { f.setHorizontalSpacing(17, 23); },
-         "spacings=17,23"},
-        {"setSpinBoxWheelEnable", "", [](F &f, T) { f.setSpinBoxWheelEnable(true); },
-         "wheel=turns"},
-        {"setAutoRepeat", "", [](F &f, T) { f.setAutoRepeat(true); }, "repeat=1,1"},
-        {"setAutoRepeatDelay", "", [](F &f, T) { f.setAutoRepeatDelay(321); }, "delay=321,321"},
-        {"setAutoRepeatInterval", "", [](F &f, T) { f.setAutoRepeatInterval(45); },
-         "interval=45,45"},
-        {"setReleaseMode", "", [](F &f, T) { f.setReleaseMode(true); }, "drag=kept"},
-        {"setTimeSamplingRate", "", [](F &f, T) { f.setTimeSamplingRate(60000); },
-         "sampling=60000 repeat=1,1"},
-    };
+    QVector<Operation<F>> operations {
+        {isRect<F> ? " label text" : "All label text", "text=Gain",
+         [](F &f, T t) { f.setLabelText(t, "Gain"); }},
+        {" label width range", "label=20..90", [](F &f, T t) { f.setLabelWidthRange(t, 90, 20); }},
+        {" label fixed width", "label=33..33", [](F &f, T t) { f.setLabelFixedWidth(t, 33); }},
+        {" button width range", "plus=30..60", [](F &f, T t) { f.setButtonWidthRange(t, 60, 30); }},
+        {" button fixed width", "plus=41..41", [](F &f, T t) { f.setButtonFixedWidth(t, 41); }},
+        {" spinbox width range", "box=40..80",
+         [](F &f, T t) { f.setSpinBoxWidthRange(t, 80, 40); }},
+        {" spinbox fixed width", "box=72..72", [](F &f, T t) { f.setSpinBoxFixedWidth(t, 72); }},
+        {" value", "value=77", [](F &f, T t) { f.setValue(t, 77); }},
+        {isRect<F> ? " value range" : " range", "range=0..110",
+         [](F &f, T t) { f.setRange(t, 0, 110); }},
+        {" single step", "step=3", [](F &f, T t) { f.setSingleStep(t, 3); }},
+        {" page step", "pageStep=7", [](F &f, T t) { f.setPageStep(t, 7); }},
+        {" spacing", "gaps=17,23", [](F &f, T) { f.setHorizontalSpacing(17, 23); }, true},
+        {" wheel", "wheel=turns", [](F &f, T) { f.setSpinBoxWheelEnable(true); }, true},
+        {" repeat", "repeat=1", [](F &f, T) { f.setAutoRepeat(true); }, true},
+        {" repeat delay", "delay=321", [](F &f, T) { f.setAutoRepeatDelay(321); }, true},
+        {" repeat interval", "interval=45", [](F &f, T) { f.setAutoRepeatInterval(45); }, true},
+        {" release mode", "drag=kept", [](F &f, T) { f.setReleaseMode(true); }, true},
+        {" sampling", "repeat=1 ticks=50000", [](F &f, T) { f.setTimeSamplingRate(50000); }, true}};
+    if constexpr (isRect<F>) {
+        const int directions = SliderEditFrame::AllowedToSmaller;
+        operations.append({" value change direction", "step=0 drag=kept",
+                           [](F &f, T t) { f.setValueChangeDirection(t, directions, 20); }});
+    }
+    return operations;
 }
 
 // A row's own flag changes that row alone, any other value nothing, and is
 // reported in the name of the operation, which may be another class's.
-template <typename Frame>
-void checkOperation(const Operation<Frame> &operation, const QString &reporter)
+template <typename Frame> void checkOperation(const Operation<Frame> &operation)
 {
-    Frame frame;
-    const Rows rows = rowsOf(frame);
-    QVERIFY(User::show(frame));
-    EventLog log;
-    log.watch(&frame, &Frame::valueChanged, "valueChanged");
-    const bool isForAll = operation.warning.isEmpty();
-    QMap<int, Settings> expected;
-    for (auto row = rows.begin(); row != rows.end(); ++row)
-        expected[row.key()] = settingsOf(*row, isForAll);
-    const QList<int> flags =
-        isForAll ? QList<int>({30}) : QList<int>({-2, 0, 1, 2, 4, 8, 16, 3, 6, 24, 30, 32, 64});
-    for (const int flag : flags) {
-        frame.setEditerVisible(0); // hidden rows are set as well
-        log.take(); // what the readings caused
-        operation.call(frame, static_cast<typename Frame::Type>(flag));
-        QStringList warnings;
-        if (!isForAll && !rows.contains(flag)) {
-            warnings.append("warning: " + operation.warning + " has failed. The type  "
-                            + QString::number(flag) + "  is invalid.");
-            for (const QString &part :
-                 {reporter.toLower() + ".cpp ", reporter + "::" + operation.name + '(',
-                  QString(" default")})
-                QVERIFY2(log.lastContext().contains(part), qPrintable(log.lastContext()));
-        }
-        QCOMPARE(log.take(), warnings);
-        frame.setEditerVisible(30);
+    UserOf<Frame> user;
+    QVector<QStringList> settings;
+    for (const EditorRow &row : user.rows)
+        settings.append(settingsOf(row));
+    const QString warning = QString(isRect<Frame> ? "warning: Set Rect" : "warning: Set RGB")
+        + operation.name + " has failed. The type  %1  is invalid.";
+    const QList<int> flags {2, 4, 8, 16, -2, 0, 6};
+    for (int i = 0; i < (operation.isForAll ? 1 : flags.size()); ++i) {
+        user.frame->setEditerVisible(0); // hidden rows are set as well
+        user.heard(); // what the readings caused
+        operation.call(*user.frame, static_cast<typename Frame::Type>(flags[i]));
+        const bool isWrong = !operation.isForAll && i >= user.rows.size();
+        QCOMPARE(user.heard(), isWrong ? warning.arg(flags[i]) : QString());
+        const QString reporter = isRect<Frame> ? "RectEditFrame" : "RGBEditFrame";
+        for (const QString &part :
+             {reporter.toLower() + ".cpp ", reporter + "::set", QString(" default")})
+            QVERIFY(!isWrong || user.log.lastContext().contains(part));
+        user.frame->setEditerVisible(30);
         QCoreApplication::processEvents();
-        for (auto row = rows.begin(); row != rows.end(); ++row) {
-            if (isForAll || flag == row.key()) {
-                for (const QString &setting : operation.result.split(' '))
-                    expected[row.key()][setting.section('=', 0, 0)] = setting.section('=', 1);
-            }
-            QCOMPARE(settingsOf(*row, isForAll), expected[row.key()]);
+        for (int row = 0; row < user.rows.size(); ++row) {
+            const QStringList before = settings[row];
+            settings[row] = settingsOf(user.rows[row]);
+            QStringList changes = settings[row];
+            for (const QString &setting : before)
+                changes.removeOne(setting);
+            const bool isNamed = operation.isForAll || row == i;
+            QCOMPARE(changes.join(' '), isNamed ? operation.result : QString());
         }
     }
 }
 
+// A panel or block is hidden as a whole when none of its rows is asked for.
 template <typename Frame> void checkVisibility()
 {
-    Frame frame;
-    const Rows rows = rowsOf(frame);
+    UserOf<Frame> user;
     for (int i = 0; i < 64; ++i) {
         const int types = i * 37 % 64;
-        frame.setEditerVisible(types);
-        for (auto row = rows.begin(); row != rows.end(); ++row)
-            QCOMPARE(row->frame->isVisibleTo(&frame), (types & row.key()) != 0);
+        user.frame->setEditerVisible(types);
+        QMap<QWidget *, bool> panels {{user.frame, true}};
+        for (int row = 0; row < user.rows.size(); ++row) {
+            const bool isShown = (types & 2 << row) != 0;
+            QCOMPARE(user.rows[row].frame->isVisible(), isShown);
+            panels[user.rows[row].frame->parentWidget()] |= isShown;
+        }
+        for (auto panel = panels.begin(); panel != panels.end(); ++panel)
+            QCOMPARE(panel.key()->isVisible(), panel.value());
     }
-}
-
-// The spacer at the end of the editor's layout.
-QString lastSpacer(const QWidget &editor)
-{
-    const QLayout *layout = editor.layout();
-    const QSpacerItem *spacer = layout->itemAt(layout->count() - 1)->spacerItem();
-    const auto policies = QMetaEnum::fromType<QSizePolicy::Policy>();
-    return QStringLiteral("%1x%2 %3 %4")
-        .arg(spacer->sizeHint().width())
-        .arg(spacer->sizeHint().height())
-        .arg(policies.valueToKey(spacer->sizePolicy().horizontalPolicy()))
-        .arg(policies.valueToKey(spacer->sizePolicy().verticalPolicy()));
-}
-
-template <typename Frame> void checkLastSpacer()
-{
-    Frame frame;
-    frame.setLastVerticalSpacerExpanding(false);
-    QCOMPARE(lastSpacer(frame), QString("20x0 Expanding Ignored"));
-    frame.setLastVerticalSpacerExpanding(true);
-    QCOMPARE(lastSpacer(frame), QString("20x20 Expanding Expanding"));
 }
 
 // Holds the handle of each row in turn.
 template <typename Frame> void checkMousePressed()
 {
-    Frame frame;
-    QVERIFY(User::show(frame));
-    for (const Row &row : rowsOf(frame)) {
-        QVERIFY(!frame.isMousePressed());
+    UserOf<Frame> user;
+    for (const EditorRow &row : user.rows) {
+        QVERIFY(!user.frame->isMousePressed());
         User::grabHandle(row.slider);
-        QVERIFY(frame.isMousePressed());
+        QVERIFY(user.frame->isMousePressed());
         User::dropHandle(row.slider);
     }
-    QVERIFY(!frame.isMousePressed());
+    QVERIFY(!user.frame->isMousePressed());
 }
 
-// The class whose warnings it shows may be another one's.
-template <typename Frame>
-void addChecks(const char *reporter, const QVector<Operation<Frame>> &furtherOperations = {})
+// Size and policies of the spacer at the end of the editor's layout.
+QList<int> lastSpacer(const QWidget &editor)
+{
+    const QLayout *layout = editor.layout();
+    const QSpacerItem *spacer = layout->itemAt(layout->count() - 1)->spacerItem();
+    return {spacer->sizeHint().width(), spacer->sizeHint().height(),
+            spacer->sizePolicy().horizontalPolicy(), spacer->sizePolicy().verticalPolicy()};
+}
+
+// What the four-value editors start with, and each row in its place of the signal.
+template <typename Frame> void checkColours(const QString &fourth, int max, int value)
+{
+    UserOf<Frame> user;
+    user.play(QString("ranges: 0..255 0..255 0..255 0..%2 | shown: 50 50 50 %3 | "
+                      "r value 10 | g value 20 | b value 30 | %1 value 40 | "
+                      "r minus: (9,20,30,40) | g minus: (9,19,30,40) | b minus: (9,19,29,40) | "
+                      "%1 minus: (9,19,29,39)")
+                  .arg(fourth)
+                  .arg(max)
+                  .arg(value));
+    QVector<int> values(4);
+    user.frame->value(values[0], values[1], values[2], values[3]);
+    QCOMPARE(values, QVector<int>({9, 19, 29, 39}));
+}
+
+template <typename Frame> void addChecks()
 {
     const QByteArray name = QByteArray(Frame::staticMetaObject.className()).split(':').last();
-    for (const auto &operation : operations<Frame>() + furtherOperations) {
-        QTest::addRow("%s::%s", name.constData(), operation.name)
-            << Check([=] { checkOperation(operation, reporter); });
-    }
-    QTest::addRow("%s::setEditerVisible", name.constData()) << Check(checkVisibility<Frame>);
-    QTest::addRow("%s::setLastVerticalSpacerExpanding", name.constData())
-        << Check(checkLastSpacer<Frame>);
+    for (const auto &operation : operationsOf<Frame>())
+        QTest::newRow(name + operation.name.toUtf8()) << Check([=] { checkOperation(operation); });
+    QTest::newRow(name + " visibility") << Check(checkVisibility<Frame>);
 }
 
 } // namespace
@@ -229,68 +210,108 @@ void addChecks(const char *reporter, const QVector<Operation<Frame>> &furtherOpe
 void tst_CompositeEditors::rows_data()
 {
     QTest::addColumn<Check>("check");
-    addChecks<RGBEditFrame>("RGBEditFrame");
-    addChecks<RGBAllEditFrame>("RGBEditFrame");
-    addChecks<RGBOpacityEditFrame>("RGBEditFrame");
-    const auto hold = [](RectEditFrame &frame, RectEditFrame::Type type) {
-        frame.setValueChangeDirection(type, SliderEditFrame::AllowedToSmaller, 20);
+    addChecks<RGBEditFrame>();
+    addChecks<RGBAllEditFrame>();
+    addChecks<RGBOpacityEditFrame>();
+    addChecks<RectEditFrame>();
+    QTest::newRow("RGBAllEditFrame reports")
+        << Check([] { checkColours<RGBAllEditFrame>("all", 255, 50); });
+    QTest::newRow("RGBOpacityEditFrame reports")
+        << Check([] { checkColours<RGBOpacityEditFrame>("opacity", 100, 100); });
+    QTest::newRow("RGBEditFrame pressed") << Check(checkMousePressed<RGBEditFrame>);
+    QTest::newRow("RectEditFrame pressed") << Check(checkMousePressed<RectEditFrame>);
+}
+
+// The master row stands above the block, the opacity below it; style sheets
+// select on the properties.
+void tst_CompositeEditors::form()
+{
+    using P = QSizePolicy;
+    using Numbers = QList<int>;
+    const auto check = [](auto &editor, const QSize &size, const QString &names,
+                          const Numbers &spacer) {
+        const QLayout *layout = editor.layout();
+        QStringList found {editor.objectName()};
+        for (int i = 0; i < layout->count() - 1; ++i)
+            found.append(layout->itemAt(i)->widget()->objectName());
+        QCOMPARE(found.join(' '), names);
+        QVERIFY(editor.property("isSliderFrame").toBool());
+        QCOMPARE(editor.size(), size);
+        QCOMPARE(layout->contentsMargins(), QMargins());
+        QCOMPARE(layout->spacing(), 0);
+        editor.setVerticalSpacing(9);
+        QCOMPARE(layout->spacing(), 9);
+        QCOMPARE(lastSpacer(editor), spacer);
+        editor.setLastVerticalSpacerExpanding(false);
+        QCOMPARE(lastSpacer(editor), Numbers({20, 0, P::Expanding, P::Ignored}));
+        editor.setLastVerticalSpacerExpanding(true);
+        QCOMPARE(lastSpacer(editor), Numbers({20, 20, P::Expanding, P::Expanding}));
     };
-    addChecks<RectEditFrame>(
-        "RectEditFrame",
-        {{"setValueChangeDirection", "Set Rect value change direction", hold, "plus=20"}});
-    QTest::newRow("RGBEditFrame::isMousePressed") << Check(checkMousePressed<RGBEditFrame>);
-    QTest::newRow("RectEditFrame::isMousePressed") << Check(checkMousePressed<RectEditFrame>);
-}
-
-void tst_CompositeEditors::rows()
-{
-    QFETCH(Check, check);
-    check();
-}
-
-void tst_CompositeEditors::spacing()
-{
-    const auto block = [](QWidget &frame) { return frame.findChild<RGBEditFrame *>(); };
     RGBEditFrame rgb;
+    check(rgb, {537, 94}, "RGBEditFrame frameR frameG frameB", {20, 20, P::Minimum, P::Expanding});
+    const char *properties[] = {"isColorControl_Red", "isColorControl_Green",
+                                "isColorControl_Blue"};
+    for (int i = 0; i < 3; ++i)
+        QVERIFY(rowsOf(rgb)[i].slider->property(properties[i]).toBool());
     RGBAllEditFrame all;
+    check(all, {537, 94}, "RGBAllEditFrame frameAll frameRGB", {20, 20, P::Minimum, P::Preferred});
+    const auto *block = all.findChild<RGBEditFrame *>();
+    QCOMPARE(lastSpacer(*block), Numbers({20, 20, P::Minimum, P::Expanding}));
+    QCOMPARE(block->layout()->spacing(), 0);
     RGBOpacityEditFrame opacity;
-    QCOMPARE(lastSpacer(rgb), QString("20x20 Minimum Expanding"));
-    QCOMPARE(lastSpacer(all), QString("20x20 Minimum Preferred"));
-    QCOMPARE(lastSpacer(*block(all)), QString("20x20 Minimum Expanding"));
-    QCOMPARE(lastSpacer(opacity), QString("20x277 Minimum Expanding"));
-    QCOMPARE(lastSpacer(*block(opacity)), QString("20x0 Expanding Ignored"));
-    all.setLastVerticalSpacerExpanding(false);
-    QCOMPARE(lastSpacer(*block(all)), QString("20x20 Minimum Expanding"));
-    opacity.setLastVerticalSpacerExpanding(true);
-    QCOMPARE(lastSpacer(*block(opacity)), QString("20x0 Expanding Ignored"));
+    check(opacity, {400, 75}, "RGBOpacityEditFrame frameRGB frameOpacity",
+          {20, 277, P::Minimum, P::Expanding});
+    block = opacity.findChild<RGBEditFrame *>();
+    QCOMPARE(lastSpacer(*block), Numbers({20, 0, P::Expanding, P::Ignored}));
+    QCOMPARE(block->layout()->spacing(), 9);
 
-    rgb.setVerticalSpacing(9);
-    QCOMPARE(rgb.layout()->spacing(), 9);
-    all.setVerticalSpacing(6);
-    QCOMPARE(all.layout()->spacing(), 6);
-    QCOMPARE(block(all)->layout()->spacing(), 0);
-    opacity.setVerticalSpacing(4);
-    QCOMPARE(opacity.layout()->spacing(), 4);
-    QCOMPARE(block(opacity)->layout()->spacing(), 4);
-}
-
-void tst_CompositeEditors::spacingOfPanels()
-{
-    RectEditFrame frame;
-    const auto spacings = [&frame] {
-        QList<int> values {frame.layout()->spacing()};
+    RectEditFrame rect;
+    const auto spacings = [&rect] {
+        Numbers values;
         for (const char *panel : {"framePosition", "frameSize"})
-            values.append(frame.findChild<QFrame *>(panel)->layout()->spacing());
+            values.append(rect.findChild<QFrame *>(panel)->layout()->spacing());
         for (const char *column : {"verticalLayoutFramePosition", "verticalLayoutFrameSize"})
-            values.append(frame.findChild<QLayout *>(column)->spacing());
+            values.append(rect.findChild<QLayout *>(column)->spacing());
         return values;
     };
-    QCOMPARE(spacings(), QList<int>({0, 0, 0, 0, 0}));
-    frame.setVerticalSpacing(8);
-    QCOMPARE(spacings(), QList<int>({8, 8, 8, 0, 0}));
-    frame.setHorizontalSpacing(3, 5);
-    QCOMPARE(spacings(), QList<int>({8, 5, 5, 0, 0}));
-    QCOMPARE(lastSpacer(frame), QString("20x14 Minimum Expanding"));
+    QCOMPARE(spacings(), Numbers({0, 0, 0, 0}));
+    check(rect, {528, 169}, "RectEditFrame framePosition frameSize",
+          {20, 14, P::Minimum, P::Expanding});
+    QCOMPARE(spacings(), Numbers({9, 9, 0, 0}));
+    rect.setHorizontalSpacing(3, 5);
+    QCOMPARE(spacings(), Numbers({5, 5, 0, 0}));
+}
+
+// A block that is hidden as a whole leaves its rows as they are.
+void tst_CompositeEditors::blockKeepsItsRows()
+{
+    RGBAllEditFrame frame;
+    frame.setEditerVisible(10);
+    frame.setEditerVisible(16);
+    const auto rows = rowsOf(frame);
+    QVERIFY(!rows[0].frame->isHidden() && rows[1].frame->isHidden());
+}
+
+// Only the red row's font measures, and the master's own.
+void tst_CompositeEditors::labelMaxLength()
+{
+    using Frame = RGBAllEditFrame;
+    Frame frame;
+    const auto rows = rowsOf(frame);
+    QCOMPARE(frame.labelMaxLength(), 0);
+    const int sizes[] = {20, 30, 40, 15};
+    for (int i = 0; i < 4; ++i)
+        rows[i].frame->setFont(QFont(frame.font().family(), sizes[i]));
+    QString text;
+    for (const auto type : {Frame::ALL, Frame::B, Frame::R, Frame::G}) {
+        frame.setLabelText(type, text += "WW");
+        const QFontMetrics metrics = rows[type == Frame::ALL ? 3 : 0].frame->fontMetrics();
+#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
+        QCOMPARE(frame.labelMaxLength(), metrics.horizontalAdvance(text));
+#else
+        QCOMPARE(frame.labelMaxLength(), metrics.width(text));
+#endif
+    }
 }
 
 int main(int argc, char *argv[])
