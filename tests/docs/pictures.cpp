@@ -2,128 +2,15 @@
 // guide_pictures FOLDER. They are taken of real editors after real events.
 #include "slidereditframe.h"
 #include "slidereditframedouble.h"
+#include "testuser.h"
 
 #include <QtCore/QDir>
-#include <QtTest/QtTest>
-#include <QtWidgets/QApplication>
+#include <QtCore/QFile>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QVBoxLayout>
 
-#include <cstdio>
-
 using Vantor::Widgets::SliderEditFrame;
 using Vantor::Widgets::SliderEditFrameDouble;
-
-namespace {
-
-enum Columns { AsMade, Aligned };
-
-// A row of each kind, in one column as the guide says how.
-struct Rows
-{
-    explicit Rows(Columns columns)
-    {
-        gain.setLabelText(QStringLiteral("Gain"));
-        gain.setRange(0, 255);
-        gain.setValue(96);
-        gamma.setLabelText(QStringLiteral("Gamma"));
-        gamma.setSingleStep(0.05);
-        gamma.setDecimals(2);
-        gamma.setRange(0.1, 4.0);
-        gamma.setValue(2.2);
-        if (columns == Aligned) {
-            gain.setLabelFixedWidth(90);
-            gamma.setLabelFixedWidth(90);
-            gain.setButtonFixedWidth(50);
-            gamma.setButtonFixedWidth(50);
-            gain.setHorizontalSpacing(12, 8);
-            gamma.setHorizontalSpacing(12, 8);
-        }
-        auto *layout = new QVBoxLayout(&window);
-        layout->addWidget(&gain);
-        layout->addWidget(&gamma);
-        window.resize(600, 10);
-    }
-
-    bool show()
-    {
-        window.show();
-        return QTest::qWaitForWindowActive(&window);
-    }
-
-    QWidget window;
-    SliderEditFrame gain;
-    SliderEditFrameDouble gamma;
-};
-
-QString sheet(const QString &name)
-{
-    QFile file(QStringLiteral("vantorslider:touch-%1.qss").arg(name));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-QString mirrored(QString text)
-{
-    return text.replace(QLatin1String("::sub-page"), QLatin1String("::other-page"))
-        .replace(QLatin1String("::add-page"), QLatin1String("::sub-page"))
-        .replace(QLatin1String("::other-page"), QLatin1String("::add-page"));
-}
-
-// The field selects its text as soon as it has the focus.
-void enter(const SliderEditFrame &row, const QString &expression)
-{
-    auto *field = row.findChild<QSpinBox *>();
-    field->setFocus();
-    QApplication::processEvents();
-    QTest::keyClicks(field, expression);
-    QTest::keyClick(field, Qt::Key_Return);
-}
-
-bool save(QWidget &widget, const QDir &folder, const QString &name)
-{
-    QApplication::processEvents();
-    const QString path = folder.filePath(name + QStringLiteral(".png"));
-    if (!widget.grab().save(path)) {
-        std::fprintf(stderr, "%s cannot be written.\n", qPrintable(path));
-        return false;
-    }
-    return true;
-}
-
-bool takeThem(const QDir &folder)
-{
-    bool isOk = true;
-    {
-        Rows rows(AsMade);
-        isOk &= rows.show();
-        rows.window.setFocus();
-        isOk &= save(rows.window, folder, QStringLiteral("rows-unthemed"));
-    }
-    for (const QString &name : {QStringLiteral("light"), QStringLiteral("dark")}) {
-        qApp->setStyleSheet(sheet(name));
-        const QString suffix = QStringLiteral("-touch-") + name;
-        {
-            Rows rows(Aligned);
-            isOk &= rows.show();
-            enter(rows.gain, QStringLiteral("12*8"));
-            isOk &= save(rows.gain, folder, QStringLiteral("row-focus") + suffix);
-            enter(rows.gain, QStringLiteral("1/0"));
-            isOk &= save(rows.gain, folder, QStringLiteral("row-refused") + suffix);
-        }
-        QApplication::setLayoutDirection(Qt::RightToLeft);
-        qApp->setStyleSheet(mirrored(sheet(name)));
-        {
-            Rows rows(Aligned);
-            isOk &= rows.show();
-            rows.window.setFocus();
-            isOk &= save(rows.window, folder, QStringLiteral("rows-right-to-left") + suffix);
-        }
-        QApplication::setLayoutDirection(Qt::LeftToRight);
-    }
-    return isOk;
-}
-
-} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -131,8 +18,69 @@ int main(int argc, char *argv[])
         return 2;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale::c());
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle("Fusion");
     QApplication application(argc, argv);
-    QDir::addSearchPath(QStringLiteral("vantorslider"), QStringLiteral(STYLES_DIR));
-    return takeThem(QDir(QString::fromLocal8Bit(argv[1]))) ? 0 : 1;
+    QDir::addSearchPath("vantorslider", STYLES_DIR);
+
+    // A row of each kind.
+    QWidget window;
+    QVBoxLayout layout(&window);
+    SliderEditFrame gain;
+    gain.setLabelText("Gain");
+    gain.setRange(0, 255);
+    gain.setValue(96);
+    layout.addWidget(&gain);
+    SliderEditFrameDouble gamma;
+    gamma.setLabelText("Gamma");
+    gamma.setSingleStep(0.05);
+    gamma.setDecimals(2);
+    gamma.setRange(0.1, 4.0);
+    gamma.setValue(2.2);
+    layout.addWidget(&gamma);
+
+    const auto save = [argv](QWidget &widget, const QString &name) {
+        QCoreApplication::processEvents();
+        const QString path = QString::fromLocal8Bit(argv[1]) + '/' + name + ".png";
+        if (!widget.grab().save(path))
+            qFatal("%s cannot be written.", qPrintable(path));
+    };
+    window.resize(600, 10);
+    if (!User::show(window))
+        return 1;
+    window.setFocus();
+    save(window, "rows-unthemed");
+
+    // In one column as the guide says how.
+    const auto align = [](auto &row) {
+        row.setLabelFixedWidth(90);
+        row.setButtonFixedWidth(50);
+        row.setHorizontalSpacing(12, 8);
+    };
+    align(gain);
+    align(gamma);
+    QFile file("vantorslider:touch-light.qss");
+    if (!file.open(QIODevice::ReadOnly))
+        return 1;
+    QString sheet = file.readAll();
+    application.setStyleSheet(sheet);
+    window.resize(600, 10);
+    const auto enter = [&gain](const QString &expression) {
+        gain.findChild<QSpinBox *>()->setFocus();
+        QCoreApplication::processEvents(); // the field selects its text
+        User::type(expression + '\n');
+    };
+    enter("12*8");
+    save(gain, "row-focus-touch-light");
+    enter("1/0");
+    save(gain, "row-refused-touch-light");
+
+    enter("96");
+    window.setFocus();
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    sheet.replace("::sub-page", "::other-page");
+    sheet.replace("::add-page", "::sub-page");
+    sheet.replace("::other-page", "::add-page");
+    application.setStyleSheet(sheet);
+    save(window, "rows-right-to-left-touch-light");
+    return 0;
 }

@@ -23,16 +23,14 @@ struct Host
 {
     Host()
     {
-        auto *layout = new QVBoxLayout(&window);
         gain.setObjectName("gain");
+        window.setLayout(new QVBoxLayout);
         for (QWidget *editor :
-             std::initializer_list<QWidget *> {&gain, &brightness, &gamma, &rgb, &all, &opacity,
-                                               &rect, &crop, &mask, &layoutEditor})
-            layout->addWidget(editor);
-        for (QAbstractSpinBox *field : std::initializer_list<QAbstractSpinBox *> {
-                 gain.findChild<QSpinBox *>(), gamma.findChild<QDoubleSpinBox *>()})
+             window.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
+            window.layout()->addWidget(editor);
+        for (auto *field : window.findChildren<QAbstractSpinBox *>())
             field->setProperty("isEntryRefused", true);
-        for (RectEditFrame *editor : std::initializer_list<RectEditFrame *> {&rect, &crop}) {
+        for (auto *editor : window.findChildren<RectEditFrame *>()) {
             editor->setPositionLockEnable(true);
             editor->setSizeLockEnable(true, RectEditFrame::OffsetLock);
         }
@@ -40,18 +38,17 @@ struct Host
 
     QApplication &app = *qApp;
     QStandardItemModel model {1, 1};
-    // Before its children, which leave it when they go.
     QWidget window;
-    SliderEditFrame gain;
-    SliderEditFrame brightness;
-    SliderEditFrameDouble gamma;
-    RGBEditFrame rgb;
-    RGBAllEditFrame all;
-    RGBOpacityEditFrame opacity;
-    RectEditFrame rect;
-    CropEditFrame crop;
-    MaskEditFrame mask;
-    LayoutEditFrame layoutEditor;
+    SliderEditFrame gain {&window};
+    SliderEditFrame brightness {&window};
+    SliderEditFrameDouble gamma {&window};
+    RGBEditFrame rgb {&window};
+    RGBAllEditFrame all {&window};
+    RGBOpacityEditFrame opacity {&window};
+    RectEditFrame rect {&window};
+    CropEditFrame crop {&window};
+    MaskEditFrame mask {&window};
+    LayoutEditFrame layoutEditor {&window};
 };
 
 struct Sample
