@@ -126,7 +126,8 @@ void tst_Forms::form()
         "MaskEditFrame true",
         "LayoutEditFrame true",
         "SliderEditSpinBox true 0 4000 1 1080",
-        "SliderEditDoubleSpinBox true 2 0 99.99 1 1.5  dB"};
+        "SliderEditDoubleSpinBox true 2 0 99.99 1 1.5  dB",
+    };
     QCOMPARE(describeEditors(compiled), expected);
 
 #ifdef DESIGNER_PLUGIN
