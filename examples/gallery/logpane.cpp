@@ -1,7 +1,6 @@
 #include "logpane.h"
 
 #include <QtCore/QThread>
-#include <QtCore/QTime>
 #include <QtWidgets/QScrollBar>
 
 #include <cstdio>
@@ -58,7 +57,8 @@ LogPane::~LogPane()
 void LogPane::record(const QString &who, const QString &what)
 {
     const QString line = QStringLiteral("%1  %2").arg(who, -12).arg(what);
-    appendPlainText(QTime::currentTime().toString(QStringLiteral("hh:mm:ss.zzz  ")) + line);
+    const QTime time = m_stoppedAt.isValid() ? m_stoppedAt : QTime::currentTime();
+    appendPlainText(time.toString(QStringLiteral("hh:mm:ss.zzz  ")) + line);
     verticalScrollBar()->setValue(verticalScrollBar()->maximum());
     if (m_echo) {
         std::puts(qPrintable(line));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QTime>
 #include <QtWidgets/QPlainTextEdit>
 
 #include <type_traits>
@@ -18,6 +19,8 @@ public:
     // to the standard error output: two streams have no order.
     void setEcho(bool echo) { m_echo = echo; }
     bool isEcho() const { return m_echo; }
+    // What the clock shows from now on, so that pictures are alike each time.
+    void stopClock(const QTime &time) { m_stoppedAt = time; }
     void record(const QString &who, const QString &what);
 
     // A receiver for any signal whose arguments are numbers or flags.
@@ -44,4 +47,5 @@ private:
     }
 
     bool m_echo = false;
+    QTime m_stoppedAt; // invalid: the clock runs
 };

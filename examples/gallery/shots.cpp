@@ -1,5 +1,6 @@
 #include "shots.h"
 
+#include "logpane.h"
 #include "mainwindow.h"
 #include "numberpad.h"
 #include "page.h"
@@ -146,6 +147,7 @@ bool takeShots(MainWindow &window, const QString &folder)
         std::fprintf(stderr, "%s cannot be made.\n", qPrintable(folder));
         return false;
     }
+    window.log()->stopClock(QTime(12, 0));
     ScriptedUser user(window);
     user.showPage(QStringLiteral("Adjust"));
     user.type(QStringLiteral("Saturation"), QStringLiteral("6/5="));
