@@ -13,6 +13,7 @@ NumberPad::NumberPad(QWidget *parent)
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setFocusPolicy(Qt::NoFocus);
+    setFrameStyle(QFrame::Box);
     setAccessibleName(tr("Number pad"));
     // Numbers read from left to right in every language.
     setLayoutDirection(Qt::LeftToRight);

@@ -114,7 +114,7 @@ void Theme::adopt(QWidget *root)
     for (QWidget *widget : widgets) {
         // Labels are left out: their pages fit them to their texts.
         if (widget->inherits("QSlider") || widget->inherits("QAbstractSpinBox")
-            || widget->inherits("QToolButton")
+            || widget->inherits("QAbstractButton")
             || widget->objectName().startsWith(QLatin1String("frameSpacerLock"))) {
             m_sizes.insert(widget, {widget->minimumSize(), widget->maximumSize()});
             connect(widget, &QObject::destroyed, this, [this, widget] { m_sizes.remove(widget); });
