@@ -65,149 +65,128 @@ static double scaleOf(const EditorRow &row)
     return std::pow(10.0, row.frame->property("decimals").toInt());
 }
 
+template <typename Frame> void EditorUser::addIf(QWidget *editor, void (EditorUser::*add)(Frame *))
+{
+    if (auto *const frame = qobject_cast<Frame *>(editor))
+        (this->*add)(frame);
+}
+
 EditorUser::EditorUser(QWidget *editor, double unit) : rows(rowsOf(*editor)), m_unit(unit)
 {
     addGestures();
     addSights();
     page.layout()->addWidget(editor);
-    if (auto *const whole = qobject_cast<SliderEditFrame *>(editor))
-        add(whole);
-    else if (auto *const fraction = qobject_cast<SliderEditFrameDouble *>(editor))
-        add(fraction);
-    else if (auto *const rgb = qobject_cast<RGBEditFrame *>(editor))
-        addComposite(rgb);
-    else if (auto *const all = qobject_cast<RGBAllEditFrame *>(editor))
-        addComposite(all);
-    else if (auto *const opacity = qobject_cast<RGBOpacityEditFrame *>(editor))
-        addComposite(opacity);
-    else
-        addRect(editor);
+    addIf(editor, &EditorUser::add<SliderEditFrame>);
+    addIf(editor, &EditorUser::add<SliderEditFrameDouble>);
+    addIf(editor, &EditorUser::addComposite<RGBEditFrame>);
+    addIf(editor, &EditorUser::addComposite<RGBAllEditFrame>);
+    addIf(editor, &EditorUser::addComposite<RGBOpacityEditFrame>);
+    addIf(editor, &EditorUser::addRect);
+    addIf(editor, &EditorUser::addCrop); // which is a rectangle, too
+    addIf(editor, &EditorUser::addMask);
     User::show(page);
     log.take(); // the platform's own messages
 }
 
 void EditorUser::addGestures()
 {
-    const auto press = [](Qt::Key key) { return [key](const Step &) { User::press(key); }; };
-    const auto move = [](const Step &step) {
-        for (const QString &position : step.text.split(' '))
-            User::moveHandle(step.row.slider, position.toInt());
-    };
-    const auto type = [](const Step &step) { step.row.type(step.text); };
-    m_actions = {
-        {"plus", [](const Step &step) { User::click(step.row.plus); }},
-        {"minus", [](const Step &step) { User::click(step.row.minus); }},
-        {"space", [](const Step &step) { QTest::keyClick(step.row.plus, Qt::Key_Space); }},
-        {"hold",
-         [move](const Step &step) {
-             User::grabHandle(step.row.slider);
-             if (!step.text.isEmpty())
-                 move(step);
-         }},
-        {"move", move},
-        {"drop", [](const Step &step) { User::dropHandle(step.row.slider); }},
-        {"groove",
-         [](const Step &step) { User::clickGroove(step.row.slider, step.text == "after"); }},
-        {"click", type},
-        {"elsewhere",
-         [this](const Step &) {
-             QTest::mouseClick(page.windowHandle(), Qt::LeftButton, {}, QPoint(1, 1));
-             page.setFocus();
-         }},
-        {"type", type},
-        {"keys", [](const Step &step) { User::type(step.text); }},
-        {"paste", [](const Step &step) { User::paste(step.text); }},
-        {"enter", [](const Step &step) { step.row.type(step.text + '\n'); }},
-        {"up", press(Qt::Key_Up)},
-        {"down", press(Qt::Key_Down)},
-        {"right", press(Qt::Key_Right)},
-        {"wheel",
-         [](const Step &step) {
-             User::turnWheel(step.row.slider);
-             User::turnWheel(step.row.spinBox);
-         }},
-        {"leave",
-         [](const Step &step) {
-             QEvent leave(QEvent::Leave);
-             QApplication::sendEvent(step.row.slider, &leave);
-         }},
-        {"tick", [](const Step &step) { tick(step.row.frame); }},
-        {"focus", [](const Step &step) { step.row.spinBox->setFocus(); }},
-        {"show", [](const Step &step) { step.row.frame->show(); }},
-        {"hide", [](const Step &step) { step.row.frame->hide(); }},
-        {"disable", [](const Step &step) { step.row.frame->setEnabled(false); }},
-        {"enable", [](const Step &step) { step.row.frame->setEnabled(true); }}};
+    on("plus", [](const Step &step) { User::click(step.row.plus); });
+    on("minus", [](const Step &step) { User::click(step.row.minus); });
+    on("space", [](const Step &step) { QTest::keyClick(step.row.plus, Qt::Key_Space); });
+    on("hold move", [](const Step &step) {
+        if (step.verb == "hold")
+            User::grabHandle(step.row.slider);
+        for (int i = 0; !step.word(i).isEmpty(); ++i)
+            User::moveHandle(step.row.slider, step.number(i));
+    });
+    on("drop", [](const Step &step) { User::dropHandle(step.row.slider); });
+    on("groove",
+       [](const Step &step) { User::clickGroove(step.row.slider, step.text == "after"); });
+    on("click type", [](const Step &step) { step.row.type(step.text); });
+    on("enter", [](const Step &step) { step.row.type(step.text + '\n'); });
+    on("keys", [](const Step &step) { User::type(step.text); });
+    on("paste", [](const Step &step) { User::paste(step.text); });
+    on("up", [](const Step &) { User::press(Qt::Key_Up); });
+    on("down", [](const Step &) { User::press(Qt::Key_Down); });
+    on("right", [](const Step &) { User::press(Qt::Key_Right); });
+    on("elsewhere", [this](const Step &) {
+        QTest::mouseClick(page.windowHandle(), Qt::LeftButton, {}, QPoint(1, 1));
+        page.setFocus();
+    });
+    on("wheel", [](const Step &step) {
+        User::turnWheel(step.row.slider);
+        User::turnWheel(step.row.spinBox);
+    });
+    on("leave", [](const Step &step) {
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(step.row.slider, &leave);
+    });
+    on("tick", [](const Step &step) { tick(step.row.frame); });
+    on("focus", [](const Step &step) { step.row.spinBox->setFocus(); });
+    on("show hide", [](const Step &step) { step.row.frame->setVisible(step.verb == "show"); });
+    on("enable disable",
+       [](const Step &step) { step.row.frame->setEnabled(step.verb == "enable"); });
 }
 
 void EditorUser::addSights()
 {
-    const auto add = [this](const char *word, auto textOf) {
-        m_actions.insert(word, [this, textOf](const Step &step) { log.add(textOf(step)); });
-    };
-    add("shown", [this](const Step &) { return shown(); });
-    add("ranges", [this](const Step &) {
-        QStringList texts;
+    on("shown", [this](const Step &) { log.add(shown()); });
+    on("ranges", [this](const Step &) {
         for (const EditorRow &row : rows)
-            texts.append(limits(row.slider->minimum(), row.slider->maximum()));
-        return texts.join(' ');
+            log.add(limits(row.slider->minimum(), row.slider->maximum()));
     });
-    add("timer",
-        [](const Step &step) { return samplingInterval(step.row.frame) > 0 ? "runs" : "stands"; });
-    add("focused",
-        [](const Step &step) { return step.row.frame->hasFocus() ? "editor" : "other"; });
-    add("pressed",
-        [](const Step &step) { return step.row.whole->isMousePressed() ? "yes" : "no"; });
-    add("refused", [](const Step &step) {
-        return step.row.spinBox->property("isEntryRefused").toBool() ? "yes" : "no";
+    on("timer", [this](const Step &step) {
+        log.add(samplingInterval(step.row.frame) > 0 ? "runs" : "stands");
     });
+    on("focused",
+       [this](const Step &step) { log.add(step.row.frame->hasFocus() ? "editor" : "other"); });
+    on("pressed",
+       [this](const Step &step) { log.add(step.row.whole->isMousePressed() ? "yes" : "no"); });
+    on("refused", [this](const Step &step) {
+        log.add(step.row.spinBox->property("isEntryRefused").toBool() ? "yes" : "no");
+    });
+}
+
+// The program around any editor.
+template <typename Frame> void EditorUser::addModes(Frame *frame)
+{
+    on("released", [=](const Step &) { frame->setReleaseMode(true); });
+    // Long enough for the ticks to come by hand.
+    on("sampled", [=](const Step &) { frame->setTimeSamplingRate(60000); });
 }
 
 // The program around a slider editor.
 template <typename Frame> void EditorUser::add(Frame *frame)
 {
     using Value = decltype(frame->value());
-    const auto value = [this](const QString &word) {
-        return static_cast<Value>(word.toDouble() * m_unit);
+    const auto value = [this](const Step &step, int i) {
+        return static_cast<Value>(step.word(i).toDouble() * m_unit);
     };
-    const auto setText = [](const char *property) {
-        return [property](const Step &step) { step.row.spinBox->setProperty(property, step.text); };
-    };
-    m_actions.insert("value", [=](const Step &step) { frame->setValue(value(step.word(0))); });
-    m_actions.insert("range", [=](const Step &step) {
-        frame->setRange(value(step.word(0)), value(step.word(1)));
-    });
-    m_actions.insert("step", [=](const Step &step) { frame->setSingleStep(value(step.text)); });
-    m_actions.insert("pageStep", [=](const Step &step) { frame->setPageStep(step.number(0)); });
-    m_actions.insert("direction", [=](const Step &step) {
-        frame->setValueChangeDirection(step.number(0), int(value(step.word(1))));
-    });
-    m_actions.insert("hideSlider", [=](const Step &) { frame->setSliderVisible(false); });
-    m_actions.insert("wheelEnabled", [=](const Step &) { frame->setSpinBoxWheelEnable(true); });
     addModes(frame);
-    m_actions.insert("locale",
-                     [](const Step &step) { step.row.spinBox->setLocale(QLocale(step.text)); });
-    for (const char *property : {"suffix", "prefix", "specialValueText"})
-        m_actions.insert(property, setText(property));
+    on("value", [=](const Step &step) { frame->setValue(value(step, 0)); });
+    on("range", [=](const Step &step) { frame->setRange(value(step, 0), value(step, 1)); });
+    on("step", [=](const Step &step) { frame->setSingleStep(value(step, 0)); });
+    on("pageStep", [=](const Step &step) { frame->setPageStep(step.number(0)); });
+    on("direction", [=](const Step &step) {
+        frame->setValueChangeDirection(step.number(0), int(value(step, 1)));
+    });
+    on("hideSlider", [=](const Step &) { frame->setSliderVisible(false); });
+    on("wheelEnabled", [=](const Step &) { frame->setSpinBoxWheelEnable(true); });
+    on("locale", [](const Step &step) { step.row.spinBox->setLocale(QLocale(step.text)); });
+    on("suffix prefix specialValueText",
+       [](const Step &step) { step.row.spinBox->setProperty(qPrintable(step.verb), step.text); });
     if constexpr (std::is_same_v<Value, double>)
-        m_actions.insert("decimals", [=](const Step &step) { frame->setDecimals(step.number(0)); });
-    const Value position = static_cast<Value>(1 / scaleOf(rows.first()));
+        on("decimals", [=](const Step &step) { frame->setDecimals(step.number(0)); });
+    const EditorRow &row = rows.first();
+    const Value position = static_cast<Value>(1 / scaleOf(row));
     frame->setSingleStep(position);
     frame->setRange(0, 100 * position);
     frame->setValue(10 * position);
-    // A receiver finds the children updated.
-    const EditorRow &row = rows.first();
     QObject::connect(frame, &Frame::valueChanged, &page, [=](Value reported) {
         log.add(inUnits(reported));
         if (row.slider->value() != qRound(reported * scaleOf(row)))
-            log.add("too early");
+            log.add("too early"); // a receiver finds the children updated
     });
-}
-
-template <typename Frame> void EditorUser::addModes(Frame *frame)
-{
-    m_actions.insert("released", [=](const Step &) { frame->setReleaseMode(true); });
-    // Long enough for the ticks to come by hand.
-    m_actions.insert("sampled", [=](const Step &) { frame->setTimeSamplingRate(60000); });
 }
 
 // The program around a composite editor.
@@ -216,22 +195,14 @@ template <typename Frame> void EditorUser::addComposite(Frame *frame)
     const auto type = [](const Step &step) { return typename Frame::Type(2 << step.index); };
     log.watch(frame, &Frame::valueChanged, {});
     addModes(frame);
-    m_actions.insert("value",
-                     [=](const Step &step) { frame->setValue(type(step), step.number(0)); });
-    m_actions.insert("range", [=](const Step &step) {
-        frame->setRange(type(step), step.number(0), step.number(1));
-    });
+    on("value", [=](const Step &step) { frame->setValue(type(step), step.number(0)); });
+    on("range",
+       [=](const Step &step) { frame->setRange(type(step), step.number(0), step.number(1)); });
 }
 
 // The program around a rectangle editor.
-void EditorUser::addRect(QWidget *editor)
+void EditorUser::addRect(RectEditFrame *rect)
 {
-    auto *const rect = qobject_cast<RectEditFrame *>(editor);
-    const auto add = [this](const char *verb, auto &&action) {
-        m_actions.insert(verb, [action](const Step &step) {
-            action(step.number(0), step.number(1), step.number(2), step.number(3));
-        });
-    };
     addComposite(rect);
     log.watch(rect, &RectEditFrame::xValueChanged, "x");
     log.watch(rect, &RectEditFrame::yValueChanged, "y");
@@ -241,34 +212,51 @@ void EditorUser::addRect(QWidget *editor)
     log.watch(rect, &RectEditFrame::PositionLockChanged, "positionLock");
     rect->setPositionLockEnable(true);
     rect->setSizeLockEnable(true, RectEditFrame::SizeScaleLock);
-    add("set", [=](int x, int y, int w, int h) { rect->setValue(x, y, w, h); });
-    m_actions.insert("sizeLock", [=](const Step &step) { rect->setSizeLock(step.text == "on"); });
-    m_actions.insert("lockType", [=](const Step &step) {
-        rect->setSizeLockEnable(
-            true, step.text == "offset" ? RectEditFrame::OffsetLock : RectEditFrame::SizeScaleLock);
-    });
-    m_actions.insert("ratio", [=](const Step &step) { rect->setSizeLock(step.text.toDouble()); });
-    m_actions.insert("lock", [=](const Step &step) {
+    on("lock", [=](const Step &step) {
         User::click(rect->findChild<QToolButton *>(step.text == "size" ? "toolButtonLockSize"
                                                                        : "toolButtonLockPosition"));
     });
-    if (auto *const crop = qobject_cast<CropEditFrame *>(editor)) {
-        log.watch(crop, &CropEditFrame::cropValueChanged, "crop");
-        add("area", [=](int w, int h, int, int) { crop->setCropRange(w, h); });
-        m_actions.insert("areaFrom", [=](const Step &step) {
-            crop->setCropRange(step.number(0), step.number(1), step.number(2), step.number(3),
-                               step.number(4), step.number(5));
-        });
-        add("leastPosition", [=](int x, int y, int, int) { crop->setCropMinPos(x, y); });
-        add("leastSize", [=](int w, int h, int, int) { crop->setCropMinSize(w, h); });
-        add("crop", [=](int x, int y, int w, int h) { crop->setCropValue(x, y, w, h); });
-        add("rect", [=](int x, int y, int w, int h) { crop->setCropValue(QRect(x, y, w, h)); });
-    }
-    if (auto *const mask = qobject_cast<MaskEditFrame *>(editor)) {
-        log.watch(mask, &MaskEditFrame::maskValueChanged, "mask");
-        add("area", [=](int w, int h, int, int) { mask->setMaskRange(w, h); });
-        add("mask", [=](int t, int b, int l, int r) { mask->setMaskValue(t, b, l, r); });
-    }
+    on("sizeLock", [=](const Step &step) { rect->setSizeLock(step.text == "on"); });
+    on("ratio", [=](const Step &step) { rect->setSizeLock(step.text.toDouble()); });
+    on("lockType", [=](const Step &step) {
+        rect->setSizeLockEnable(
+            true, step.text == "offset" ? RectEditFrame::OffsetLock : RectEditFrame::SizeScaleLock);
+    });
+    on("set",
+       [=](const Step &s) { rect->setValue(s.number(0), s.number(1), s.number(2), s.number(3)); });
+}
+
+void EditorUser::addCrop(CropEditFrame *crop)
+{
+    log.watch(crop, &CropEditFrame::cropValueChanged, "crop");
+    on("area", [=](const Step &s) { crop->setCropRange(s.number(0), s.number(1)); });
+    on("areaFrom", [=](const Step &s) {
+        crop->setCropRange(s.number(0), s.number(1), s.number(2), s.number(3), s.number(4),
+                           s.number(5));
+    });
+    on("leastPosition", [=](const Step &s) { crop->setCropMinPos(s.number(0), s.number(1)); });
+    on("leastSize", [=](const Step &s) { crop->setCropMinSize(s.number(0), s.number(1)); });
+    on("crop", [=](const Step &s) {
+        crop->setCropValue(s.number(0), s.number(1), s.number(2), s.number(3));
+    });
+    on("rect", [=](const Step &s) {
+        crop->setCropValue(QRect(s.number(0), s.number(1), s.number(2), s.number(3)));
+    });
+}
+
+void EditorUser::addMask(MaskEditFrame *mask)
+{
+    log.watch(mask, &MaskEditFrame::maskValueChanged, "mask");
+    on("area", [=](const Step &s) { mask->setMaskRange(s.number(0), s.number(1)); });
+    on("mask", [=](const Step &s) {
+        mask->setMaskValue(s.number(0), s.number(1), s.number(2), s.number(3));
+    });
+}
+
+void EditorUser::on(const QString &verbs, const Action &action)
+{
+    for (const QString &verb : verbs.split(' '))
+        m_actions.insert(verb, action);
 }
 
 void EditorUser::perform(const QString &action)
@@ -283,7 +271,7 @@ void EditorUser::perform(const QString &action)
     }
     const QString verb = rest.section(' ', 0, 0);
     QVERIFY2(m_actions.contains(verb), qPrintable("What is " + action));
-    m_actions[verb]({rows[index], index, rest.section(' ', 1)});
+    m_actions[verb]({rows[index], index, verb, rest.section(' ', 1)});
 }
 
 void EditorUser::play(const QString &steps)

@@ -12,6 +12,14 @@
 
 #include <functional>
 
+namespace Vantor {
+namespace Widgets {
+class CropEditFrame;
+class MaskEditFrame;
+class RectEditFrame;
+} // namespace Widgets
+} // namespace Vantor
+
 // A slider editor of either kind, alone or in a composite editor, and what a user
 // finds in it.
 struct EditorRow
@@ -124,6 +132,7 @@ private:
     {
         const EditorRow &row;
         int index;
+        QString verb;
         QString text; // behind the verb
         QString word(int i) const { return text.section(' ', i, i); }
         int number(int i) const { return word(i).toInt(); }
@@ -135,7 +144,11 @@ private:
     template <typename Frame> void add(Frame *frame);
     template <typename Frame> void addModes(Frame *frame);
     template <typename Frame> void addComposite(Frame *frame);
-    void addRect(QWidget *editor);
+    void addRect(Vantor::Widgets::RectEditFrame *rect);
+    void addCrop(Vantor::Widgets::CropEditFrame *crop);
+    void addMask(Vantor::Widgets::MaskEditFrame *mask);
+    template <typename Frame> void addIf(QWidget *editor, void (EditorUser::*add)(Frame *));
+    void on(const QString &verbs, const Action &action);
     QString inUnits(double value) const { return QString::number(value / m_unit, 'g', 12); }
 
     QMap<QString, Action> m_actions;
