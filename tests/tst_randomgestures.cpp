@@ -202,7 +202,7 @@ template <typename Frame> void add(const Program &program, double unit = 1)
     constexpr int length = 50;
     QTest::newRow(Frame::staticMetaObject.className()) << Check([=] {
         std::mt19937 random(static_cast<unsigned>(setting("VANTORSLIDER_SEED", 1)));
-        int left = setting("VANTORSLIDER_GESTURES", 1500);
+        int left = setting("VANTORSLIDER_GESTURES", 1000);
         for (; left > 0 && !QTest::currentTestFailed(); left -= length)
             Session<Frame>(program, unit, random).play(qMin(left, length));
     });
