@@ -12,129 +12,98 @@ class tst_SpinBoxes : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void keys_data();
     void keys();
     void suffix();
-    void suffixSetLater();
 };
 
 namespace {
 
-// Both spin boxes on one page, without keyboard tracking as the editors have them.
-struct SpinBoxes
+// A spin box on a page, without keyboard tracking as the editors have it.
+template <typename SpinBox> struct BoxOnPage
 {
-    SpinBoxes()
-    {
-        add(whole);
-        add(fraction);
-        User::show(page);
-        page.setFocus();
-        log.take();
-    }
-
-    template <typename SpinBox> void add(SpinBox &box)
+    BoxOnPage()
     {
         box.setKeyboardTracking(false);
         page.layout()->addWidget(&box);
         log.watch(&box, &SpinBox::editingFinished, "editing");
         log.watch(&box, &SpinBox::enterFinished, "enter");
         log.watch(&box, QOverload<decltype(box.value())>::of(&SpinBox::valueChanged), "value");
+        User::show(page);
+        page.setFocus();
+    }
+
+    void compareKeys(const QString &typed, const QString &text, const QString &heard)
+    {
+        box.setFocus();
+        box.selectAll();
+        log.take();
+        User::type(typed);
+        QCOMPARE(box.text(), text);
+        QCOMPARE(log.take().join(' '), heard);
+        QString any = "any text";
+        int pos = 3;
+        QCOMPARE(box.validate(any, pos), QValidator::Acceptable);
+        QCOMPARE(any + QString::number(pos), QString("any text3"));
     }
 
     EventLog log;
     Page page {log};
-    SliderEditSpinBox whole {&page};
-    SliderEditDoubleSpinBox fraction {&page};
+    SpinBox box;
 };
 
 } // namespace
 
-void tst_SpinBoxes::keys_data()
-{
-    QTest::addColumn<bool>("isWhole");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("heard");
-    const auto row = [](bool isWhole, const char *typed, const char *text, const char *heard) {
-        QTest::addRow("%s, %s: %s", isWhole ? "int" : "double",
-                      QByteArray(typed).toPercentEncoding("*/+=").constData(), heard)
-            << isWhole << typed << text << heard;
-    };
-    // Neither does the base interpret the text on these keys nor the page see them.
-    for (const bool isWhole : {true, false}) {
-        row(isWhole, "5\n", "5", "editing() enter()");
-        row(isWhole, "5\r", "5", "editing() enter()");
-    }
-    // The integer box says so before the base interprets the text.
-    row(true, "5\t", "5", "editing() value(5) editing()");
-    row(false, "5\t", "5.00", "value(5) editing()");
-    row(true, "2*3=", "6", "enter()");
-    row(true, "1000=", "100", "enter()");
-    row(true, "-1=", "0", "enter()");
-    row(true, "2+=", "7", "enter()");
-    row(false, "1.259=", "1.25", "editing()");
-    row(false, "1000=", "9.50", "editing()");
-    row(false, "-1=", "0.50", "editing()");
-    row(false, "2+=", "7.5", "editing()");
-}
-
+// Enter is neither interpreted by the base nor seen by the page.
 void tst_SpinBoxes::keys()
 {
-    QFETCH(bool, isWhole);
-    QFETCH(QString, typed);
-    SpinBoxes boxes;
-    boxes.whole.setSpinBoxCal(7, 100, 0, 0, 2);
-    boxes.fraction.setSpinBoxCal(7.5F, 9.5F, 0.5F, 2, 2, false);
-    auto *const box = isWhole ? static_cast<QAbstractSpinBox *>(&boxes.whole) : &boxes.fraction;
-    QVERIFY(box->testAttribute(Qt::WA_AcceptTouchEvents));
-    box->setFocus();
-    box->selectAll();
-    User::type(typed);
-    QTEST(box->text(), "text");
-    QTEST(boxes.log.take().join(' '), "heard");
-    QString text = "any text";
-    int pos = 3;
-    QCOMPARE(box->validate(text, pos), QValidator::Acceptable);
-    QCOMPARE(text + QString::number(pos), QString("any text3"));
+    const auto compareInt = [](const char *typed, const char *text, const char *heard) {
+        BoxOnPage<SliderEditSpinBox> field;
+        field.box.setSpinBoxCal(7, 100, 0, 0, 2);
+        field.compareKeys(typed, text, heard);
+    };
+    compareInt("5\n", "5", "editing() enter()");
+    compareInt("5\r", "5", "editing() enter()");
+    compareInt("5\t", "5", "editing() value(5) editing()"); // before the base interprets it
+    compareInt("2*3=", "6", "enter()");
+    compareInt("-1=", "0", "enter()");
+    compareInt("2+=", "7", "enter()");
+    const auto compareDouble = [](const char *typed, const char *text, const char *heard) {
+        BoxOnPage<SliderEditDoubleSpinBox> field;
+        field.box.setSpinBoxCal(7.5F, 9.5F, 0.5F, 2, 2, false);
+        field.compareKeys(typed, text, heard);
+    };
+    compareDouble("5\n", "5", "editing() enter()");
+    compareDouble("5\r", "5", "editing() enter()");
+    compareDouble("5\t", "5.00", "value(5) editing()");
+    compareDouble("1.259=", "1.25", "editing()");
+    compareDouble("1000=", "9.50", "editing()");
+    compareDouble("2+=", "7.5", "editing()");
 }
 
+// It is away while the field is edited, whenever it was set.
 void tst_SpinBoxes::suffix()
 {
-    SpinBoxes boxes;
-    SliderEditDoubleSpinBox &box = boxes.fraction;
-    box.setSuffix("mm");
-    box.setValue(2.5);
-    QCOMPARE(box.text(), QString("2.50mm"));
-    box.setSpinBoxCal(2.5F, 100, 0, 2, 2, false);
-    for (int round = 0; round < 2; ++round) {
-        box.setFocus();
-        QCOMPARE(box.text(), QString("2.50"));
-        QCOMPARE(box.suffix(), QString());
-        boxes.page.setFocus();
-        QCOMPARE(box.text(), QString("2.50mm"));
-    }
-    box.setFocus();
-    box.setSlotEditingFinished();
-    QCOMPARE(box.text(), QString("2.50mm"));
-}
-
-void tst_SpinBoxes::suffixSetLater()
-{
-    SpinBoxes boxes;
-    SliderEditDoubleSpinBox &box = boxes.fraction;
+    BoxOnPage<SliderEditDoubleSpinBox> field;
+    SliderEditDoubleSpinBox &box = field.box;
     box.setFocus();
     box.setSuffix("mm");
     User::type("7");
-    boxes.page.setFocus();
+    for (int round = 0; round < 2; ++round) {
+        field.page.setFocus();
+        QCOMPARE(box.text(), QString("70.00mm"));
+        box.setFocus();
+        QCOMPARE(box.text() + box.suffix(), QString("70.00"));
+    }
+    box.setSlotEditingFinished();
     QCOMPARE(box.text(), QString("70.00mm"));
+    field.page.setFocus();
     box.setFocus();
-    QCOMPARE(box.text(), QString("70.00"));
-    // While it is removed, another focus-in leaves the field alone.
+    // While it is away, another focus-in leaves the field alone.
     box.setSuffix("s");
     QFocusEvent again(QEvent::FocusIn);
     QApplication::sendEvent(&box, &again);
     QCOMPARE(box.suffix(), QString("s"));
-    boxes.page.setFocus();
+    field.page.setFocus();
     QCOMPARE(box.suffix(), QString("mm"));
 }
 
