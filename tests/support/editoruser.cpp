@@ -184,7 +184,7 @@ template <typename Frame> void EditorUser::add(Frame *frame)
     frame->setValue(10 * position);
     QObject::connect(frame, &Frame::valueChanged, &page, [=](Value reported) {
         log.add(inUnits(reported));
-        if (row.slider->value() != qRound(reported * scaleOf(row)))
+        if (row.slider->value() != std::round(reported * scaleOf(row)))
             log.add("too early"); // a receiver finds the children updated
     });
 }
@@ -305,7 +305,7 @@ QString EditorUser::shown() const
         const double value = row.spinBox->property("cleanText").toDouble();
         const int position = row.slider->value();
         texts.append(m_unit == 1 ? row.spinBox->text() : inUnits(value));
-        if (position != qRound(value * scaleOf(row)))
+        if (position != std::round(value * scaleOf(row)))
             texts.last() += '/' + QString::number(position);
     }
     return texts.join(' ');
