@@ -2,10 +2,12 @@
 // guide_pictures FOLDER. They are taken of real editors after real events.
 #include "slidereditframe.h"
 #include "slidereditframedouble.h"
-#include "testuser.h"
+#include "userevents.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QVBoxLayout>
 
@@ -45,7 +47,8 @@ int main(int argc, char *argv[])
             qFatal("%s cannot be written.", qPrintable(path));
     };
     window.resize(600, 10);
-    if (!User::show(window))
+    window.show();
+    if (!QTest::qWaitForWindowActive(&window))
         return 1;
     window.setFocus();
     save(window, "rows-unthemed");
