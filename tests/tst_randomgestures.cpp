@@ -46,6 +46,7 @@ struct Program
 {
     QString start;
     QStringList steps;
+    bool hasLocks = false;
 };
 
 // A new editor with its user and program, and what must hold of them.
@@ -54,7 +55,7 @@ template <typename Frame> class Session
 public:
     Session(const Program &program, double unit, std::mt19937 &random)
         : m_program(program), m_user(new Frame, unit), m_random(random),
-          m_hasLocks(program.steps.contains("lockType offset") && number(0, 1) == 0)
+          m_hasLocks(program.hasLocks && number(0, 1) == 0)
     {
         const QString mode = any({"", " | released", " | sampled"});
         for (const QString &step : (program.start + mode + " | " + program.steps[0]).split(" | "))
@@ -102,12 +103,6 @@ private:
         const QString heard = perform(step);
         verify(heard.isEmpty(), "The program is heard");
         m_reported = m_user.shown();
-        if (step.startsWith("lockType"))
-            m_isOffsetLock = step.endsWith("offset");
-        if (step.startsWith("ratio")) {
-            m_lockedValues[2] = qRound(1000 * step.section(' ', 1).toDouble());
-            m_lockedValues[3] = 1000;
-        }
     }
 
     void playUser(int row, QString gesture)
@@ -158,7 +153,7 @@ private:
     {
         verify(value(row) <= room(row), "Out of the area");
         const int partner = row ^ 1, changed = m_changed[row].toInt();
-        const bool isOffset = row < 2 || m_isOffsetLock;
+        const bool isOffset = row < 2;
         const int from = m_lockedValues[row], to = m_lockedValues[partner];
         if (!m_isLocked[row / 2] || (!isOffset && from <= 0))
             return;
@@ -190,7 +185,6 @@ private:
     EditorUser m_user;
     std::mt19937 &m_random;
     const bool m_hasLocks;
-    bool m_isOffsetLock = false;
     bool m_isLocked[2] = {false, false}; // position, size
     int m_lockedValues[4] = {0, 0, 0, 0};
     QStringList m_steps, m_changed;
@@ -223,10 +217,9 @@ void tst_RandomGestures::editors_data()
     add<RGBEditFrame>({"g value 9", colors});
     add<RGBAllEditFrame>({"all value 9", colors + QStringList {"all value ?"}});
     add<RGBOpacityEditFrame>({"opacity value 9", colors + QStringList {"opacity value 40"}});
-    const QStringList locks {"ratio 1.778", "ratio 0.1", "lockType offset", "lockType scale"};
-    add<RectEditFrame>({"x range 0 640 | y range 0 360 | w range 0 640 | h range 0 360",
-                        QStringList {"set ? ? ? ?"} + locks});
-    add<CropEditFrame>({"areaFrom 9 0 0 0 640 360", QStringList {"crop ? ? ? ?"} + locks});
+    add<RectEditFrame>(
+        {"x range 0 640 | y range 0 360 | w range 0 640 | h range 0 360", {"set ? ? ? ?"}, true});
+    add<CropEditFrame>({"areaFrom 9 0 0 0 640 360", {"crop ? ? ? ?"}, true});
     add<MaskEditFrame>({"area 640 360", {"mask ? ? ? ?"}});
 }
 
