@@ -63,6 +63,7 @@ void tst_LineEditCal::editing_data()
     row("12<=", "1=2", 2);
     row("12\b\b", "", 0);
     row("-1/0=", "0", 1, 1); // only "Infinity" itself fails
+    row("3,4=", "4", 1, 1);
     row("99999=", "10000", 5, 1);
     row("-99999=", "-10000", 6, 1);
     row("2*3=*4=", "24", 2, 2);
