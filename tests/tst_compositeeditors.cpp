@@ -185,7 +185,9 @@ QList<int> lastSpacer(const QWidget &editor)
 template <typename Frame> void checkColours(const QString &fourth, int max, int value)
 {
     UserOf<Frame> user;
+    // The end of editing finds what was set last.
     user.play(QString("ranges: 0..255 0..255 0..255 0..%2 | shown: 50 50 50 %3 | "
+                      "%1 click | elsewhere: finished finished | "
                       "r value 10 | g value 20 | b value 30 | %1 value 40 | "
                       "r minus: (9,20,30,40) | g minus: (9,19,30,40) | b minus: (9,19,29,40) | "
                       "%1 minus: (9,19,29,39)")
