@@ -266,6 +266,8 @@ void tst_CompositeEditors::spacing()
             QCOMPARE(rect.findChild<QFrame *>(panel)->layout()->spacing(), gap);
         rect.setHorizontalSpacing(3, 5);
     }
+    for (const char *fields : {"verticalLayoutFramePosition", "verticalLayoutFrameSize"})
+        QCOMPARE(rect.findChild<QLayout *>(fields)->spacing(), 0);
 }
 
 // A block that is hidden as a whole leaves its rows as they are.
