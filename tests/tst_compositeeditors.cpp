@@ -229,7 +229,11 @@ void tst_CompositeEditors::spacing()
 {
     using P = QSizePolicy;
     using Numbers = QList<int>;
-    const auto check = [](auto &editor, const Numbers &spacer) {
+    const auto check = [](auto &editor, const QSize &size, const Numbers &spacer) {
+        const QString name = "Vantor::Widgets::" + editor.objectName();
+        QCOMPARE(name, QString(editor.metaObject()->className()));
+        QCOMPARE(editor.size(), size);
+        QCOMPARE(editor.layout()->contentsMargins(), QMargins());
         QVERIFY(editor.property("isSliderFrame").toBool());
         QCOMPARE(editor.layout()->spacing(), 0);
         editor.setVerticalSpacing(9);
@@ -241,25 +245,25 @@ void tst_CompositeEditors::spacing()
         QCOMPARE(lastSpacer(editor), Numbers({20, 20, P::Expanding, P::Expanding}));
     };
     RGBEditFrame rgb;
-    check(rgb, {20, 20, P::Minimum, P::Expanding});
+    check(rgb, {537, 94}, {20, 20, P::Minimum, P::Expanding});
     for (int i = 0; i < 3; ++i) {
         const char *properties[] = {"isColorControl_Red", "isColorControl_Green",
                                     "isColorControl_Blue"};
         QVERIFY(rowsOf(rgb)[i].slider->property(properties[i]).toBool());
     }
     RGBAllEditFrame all;
-    check(all, {20, 20, P::Minimum, P::Preferred});
+    check(all, {537, 94}, {20, 20, P::Minimum, P::Preferred});
     QCOMPARE(lastSpacer(*all.findChild<RGBEditFrame *>()),
              Numbers({20, 20, P::Minimum, P::Expanding}));
     QCOMPARE(all.findChild<RGBEditFrame *>()->layout()->spacing(), 0);
     RGBOpacityEditFrame opacity;
-    check(opacity, {20, 277, P::Minimum, P::Expanding});
+    check(opacity, {400, 75}, {20, 277, P::Minimum, P::Expanding});
     QCOMPARE(lastSpacer(*opacity.findChild<RGBEditFrame *>()),
              Numbers({20, 0, P::Expanding, P::Ignored}));
     QCOMPARE(opacity.findChild<RGBEditFrame *>()->layout()->spacing(), 9);
 
     RectEditFrame rect;
-    check(rect, {20, 14, P::Minimum, P::Expanding});
+    check(rect, {528, 169}, {20, 14, P::Minimum, P::Expanding});
     // Between a panel's fields and its lock.
     for (const int gap : {9, 5}) {
         for (const char *panel : {"framePosition", "frameSize"})
