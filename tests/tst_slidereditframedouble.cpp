@@ -2,6 +2,21 @@
 
 using Vantor::Widgets::SliderEditFrameDouble;
 
+namespace {
+
+// An explicit instantiation may name private members: it lends them to this test
+// without a friend in the class.
+using Operation = int (SliderEditFrameDouble::*)(float);
+QPair<Operation, Operation> privateOperations();
+template <Operation first, Operation second> struct Lend
+{
+    friend QPair<Operation, Operation> privateOperations() { return {first, second}; }
+};
+template struct Lend<&SliderEditFrameDouble::getPrecision,
+                     &SliderEditFrameDouble::getMagnification>;
+
+} // namespace
+
 // What the integer editor has no like of: decimals and the scale of the slider.
 class tst_SliderEditFrameDouble : public QObject
 {
@@ -13,6 +28,7 @@ private Q_SLOTS:
     void halfBound();
     void freshFrame();
     void locale();
+    void precision();
 };
 
 void tst_SliderEditFrameDouble::scale_data()
@@ -115,6 +131,16 @@ void tst_SliderEditFrameDouble::locale()
         QLocale::setDefault(QLocale::c());
         user.play("shown: 0.10 | enter 1/4: 0.25");
     }
+}
+
+void tst_SliderEditFrameDouble::precision()
+{
+    const auto [precisionOf, magnificationOf] = privateOperations();
+    SliderEditFrameDouble frame;
+    QVector<int> results;
+    for (const float number : {0.25F, -7.125F, 3.0F, 0.1F, 1e-11F})
+        results << (frame.*precisionOf)(number) << (frame.*magnificationOf)(number);
+    QCOMPARE(results, QVector<int>({2, 100, 3, 1000, 1, 10, 1, 10, 0, 1000000000}));
 }
 
 int main(int argc, char *argv[])
