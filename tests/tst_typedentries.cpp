@@ -14,9 +14,9 @@ class tst_TypedEntries : public QObject
 
 private Q_SLOTS:
     void whole_data();
-    void whole() { play<SliderEditFrame>(); }
+    void whole() { runCheck(); }
     void fraction_data();
-    void fraction() { play<SliderEditFrameDouble>(); }
+    void fraction() { runCheck(); }
     void refused_data();
     void refused();
     void windows_data();
@@ -24,48 +24,34 @@ private Q_SLOTS:
     void scripts_data();
     void scripts() { runCheck(); }
     void replacedLineEdit();
-
-private:
-    template <typename Frame> static void play();
 };
 
-// The value goes from one number to another and stands at a third; a fourth is the
-// decimals.
-static void row(const QString &range, const QString &steps, const QString &shown)
+// The range is from one number to another, and the value; a fourth is the decimals.
+template <typename Frame>
+static void addEntry(const QString &range, const QString &steps, const QString &shown)
 {
     QString name = range + " | " + steps;
     name.replace('\n', "Enter").replace('\t', "Tab");
-    QTest::newRow(qPrintable(name)) << range << steps << shown;
-}
-
-static void addColumns()
-{
-    QTest::addColumn<QString>("range");
-    QTest::addColumn<QString>("steps");
-    QTest::addColumn<QString>("shown");
-}
-
-template <typename Frame> void tst_TypedEntries::play()
-{
-    QFETCH(QString, range);
-    QFETCH(QString, steps);
-    const QStringList numbers = range.split(' ');
-    UserOf<Frame> user(1);
-    if (numbers.size() > 3)
-        user.perform("decimals " + numbers[3]);
-    user.play("range " + numbers[0] + ' ' + numbers[1] + " | value " + numbers[2]);
-    user.play(steps);
-    QTEST(user.shown(), "shown");
-    // Another pass of the focus finds nothing new.
-    for (const QString action : {"show", "click", "elsewhere"})
-        user.perform(action);
-    QTEST(user.shown(), "shown");
-    QCOMPARE(user.heard().remove("finished").trimmed(), QString());
+    QTest::newRow(qPrintable(name)) << Check([=] {
+        const QStringList numbers = range.split(' ');
+        UserOf<Frame> user(1);
+        if (numbers.size() > 3)
+            user.perform("decimals " + numbers[3]);
+        user.play("range " + numbers[0] + ' ' + numbers[1] + " | value " + numbers[2]);
+        user.play(steps);
+        QCOMPARE(user.shown(), shown);
+        // Another pass of the focus finds nothing new.
+        for (const QString action : {"show", "click", "elsewhere"})
+            user.perform(action);
+        QCOMPARE(user.shown(), shown);
+        QCOMPARE(user.heard().remove("finished").trimmed(), QString());
+    });
 }
 
 void tst_TypedEntries::whole_data()
 {
-    addColumns();
+    QTest::addColumn<Check>("check");
+    const auto row = addEntry<SliderEditFrame>;
     row("0 100 10", "enter 5*2 | focused: editor", "10");
     row("0 100 10", "enter -5: 0", "0");
     row("0 100 10", "type 12*3=: finished 36 finished left", "36");
@@ -103,7 +89,8 @@ void tst_TypedEntries::whole_data()
 
 void tst_TypedEntries::fraction_data()
 {
-    addColumns();
+    QTest::addColumn<Check>("check");
+    const auto row = addEntry<SliderEditFrameDouble>;
     row("0 1 0.1", "enter 1/4: 0.25 | focused: editor", "0.25");
     row("0 1 0.1", "type 1/4= | shown: 0.25/10 | focused: other | keys \t: 0.25 | focused: other",
         "0.25");
