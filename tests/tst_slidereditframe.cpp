@@ -82,7 +82,8 @@ template <typename AnyUser> void compareSetters(AnyUser &user)
 template <typename AnyUser> void compareAutoRepeat(AnyUser &user)
 {
     auto &frame = *user.frame;
-    const auto &[minus, plus] = std::tie(user.row.minus, user.row.plus);
+    auto *const minus = user.row.minus;
+    auto *const plus = user.row.plus;
     const std::function<void()> calls[] = {[] {},
                                            [&] { frame.setAutoRepeat(true); },
                                            [&] { frame.setReleaseMode(true); },
@@ -110,7 +111,8 @@ template <typename AnyUser> void compareSilence(AnyUser &user)
     using SpinBox = std::conditional_t<AnyUser::isWhole, QSpinBox, QDoubleSpinBox>;
     using Value = decltype(user.frame->value());
     auto &frame = *user.frame;
-    const auto &[slider, spinBox] = std::tie(user.row.slider, user.row.spinBox);
+    auto *const slider = user.row.slider;
+    auto *const spinBox = user.row.spinBox;
     user.log.watch(qobject_cast<SpinBox *>(spinBox), QOverload<Value>::of(&SpinBox::valueChanged),
                    "spinBox");
     user.log.watch(slider, &QSlider::valueChanged, "slider");
@@ -134,7 +136,8 @@ template <typename AnyUser> void compareSilence(AnyUser &user)
 // meanwhile or is gone.
 template <typename AnyUser> void compareSelectAll(AnyUser &user)
 {
-    const auto &[spinBox, field] = std::tie(user.row.spinBox, user.row.field);
+    auto *const spinBox = user.row.spinBox;
+    auto *const field = user.row.field;
     const QString text = spinBox->text();
     const std::function<void()> ways[] = {
         [&] { user.row.slider->setFocus(), User::press(Qt::Key_Tab); },
