@@ -1,21 +1,11 @@
+#include "editoruser.h"
 #include "recteditframe.h"
-#include "slidereditframe.h"
-#include "slidereditframedouble.h"
-#include "testuser.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QRegularExpression>
-#include <QtWidgets/QAbstractSpinBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QToolButton>
-#include <QtWidgets/QVBoxLayout>
 
 #include <cmath>
 
-using Rect = Vantor::Widgets::RectEditFrame;
-using Vantor::Widgets::SliderEditFrame;
-using Vantor::Widgets::SliderEditFrameDouble;
+using namespace Vantor::Widgets;
 
 // The touch themes: readable, large enough for a finger, and states to be seen.
 class tst_Styles : public QObject
@@ -93,34 +83,32 @@ void tst_Styles::contrast()
 void tst_Styles::largeFont()
 {
     QFETCH_GLOBAL(QString, sheet);
-    Rect editor;
+    RectEditFrame editor;
     QFont font = editor.font();
     font.setPointSizeF(font.pointSizeF() * 1.5);
     editor.setFont(font);
     editor.setStyleSheet(sheet);
     editor.setPositionLockEnable(true);
-    editor.setSizeLockEnable(true, Rect::SizeScaleLock);
-    for (const auto type : {Rect::X, Rect::Y, Rect::Width, Rect::Height}) {
-        editor.setLabelText(type, "Height");
-        editor.setRange(type, -1920, 1920);
-        editor.setValue(type, -1920);
+    editor.setSizeLockEnable(true, RectEditFrame::SizeScaleLock);
+    for (const EditorRow &row : rowsOf(editor)) {
+        row.whole->setLabelText("Height");
+        row.whole->setRange(-1920, 1920);
+        row.whole->setValue(-1920);
     }
     QVERIFY(User::show(editor));
 
+    const auto isWithin = [](const QSize &least, const QSize &size) {
+        return least.boundedTo(size) == least;
+    };
     const QSize finger(48, 48);
-    const auto buttons = editor.findChildren<QToolButton *>();
-    QCOMPARE(buttons.size(), 10);
-    for (const QToolButton *button : buttons)
-        QCOMPARE(button->size().expandedTo(finger), button->size());
-    for (const QSlider *slider : editor.findChildren<QSlider *>()) {
-        const QSize handle = User::handleRect(slider, slider->value()).size();
-        QCOMPARE(handle.expandedTo(finger), handle);
-    }
-    for (const QLabel *label : editor.findChildren<QLabel *>("labelName"))
-        QCOMPARE(label->size().expandedTo(label->sizeHint()), label->size());
-    for (const QLineEdit *field : editor.findChildren<QLineEdit *>()) {
-        const QRect text = field->fontMetrics().boundingRect(field->text());
-        QCOMPARE(field->size().expandedTo(text.size()), field->size());
+    QCOMPARE(editor.findChildren<QToolButton *>().size(), 10);
+    for (const QToolButton *button : editor.findChildren<QToolButton *>())
+        QVERIFY(isWithin(finger, button->size()));
+    for (const EditorRow &row : rowsOf(editor)) {
+        QVERIFY(isWithin(finger, User::handleRect(row.slider, row.slider->value()).size()));
+        QVERIFY(isWithin(row.label->sizeHint(), row.label->size()));
+        const QRect text = row.field->fontMetrics().boundingRect(row.field->text());
+        QVERIFY(isWithin(text.size(), row.field->size()));
     }
 }
 
@@ -129,34 +117,24 @@ void tst_Styles::largeFont()
 void tst_Styles::edges()
 {
     QFETCH_GLOBAL(QString, sheet);
-    QWidget window;
-    QVBoxLayout layout(&window);
-    layout.addWidget(new SliderEditFrame);
-    layout.addWidget(new SliderEditFrameDouble);
-    window.setStyleSheet(sheet);
-    QVERIFY(User::show(window));
-    for (auto *field : window.findChildren<QAbstractSpinBox *>()) {
-        QWidget *row = field->parentWidget();
-        window.setFocus();
+    for (QWidget *row : QList<QWidget *> {new SliderEditFrame, new SliderEditFrameDouble}) {
+        EditorUser user(row);
+        user.page.setStyleSheet(sheet);
+        QWidget *const field = user.rows[0].spinBox;
+        const auto edgeAfter = [&user, field](const QString &action) {
+            user.perform(action);
+            return upperEdge(field);
+        };
+        const QImage plain = edgeAfter("elsewhere");
         const QRect place = field->geometry();
-        const QImage plain = upperEdge(field);
         QVERIFY(contrastOfEdge(upperEdge(row)) < 1.1);
-        field->setFocus();
-        const QImage focused = upperEdge(field);
-
-        User::type("1/0\n");
-        QCOMPARE(QApplication::focusWidget(), row);
-        QVERIFY(contrastOfEdge(upperEdge(row)) >= 3);
-        const QImage refused = upperEdge(field);
-        QVERIFY(contrastOfEdge(refused) >= 3);
+        const QImage focused = edgeAfter("focus"), refused = edgeAfter("keys (\n");
+        QVERIFY(contrastOfEdge(upperEdge(row)) >= 3 && contrastOfEdge(refused) >= 3);
         QVERIFY(refused != plain && refused != focused && focused != plain);
-        field->setFocus();
-        QCOMPARE(upperEdge(field), refused);
+        QCOMPARE(edgeAfter("focus"), refused);
         QCOMPARE(field->geometry(), place);
-        User::type("1");
-        QCOMPARE(upperEdge(field), focused);
-        User::type("\n");
-        QCOMPARE(upperEdge(field), plain);
+        QCOMPARE(edgeAfter("keys 1"), focused);
+        QCOMPARE(edgeAfter("keys \n"), plain);
     }
 }
 
