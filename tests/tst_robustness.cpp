@@ -5,11 +5,9 @@
 #include "rgbeditframe.h"
 #include "rgbopacityeditframe.h"
 
-#include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QMetaMethod>
 #include <QtCore/QThread>
 #include <QtWidgets/QDialog>
-#include <QtWidgets/QLayout>
 
 #include <QAction> // of QtWidgets or, with Qt 6, of QtGui
 
@@ -49,15 +47,14 @@ void pasteWithin(int mostMs, AnyUser &user, const QString &text, const QString &
     user.perform("click");
     const std::clock_t start = std::clock();
     user.perform("paste " + text);
-    User::press(Qt::Key_Return);
+    user.perform("keys \n");
     const double ms = 1000.0 * double(std::clock() - start) / CLOCKS_PER_SEC
         / qMax(1, qEnvironmentVariableIntValue("VANTORSLIDER_SLOWNESS"));
     QVERIFY2(ms < mostMs, qPrintable(QString::number(ms)));
     if (!shown.isEmpty())
         QCOMPARE(user.shown(), shown);
-    user.perform("click");
-    user.row.field->selectAll(); // the floating-point field keeps the focus
-    user.perform("keys 1/1\n");
+    user.perform("elsewhere"); // the floating-point field keeps the focus
+    user.perform("enter 1/1");
     QCOMPARE(double(user.frame->value()), 1.0);
 }
 
@@ -73,12 +70,11 @@ void tst_Robustness::scripts_data()
         });
     };
     for (const char *script :
-         {"while(1);=", "for(;;){}=", "eval('for(;;);')=", "({toString:function(){for(;;){}}})=",
-          "(function f(){return f()+f()})()=", "(function f(n){return n<2?n:f(n-1)+f(n-2)})(50)=",
+         {"eval('for(;;);')=", "({toString:function(){for(;;){}}})=",
+          "(function f(n){return n<2?n:f(n-1)+f(n-2)})(50)=",
           "(function f(){try{f()}catch(e){f()}})()=", "(function f(){try{f()}finally{f()}})()=",
           "new Array(4294967295)=", "a=[];a.length=4294967295;a.join()=",
-          "[].constructor(4294967295)=", "throw {toString:function(){for(;;);}}=",
-          "Error.prototype.name={toString:function(){for(;;);}};throw new Error="})
+          "[].constructor(4294967295)=", "throw {toString:function(){for(;;);}}="})
         add(script, "10");
     // What these replace takes no part in the conversion of their result.
     for (const char *script : {"String=function(x){return {toString:function(){for(;;);}}};({})=",
@@ -93,19 +89,14 @@ void tst_Robustness::hugeTexts_data()
     QTest::addColumn<Check>("check");
     // Qt lets a field have 32767 characters unless its host says more.
     const QMap<QString, QString> texts {
-        {"digits", QString(32000, '7')},
         {"zeros", QString(32000, '0') + '7'},
-        {"letters", QString(32000, 'x')},
         {"points", QString(32000, '.')},
         {"equals", QString(32000, '=')},
         {"sum", QString("1+").repeated(16000) + '1'},
         {"signs", QString(32000, '-') + '1'},
-        {"spaced signs", QString("-(").repeated(16000) + '1'},
-        {"opened", QString(32000, '(')},
         {"nested", QString(16000, '(') + '1' + QString(16000, ')')},
         {"nested pattern", "/1" + QString(100000, '(') + '1' + QString(100000, ')') + '/'},
         {"calls", '1' + QString("()").repeated(16000)},
-        {"division or pattern", "/(((1*)*)*)*2/(111111111111111111111)"},
         {"pattern", "/(" + QStringLiteral("1*").repeated(14) + "2)/(111111111111111111111)"},
         {"beyond the first plane", QString::fromUtf8("\xf0\x9f\x98\x80").repeated(16000)}};
     for (auto text = texts.begin(); text != texts.end(); ++text) {
@@ -214,9 +205,14 @@ template <typename AnyUser, typename Action> auto onReport(AnyUser &user, const 
     return QObject::connect(user.frame, &Frame::valueChanged, &user.page, action);
 }
 
-void openDialog(QWidget *page, QWidget *)
+// What the program does to an editor that the user holds.
+template <typename AnyUser> void takeAway(AnyUser &user, const QString &removal)
 {
-    QDialog dialog(page);
+    if (removal != "dialog") {
+        user.perform(removal);
+        return;
+    }
+    QDialog dialog(&user.page);
     QTimer::singleShot(0, &dialog, [&] {
         QTest::mouseRelease(dialog.windowHandle(), Qt::LeftButton);
         dialog.accept();
@@ -224,37 +220,17 @@ void openDialog(QWidget *page, QWidget *)
     dialog.exec();
 }
 
-// What the program does to an editor that the user holds.
-using TakeAway = std::function<void(QWidget *page, QWidget *frame)>;
-const QMap<QString, TakeAway> removals {
-    {"hidden", [](QWidget *, QWidget *frame) { frame->hide(); }},
-    {"disabled", [](QWidget *, QWidget *frame) { frame->setEnabled(false); }},
-    {"reparented", [](QWidget *, QWidget *frame) { frame->setParent(nullptr); }},
-    {"window closed", [](QWidget *page, QWidget *) { page->close(); }},
-    {"window disabled", [](QWidget *page, QWidget *) { page->setEnabled(false); }},
-    {"dialog opened", openDialog},
-};
-
-// The timers of an editor and its children, the cursor's apart.
-int timersOf(QWidget *editor)
-{
-    QList<QAbstractEventDispatcher::TimerInfo> timers;
-    for (QWidget *widget : editor->findChildren<QWidget *>() + QWidgetList {editor})
-        timers += QAbstractEventDispatcher::instance()->registeredTimers(widget);
-    return static_cast<int>(timers.size());
-}
-
 // Takes the editor away within the first report of what is held, or after it. A button
 // is held until it repeats.
 template <typename AnyUser>
-void takeAwayHeld(AnyUser &user, const QString &steps, const TakeAway &takeAway, bool isInReport)
+void takeAwayHeld(AnyUser &user, const QString &steps, const QString &removal, bool isInReport)
 {
     auto *const frame = user.frame;
     const EditorRow &row = user.row;
     bool isTaken = false;
     const auto take = [&] {
         if (!std::exchange(isTaken, true))
-            takeAway(&user.page, frame);
+            takeAway(user, removal);
     };
     onReport(user, [&] {
         if (isInReport)
@@ -271,7 +247,7 @@ void takeAwayHeld(AnyUser &user, const QString &steps, const TakeAway &takeAway,
             QTest::keyPress(row.plus, Qt::Key_Space);
         QTRY_VERIFY(row.slider->value() > 10);
     } else {
-        for (const QString &step : steps.split(" | "))
+        for (const QString &step : (steps + (isInReport ? " | tick | drop" : "")).split(" | "))
             user.perform(step);
     }
     QCOMPARE(isTaken, isInReport);
@@ -279,21 +255,16 @@ void takeAwayHeld(AnyUser &user, const QString &steps, const TakeAway &takeAway,
     QVERIFY(!row.slider->isSliderDown() && !row.plus->isDown());
     if constexpr (AnyUser::isWhole)
         QVERIFY(!frame->isMousePressed());
-    QCOMPARE(timersOf(frame), 0);
+    QCOMPARE(qMax(samplingInterval(frame), samplingInterval(row.plus)), -1);
     const QString heard = user.heard();
     QVERIFY2(isButton || heard == "40", qPrintable(heard));
     const int position = row.slider->value();
 
     QTest::mouseRelease(user.page.windowHandle(), Qt::LeftButton);
-    user.page.layout()->addWidget(frame);
-    for (QWidget *widget : {frame->window(), static_cast<QWidget *>(frame)}) {
-        widget->setEnabled(true);
-        widget->show();
-    }
+    user.play("enable | show");
     user.page.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&user.page));
-    QCOMPARE(timersOf(frame), 0);
-    user.log.take();
+    QCOMPARE(qMax(samplingInterval(frame), samplingInterval(row.plus)), -1);
     user.play(QString("plus: %1").arg(position + 1));
 }
 
@@ -302,33 +273,15 @@ void takeAwayHeld(AnyUser &user, const QString &steps, const TakeAway &takeAway,
 void tst_Robustness::takenAwayWhileHeld_data()
 {
     QTest::addColumn<Check>("check");
-    for (auto removal = removals.begin(); removal != removals.end(); ++removal) {
-        const auto add = [&](const QString &steps, bool isInReport) {
-            addForBoth(steps + ", " + removal.key() + (isInReport ? " in the report" : ""),
-                       [=, takeAway = *removal](auto &user) {
-                           takeAwayHeld(user, steps, takeAway, isInReport);
-                       });
-        };
-        for (const char *steps : {"hold 40", "mouse on plus", "space bar on plus",
-                                  "released | hold 40 | drop", "sampled | hold 40 | tick"})
-            add(steps, true);
-        for (const char *steps : {"hold 40", "mouse on plus", "space bar on plus",
-                                  "released | hold 40", "sampled | hold 40"})
-            add(steps, false);
+    for (const QString removal : {"hide", "disable", "dialog"}) {
+        for (const QString steps : {"hold 40", "mouse on plus", "space bar on plus",
+                                    "released | hold 40", "sampled | hold 40"}) {
+            for (const bool isInReport : {true, false})
+                addForBoth(steps + ", " + removal + (isInReport ? " in the report" : ""),
+                           [=](auto &user) { takeAwayHeld(user, steps, removal, isInReport); });
+        }
     }
 }
-
-namespace {
-
-// The host's part of a window is gone when the window hides its editors.
-struct Host : QWidget
-{
-    ~Host() override { isGone = true; }
-    void receive() { QVERIFY(!isGone); }
-    bool isGone = false;
-};
-
-} // namespace
 
 void tst_Robustness::hostInAReport_data()
 {
@@ -349,12 +302,14 @@ void tst_Robustness::hostInAReport_data()
         onReport(user, [&user] { user.perform("disable"); });
         user.play("tick: 100");
     });
+    // The host's part of a window is gone when the window hides its editors.
     addForBoth("is gone", [](auto &user) {
+        struct Host : QWidget
+        {
+        };
         auto *const host = new Host;
         user.frame->setParent(host);
         QVERIFY(User::show(*host));
-        using Frame = std::remove_pointer_t<decltype(user.frame)>;
-        connect(user.frame, &Frame::valueChanged, host, &Host::receive);
         user.play("released | hold 40");
         delete host;
         QCOMPARE(user.heard(), QString());
@@ -374,71 +329,35 @@ void tst_Robustness::hostInAReport_data()
 
 namespace {
 
-// What the row holds of the settings. Neither is NaN then.
-template <typename Frame> void compareValue(Frame &frame, double setting)
-{
-    QVERIFY2(frame.minimum() <= frame.value() && frame.value() <= frame.maximum(),
-             qPrintable(QString::number(setting)));
-}
-
-// A range, a step and a value.
+// A range, a step and a value: whatever they are, what the row holds is within what it
+// holds of the range. None is NaN then.
 template <typename AnyUser, typename Value>
 void setExtremes(AnyUser &user, const QVector<Value> &values)
 {
     auto *const frame = user.frame;
     const QSlider *const slider = user.row.slider;
+    const auto verify = [frame] {
+        QVERIFY(std::isfinite(double(frame->value())) && frame->minimum() <= frame->value()
+                && frame->value() <= frame->maximum());
+    };
     for (const Value a : values) {
         for (const Value b : values) {
+            frame->setMaximum(a);
+            frame->setMinimum(b);
+            verify();
             frame->setRange(a, b);
             frame->setSingleStep(a);
-            frame->setPageStep(static_cast<int>(qBound(-1e9, double(b), 1e9)));
             for (const Value value : values) {
                 frame->setValue(value);
-                compareValue(*frame, double(value));
+                verify();
                 for (const char *click : {"plus", "minus", "groove after"})
                     user.perform(click);
             }
             user.perform(QString("hold %1 %2").arg(slider->minimum()).arg(slider->maximum()));
             for (const char *step : {"drop", "enter 1/0,9999*9999*9999", "enter 0/0"})
                 user.perform(step);
-            compareValue(*frame, double(b));
+            verify();
         }
-    }
-}
-
-void setExtremeDecimals(const QVector<double> &values)
-{
-    SliderEditFrameDouble frame;
-    for (int decimals = -1; decimals <= 300; ++decimals) {
-        frame.setDecimals(decimals);
-        for (const double value : values) {
-            frame.setMaximum(value);
-            frame.setMinimum(value);
-            frame.setRange(-value, value);
-            frame.setSingleStep(value);
-            frame.setValue(value);
-            compareValue(frame, value);
-            QVERIFY(std::isfinite(frame.value()));
-        }
-    }
-}
-
-template <typename AnyUser> void setExtremeWidths(AnyUser &user)
-{
-    auto *const frame = user.frame;
-    for (const int width : {INT_MIN, -1, 0, QWIDGETSIZE_MAX + 1, INT_MAX}) {
-        frame->setHorizontalSpacing(width, width);
-        frame->setLabelWidthRange(width, width);
-        frame->setButtonWidthRange(width, width);
-        frame->setSpinBoxWidthRange(width, width);
-        frame->setLabelFixedWidth(width);
-        frame->setButtonFixedWidth(width);
-        frame->setSpinBoxFixedWidth(width);
-        frame->setAutoRepeatDelay(width);
-        frame->setAutoRepeatInterval(width);
-        frame->setTimeSamplingRate(width);
-        for (const QWidget *child : QWidgetList {user.row.label, user.row.plus})
-            QVERIFY(child->minimumWidth() >= 0 && child->maximumWidth() <= QWIDGETSIZE_MAX);
     }
 }
 
@@ -447,20 +366,20 @@ template <typename AnyUser> void setExtremeWidths(AnyUser &user)
 void tst_Robustness::extremeSettings_data()
 {
     QTest::addColumn<Check>("check");
-    constexpr double inf = std::numeric_limits<double>::infinity();
-    constexpr double greatest = std::numeric_limits<double>::max();
-    const QVector<double> values {-inf, -greatest, -1e9, -0.01,    0,   1e-300,
-                                  7,    3e7,       1e9,  greatest, inf, std::nan("")};
     QTest::newRow("int") << Check([] {
         UserOf<SliderEditFrame> user;
         setExtremes(user, QVector<int> {INT_MIN, INT_MIN + 1, -1, 0, 7, INT_MAX});
     });
-    QTest::newRow("double") << Check([values] {
-        UserOf<SliderEditFrameDouble> user;
-        setExtremes(user, values);
-    });
-    QTest::newRow("decimals") << Check([values] { setExtremeDecimals(values); });
-    addForBoth("widths", [](auto &user) { setExtremeWidths(user); });
+    for (const int decimals : {-1, 2, 300}) {
+        QTest::addRow("double, %d decimals", decimals) << Check([decimals] {
+            using Limits = std::numeric_limits<double>;
+            UserOf<SliderEditFrameDouble> user;
+            user.frame->setDecimals(decimals);
+            setExtremes(user,
+                        QVector<double> {-Limits::infinity(), -1e9, 0, 1e-300, 7, 3e7,
+                                         Limits::max(), Limits::infinity(), std::nan("")});
+        });
+    }
 }
 
 int main(int argc, char *argv[])
