@@ -28,8 +28,8 @@ namespace {
 
 // What the user does with a row. "#" is a position, at times beyond the range.
 const QStringList gestures =
-    QString("plus; minus; enter (#+7-7)/1; type (#+7-7)/1\t; click | up | keys \n; "
-            "click | down | keys \n; groove before; groove after; wheel; hold | drop; "
+    QString("plus; minus; enter (#+7-7)/1; type (#+7-7)/1\t; "
+            "click | up | down | down | keys \n; groove before; groove after; wheel; hold | drop; "
             "hold | move # | move # | tick | drop; hold | move # | tick | move # | drop")
         .split("; ");
 
@@ -40,19 +40,17 @@ public:
     // What the program does: first of all, and then any of its steps. "?" is a position
     // within any range that leaves room for another one in the area: a value beyond the
     // range is remembered as it was set, and counts as new when an entry ends.
-    Session(const QString &start, const QStringList &steps, unsigned seed)
-        : m_programSteps(steps), m_random(seed)
+    Session(const QString &start, const QStringList &steps, std::mt19937 &random)
+        : m_programSteps(steps), m_random(random)
     {
-        const QString mode = any({"", " | released", " | sampled"});
-        for (const QString &step : (start + mode + " | " + steps[0]).split(" | "))
-            playProgram(step);
+        playProgram(start + any({"", " | released", " | sampled"}) + " | " + steps[0]);
     }
 
     // What was done, as a row for a table.
     QString play(int count)
     {
         QStringList all = gestures + gestures + m_programSteps;
-        if (isRect && !isMask)
+        if (std::is_base_of_v<RectEditFrame, Frame> && !isMask)
             all += {"lock", "lock"};
         for (int i = 0; i < count && !QTest::currentTestFailed(); ++i) {
             const QString action = any(all);
@@ -80,19 +78,13 @@ private:
         return isCrop ? min(row & 1) + max(row | 2) - value(row ^ 2) : max(row);
     }
 
-    QString perform(const QString &step)
+    // Nothing is heard of it.
+    void playProgram(QString steps)
     {
-        m_user.perform(step);
-        const QString heard = m_user.heard();
-        m_done.append(heard.isEmpty() ? step : step + ": " + heard);
-        return heard;
-    }
-
-    void playProgram(QString step)
-    {
-        while (step.contains('?'))
-            step.replace(step.indexOf('?'), 1, QString::number(number(9, 180)));
-        QCOMPARE(perform(step), QString());
+        while (steps.contains('?'))
+            steps.replace(steps.indexOf('?'), 1, QString::number(number(9, 180)));
+        m_done.append(steps);
+        m_user.play(steps);
         m_reported = m_user.shown().replace(' ', ',');
     }
 
@@ -111,7 +103,10 @@ private:
         QRegularExpressionMatch match;
         QString changed;
         for (const QString &action : gesture.split(" | ")) {
-            const QString heard = perform(m_user.rows[row].step(action));
+            const QString step = m_user.rows[row].step(action);
+            m_user.perform(step);
+            const QString heard = m_user.heard();
+            m_done.append(step + ": " + heard);
             QVERIFY(!heard.contains("warning") && !heard.contains("too early"));
             // What a lock has clamped is reported before the entry.
             QVERIFY(heard.count(change) <= (gesture.contains('(') && !lock.isEmpty() ? 2 : 1));
@@ -125,29 +120,27 @@ private:
             QVERIFY(!each.whole || each.whole->value() == each.slider->value());
         if (isLock)
             lock = lock.isEmpty() ? QVector<int> {value(row & 2), value(row | 1)} : QVector<int>();
-        else if (isRect && !changed.isEmpty())
-            verifyRect(row, changed.section(',', row, row).toInt(), lock);
+        else if (!changed.isEmpty())
+            verifyField(row, changed.section(',', row, row).toInt(), lock);
     }
 
     // Of the field that the user has changed and what is locked to it.
-    void verifyRect(int row, int changed, const QVector<int> &lock)
+    void verifyField(int row, int changed, const QVector<int> &lock)
     {
         QVERIFY(value(row) <= room(row));
         const int partner = row ^ 1, from = lock.value(row & 1), to = lock.value(partner & 1);
-        const bool isOffset = row < 2;
-        if (lock.isEmpty() || (!isOffset && from <= 0))
+        if (lock.isEmpty() || (row > 1 && from <= 0))
             return;
-        const int val = isOffset ? to + changed - from : qRound(double(changed) * to / from);
-        const int most = isOffset ? max(partner) : qMin(max(partner), room(partner));
+        const int val = row < 2 ? to + changed - from : qRound(double(changed) * to / from);
+        const int most = row < 2 ? max(partner) : qMin(max(partner), room(partner));
         QCOMPARE(value(partner), qBound(min(partner), val, most));
     }
 
-    static constexpr bool isRect = std::is_base_of_v<RectEditFrame, Frame>;
     static constexpr bool isCrop = std::is_same_v<Frame, CropEditFrame>;
     static constexpr bool isMask = std::is_same_v<Frame, MaskEditFrame>;
 
     const QStringList m_programSteps;
-    std::mt19937 m_random;
+    std::mt19937 &m_random;
     UserOf<Frame> m_user;
     QVector<int> m_locks[2]; // the positions and the sizes where they were locked
     QStringList m_done;
@@ -157,11 +150,10 @@ private:
 template <typename Frame> void add(const QString &start, const QStringList &steps)
 {
     QTest::newRow(Frame::staticMetaObject.className()) << Check([=] {
-        const int seed = qEnvironmentVariableIntValue("VANTORSLIDER_SEED");
+        std::mt19937 random(unsigned(qEnvironmentVariableIntValue("VANTORSLIDER_SEED")));
         const int set = qEnvironmentVariableIntValue("VANTORSLIDER_GESTURES");
         for (int left = set > 0 ? set : 1000; left > 0 && !QTest::currentTestFailed(); left -= 50) {
-            const unsigned number = (unsigned(seed) << 16) + unsigned(left);
-            const QString done = Session<Frame>(start, steps, number).play(qMin(left, 50));
+            const QString done = Session<Frame>(start, steps, random).play(qMin(left, 50));
             if (QTest::currentTestFailed())
                 qInfo("%s", qPrintable(done));
         }
