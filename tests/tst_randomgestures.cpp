@@ -51,7 +51,7 @@ public:
     {
         QStringList all = gestures + gestures + m_programSteps;
         if (std::is_base_of_v<RectEditFrame, Frame> && !isMask)
-            all += {"lock", "lock"};
+            all += QStringList {"lock", "lock"};
         for (int i = 0; i < count && !QTest::currentTestFailed(); ++i) {
             const QString action = any(all);
             if (m_programSteps.contains(action))
