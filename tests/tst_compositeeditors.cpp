@@ -4,8 +4,6 @@
 #include "rgbeditframe.h"
 #include "rgbopacityeditframe.h"
 
-#include <QtWidgets/QLayout>
-
 using namespace Vantor::Widgets;
 
 // What every composite editor does alike with its rows: the operations that a

@@ -1,7 +1,6 @@
 #include "editoruser.h"
 
 #include <QtWidgets/QDoubleSpinBox>
-#include <QtWidgets/QLayout>
 
 using namespace Vantor::Widgets;
 
@@ -31,7 +30,6 @@ template <typename AnyUser> void compareSetters(AnyUser &user)
         return texts.join(' ');
     };
     frame.setLabelText("Gain");
-    QCOMPARE(frame.labelText(), QString("Gain"));
     QStringList names {row.label->text()};
     for (const QWidget *widget :
          QWidgetList({&frame, row.slider, row.spinBox, row.minus, row.plus}))
@@ -71,9 +69,6 @@ template <typename AnyUser> void compareSetters(AnyUser &user)
     if constexpr (AnyUser::isWhole) {
         frame.setButtonVisible(false);
         QVERIFY(row.minus->isHidden() && row.plus->isHidden());
-        frame.setSingleStep(5);
-        QCOMPARE(frame.singleStep(), 5);
-        QCOMPARE(row.slider->singleStep(), 5);
     }
     QCOMPARE(user.heard(), QString());
 }

@@ -1,8 +1,6 @@
 #include "editoruser.h"
 #include "slidereditframe_p.h"
 
-#include <QtWidgets/QVBoxLayout>
-
 using Vantor::Widgets::SliderEditDoubleSpinBox;
 using Vantor::Widgets::SliderEditSpinBox;
 

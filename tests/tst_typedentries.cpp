@@ -2,7 +2,6 @@
 #include "slidereditframe_p.h"
 
 #include <QtWidgets/QDialog>
-#include <QtWidgets/QVBoxLayout>
 
 using namespace Vantor::Widgets;
 

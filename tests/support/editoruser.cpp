@@ -1,12 +1,8 @@
 #include "editoruser.h"
 
-#include "cropeditframe.h"
-#include "maskeditframe.h"
 #include "rgballeditframe.h"
 #include "rgbeditframe.h"
 #include "rgbopacityeditframe.h"
-
-#include <QtWidgets/QVBoxLayout>
 
 #include <cmath>
 

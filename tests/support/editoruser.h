@@ -1,6 +1,8 @@
 #pragma once
 
+#include "cropeditframe.h"
 #include "eventlog.h"
+#include "maskeditframe.h"
 #include "slidereditframe.h"
 #include "slidereditframedouble.h"
 #include "testuser.h"
@@ -9,16 +11,9 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QToolButton>
+#include <QtWidgets/QVBoxLayout>
 
 #include <functional>
-
-namespace Vantor {
-namespace Widgets {
-class CropEditFrame;
-class MaskEditFrame;
-class RectEditFrame;
-} // namespace Widgets
-} // namespace Vantor
 
 // A slider editor of either kind, alone or in a composite editor, and what a user
 // finds in it.
@@ -114,7 +109,6 @@ public:
     // A slider editor goes from 0 to 100 positions of its slider in steps of one and
     // stands at 10. Its values are counted in units. A rectangle editor has its locks.
     explicit EditorUser(QWidget *editor, double unit = 1);
-    virtual ~EditorUser() = default;
 
     // Fails the test at the first step of which something else is heard than it says.
     void play(const QString &steps);

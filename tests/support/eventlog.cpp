@@ -27,17 +27,11 @@ void EventLog::handleMessage(QtMsgType type, const QMessageLogContext &context,
                              const QString &message)
 {
     // What the test's own platform cannot do is no matter of the library.
-    if (message.startsWith(QLatin1String("This plugin does not support"))) {
+    if (message.startsWith(QLatin1String("This plugin does not support")))
         return;
-    }
-    if (type == QtFatalMsg) {
-        s_current->m_previous(type, context, message);
-        return;
-    }
-    const char *const kind = type == QtDebugMsg ? "debug: "
-        : type == QtInfoMsg                     ? "info: "
-        : type == QtWarningMsg                  ? "warning: "
-                                                : "critical: ";
+    if (type == QtFatalMsg)
+        return s_current->m_previous(type, context, message);
+    const char *const kind = type == QtDebugMsg ? "debug: " : "warning: ";
     s_current->m_context =
         QStringLiteral("%1 %2 %3").arg(context.file, context.function, context.category);
     s_current->add(QLatin1String(kind) + message);
