@@ -15,7 +15,7 @@ class tst_CompositeEditors : public QObject
 
 private Q_SLOTS:
     void rows_data();
-    void rows() { runCheck(); }
+    void rows() { runTestCode(); }
     void form();
     void labelMaxLength();
 };
@@ -141,7 +141,7 @@ template <typename F, typename T = typename F::Type> void addChecks()
     const auto add = [](const QString &name, const QString &result, const Call<F> &call,
                         bool isForAll = false) {
         QTest::addRow("%s%s", F::staticMetaObject.className(), qPrintable(name))
-            << Check([=] { checkOperation(name, result, call, isForAll); });
+            << TestCode([=] { checkOperation(name, result, call, isForAll); });
     };
     const auto addAll = [&add](const QString &name, const QString &result, const Call<F> &call) {
         add(name, result, call, true);
@@ -170,22 +170,23 @@ template <typename F, typename T = typename F::Type> void addChecks()
         add(" value change direction", "plus=20 hold 60=20 drop=20 click=20 wheel=20",
             [](F &f, T t) { f.setValueChangeDirection(t, SliderEditFrame::AllowedToSmaller, 20); });
     }
-    QTest::addRow("%s visibility", F::staticMetaObject.className()) << Check(checkVisibility<F>);
+    QTest::addRow("%s visibility", F::staticMetaObject.className()) << TestCode(checkVisibility<F>);
 }
 
 } // namespace
 
 void tst_CompositeEditors::rows_data()
 {
-    QTest::addColumn<Check>("check");
+    QTest::addColumn<TestCode>("code");
     addChecks<RGBEditFrame>();
     addChecks<RGBAllEditFrame>();
     addChecks<RGBOpacityEditFrame>();
     addChecks<RectEditFrame>();
-    QTest::newRow("all") << Check([] { checkColours<RGBAllEditFrame>("0..255", "50"); });
-    QTest::newRow("opacity") << Check([] { checkColours<RGBOpacityEditFrame>("0..100", "100"); });
-    QTest::newRow("RGBEditFrame pressed") << Check(checkMousePressed<RGBEditFrame>);
-    QTest::newRow("RectEditFrame pressed") << Check(checkMousePressed<RectEditFrame>);
+    QTest::newRow("all") << TestCode([] { checkColours<RGBAllEditFrame>("0..255", "50"); });
+    QTest::newRow("opacity") << TestCode(
+        [] { checkColours<RGBOpacityEditFrame>("0..100", "100"); });
+    QTest::newRow("RGBEditFrame pressed") << TestCode(checkMousePressed<RGBEditFrame>);
+    QTest::newRow("RectEditFrame pressed") << TestCode(checkMousePressed<RectEditFrame>);
 }
 
 // An editor's form, what the program sets of it, and what reaches the block of channels.

@@ -20,7 +20,7 @@ class tst_RandomGestures : public QObject
 
 private Q_SLOTS:
     void editors_data();
-    void editors() { runCheck(); }
+    void editors() { runTestCode(); }
     void lockDoesNotDrift();
 };
 
@@ -149,7 +149,7 @@ private:
 
 template <typename Frame> void add(const QString &start, const QStringList &steps)
 {
-    QTest::newRow(Frame::staticMetaObject.className()) << Check([=] {
+    QTest::newRow(Frame::staticMetaObject.className()) << TestCode([=] {
         std::mt19937 random(unsigned(qEnvironmentVariableIntValue("VANTORSLIDER_SEED")));
         const int set = qEnvironmentVariableIntValue("VANTORSLIDER_GESTURES");
         for (int left = set > 0 ? set : 1000; left > 0 && !QTest::currentTestFailed(); left -= 50) {
@@ -164,7 +164,7 @@ template <typename Frame> void add(const QString &start, const QStringList &step
 
 void tst_RandomGestures::editors_data()
 {
-    QTest::addColumn<Check>("check");
+    QTest::addColumn<TestCode>("code");
     const QStringList steps =
         QString("value ?; step 1; step 7; direction 2 ?; direction 4 ?; direction 6 ?").split("; ");
     add<SliderEditFrame>("range -30 400", steps);

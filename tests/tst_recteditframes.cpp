@@ -14,7 +14,7 @@ private Q_SLOTS:
     void readsOneField();
     void readsAllFields();
     void sequences_data();
-    void sequences() { runCheck(); }
+    void sequences() { runTestCode(); }
     void hiddenLocksStay();
     void lockIsReportedWhenItIsOn();
     void receiverSetsAnotherField();
@@ -90,7 +90,7 @@ template <typename Frame> auto rowsAfter(const QString &start)
 {
     return [start](const char *name, const QString &steps) {
         QTest::addRow("%s, %s", Frame::staticMetaObject.className(), name)
-            << Check([=] { UserOf<Frame>().play(start + steps); });
+            << TestCode([=] { UserOf<Frame>().play(start + steps); });
     };
 }
 
@@ -99,7 +99,7 @@ template <typename Frame> auto rowsAfter(const QString &start)
 // Two halves, the area's edges and the ends of int, each where the rule turns.
 void tst_RectEditFrames::sequences_data()
 {
-    QTest::addColumn<Check>("check");
+    QTest::addColumn<TestCode>("code");
     const auto rect = rowsAfter<RectEditFrame>(
         "x range 0 1000 | y range 0 1000 | w range 0 1000 | h range 0 1000 | set 0 0 0 0 | ");
     // The far edges of the area are at 10 + 1920 and 20 + 1080.

@@ -24,17 +24,17 @@ class tst_Robustness : public QObject
 
 private Q_SLOTS:
     void scripts_data();
-    void scripts() { runCheck(); }
+    void scripts() { runTestCode(); }
     void hugeTexts_data();
-    void hugeTexts() { runCheck(); }
+    void hugeTexts() { runTestCode(); }
     void deletedInASignal_data();
-    void deletedInASignal() { runCheck(); }
+    void deletedInASignal() { runTestCode(); }
     void takenAwayWhileHeld_data();
-    void takenAwayWhileHeld() { runCheck(); }
+    void takenAwayWhileHeld() { runTestCode(); }
     void hostInAReport_data();
-    void hostInAReport() { runCheck(); }
+    void hostInAReport() { runTestCode(); }
     void extremeSettings_data();
-    void extremeSettings() { runCheck(); }
+    void extremeSettings() { runTestCode(); }
 };
 
 namespace {
@@ -62,9 +62,9 @@ void pasteWithin(int mostMs, AnyUser &user, const QString &text, const QString &
 
 void tst_Robustness::scripts_data()
 {
-    QTest::addColumn<Check>("check");
+    QTest::addColumn<TestCode>("code");
     const auto add = [](const QString &script, const QString &shown) {
-        QTest::newRow(qPrintable(script)) << Check([=] {
+        QTest::newRow(qPrintable(script)) << TestCode([=] {
             UserOf<SliderEditFrame> user;
             pasteWithin(350, user, script, shown);
         });
@@ -86,7 +86,7 @@ void tst_Robustness::scripts_data()
 // Evaluated at Enter in the one editor, at "=" in the other.
 void tst_Robustness::hugeTexts_data()
 {
-    QTest::addColumn<Check>("check");
+    QTest::addColumn<TestCode>("code");
     // Qt lets a field have 32767 characters unless its host says more.
     const QMap<QString, QString> texts {
         {"zeros", QString(32000, '0') + '7'},
@@ -159,7 +159,7 @@ void addDeletions(const QStringList &gestures, const QStringList &safe, const QS
         for (const QString &gesture : isAtOnce ? safe : gestures + safe) {
             QTest::addRow("%s: %s, %s", meta->className(), qPrintable(gesture),
                           isAtOnce ? "delete" : "deleteLater")
-                << Check([=] {
+                << TestCode([=] {
                        int count = 0;
                        for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
                            if (meta->method(i).methodType() == QMetaMethod::Signal)
@@ -176,7 +176,7 @@ void addDeletions(const QStringList &gestures, const QStringList &safe, const QS
 
 void tst_Robustness::deletedInASignal_data()
 {
-    QTest::addColumn<Check>("check");
+    QTest::addColumn<TestCode>("code");
     const QStringList gestures =
         QString(
             "plus; groove after; click | up; hold | drop | right; enter 5; type 5=\t; type 5\t; "
@@ -272,7 +272,7 @@ void takeAwayHeld(AnyUser &user, const QString &steps, const QString &removal, b
 
 void tst_Robustness::takenAwayWhileHeld_data()
 {
-    QTest::addColumn<Check>("check");
+    QTest::addColumn<TestCode>("code");
     for (const QString removal : {"hide", "disable", "dialog"}) {
         for (const QString steps : {"hold 40", "mouse on plus", "space bar on plus",
                                     "released | hold 40", "sampled | hold 40"}) {
@@ -285,7 +285,7 @@ void tst_Robustness::takenAwayWhileHeld_data()
 
 void tst_Robustness::hostInAReport_data()
 {
-    QTest::addColumn<Check>("check");
+    QTest::addColumn<TestCode>("code");
     addForBoth("lets the user drag on", [](auto &user) {
         user.play("sampled | hold 41");
         const auto connection = onReport(user, [&user] {
@@ -315,7 +315,7 @@ void tst_Robustness::hostInAReport_data()
         QCOMPARE(user.heard(), QString());
     });
     // One click is one step.
-    QTest::newRow("int, takes longer than a repetition") << Check([] {
+    QTest::newRow("int, takes longer than a repetition") << TestCode([] {
         UserOf<SliderEditFrame> user;
         user.frame->setAutoRepeat(true);
         user.frame->setAutoRepeatDelay(20);
@@ -365,13 +365,13 @@ void setExtremes(AnyUser &user, const QVector<Value> &values)
 
 void tst_Robustness::extremeSettings_data()
 {
-    QTest::addColumn<Check>("check");
-    QTest::newRow("int") << Check([] {
+    QTest::addColumn<TestCode>("code");
+    QTest::newRow("int") << TestCode([] {
         UserOf<SliderEditFrame> user;
         setExtremes(user, QVector<int> {INT_MIN, INT_MIN + 1, -1, 0, 7, INT_MAX});
     });
     for (const int decimals : {-1, 2, 300}) {
-        QTest::addRow("double, %d decimals", decimals) << Check([decimals] {
+        QTest::addRow("double, %d decimals", decimals) << TestCode([decimals] {
             using Limits = std::numeric_limits<double>;
             UserOf<SliderEditFrameDouble> user;
             user.frame->setDecimals(decimals);

@@ -11,9 +11,9 @@ class tst_SliderEditFrame : public QObject
 
 private Q_SLOTS:
     void settings_data();
-    void settings() { runCheck(); }
+    void settings() { runTestCode(); }
     void sequences_data();
-    void sequences() { runCheck(); }
+    void sequences() { runTestCode(); }
     void samplingInRealTime();
 };
 
@@ -163,7 +163,7 @@ template <typename AnyUser> void compareSelectAll(AnyUser &user)
 
 void tst_SliderEditFrame::settings_data()
 {
-    QTest::addColumn<Check>("check");
+    QTest::addColumn<TestCode>("code");
     addForBoth("setters", [](auto &user) { compareSetters(user); });
     addForBoth("auto-repeat", [](auto &user) { compareAutoRepeat(user); });
     addForBoth("silence", [](auto &user) { compareSilence(user); });
@@ -174,7 +174,7 @@ namespace {
 
 template <typename Frame> void addSteps(const QString &name, const QString &steps)
 {
-    QTest::newRow(qPrintable(name)) << Check([steps] { UserOf<Frame>().play(steps); });
+    QTest::newRow(qPrintable(name)) << TestCode([steps] { UserOf<Frame>().play(steps); });
 }
 
 void addInt(const QString &name, const QString &steps)
@@ -197,7 +197,7 @@ void addBoth(const QString &name, const QString &steps)
 
 void tst_SliderEditFrame::sequences_data()
 {
-    QTest::addColumn<Check>("check");
+    QTest::addColumn<TestCode>("code");
     for (const QString mode : {"", "released | ", "sampled | "}) {
         const bool isAtOnce = mode.isEmpty();
         const QString hold = mode + (isAtOnce ? "hold 20 60 40: 20 60 40 | " : "hold 20 60 40 | ");

@@ -13,15 +13,15 @@ class tst_TypedEntries : public QObject
 
 private Q_SLOTS:
     void whole_data();
-    void whole() { runCheck(); }
+    void whole() { runTestCode(); }
     void fraction_data();
-    void fraction() { runCheck(); }
+    void fraction() { runTestCode(); }
     void refused_data();
     void refused();
     void windows_data();
-    void windows() { runCheck(); }
+    void windows() { runTestCode(); }
     void scripts_data();
-    void scripts() { runCheck(); }
+    void scripts() { runTestCode(); }
     void replacedLineEdit();
 };
 
@@ -31,7 +31,7 @@ static void addEntry(const QString &range, const QString &steps, const QString &
 {
     QString name = range + " | " + steps;
     name.replace('\n', "Enter").replace('\t', "Tab");
-    QTest::newRow(qPrintable(name)) << Check([=] {
+    QTest::newRow(qPrintable(name)) << TestCode([=] {
         const QStringList numbers = range.split(' ');
         UserOf<Frame> user(1);
         if (numbers.size() > 3)
@@ -49,7 +49,7 @@ static void addEntry(const QString &range, const QString &steps, const QString &
 
 void tst_TypedEntries::whole_data()
 {
-    QTest::addColumn<Check>("check");
+    QTest::addColumn<TestCode>("code");
     const auto row = addEntry<SliderEditFrame>;
     row("0 100 10", "enter 5*2 | focused: editor", "10");
     row("0 100 10", "enter -5: 0", "0");
@@ -88,7 +88,7 @@ void tst_TypedEntries::whole_data()
 
 void tst_TypedEntries::fraction_data()
 {
-    QTest::addColumn<Check>("check");
+    QTest::addColumn<TestCode>("code");
     const auto row = addEntry<SliderEditFrameDouble>;
     row("0 1 0.1", "enter 1/4: 0.25 | focused: editor", "0.25");
     row("0 1 0.1", "type 1/4= | shown: 0.25/10 | focused: other | keys \t: 0.25 | focused: other",
@@ -194,7 +194,7 @@ template <typename AnyUser> struct ShownByItsConstructor : QDialog
 // dropped then.
 void tst_TypedEntries::windows_data()
 {
-    QTest::addColumn<Check>("check");
+    QTest::addColumn<TestCode>("code");
     for (const QString typed : {"42", "1+1", "7="}) {
         addForBoth("widget, " + typed, [=](auto &user) { destroyWindow<QWidget>(user, typed); });
         addForBoth("host's dialog, " + typed,
@@ -219,7 +219,7 @@ void tst_TypedEntries::windows_data()
 // dialog may close on a key then, and go.
 void tst_TypedEntries::scripts_data()
 {
-    QTest::addColumn<Check>("check");
+    QTest::addColumn<TestCode>("code");
     for (const QString script : {"for(;;){}", "for(i=1;i<1e4;i++);7"}) {
         for (const QString end : {"\n", "\t", "="}) {
             addForBoth(script + QString(end).replace('\n', "Enter").replace('\t', "Tab"),

@@ -168,25 +168,25 @@ public:
 };
 
 // A test whose data rows bring their own code.
-using Check = std::function<void()>;
-Q_DECLARE_METATYPE(Check)
+using TestCode = std::function<void()>;
+Q_DECLARE_METATYPE(TestCode)
 
-inline void runCheck()
+inline void runTestCode()
 {
-    QFETCH(Check, check);
-    check();
+    QFETCH(TestCode, code);
+    code();
 }
 
-// Adds the check for the integer and for the floating-point editor. It takes the user
-// of either.
-template <typename BothCheck> void addForBoth(const QString &name, const BothCheck &check)
+// Adds a row for the integer and one for the floating-point editor. The code takes the
+// user of either.
+template <typename Code> void addForBoth(const QString &name, const Code &code)
 {
     using namespace Vantor::Widgets;
     const auto add = [&](const char *kind, auto frame) {
         using AnyUser = UserOf<std::remove_pointer_t<decltype(frame)>>;
-        QTest::addRow("%s, %s", kind, qPrintable(name)) << Check([check] {
+        QTest::addRow("%s, %s", kind, qPrintable(name)) << TestCode([code] {
             AnyUser user;
-            check(user);
+            code(user);
         });
     };
     add("int", static_cast<SliderEditFrame *>(nullptr));
