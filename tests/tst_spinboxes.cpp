@@ -95,7 +95,10 @@ void tst_SpinBoxes::suffix()
     box.setSlotEditingFinished();
     QCOMPARE(box.text(), QString("70.00mm"));
     field.page.setFocus();
+    // What the host has put into the field in between counts.
+    box.findChild<QLineEdit *>()->setText("3.5mm");
     box.setFocus();
+    QCOMPARE(box.value(), 3.5);
     // While it is away, another focus-in leaves the field alone.
     box.setSuffix("s");
     QFocusEvent again(QEvent::FocusIn);
