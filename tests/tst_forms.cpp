@@ -77,6 +77,7 @@ template <typename Frame> void compareMapping(const QString &modelled, const QSt
 
 } // namespace
 
+// The order of a form's properties is not the host's to choose: no write reports or is lost.
 void tst_Forms::silentWrites()
 {
     const auto compareInt = compareWrites<SliderEditFrame>;

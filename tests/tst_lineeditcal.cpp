@@ -149,6 +149,7 @@ void tst_LineEditCal::expressions()
     QTEST(field.text() == "8.5" ? QString("fails") : field.text(), "result");
 }
 
+// Of what is typed; a sign alone has none to limit.
 void tst_LineEditCal::decimalsOfEntries()
 {
     Field field;

@@ -179,6 +179,7 @@ void tst_RandomGestures::editors_data()
     add<MaskEditFrame>("area 640 360", {"mask ? ? ? ?"});
 }
 
+// Errors of rounding add up only over many edits.
 void tst_RandomGestures::lockDoesNotDrift()
 {
     EditorUser user(new RectEditFrame);

@@ -68,6 +68,7 @@ void tst_RectEditFrames::readsOneField()
     }
 }
 
+// Each way to read them has its own order of the four.
 void tst_RectEditFrames::readsAllFields()
 {
     MaskEditFrame mask;

@@ -174,6 +174,7 @@ void addDeletions(const QStringList &gestures, const QStringList &safe, const QS
 
 } // namespace
 
+// For the sanitizers and Valgrind, too: what is touched after the end need not show.
 void tst_Robustness::deletedInASignal_data()
 {
     QTest::addColumn<TestCode>("code");
@@ -363,6 +364,7 @@ void setExtremes(AnyUser &user, const QVector<Value> &values)
 
 } // namespace
 
+// No assertion of Qt's, no overflow that the sanitizers see, and a value within the range.
 void tst_Robustness::extremeSettings_data()
 {
     QTest::addColumn<TestCode>("code");

@@ -259,6 +259,7 @@ void tst_SliderEditFrame::sequences_data()
     addDouble("minus without tolerance", "step 10 | range 20 99 | value 30 | minus | shown: 30");
 }
 
+// Elsewhere the ticks come by hand: here the timer runs.
 void tst_SliderEditFrame::samplingInRealTime()
 {
     UserOf<SliderEditFrame> user;

@@ -133,6 +133,7 @@ void tst_SliderEditFrameDouble::locale()
     }
 }
 
+// Nothing calls them any more, but hosts find them among the symbols.
 void tst_SliderEditFrameDouble::precision()
 {
     const auto [precisionOf, magnificationOf] = privateOperations();
