@@ -253,9 +253,6 @@ void tst_CompositeEditors::labelMaxLength()
     }
 }
 
-int main(int argc, char *argv[])
-{
-    return runTest<tst_CompositeEditors>(argc, argv);
-}
+QTEST_MAIN(tst_CompositeEditors)
 
 #include "tst_compositeeditors.moc"

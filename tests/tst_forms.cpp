@@ -150,9 +150,6 @@ void tst_Forms::form()
 #endif
 }
 
-int main(int argc, char *argv[])
-{
-    return runTest<tst_Forms>(argc, argv);
-}
+QTEST_MAIN(tst_Forms)
 
 #include "tst_forms.moc"

@@ -172,9 +172,6 @@ void tst_LineEditCal::order()
              QString("text(0) text(07) text(7*) text(7*2) text(14) result() text(7*2=)"));
 }
 
-int main(int argc, char *argv[])
-{
-    return runTest<tst_LineEditCal>(argc, argv);
-}
+QTEST_MAIN(tst_LineEditCal)
 
 #include "tst_lineeditcal.moc"

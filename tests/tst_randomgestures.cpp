@@ -191,9 +191,6 @@ void tst_RandomGestures::lockDoesNotDrift()
     }
 }
 
-int main(int argc, char *argv[])
-{
-    return runTest<tst_RandomGestures>(argc, argv);
-}
+QTEST_MAIN(tst_RandomGestures)
 
 #include "tst_randomgestures.moc"

@@ -275,9 +275,6 @@ void tst_RectEditFrames::setsThroughTheVirtuals()
     QCOMPARE(user.frame->rects, QList<QRect>({QRect(2, 2, 3, 4)}));
 }
 
-int main(int argc, char *argv[])
-{
-    return runTest<tst_RectEditFrames>(argc, argv);
-}
+QTEST_MAIN(tst_RectEditFrames)
 
 #include "tst_recteditframes.moc"

@@ -384,9 +384,6 @@ void tst_Robustness::extremeSettings_data()
     }
 }
 
-int main(int argc, char *argv[])
-{
-    return runTest<tst_Robustness>(argc, argv);
-}
+QTEST_MAIN(tst_Robustness)
 
 #include "tst_robustness.moc"

@@ -270,9 +270,6 @@ void tst_SliderEditFrame::samplingInRealTime()
     user.play("drop");
 }
 
-int main(int argc, char *argv[])
-{
-    return runTest<tst_SliderEditFrame>(argc, argv);
-}
+QTEST_MAIN(tst_SliderEditFrame)
 
 #include "tst_slidereditframe.moc"

@@ -144,9 +144,6 @@ void tst_SliderEditFrameDouble::precision()
     QCOMPARE(results, QVector<int>({2, 100, 3, 1000, 1, 10, 1, 10, 0, 1000000000}));
 }
 
-int main(int argc, char *argv[])
-{
-    return runTest<tst_SliderEditFrameDouble>(argc, argv);
-}
+QTEST_MAIN(tst_SliderEditFrameDouble)
 
 #include "tst_slidereditframedouble.moc"

@@ -107,9 +107,6 @@ void tst_SpinBoxes::suffix()
     QCOMPARE(box.suffix(), QString("mm"));
 }
 
-int main(int argc, char *argv[])
-{
-    return runTest<tst_SpinBoxes>(argc, argv);
-}
+QTEST_MAIN(tst_SpinBoxes)
 
 #include "tst_spinboxes.moc"

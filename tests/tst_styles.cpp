@@ -138,9 +138,6 @@ void tst_Styles::edges()
     }
 }
 
-int main(int argc, char *argv[])
-{
-    return runTest<tst_Styles>(argc, argv);
-}
+QTEST_MAIN(tst_Styles)
 
 #include "tst_styles.moc"

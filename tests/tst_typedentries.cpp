@@ -274,9 +274,6 @@ void tst_TypedEntries::replacedLineEdit()
     checkReplacedLineEdit<SliderEditDoubleSpinBox>();
 }
 
-int main(int argc, char *argv[])
-{
-    return runTest<tst_TypedEntries>(argc, argv);
-}
+QTEST_MAIN(tst_TypedEntries)
 
 #include "tst_typedentries.moc"

@@ -5,6 +5,17 @@
 
 namespace {
 
+// No display needed, the same look and locale everywhere. The platform is chosen before
+// the application is made.
+void prepareTest()
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_STYLE_OVERRIDE", "Fusion");
+    QLocale::setDefault(QLocale::c());
+}
+Q_CONSTRUCTOR_FUNCTION(prepareTest)
+
 QList<QAbstractEventDispatcher::TimerInfo> timersOf(QObject *object)
 {
     return QAbstractEventDispatcher::instance()->registeredTimers(object);

@@ -22,15 +22,3 @@ void clickGroove(QSlider *slider, bool behind);
 // long interval and lets the ticks come itself.
 int samplingInterval(QObject *editor);
 void tick(QObject *editor);
-
-// Main program of a test: no display needed, the same look and locale everywhere.
-template <typename Test> int runTest(int argc, char *argv[])
-{
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QLocale::setDefault(QLocale::c());
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication application(argc, argv);
-    Test test;
-    return QTest::qExec(&test, argc, argv);
-}
