@@ -1,6 +1,4 @@
-#include "cropeditframe.h"
 #include "editoruser.h"
-#include "maskeditframe.h"
 #include "rgballeditframe.h"
 #include "rgbeditframe.h"
 #include "rgbopacityeditframe.h"
@@ -166,7 +164,8 @@ void tst_RandomGestures::editors_data()
 {
     QTest::addColumn<TestCode>("code");
     const QStringList steps =
-        QString("value ?; step 1; step 7; direction 2 ?; direction 4 ?; direction 6 ?").split("; ");
+        QString("value ?; singleStep 1; singleStep 7; direction 2 ?; direction 4 ?; direction 6 ?")
+            .split("; ");
     add<SliderEditFrame>("range -30 400", steps);
     add<SliderEditFrameDouble>("range -30 400", steps);
     const QStringList colors {"r value ?", "g value ?", "b value ?"};

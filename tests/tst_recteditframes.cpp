@@ -1,6 +1,4 @@
-#include "cropeditframe.h"
 #include "editoruser.h"
-#include "maskeditframe.h"
 
 using namespace Vantor::Widgets;
 
@@ -11,14 +9,9 @@ class tst_RectEditFrames : public QObject
 
 private Q_SLOTS:
     void lockButtons();
-    void readsOneField();
     void readsAllFields();
     void sequences_data();
     void sequences() { runTestCode(); }
-    void hiddenLocksStay();
-    void lockIsReportedWhenItIsOn();
-    void receiverSetsAnotherField();
-    void receiverDeletesTheEditor();
     void setsThroughTheVirtuals();
 };
 
@@ -48,26 +41,6 @@ void tst_RectEditFrames::lockButtons()
     QCOMPARE(places(), texts.arg("38..60", "hidden"));
 }
 
-// A combination names no field.
-void tst_RectEditFrames::readsOneField()
-{
-    UserOf<RectEditFrame> user;
-    const QString failed = "has failed. The type  %1  is invalid.";
-    const QString none = "warning: Get Rect value range %1 warning: Set Rect label text %1 -7..-8";
-    for (const int flag : {2, 4, 8, 16, 0, 6, 24, 30}) {
-        const auto type = static_cast<RectEditFrame::Type>(flag);
-        user.frame->setLabelText(type, QString::number(flag));
-        user.frame->setRange(type, flag, 100 + flag);
-        user.heard(); // the warnings of the setters
-        int min = -7, max = -8;
-        user.frame->range(type, min, max);
-        user.log.add(user.frame->labelText(type) + limits(min, max));
-        const QString own = QString::number(flag) + limits(flag, 100 + flag);
-        const bool isField = qPopulationCount(uint(flag)) == 1;
-        QCOMPARE(user.heard(), isField ? own : none.arg(failed.arg(flag)));
-    }
-}
-
 // Each way to read them has its own order of the four.
 void tst_RectEditFrames::readsAllFields()
 {
@@ -83,19 +56,6 @@ void tst_RectEditFrames::readsAllFields()
     QCOMPARE(rect, QRect(10, 20, 30, 40));
     QCOMPARE(margins, QRect(QPoint(30, 10), QPoint(40, 20)));
 }
-
-namespace {
-
-// Takes rows of the table that all begin alike.
-template <typename Frame> auto rowsAfter(const QString &start)
-{
-    return [start](const char *name, const QString &steps) {
-        QTest::addRow("%s, %s", Frame::staticMetaObject.className(), name)
-            << TestCode([=] { UserOf<Frame>().play(start + steps); });
-    };
-}
-
-} // namespace
 
 // Two halves, the area's edges and the ends of int, each where the rule turns.
 void tst_RectEditFrames::sequences_data()
@@ -215,43 +175,51 @@ void tst_RectEditFrames::sequences_data()
     mask("a smaller area clamps in silence",
          "mask 700 0 0 0 | area 500 500 | shown: 500 0 0 0 | area 1000 1000 | set 699 0 0 0 | "
          "x plus: x(700) (700,0,0,0)");
-}
 
-// Nor does the kind of the lock change whether it is on.
-void tst_RectEditFrames::hiddenLocksStay()
-{
-    UserOf<RectEditFrame> user;
-    user.play("lockType offset | set 10 20 40 20 | w plus: w(41) (10,20,41,20) | "
-              "lock size: sizeLock(true) | lock position: positionLock(true)");
-    user.frame->setPositionLockEnable(false);
-    user.frame->setSizeLockEnable(false, RectEditFrame::OffsetLock);
-    user.play("x plus: x(11) (11,21,41,20) | h enter 40: h(40) (11,21,61,40)");
-    user.frame->setSizeLockEnable(false, RectEditFrame::SizeScaleLock);
-    user.play("h enter 10: w(21) h(10) (11,21,21,10)");
-}
-
-// A host may choose its own proportion the moment that the user locks the size.
-void tst_RectEditFrames::lockIsReportedWhenItIsOn()
-{
-    UserOf<RectEditFrame> user;
-    connect(user.frame, &RectEditFrame::sizeLockChanged, [&] { user.perform("ratio 4"); });
-    user.play("set 0 0 40 20 | lock size: sizeLock(true) | w enter 20: h(5) w(20) (0,0,20,5)");
-}
-
-// The whole rectangle is read when it is reported.
-void tst_RectEditFrames::receiverSetsAnotherField()
-{
-    UserOf<RectEditFrame> user;
-    connect(user.frame, &RectEditFrame::xValueChanged, [&] { user.perform("w value 77"); });
-    user.play("set 0 0 40 20 | x plus: x(1) (1,0,77,20)");
-}
-
-// The partner's signal comes first, and nothing after it where the editor is gone.
-void tst_RectEditFrames::receiverDeletesTheEditor()
-{
-    UserOf<RectEditFrame> user;
-    connect(user.frame, &RectEditFrame::heightValueChanged, [&] { delete user.frame; });
-    user.play("set 0 0 40 20 | sizeLock on: sizeLock(true) | w space: h(21)");
+    // Nor does the kind of the lock change whether it is on.
+    addFor<RectEditFrame>("hidden locks stay", [](auto &user) {
+        user.frame->setSizeLockEnable(true, RectEditFrame::OffsetLock);
+        user.play("set 10 20 40 20 | w plus: w(41) (10,20,41,20) | "
+                  "lock size: sizeLock(true) | lock position: positionLock(true)");
+        user.frame->setPositionLockEnable(false);
+        user.frame->setSizeLockEnable(false, RectEditFrame::OffsetLock);
+        user.play("x plus: x(11) (11,21,41,20) | h enter 40: h(40) (11,21,61,40)");
+        user.frame->setSizeLockEnable(false, RectEditFrame::SizeScaleLock);
+        user.play("h enter 10: w(21) h(10) (11,21,21,10)");
+    });
+    // A host may choose its own proportion the moment that the user locks the size.
+    addFor<RectEditFrame>("a lock is reported when it is on", [](auto &user) {
+        connect(user.frame, &RectEditFrame::sizeLockChanged, [&] { user.perform("ratio 4"); });
+        user.play("set 0 0 40 20 | lock size: sizeLock(true) | w enter 20: h(5) w(20) (0,0,20,5)");
+    });
+    // The whole rectangle is read when it is reported.
+    addFor<RectEditFrame>("receiver sets another field", [](auto &user) {
+        connect(user.frame, &RectEditFrame::xValueChanged, [&] { user.perform("w value 77"); });
+        user.play("set 0 0 40 20 | x plus: x(1) (1,0,77,20)");
+    });
+    // The partner's signal comes first, and nothing after it where the editor is gone.
+    addFor<RectEditFrame>("receiver deletes the editor", [](auto &user) {
+        connect(user.frame, &RectEditFrame::heightValueChanged, [&] { delete user.frame; });
+        user.play("set 0 0 40 20 | sizeLock on: sizeLock(true) | w space: h(21)");
+    });
+    // A combination names no field.
+    addFor<RectEditFrame>("reads one field", [](auto &user) {
+        const QString failed = "has failed. The type  %1  is invalid.";
+        const QString none =
+            "warning: Get Rect value range %1 warning: Set Rect label text %1 -7..-8";
+        for (const int flag : {2, 4, 8, 16, 0, 6, 24, 30}) {
+            const auto type = static_cast<RectEditFrame::Type>(flag);
+            user.frame->setLabelText(type, QString::number(flag));
+            user.frame->setRange(type, flag, 100 + flag);
+            user.heard(); // the warnings of the setters
+            int min = -7, max = -8;
+            user.frame->range(type, min, max);
+            user.log.add(user.frame->labelText(type) + limits(min, max));
+            const QString own = QString::number(flag) + limits(flag, 100 + flag);
+            const bool isField = qPopulationCount(uint(flag)) == 1;
+            QCOMPARE(user.heard(), isField ? own : none.arg(failed.arg(flag)));
+        }
+    });
 }
 
 // A host's class sees the rectangle that the user's change makes, and not the

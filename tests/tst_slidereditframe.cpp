@@ -1,20 +1,19 @@
 #include "editoruser.h"
 
-#include <QtWidgets/QDoubleSpinBox>
-
 using namespace Vantor::Widgets;
 
-// The integer slider editor, and what its floating-point twin does alike.
+// The integer slider editor and its floating-point twin.
 class tst_SliderEditFrame : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void settings_data();
-    void settings() { runTestCode(); }
     void sequences_data();
     void sequences() { runTestCode(); }
-    void samplingInRealTime();
+    void scale_data();
+    void scale() { runTestCode(); }
+    void freshScale();
+    void locale();
 };
 
 namespace {
@@ -73,124 +72,25 @@ template <typename AnyUser> void compareSetters(AnyUser &user)
     QCOMPARE(user.heard(), QString());
 }
 
-// Release mode switches the buttons' repetition off, leaving it and sampling on.
-template <typename AnyUser> void compareAutoRepeat(AnyUser &user)
-{
-    auto &frame = *user.frame;
-    auto *const minus = user.row.minus;
-    auto *const plus = user.row.plus;
-    const std::function<void()> calls[] = {[] {},
-                                           [&] { frame.setAutoRepeat(true); },
-                                           [&] { frame.setReleaseMode(true); },
-                                           [&] { frame.setReleaseMode(false); },
-                                           [&] { frame.setAutoRepeat(false); },
-                                           [&] { frame.setTimeSamplingRate(50); }};
-    for (int i = 0; i < 6; ++i) {
-        calls[i]();
-        QCOMPARE(minus->autoRepeat(), i % 2 == 1);
-        QCOMPARE(plus->autoRepeat(), i % 2 == 1);
-    }
-    frame.setAutoRepeatDelay(10);
-    frame.setAutoRepeatInterval(5);
-    // Each repetition is a step with its own signal.
-    QTest::mousePress(plus, Qt::LeftButton);
-    QTRY_VERIFY(user.row.slider->value() >= 13);
-    QTest::mouseRelease(plus, Qt::LeftButton);
-    QCOMPARE(user.heard().left(8), QString("11 12 13"));
-}
-
 // Under a host's own signal block no setter ends it; without one the children
 // report nothing either.
 template <typename AnyUser> void compareSilence(AnyUser &user)
 {
-    using SpinBox = std::conditional_t<AnyUser::isWhole, QSpinBox, QDoubleSpinBox>;
-    using Value = decltype(user.frame->value());
-    auto &frame = *user.frame;
-    auto *const slider = user.row.slider;
-    auto *const spinBox = user.row.spinBox;
-    user.log.watch(qobject_cast<SpinBox *>(spinBox), QOverload<Value>::of(&SpinBox::valueChanged),
-                   "spinBox");
-    user.log.watch(slider, &QSlider::valueChanged, "slider");
+    QAbstractSpinBox *const spinBox = user.row.spinBox;
+    QSlider *const slider = user.row.slider;
+    const QSignalSpy sliderReports(slider, &QSlider::valueChanged);
+    const QSignalSpy spinBoxReports(
+        spinBox, user.isWhole ? SIGNAL(valueChanged(int)) : SIGNAL(valueChanged(double)));
     for (const bool isBlocked : {true, false}) {
         spinBox->blockSignals(isBlocked);
         slider->blockSignals(isBlocked);
-        user.play("range 0 50 | value 70 | range 5 40 | step 2");
-        if constexpr (!AnyUser::isWhole) {
-            frame.setMaximum(0.3);
-            frame.setMinimum(0.4);
-            frame.setDecimals(1);
-            frame.setDecimals(2);
-        }
-        QCOMPARE(spinBox->signalsBlocked(), isBlocked);
-        QCOMPARE(slider->signalsBlocked(), isBlocked);
+        user.play("range 0 50 | value 70 | range 5 40 | singleStep 2 | maximum 30 | minimum 40");
+        if (!user.isWhole)
+            user.play("decimals 1 | decimals 2");
         user.play("shown: 40");
+        QVERIFY(spinBox->signalsBlocked() == isBlocked && slider->signalsBlocked() == isBlocked);
     }
-}
-
-// Clicking or tabbing into the field selects its text, unless it was disabled
-// meanwhile or is gone.
-template <typename AnyUser> void compareSelectAll(AnyUser &user)
-{
-    auto *const spinBox = user.row.spinBox;
-    auto *const field = user.row.field;
-    const QString text = spinBox->text();
-    const std::function<void()> ways[] = {
-        [&] { user.row.slider->setFocus(), User::press(Qt::Key_Tab); },
-        [&] { User::click(spinBox); },
-        // At the spin box's own edge, around its field.
-        [&] {
-            QTest::mouseClick(spinBox, Qt::LeftButton, {}, {spinBox->width() / 2, 1});
-        }};
-    for (const auto &enter : ways) {
-        enter();
-        QTRY_COMPARE(field->selectedText(), text);
-        user.frame->setFocus();
-        field->deselect();
-    }
-
-    spinBox->setFocus();
-    spinBox->setEnabled(false);
-    field->deselect();
-    QCoreApplication::processEvents();
-    QCOMPARE(field->selectedText(), QString());
-    spinBox->setEnabled(true);
-    spinBox->setFocus();
-    delete user.frame;
-    QCoreApplication::processEvents();
-}
-
-} // namespace
-
-void tst_SliderEditFrame::settings_data()
-{
-    QTest::addColumn<TestCode>("code");
-    addForBoth("setters", [](auto &user) { compareSetters(user); });
-    addForBoth("auto-repeat", [](auto &user) { compareAutoRepeat(user); });
-    addForBoth("silence", [](auto &user) { compareSilence(user); });
-    addForBoth("select all", [](auto &user) { compareSelectAll(user); });
-}
-
-namespace {
-
-template <typename Frame> void addSteps(const QString &name, const QString &steps)
-{
-    QTest::newRow(qPrintable(name)) << TestCode([steps] { UserOf<Frame>().play(steps); });
-}
-
-void addInt(const QString &name, const QString &steps)
-{
-    addSteps<SliderEditFrame>("int, " + name, steps);
-}
-
-void addDouble(const QString &name, const QString &steps)
-{
-    addSteps<SliderEditFrameDouble>("double, " + name, steps);
-}
-
-void addBoth(const QString &name, const QString &steps)
-{
-    addInt(name, steps);
-    addDouble(name, steps);
+    QVERIFY(sliderReports.isEmpty() && spinBoxReports.isEmpty());
 }
 
 } // namespace
@@ -198,6 +98,14 @@ void addBoth(const QString &name, const QString &steps)
 void tst_SliderEditFrame::sequences_data()
 {
     QTest::addColumn<TestCode>("code");
+    const auto addInt = rowsAfter<SliderEditFrame>();
+    const auto addDouble = rowsAfter<SliderEditFrameDouble>();
+    const auto addBoth = [=](const QString &name, const QString &steps) {
+        addInt(name, steps);
+        addDouble(name, steps);
+    };
+    addForBoth("setters", [](auto &user) { compareSetters(user); });
+    addForBoth("silence", [](auto &user) { compareSilence(user); });
     for (const QString mode : {"", "released | ", "sampled | "}) {
         const bool isAtOnce = mode.isEmpty();
         const QString hold = mode + (isAtOnce ? "hold 20 60 40: 20 60 40 | " : "hold 20 60 40 | ");
@@ -218,6 +126,14 @@ void tst_SliderEditFrame::sequences_data()
     addBoth("ticks",
             "sampled | hold | timer: runs | tick | move 20 30 | tick: 30 | tick | "
             "move 50 30 | tick | move 40 | tick: 40 | drop | timer: stands | shown: 40");
+    // Elsewhere the ticks come by hand: here the timer runs.
+    addForBoth("ticks in real time", [](auto &user) {
+        user.frame->setTimeSamplingRate(5);
+        user.perform("hold 40");
+        QString heard;
+        QTRY_COMPARE(heard += user.heard(), QString("40"));
+        user.play("drop");
+    });
     addBoth("a host's value in a drag", "sampled | hold | value 50 | drop | shown: 50");
     const QString drag = " | hold 90 95 120 130: ";
     const QString before = "range 0 200 | value 100 | direction ";
@@ -227,9 +143,33 @@ void tst_SliderEditFrame::sequences_data()
             "direction 4 0 | plus: 0 | plus: 0 | shown: 0");
     // The last value is the one that was set, not the clamped one.
     addBoth("a child's echo",
-            "value 200 | range 0 300 | step 100 | focus | up | shown: "
+            "value 200 | range 0 300 | singleStep 100 | focus | up | shown: "
             "200/100 | down: 100 | shown: 100");
     addBoth("a host's value replaces an entry", "type 5 | value 10 | shown: 10");
+    addBoth("a click selects the text", "click | selected: all");
+    addForBoth("a click on the spin box's own edge selects the text", [](auto &user) {
+        QTest::mouseClick(user.row.spinBox, Qt::LeftButton, {}, {user.row.spinBox->width() / 2, 1});
+        user.play("selected: all");
+    });
+    addBoth("Tab selects the text", "groove after: 20 | keys \t | selected: all");
+    addInt("a disabled field selects nothing",
+           "focus | disable: finished finished | selected: nothing");
+    addDouble("a disabled field selects nothing", "focus | disable | selected: nothing");
+    addBoth("a field that is gone selects nothing", "focus | delete");
+    // Each repetition is a step with its own signal.
+    addForBoth("repeated steps", [](auto &user) {
+        user.perform("autoRepeat on");
+        user.frame->setAutoRepeatDelay(10);
+        user.frame->setAutoRepeatInterval(5);
+        QTest::mousePress(user.row.plus, Qt::LeftButton);
+        QTRY_VERIFY(user.row.slider->value() >= 13);
+        QTest::mouseRelease(user.row.plus, Qt::LeftButton);
+        QCOMPARE(user.heard().left(8), QString("11 12 13"));
+    });
+    addBoth("release mode alone stops repetition",
+            "repeating: no | autoRepeat on | repeating: yes | released | repeating: no | "
+            "released off | repeating: yes | autoRepeat off | repeating: no | sampled | "
+            "repeating: yes");
     addBoth("wheel, disabled", "focus | wheel: page page");
     addBoth("wheel", "wheel: page page | wheelEnabled | wheel: page page | focus | wheel: page 11");
 
@@ -238,9 +178,11 @@ void tst_SliderEditFrame::sequences_data()
     for (const QString end : {"drop", "focus", "hideSlider", "disable", "leave"})
         addInt("pressed until " + end,
                "pressed: no | hold | pressed: yes | " + end + " | pressed: no");
-    addInt("minus at the minimum", "step 5 | value 5 | minus: 0 | value 3 | minus | shown: 3");
-    addInt("plus at the maximum", "step 5 | value 95 | plus: 100 | value 97 | plus | shown: 97");
-    const QString wide = "range -2147483648 2147483647 | step 5 | value ";
+    addInt("minus at the minimum",
+           "singleStep 5 | value 5 | minus: 0 | value 3 | minus | shown: 3");
+    addInt("plus at the maximum",
+           "singleStep 5 | value 95 | plus: 100 | value 97 | plus | shown: 97");
+    const QString wide = "range -2147483648 2147483647 | singleStep 5 | value ";
     addInt("minus past int", wide + "-2147483645 | minus | shown: -2147483645");
     addInt("plus past int", wide + "2147483644 | plus | shown: 2147483644");
 
@@ -251,23 +193,74 @@ void tst_SliderEditFrame::sequences_data()
     addDouble("the spin box follows in release mode",
               "released | hold 20 40 | shown: 40 | drop: 40");
     addDouble("plus at the maximum",
-              "step 10 | value 90 | plus: 100 | value 95 | plus | shown: 95");
-    addDouble("minus onto the minimum", "step 10 | minus: 0 | shown: 0");
+              "singleStep 10 | value 90 | plus: 100 | value 95 | plus | shown: 95");
+    addDouble("minus onto the minimum", "singleStep 10 | minus: 0 | shown: 0");
     // 0.2 + 0.1 comes out just above 0.3, 0.3 - 0.1 just below 0.2.
     addDouble("plus within the tolerance",
-              "step 10 | range 0 30 | value 20 | plus: 30 | shown: 30");
-    addDouble("minus without tolerance", "step 10 | range 20 99 | value 30 | minus | shown: 30");
+              "singleStep 10 | range 0 30 | value 20 | plus: 30 | shown: 30");
+    addDouble("minus without tolerance",
+              "singleStep 10 | range 20 99 | value 30 | minus | shown: 30");
 }
 
-// Elsewhere the ticks come by hand: here the timer runs.
-void tst_SliderEditFrame::samplingInRealTime()
+// However the bounds are set, spin box and slider describe one interval.
+void tst_SliderEditFrame::scale_data()
 {
-    UserOf<SliderEditFrame> user;
-    user.frame->setTimeSamplingRate(5);
-    user.perform("hold 40");
-    QString heard;
-    QTRY_COMPARE(heard += user.heard(), QString("40"));
-    user.play("drop");
+    QTest::addColumn<TestCode>("code");
+    const auto add = rowsAfter<SliderEditFrameDouble>("range 0 0 | ", 1);
+    for (const QString way :
+         {"range %1 %2", "minimum %1 | maximum %2", "maximum %2 | minimum %1"}) {
+        const auto row = [=](int decimals, double min, double max, const QString &found) {
+            const QString bounds = way.arg(min).arg(max);
+            add(QString("%1, %2 decimals").arg(bounds).arg(decimals),
+                QString("decimals %1 | %2 | value %3").arg(decimals).arg(bounds, found));
+        };
+        row(2, 0, 1, "0.25 | shown: 0.25 | bounds: 0..1 | ranges: 0..100");
+        row(3, -0.5, 0.5, "-0.125 | shown: -0.125 | bounds: -0.5..0.5 | ranges: -500..500");
+        // Half away from zero.
+        row(1, -10, 10, "-2.25 | shown: -2.3 | bounds: -10..10 | ranges: -100..100");
+        row(0, 0.6, 9.4, "5.5 | shown: 6 | bounds: 1..9 | ranges: 1..9");
+        row(-1, -0.5, 9.4, "5.5 | shown: 6 | bounds: 0..9 | ranges: 0..9");
+        // Below and above the range that was.
+        row(2, -5, -3, "-4 | shown: -4.00 | bounds: -5..-3 | ranges: -500..-300");
+        row(2, 3, 5, "4 | shown: 4.00 | bounds: 3..5 | ranges: 300..500");
+        // Positions stop at the ends of int.
+        row(2, -1e9, 1e9,
+            "1e300 | shown: 21474836.47 | bounds: -21474836.48..21474836.47 | "
+            "ranges: -2147483648..2147483647");
+    }
+    // As a double just below the half, but a bound of 0.285 means 0.29. One bound alone has
+    // the slider round it for itself.
+    add("half bound",
+        "range 0 0.285 | bounds: 0..0.29 | ranges: 0..29 | maximum 0.285 | bounds: 0..0.29 | "
+        "ranges: 0..28");
+    // The slider's step follows at the next decimals, and is never 0.
+    add("single step",
+        "range 0 1 | value 0.1 | groove after: 0.2 | singleStep 0.05 | right: 0.21 | decimals 2 | "
+        "right: 0.26 | singleStep 0 | decimals 2 | right: 0.31");
+}
+
+// The scale is 1 until decimals or a range are set; then the handle stays where
+// it is until the next value.
+void tst_SliderEditFrame::freshScale()
+{
+    SliderEditFrameDouble frame;
+    const auto *slider = frame.findChild<QSlider *>();
+    frame.setValue(5.0);
+    QCOMPARE(slider->value(), 5);
+    frame.setRange(0.0, 10.0);
+    QCOMPARE(frame.value(), 5.0);
+    QCOMPARE(slider->value(), 5);
+    frame.setValue(5.0);
+    QCOMPARE(slider->value(), 500);
+}
+
+// The calculator writes a decimal point in every country; so must be read.
+void tst_SliderEditFrame::locale()
+{
+    QLocale::setDefault(QLocale("ar_EG"));
+    UserOf<SliderEditFrameDouble> user(1);
+    QLocale::setDefault(QLocale::c());
+    user.play("shown: 0.10 | enter 1/4: 0.25");
 }
 
 QTEST_MAIN(tst_SliderEditFrame)

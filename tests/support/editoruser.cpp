@@ -8,16 +8,6 @@
 
 using namespace Vantor::Widgets;
 
-EditorRow::EditorRow(QWidget *editor, const QString &nameInEditor)
-    : name(nameInEditor), frame(editor), whole(qobject_cast<SliderEditFrame *>(editor)),
-      label(editor->findChild<QLabel *>("labelName")),
-      slider(editor->findChild<QSlider *>("slider")),
-      spinBox(editor->findChild<QAbstractSpinBox *>()), field(spinBox->findChild<QLineEdit *>()),
-      minus(editor->findChild<QToolButton *>("sliderEditSubtract")),
-      plus(editor->findChild<QToolButton *>("sliderEditPlus"))
-{
-}
-
 void EditorRow::type(const QString &text) const
 {
     User::click(spinBox);
@@ -31,9 +21,11 @@ QVector<EditorRow> rowsOf(QWidget &editor)
     for (const QString name :
          {"R r", "G g", "B b", "All all", "Opacity opacity", "X x", "Y y", "Width w", "Height h"}) {
         if (auto *const frame = editor.findChild<QWidget *>("frame" + name.section(' ', 0, 0)))
-            rows.append(EditorRow(frame, name.section(' ', 1)));
+            rows.append({name.section(' ', 1), frame});
     }
-    return rows.isEmpty() ? QVector<EditorRow> {EditorRow(&editor)} : rows;
+    if (rows.isEmpty())
+        rows.append({QString(), &editor});
+    return rows;
 }
 
 QString limits(int min, int max)
@@ -93,7 +85,7 @@ void EditorUser::addGestures()
         if (step.verb == "hold")
             User::grabHandle(step.row.slider);
         for (int i = 0; !step.word(i).isEmpty(); ++i)
-            User::moveHandle(step.row.slider, step.number(i));
+            User::moveHandle(step.row.slider, step[i]);
     });
     on("drop", [](const Step &step) { User::dropHandle(step.row.slider); });
     on("groove",
@@ -122,6 +114,7 @@ void EditorUser::addGestures()
     on("show hide", [](const Step &step) { step.row.frame->setVisible(step.verb == "show"); });
     on("enable disable",
        [](const Step &step) { step.row.frame->setEnabled(step.verb == "enable"); });
+    on("delete", [](const Step &step) { delete step.row.frame; });
 }
 
 void EditorUser::addSights()
@@ -131,22 +124,29 @@ void EditorUser::addSights()
         for (const EditorRow &row : rows)
             log.add(limits(row.slider->minimum(), row.slider->maximum()));
     });
-    on("timer", [this](const Step &step) {
-        log.add(samplingInterval(step.row.frame) > 0 ? "runs" : "stands");
+    on("selected", [this](const Step &step) {
+        QCoreApplication::processEvents();
+        const QString text = step.row.field->selectedText();
+        log.add(text.isEmpty() ? "nothing" : text == step.row.field->text() ? "all" : text);
     });
-    on("focused",
-       [this](const Step &step) { log.add(step.row.frame->hasFocus() ? "editor" : "other"); });
-    on("pressed",
-       [this](const Step &step) { log.add(step.row.whole->isMousePressed() ? "yes" : "no"); });
-    on("refused", [this](const Step &step) {
-        log.add(step.row.spinBox->property("isEntryRefused").toBool() ? "yes" : "no");
-    });
+    using Row = const EditorRow &;
+    const auto add = [this](const QString &sight, auto yes, auto no, const auto &isSo) {
+        on(sight, [=](const Step &step) { log.add(isSo(step.row) ? yes : no); });
+    };
+    add("timer", "runs", "stands", [](Row row) { return samplingInterval(row.frame) > 0; });
+    add("focused", "editor", "other", [](Row row) { return row.frame->hasFocus(); });
+    add("pressed", "yes", "no", [](Row row) { return row.whole->isMousePressed(); });
+    add("refused", "yes", "no",
+        [](Row row) { return row.spinBox->property("isEntryRefused").toBool(); });
+    add("repeating", "yes", "no",
+        [](Row row) { return row.plus->autoRepeat() && row.minus->autoRepeat(); });
 }
 
 // The program around any editor.
 template <typename Frame> void EditorUser::addModes(Frame *frame)
 {
-    on("released", [=](const Step &) { frame->setReleaseMode(true); });
+    on("released", [=](const Step &step) { frame->setReleaseMode(step.text != "off"); });
+    on("autoRepeat", [=](const Step &step) { frame->setAutoRepeat(step.text == "on"); });
     // Long enough for the ticks to come by hand.
     on("sampled", [=](const Step &) { frame->setTimeSamplingRate(60000); });
 }
@@ -159,20 +159,21 @@ template <typename Frame> void EditorUser::add(Frame *frame)
         return static_cast<Value>(step.word(i).toDouble() * m_unit);
     };
     addModes(frame);
-    on("value", [=](const Step &step) { frame->setValue(value(step, 0)); });
     on("range", [=](const Step &step) { frame->setRange(value(step, 0), value(step, 1)); });
-    on("step", [=](const Step &step) { frame->setSingleStep(value(step, 0)); });
-    on("pageStep", [=](const Step &step) { frame->setPageStep(step.number(0)); });
-    on("direction", [=](const Step &step) {
-        frame->setValueChangeDirection(step.number(0), int(value(step, 1)));
-    });
-    on("hideSlider", [=](const Step &) { frame->setSliderVisible(false); });
-    on("wheelEnabled", [=](const Step &) { frame->setSpinBoxWheelEnable(true); });
-    on("locale", [](const Step &step) { step.row.spinBox->setLocale(QLocale(step.text)); });
+    on("direction",
+       [=](const Step &step) { frame->setValueChangeDirection(step[0], int(value(step, 1))); });
+    on("value minimum maximum singleStep",
+       [=](const Step &step) { frame->setProperty(qPrintable(step.verb), value(step, 0)); });
+    on("pageStep decimals",
+       [=](const Step &step) { frame->setProperty(qPrintable(step.verb), step.text); });
     on("suffix prefix specialValueText",
        [](const Step &step) { step.row.spinBox->setProperty(qPrintable(step.verb), step.text); });
-    if constexpr (std::is_same_v<Value, double>)
-        on("decimals", [=](const Step &step) { frame->setDecimals(step.number(0)); });
+    on("locale", [](const Step &step) { step.row.spinBox->setLocale(QLocale(step.text)); });
+    on("hideSlider", [=](const Step &) { frame->setSliderVisible(false); });
+    on("wheelEnabled", [=](const Step &) { frame->setSpinBoxWheelEnable(true); });
+    on("bounds", [=](const Step &) {
+        log.add(inUnits(frame->minimum()) + ".." + inUnits(frame->maximum()));
+    });
     const EditorRow &row = rows.first();
     const Value position = static_cast<Value>(1 / scaleOf(row));
     frame->setSingleStep(position);
@@ -191,9 +192,8 @@ template <typename Frame> void EditorUser::addComposite(Frame *frame)
     const auto type = [](const Step &step) { return typename Frame::Type(2 << step.index); };
     log.watch(frame, &Frame::valueChanged, {});
     addModes(frame);
-    on("value", [=](const Step &step) { frame->setValue(type(step), step.number(0)); });
-    on("range",
-       [=](const Step &step) { frame->setRange(type(step), step.number(0), step.number(1)); });
+    on("value", [=](const Step &step) { frame->setValue(type(step), step[0]); });
+    on("range", [=](const Step &step) { frame->setRange(type(step), step[0], step[1]); });
 }
 
 // The program around a rectangle editor.
@@ -209,44 +209,31 @@ void EditorUser::addRect(RectEditFrame *rect)
     rect->setPositionLockEnable(true);
     rect->setSizeLockEnable(true, RectEditFrame::SizeScaleLock);
     on("lock", [=](const Step &step) {
-        User::click(rect->findChild<QToolButton *>(step.text == "size" ? "toolButtonLockSize"
-                                                                       : "toolButtonLockPosition"));
+        const QString button =
+            step.text == "size" ? "toolButtonLockSize" : "toolButtonLockPosition";
+        User::click(rect->findChild<QToolButton *>(button));
     });
     on("sizeLock", [=](const Step &step) { rect->setSizeLock(step.text == "on"); });
     on("ratio", [=](const Step &step) { rect->setSizeLock(step.text.toDouble()); });
-    on("lockType", [=](const Step &step) {
-        rect->setSizeLockEnable(
-            true, step.text == "offset" ? RectEditFrame::OffsetLock : RectEditFrame::SizeScaleLock);
-    });
-    on("set",
-       [=](const Step &s) { rect->setValue(s.number(0), s.number(1), s.number(2), s.number(3)); });
+    on("set", [=](const Step &step) { rect->setValue(step[0], step[1], step[2], step[3]); });
 }
 
 void EditorUser::addCrop(CropEditFrame *crop)
 {
     log.watch(crop, &CropEditFrame::cropValueChanged, "crop");
-    on("area", [=](const Step &s) { crop->setCropRange(s.number(0), s.number(1)); });
-    on("areaFrom", [=](const Step &s) {
-        crop->setCropRange(s.number(0), s.number(1), s.number(2), s.number(3), s.number(4),
-                           s.number(5));
-    });
-    on("leastPosition", [=](const Step &s) { crop->setCropMinPos(s.number(0), s.number(1)); });
-    on("leastSize", [=](const Step &s) { crop->setCropMinSize(s.number(0), s.number(1)); });
-    on("crop", [=](const Step &s) {
-        crop->setCropValue(s.number(0), s.number(1), s.number(2), s.number(3));
-    });
-    on("rect", [=](const Step &s) {
-        crop->setCropValue(QRect(s.number(0), s.number(1), s.number(2), s.number(3)));
-    });
+    on("area", [=](const Step &s) { crop->setCropRange(s[0], s[1]); });
+    on("areaFrom", [=](const Step &s) { crop->setCropRange(s[0], s[1], s[2], s[3], s[4], s[5]); });
+    on("leastPosition", [=](const Step &s) { crop->setCropMinPos(s[0], s[1]); });
+    on("leastSize", [=](const Step &s) { crop->setCropMinSize(s[0], s[1]); });
+    on("crop", [=](const Step &s) { crop->setCropValue(s[0], s[1], s[2], s[3]); });
+    on("rect", [=](const Step &s) { crop->setCropValue(QRect(s[0], s[1], s[2], s[3])); });
 }
 
 void EditorUser::addMask(MaskEditFrame *mask)
 {
     log.watch(mask, &MaskEditFrame::maskValueChanged, "mask");
-    on("area", [=](const Step &s) { mask->setMaskRange(s.number(0), s.number(1)); });
-    on("mask", [=](const Step &s) {
-        mask->setMaskValue(s.number(0), s.number(1), s.number(2), s.number(3));
-    });
+    on("area", [=](const Step &step) { mask->setMaskRange(step[0], step[1]); });
+    on("mask", [=](const Step &step) { mask->setMaskValue(step[0], step[1], step[2], step[3]); });
 }
 
 void EditorUser::on(const QString &verbs, const Action &action)

@@ -19,8 +19,6 @@
 // finds in it.
 struct EditorRow
 {
-    explicit EditorRow(QWidget *editor, const QString &nameInEditor = {});
-
     // Clicks into the field, which selects its text, and types over it.
     void type(const QString &text) const;
     // The action as a step of a table.
@@ -31,13 +29,15 @@ struct EditorRow
 
     QString name; // in a composite editor: x, y, w, h, r, g, b, all or opacity
     QWidget *frame;
-    Vantor::Widgets::SliderEditFrame *whole; // the frame where it is the integer one
-    QLabel *label;
-    QSlider *slider;
-    QAbstractSpinBox *spinBox;
-    QLineEdit *field;
-    QToolButton *minus;
-    QToolButton *plus;
+    // The frame where it is the integer one.
+    Vantor::Widgets::SliderEditFrame *whole =
+        qobject_cast<Vantor::Widgets::SliderEditFrame *>(frame);
+    QLabel *label = frame->findChild<QLabel *>("labelName");
+    QSlider *slider = frame->findChild<QSlider *>("slider");
+    QAbstractSpinBox *spinBox = frame->findChild<QAbstractSpinBox *>();
+    QLineEdit *field = spinBox->findChild<QLineEdit *>();
+    QToolButton *minus = frame->findChild<QToolButton *>("sliderEditSubtract");
+    QToolButton *plus = frame->findChild<QToolButton *>("sliderEditPlus");
 };
 
 // The rows of an editor in the order of their type flags: 2, 4, 8, 16. A mask's
@@ -88,21 +88,23 @@ private:
 //   leave                   moves the pointer off the slider
 //   lock position, size     clicks a lock button
 // What the program does to any row:
-//   value, range, tick (of the sampling), focus, show, hide, disable, enable
-// to all rows: released, sampled
+//   value, range, tick (of the sampling), focus, show, hide, disable, enable, delete
+// to all rows: released and autoRepeat, each on or off, sampled
 // to a slider editor:
-//   step, pageStep, decimals, direction (flags and value), wheelEnabled, hideSlider;
-//   suffix, prefix, specialValueText and locale of the spin box
+//   minimum, maximum, singleStep, pageStep, decimals, direction (flags and value),
+//   wheelEnabled, hideSlider; suffix, prefix, specialValueText and locale of the spin box
 // to a rectangle, a crop or a mask:
-//   set, sizeLock on or off, ratio, lockType offset or scale; area, areaFrom,
-//   leastPosition, leastSize, crop, rect; area, mask
+//   set, sizeLock on or off, ratio; area, areaFrom, leastPosition, leastSize, crop, rect;
+//   area, mask
 // What both find:
 //   shown      what the fields hold, each with the slider's position behind a slash where
 //              that is another
-//   ranges     of all rows
+//   ranges     of the sliders of all rows; bounds: of a slider editor's values
 //   timer      whether the sampling "runs" or "stands"
 //   focused    "editor" where the row has the focus, or "other"
-//   pressed, refused   whether the handle is held, whether the entry was refused
+//   selected   "all" of the field's text, "nothing" or what, once nothing is left to do
+//   pressed, refused, repeating   whether the handle is held, the entry was refused, a
+//              held step button repeats
 class EditorUser
 {
 public:
@@ -129,7 +131,7 @@ private:
         QString verb;
         QString text; // behind the verb
         QString word(int i) const { return text.section(' ', i, i); }
-        int number(int i) const { return word(i).toInt(); }
+        int operator[](int i) const { return word(i).toInt(); }
     };
     using Action = std::function<void(const Step &)>;
 
@@ -177,18 +179,29 @@ inline void runTestCode()
     code();
 }
 
-// Adds a row for the integer and one for the floating-point editor. The code takes the
-// user of either.
+// Adds a row of code that takes the user of an editor of that class.
+template <typename Frame, typename Code>
+void addFor(const QString &name, const Code &code, double unit = UserOf<Frame>::position)
+{
+    QTest::addRow("%s, %s", Frame::staticMetaObject.className(), qPrintable(name)) << TestCode([=] {
+        UserOf<Frame> user(unit);
+        code(user);
+    });
+}
+
+// The same code for the integer and the floating-point editor.
 template <typename Code> void addForBoth(const QString &name, const Code &code)
 {
-    using namespace Vantor::Widgets;
-    const auto add = [&](const char *kind, auto frame) {
-        using AnyUser = UserOf<std::remove_pointer_t<decltype(frame)>>;
-        QTest::addRow("%s, %s", kind, qPrintable(name)) << TestCode([code] {
-            AnyUser user;
-            code(user);
-        });
+    addFor<Vantor::Widgets::SliderEditFrame>(name, code);
+    addFor<Vantor::Widgets::SliderEditFrameDouble>(name, code);
+}
+
+// Takes rows of steps that all begin alike.
+template <typename Frame>
+auto rowsAfter(const QString &start = {}, double unit = UserOf<Frame>::position)
+{
+    return [=](const QString &name, const QString &steps) {
+        addFor<Frame>(
+            name, [=](auto &user) { user.play(start + steps); }, unit);
     };
-    add("int", static_cast<SliderEditFrame *>(nullptr));
-    add("double", static_cast<SliderEditFrameDouble *>(nullptr));
 }
