@@ -427,25 +427,14 @@ void SliderEditFrameDouble::timerEvent(QTimerEvent *event)
     }
 }
 
-namespace {
-
-constexpr int mostPasses = 10;
-
-// Single precision on purpose: 0.1F has one decimal, (double)0.1F has many.
-bool shiftDecimal(float &fraction)
-{
-    fraction *= 10.0F;
-    return std::trunc(fraction) == fraction;
-}
-
-} // namespace
-
 /*! The number of decimals of \a num: 1 for a whole number, 0 where it has more than 10. */
 int SliderEditFrameDouble::getPrecision(float num)
 {
+    // Single precision on purpose: 0.1F has one decimal, (double)0.1F has many.
     float fraction = num - std::trunc(num);
-    for (int count = 1; count <= mostPasses; ++count) {
-        if (shiftDecimal(fraction)) {
+    for (int count = 1; count <= 10; ++count) {
+        fraction *= 10.0F;
+        if (std::trunc(fraction) == fraction) {
             return count;
         }
     }
@@ -455,13 +444,8 @@ int SliderEditFrameDouble::getPrecision(float num)
 /*! The power of ten that makes \a num whole, 10 at least and 1 000 000 000 at most. */
 int SliderEditFrameDouble::getMagnification(float num)
 {
-    constexpr int greatest = 1000000000;
-    float fraction = num - std::trunc(num);
-    int magnification = 10;
-    while (!shiftDecimal(fraction) && magnification < greatest) {
-        magnification *= 10;
-    }
-    return magnification;
+    const int precision = getPrecision(num);
+    return static_cast<int>(std::pow(10.0, precision == 0 ? 9 : qMin(precision, 9)));
 }
 
 } // namespace Widgets
