@@ -114,7 +114,10 @@ void EditorUser::addGestures()
     on("show hide", [](const Step &step) { step.row.frame->setVisible(step.verb == "show"); });
     on("enable disable",
        [](const Step &step) { step.row.frame->setEnabled(step.verb == "enable"); });
-    on("delete", [](const Step &step) { delete step.row.frame; });
+    on("delete", [](const Step &step) {
+        delete step.row.frame;
+        QCoreApplication::processEvents(); // what was left to do finds it gone
+    });
 }
 
 void EditorUser::addSights()
