@@ -1,7 +1,4 @@
 #include "editoruser.h"
-#include "recteditframe.h"
-
-#include <QtCore/QDir>
 
 #include <cmath>
 
@@ -34,34 +31,29 @@ void tst_Styles::initTestCase_data()
 namespace {
 
 // Relative luminance and contrast as the accessibility guidelines (WCAG 2) define them.
-double luminance(const QColor &color)
+double contrastOf(const QColor &a, const QColor &b)
 {
     const auto linear = [](double channel) {
         return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
     };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
-        + 0.0722 * linear(color.blueF());
-}
-
-double contrastOf(const QColor &a, const QColor &b)
-{
+    const auto luminance = [linear](const QColor &color) {
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+            + 0.0722 * linear(color.blueF());
+    };
     const double ratio = (luminance(a) + 0.05) / (luminance(b) + 0.05);
     return qMax(ratio, 1 / ratio);
 }
 
-// The upper edge in the middle of a widget, from outside to the first row of its inside.
+// The upper edge in the middle of a widget, from its border to the first row of its inside.
 QImage upperEdge(QWidget *widget)
 {
-    const QPoint top = widget->mapTo(widget->window(), QPoint(widget->width() / 2, 0));
-    return widget->window()->grab(QRect(top, QSize(1, 8))).toImage();
+    return widget->grab(QRect(widget->width() / 2, 0, 1, 8)).toImage();
 }
 
+// A border is two pixels wide, around a spin box behind a row of its own.
 double contrastOfEdge(const QImage &edge)
 {
-    double most = 0;
-    for (int y = 0; y < edge.height(); ++y)
-        most = qMax(most, contrastOf(edge.pixelColor(0, y), edge.pixelColor(0, 7)));
-    return most;
+    return contrastOf(edge.pixelColor(0, 1), edge.pixelColor(0, 7));
 }
 
 } // namespace
@@ -83,32 +75,29 @@ void tst_Styles::contrast()
 void tst_Styles::largeFont()
 {
     QFETCH_GLOBAL(QString, sheet);
-    RectEditFrame editor;
-    QFont font = editor.font();
+    EditorUser user(new RectEditFrame); // with its locks
+    QFont font = user.page.font();
     font.setPointSizeF(font.pointSizeF() * 1.5);
-    editor.setFont(font);
-    editor.setStyleSheet(sheet);
-    editor.setPositionLockEnable(true);
-    editor.setSizeLockEnable(true, RectEditFrame::SizeScaleLock);
-    for (const EditorRow &row : rowsOf(editor)) {
+    user.page.setFont(font);
+    user.page.setStyleSheet(sheet);
+    for (const EditorRow &row : user.rows) {
         row.whole->setLabelText("Height");
         row.whole->setRange(-1920, 1920);
         row.whole->setValue(-1920);
     }
-    QVERIFY(User::show(editor));
+    user.page.adjustSize();
 
-    const auto isWithin = [](const QSize &least, const QSize &size) {
-        return least.boundedTo(size) == least;
-    };
     const QSize finger(48, 48);
-    QCOMPARE(editor.findChildren<QToolButton *>().size(), 10);
-    for (const QToolButton *button : editor.findChildren<QToolButton *>())
-        QVERIFY(isWithin(finger, button->size()));
-    for (const EditorRow &row : rowsOf(editor)) {
-        QVERIFY(isWithin(finger, User::handleRect(row.slider, row.slider->value()).size()));
-        QVERIFY(isWithin(row.label->sizeHint(), row.label->size()));
+    const auto buttons = user.page.findChildren<QToolButton *>();
+    QCOMPARE(buttons.size(), 10);
+    for (const QToolButton *button : buttons)
+        QCOMPARE(button->size().expandedTo(finger), button->size());
+    for (const EditorRow &row : user.rows) {
+        const QSize handle = User::handleRect(row.slider, row.slider->value()).size();
+        QCOMPARE(handle.expandedTo(finger), handle);
+        QCOMPARE(row.label->size().expandedTo(row.label->sizeHint()), row.label->size());
         const QRect text = row.field->fontMetrics().boundingRect(row.field->text());
-        QVERIFY(isWithin(text.size(), row.field->size()));
+        QCOMPARE(row.field->size().expandedTo(text.size()), row.field->size());
     }
 }
 
