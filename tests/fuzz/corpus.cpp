@@ -2,8 +2,6 @@
 
 #include <QtCore/QDir>
 
-#include <cstdio>
-
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size);
 
 int main(int, char *argv[])
@@ -13,10 +11,8 @@ int main(int, char *argv[])
         QFile file(info.filePath());
         if (!file.open(QIODevice::ReadOnly))
             return 1;
-        std::fprintf(stderr, "%s\n", qPrintable(info.fileName()));
-        const QByteArray input = file.readAll();
-        LLVMFuzzerTestOneInput(reinterpret_cast<const unsigned char *>(input.constData()),
-                               static_cast<std::size_t>(input.size()));
+        qInfo("%s", qPrintable(info.fileName()));
+        LLVMFuzzerTestOneInput(file.map(0, file.size()), static_cast<std::size_t>(file.size()));
     }
     return files.isEmpty() ? 1 : 0;
 }

@@ -14,8 +14,6 @@
 #include <QtCore/QRegularExpression>
 #include <QtWidgets/QApplication>
 
-#include <cstdio>
-#include <cstdlib>
 #include <ctime>
 
 using Vantor::Widgets::LineEditCal;
@@ -24,28 +22,24 @@ namespace {
 
 constexpr int min = -1000;
 constexpr int max = 5000;
-constexpr int initial = 7;
 
-class Player
+struct Player
 {
-public:
     Player()
     {
         m_field.setLineEditMinOrMax(min, max);
-        m_field.setInitialResult(initial);
+        m_field.setInitialResult(m_result.toFloat());
         QObject::connect(&m_field, &LineEditCal::signalsResult, [this] { m_isEvaluated = true; });
     }
 
     void play(const QString &input)
     {
-        const int length = static_cast<int>(input.length());
-        const auto code = [&](int i) { return i < length ? input[i].unicode() : 0; };
-        for (int i = 0; i < length; ++i) {
+        const auto code = [&](int i) { return i < input.length() ? input[i].unicode() : 0; };
+        for (int i = 0; i < input.length(); ++i) {
             if (code(i) == 1) {
-                const int begin = i + 1;
-                const int end = static_cast<int>(input.indexOf(QChar(2), begin));
-                i = end < 0 ? length : end;
-                insert(input.mid(begin, i - begin));
+                const QString pasted = input.mid(i + 1).section(QChar(2), 0, 0);
+                insert(pasted);
+                i += static_cast<int>(pasted.length()) + 1;
             } else if (code(i) == 3) {
                 m_field.setCursorPosition(code(++i) % 64);
             } else if (code(i) == 4) {
@@ -65,7 +59,6 @@ public:
         }
     }
 
-private:
     void insert(const QString &text)
     {
         edit([&] { m_field.insert(text); });
@@ -108,15 +101,12 @@ private:
 
     void require(bool isTrue, const char *promise) const
     {
-        if (!isTrue) {
-            std::fprintf(stderr, "Broken promise: %s\nText: %s\n", promise,
-                         qPrintable(m_field.text()));
-            std::abort();
-        }
+        if (!isTrue)
+            qFatal("Broken promise: %s\nText: %s", promise, qPrintable(m_field.text()));
     }
 
     LineEditCal m_field;
-    QString m_result = QString::number(initial);
+    QString m_result = QStringLiteral("7");
     int m_decimals = 0;
     bool m_isEvaluated = false;
 };
@@ -129,8 +119,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     static char *argv[] = {arguments[0], arguments[1], arguments[2], nullptr};
     static int argc = 3;
     // Never deleted: Qt 6 has it outlive what its own end needs.
-    static const auto *application = new QApplication(argc, argv);
-    Q_UNUSED(application)
+    [[maybe_unused]] static const auto *application = new QApplication(argc, argv);
     Player().play(QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<int>(size)));
     return 0;
 }
