@@ -1,8 +1,6 @@
 // Linked into a program of the guide: writes a picture of its first window to
 // $SAMPLE_PICTURE once it is shown, and ends the program.
-#include <QtCore/QTimer>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QWidget>
+#include <QtWidgets/QtWidgets>
 
 static void onStart()
 {

@@ -5,7 +5,6 @@
 #include <cropeditframe.h>
 #include <layouteditframe.h>
 #include <maskeditframe.h>
-#include <recteditframe.h>
 #include <rgballeditframe.h>
 #include <rgbeditframe.h>
 #include <rgbopacityeditframe.h>
@@ -13,7 +12,6 @@
 #include <slidereditframe_p.h>
 #include <slidereditframedouble.h>
 
-#include <QtGui/QStandardItemModel>
 #include <QtTest/QtTest>
 #include <QtWidgets/QtWidgets>
 
@@ -25,8 +23,7 @@ struct Host
     {
         gain.setObjectName("gain");
         window.setLayout(new QVBoxLayout);
-        for (QWidget *editor :
-             window.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
+        for (auto *editor : window.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
             window.layout()->addWidget(editor);
         for (auto *field : window.findChildren<QAbstractSpinBox *>())
             field->setProperty("isEntryRefused", true);
