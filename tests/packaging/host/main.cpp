@@ -6,32 +6,25 @@
 #include <vantorslider/slidereditframe.h>
 #include <vantorslider/slidereditframedouble.h>
 
-#include <QtGui/QMouseEvent>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QToolButton>
+#include <QtWidgets/QtWidgets>
 
 #include <cstdio>
-
-static void send(QWidget *widget, QEvent::Type type, Qt::MouseButtons buttons)
-{
-    const QPoint centre = widget->rect().center();
-    QMouseEvent event(type, centre, widget->mapToGlobal(centre), Qt::LeftButton, buttons,
-                      Qt::NoModifier);
-    QApplication::sendEvent(widget, &event);
-}
 
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     Vantor::Widgets::SliderEditFrame editor;
-    editor.setLabelText(QStringLiteral("Brightness"));
     editor.setRange(0, 255);
     editor.setValue(127);
     QObject::connect(&editor, &Vantor::Widgets::SliderEditFrame::valueChanged,
                      [](int value) { std::printf("valueChanged(%d)\n", value); });
     editor.show();
     auto *plus = editor.findChild<QToolButton *>(QStringLiteral("sliderEditPlus"));
-    send(plus, QEvent::MouseButtonPress, Qt::LeftButton);
-    send(plus, QEvent::MouseButtonRelease, Qt::NoButton);
+    const QPoint centre = plus->rect().center();
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, centre, plus->mapToGlobal(centre), Qt::LeftButton, Qt::LeftButton,
+                          Qt::NoModifier);
+        QApplication::sendEvent(plus, &event);
+    }
     return 0;
 }
