@@ -47,7 +47,8 @@ bool selectsSomething(QString selector)
 void trySheet(const QString &path)
 {
     QFile file(path);
-    file.open(QIODevice::ReadOnly); // reading complains where that fails
+    if (!file.open(QIODevice::ReadOnly))
+        complaints += "    cannot be read\n";
     QString sheet = QString::fromUtf8(file.readAll());
     // Gone before the next host: Qt would take that one's widgets, at the same
     // addresses, for the same ones.
