@@ -23,7 +23,7 @@ FAILED = re.compile(r"^(?:FAIL!|XPASS|QFATAL) +: (\w+::\w+)\((.*?)\)(?: |$)", re
 # The tests that take half the time and are about the calculator field alone, and the
 # beginnings of the files that can make a difference to them.
 CALCULATOR_PROGRAMS = {"tst_lineeditcal", "fuzz_corpus"}
-CALCULATOR_FUNCTIONS = {"tst_Robustness::scripts", "tst_Robustness::hugeTexts"}
+CALCULATOR_FUNCTIONS = {"tst_Robustness::pastedTexts"}
 CALCULATOR_FILES = re.compile("calculator|expression|hostwindow|qlineeditcal|scriptengine")
 
 
