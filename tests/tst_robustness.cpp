@@ -94,7 +94,8 @@ template <typename Editor> void deleteInEachSignal(const QString &steps, bool is
         bool isMet = false;
         QAction program; // has a slot for any signal
         QObject::connect(&program, &QAction::triggered, [&] {
-            isMet = true;
+            if (std::exchange(isMet, true))
+                return;
             if (isAtOnce)
                 delete editor.data();
             else
