@@ -41,12 +41,12 @@ void tst_Robustness::pastedTexts_data()
             user.row.field->setMaxLength(300000);
             user.perform("click");
             const std::clock_t start = std::clock();
-            user.perform("paste " + (user.isWhole ? text : text + '='));
+            user.perform("paste " + (user.isWhole || text.endsWith('=') ? text : text + '='));
             user.perform("keys \n");
             const double ms = 1000.0 * double(std::clock() - start) / CLOCKS_PER_SEC
                 / qMax(1, qEnvironmentVariableIntValue("VANTORSLIDER_SLOWNESS"));
             QVERIFY2(ms < mostMs, qPrintable(QString::number(ms)));
-            if (user.isWhole && !shown.isEmpty())
+            if (!shown.isEmpty())
                 QCOMPARE(user.shown(), shown);
             user.perform("elsewhere"); // the floating-point field keeps the focus
             user.perform("enter 1/1");
