@@ -188,6 +188,9 @@ void tst_SliderEditFrame::sequences_data()
 
     addDouble("10 to the power of 12 is no int",
               "decimals 12 | range 0 100 | value 100 | shown: 100/2147483647");
+    addDouble("NaN changes nothing",
+              "value nan | range 0 nan | minimum nan | maximum nan | singleStep nan | "
+              "bounds: 0..100 | plus: 11 | shown: 11");
     addDouble("a value that the field rounds",
               "value 57 | type \t | shown: 57"); // 57 * 0.01 > 0.57
     addDouble("the spin box follows in release mode",
