@@ -31,10 +31,10 @@ QStringList settingsOf(EditorUser &user, const EditorRow &row)
              << "button=" + limits(row.plus->minimumWidth(), row.plus->maximumWidth())
              << "box=" + limits(row.spinBox->minimumWidth(), row.spinBox->maximumWidth())
              << "range=" + limits(row.slider->minimum(), row.slider->maximum())
-             << QString("pageStep=%1").arg(row.slider->pageStep())
-             << QString("repeat=%1").arg(row.plus->autoRepeat())
-             << QString("delay=%1").arg(row.plus->autoRepeatDelay())
-             << QString("interval=%1").arg(row.plus->autoRepeatInterval());
+             << QString("pageStep=%1").arg(row.slider->pageStep());
+    for (const char *name : {"autoRepeat", "autoRepeatDelay", "autoRepeatInterval"})
+        settings << name + ('=' + row.minus->property(name).toString()) + '/'
+                + row.plus->property(name).toString();
     for (const QLayout *layout : row.frame->findChildren<QLayout *>())
         settings << QString("gap=%1").arg(layout->contentsMargins().right());
     const int value = row.whole->value();
@@ -161,11 +161,13 @@ template <typename F, typename T = typename F::Type> void addChecks()
     add(" page step", "pageStep=7", [](F &f, T t) { f.setPageStep(t, 7); });
     addAll(" spacing", "gap=17 gap=23 gap=23", [](F &f, T) { f.setHorizontalSpacing(17, 23); });
     addAll(" wheel", "wheel=61", [](F &f, T) { f.setSpinBoxWheelEnable(true); });
-    addAll(" repeat", "repeat=1", [](F &f, T) { f.setAutoRepeat(true); });
-    addAll(" repeat delay", "delay=321", [](F &f, T) { f.setAutoRepeatDelay(321); });
-    addAll(" repeat interval", "interval=45", [](F &f, T) { f.setAutoRepeatInterval(45); });
+    addAll(" repeat", "autoRepeat=true/true", [](F &f, T) { f.setAutoRepeat(true); });
+    addAll(" repeat delay", "autoRepeatDelay=321/321", [](F &f, T) { f.setAutoRepeatDelay(321); });
+    addAll(" repeat interval", "autoRepeatInterval=45/45",
+           [](F &f, T) { f.setAutoRepeatInterval(45); });
     addAll(" release mode", "hold 60=21", [](F &f, T) { f.setReleaseMode(true); });
-    addAll(" sampling", "repeat=1 hold 60 ms=5000", [](F &f, T) { f.setTimeSamplingRate(5000); });
+    addAll(" sampling", "autoRepeat=true/true hold 60 ms=5000",
+           [](F &f, T) { f.setTimeSamplingRate(5000); });
     if constexpr (isRect<F>) {
         add(" value change direction", "plus=20 hold 60=20 drop=20 click=20 wheel=20",
             [](F &f, T t) { f.setValueChangeDirection(t, SliderEditFrame::AllowedToSmaller, 20); });

@@ -80,6 +80,7 @@ void tst_Forms::silentWrites()
         {"Gain -20 40 5 7 30", "Gain 2 -20 40 5 7 30"});
 }
 
+// A model's mapper finds value and report of either editor by the properties' own marks.
 void tst_Forms::mapper()
 {
     compareMapping<SliderEditFrame>("36", "37");

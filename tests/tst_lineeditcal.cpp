@@ -2,6 +2,9 @@
 #include "qlineeditcal.h"
 #include "testuser.h"
 
+#include <QtCore/QFile>
+#include <QtCore/QRegularExpression>
+
 using Vantor::Widgets::LineEditCal;
 
 class tst_LineEditCal : public QObject

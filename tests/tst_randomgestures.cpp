@@ -1,4 +1,6 @@
+#include "cropeditframe.h"
 #include "editoruser.h"
+#include "maskeditframe.h"
 #include "rgballeditframe.h"
 #include "rgbeditframe.h"
 #include "rgbopacityeditframe.h"
@@ -160,6 +162,7 @@ template <typename Frame> void add(const QString &start, const QStringList &step
 
 } // namespace
 
+// For orders of gestures that no row thought of.
 void tst_RandomGestures::editors_data()
 {
     QTest::addColumn<TestCode>("code");

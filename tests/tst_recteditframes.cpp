@@ -1,4 +1,6 @@
+#include "cropeditframe.h"
 #include "editoruser.h"
+#include "maskeditframe.h"
 
 using namespace Vantor::Widgets;
 

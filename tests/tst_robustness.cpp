@@ -1,4 +1,6 @@
+#include "cropeditframe.h"
 #include "editoruser.h"
+#include "maskeditframe.h"
 #include "rgballeditframe.h"
 #include "rgbeditframe.h"
 #include "rgbopacityeditframe.h"
@@ -29,8 +31,8 @@ private Q_SLOTS:
     void extremeSettings() { runTestCode(); }
 };
 
-// Endless scripts and huge texts, evaluated at Enter in the one editor, at "=" in the
-// other. The field works on then.
+// Endless scripts and huge texts. One without "=" is evaluated at Enter in the integer
+// editor and has one added in the other. The field works on then.
 void tst_Robustness::pastedTexts_data()
 {
     QTest::addColumn<TestCode>("code");
@@ -242,7 +244,7 @@ void tst_Robustness::whileHeld_data()
         onReport(user, [&user] { user.perform("disable"); });
         user.play("tick: 100");
     });
-    // What a frame adds to its window is gone when the window hides its editors.
+    // A QFrame is a plain QWidget by the time that its destructor hides the editor.
     addForBoth("the window goes", [](auto &user) {
         auto *const host = new QFrame;
         user.frame->setParent(host);

@@ -1,4 +1,7 @@
 #include "editoruser.h"
+#include "recteditframe.h"
+
+#include <QtCore/QDir>
 
 #include <cmath>
 
@@ -44,16 +47,19 @@ double contrastOf(const QColor &a, const QColor &b)
     return qMax(ratio, 1 / ratio);
 }
 
-// The upper edge in the middle of a widget, from its border to the first row of its inside.
+// The upper edge in the middle of a widget, from outside to the first row of its inside.
 QImage upperEdge(QWidget *widget)
 {
-    return widget->grab(QRect(widget->width() / 2, 0, 1, 8)).toImage();
+    const QPoint top = widget->mapTo(widget->window(), QPoint(widget->width() / 2, 0));
+    return widget->window()->grab(QRect(top, QSize(1, 8))).toImage();
 }
 
-// A border is two pixels wide, around a spin box behind a row of its own.
 double contrastOfEdge(const QImage &edge)
 {
-    return contrastOf(edge.pixelColor(0, 1), edge.pixelColor(0, 7));
+    double most = 0;
+    for (int y = 0; y < edge.height(); ++y)
+        most = qMax(most, contrastOf(edge.pixelColor(0, y), edge.pixelColor(0, 7)));
+    return most;
 }
 
 } // namespace

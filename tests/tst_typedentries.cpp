@@ -65,6 +65,7 @@ void tst_TypedEntries::whole_data()
     row("0 100 50", "enter 127/2: 64", "64");
     row("0 100 50", "type 127/2 | hide: 64 finished finished", "64");
     row("0 100 50", "type 127/2 | up: 65 | elsewhere: finished finished", "65");
+    row("0 100 50", "type 127/2 | down: 63 | elsewhere: finished finished", "63");
     row("0 100 50", "type 1/0 | up: 51 | refused: no | elsewhere: finished finished", "51");
     row("0 100 50", "type 7 | down: 6 | elsewhere: finished finished", "6");
     row("0 100 50", "click | paste for(i=0;i<9;i++);7=: finished 7 finished left", "7");
@@ -100,6 +101,7 @@ void tst_TypedEntries::fraction_data()
     row("0 10 1", "enter 4.6=+: 4.6", "4.60"); // the last result that was accepted counts
     row("0 10 1", "click | paste for(i=1;i<9;i++);7 | keys \n: 7", "7.00");
     row("0 10 1", "type 5/4 | up: 1.26 | elsewhere", "1.26");
+    row("0 10 1", "type 5/4 | down: 1.24 | elsewhere", "1.24");
     row("0 10 1", "type 3/2 | hide: 1.5", "1.50");
     row("0 9999 1.234 3", "enter 0/0", "1.234");
     row("0 9999 1.234 3", "click | paste 1,,2 | elsewhere", "1.234");

@@ -5,6 +5,7 @@
 #include <cropeditframe.h>
 #include <layouteditframe.h>
 #include <maskeditframe.h>
+#include <recteditframe.h>
 #include <rgballeditframe.h>
 #include <rgbeditframe.h>
 #include <rgbopacityeditframe.h>

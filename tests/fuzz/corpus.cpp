@@ -12,7 +12,9 @@ int main(int, char *argv[])
         if (!file.open(QIODevice::ReadOnly))
             return 1;
         qInfo("%s", qPrintable(info.fileName()));
-        LLVMFuzzerTestOneInput(file.map(0, file.size()), static_cast<std::size_t>(file.size()));
+        const QByteArray input = file.readAll();
+        LLVMFuzzerTestOneInput(reinterpret_cast<const unsigned char *>(input.constData()),
+                               static_cast<std::size_t>(input.size()));
     }
     return files.isEmpty() ? 1 : 0;
 }

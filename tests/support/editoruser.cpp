@@ -132,24 +132,26 @@ void EditorUser::addSights()
         const QString text = step.row.field->selectedText();
         log.add(text.isEmpty() ? "nothing" : text == step.row.field->text() ? "all" : text);
     });
-    using Row = const EditorRow &;
     const auto add = [this](const QString &sight, auto yes, auto no, const auto &isSo) {
         on(sight, [=](const Step &step) { log.add(isSo(step.row) ? yes : no); });
     };
-    add("timer", "runs", "stands", [](Row row) { return samplingInterval(row.frame) > 0; });
-    add("focused", "editor", "other", [](Row row) { return row.frame->hasFocus(); });
-    add("pressed", "yes", "no", [](Row row) { return row.whole->isMousePressed(); });
+    add("timer", "runs", "stands",
+        [](const EditorRow &row) { return samplingInterval(row.frame) > 0; });
+    add("focused", "editor", "other", [](const EditorRow &row) { return row.frame->hasFocus(); });
+    add("pressed", "yes", "no", [](const EditorRow &row) { return row.whole->isMousePressed(); });
     add("refused", "yes", "no",
-        [](Row row) { return row.spinBox->property("isEntryRefused").toBool(); });
-    add("repeating", "yes", "no",
-        [](Row row) { return row.plus->autoRepeat() && row.minus->autoRepeat(); });
+        [](const EditorRow &row) { return row.spinBox->property("isEntryRefused").toBool(); });
+    on("repeating", [this](const Step &step) {
+        for (const QToolButton *button : {step.row.minus, step.row.plus})
+            log.add(button->autoRepeat() ? "yes" : "no");
+    });
 }
 
 // The program around any editor.
 template <typename Frame> void EditorUser::addModes(Frame *frame)
 {
     on("released", [=](const Step &step) { frame->setReleaseMode(step.text != "off"); });
-    on("autoRepeat", [=](const Step &step) { frame->setAutoRepeat(step.text == "on"); });
+    on("autoRepeat", [=](const Step &step) { frame->setAutoRepeat(step.text != "off"); });
     // Long enough for the ticks to come by hand.
     on("sampled", [=](const Step &) { frame->setTimeSamplingRate(60000); });
 }
@@ -224,12 +226,15 @@ void EditorUser::addRect(RectEditFrame *rect)
 void EditorUser::addCrop(CropEditFrame *crop)
 {
     log.watch(crop, &CropEditFrame::cropValueChanged, "crop");
-    on("area", [=](const Step &s) { crop->setCropRange(s[0], s[1]); });
-    on("areaFrom", [=](const Step &s) { crop->setCropRange(s[0], s[1], s[2], s[3], s[4], s[5]); });
-    on("leastPosition", [=](const Step &s) { crop->setCropMinPos(s[0], s[1]); });
-    on("leastSize", [=](const Step &s) { crop->setCropMinSize(s[0], s[1]); });
-    on("crop", [=](const Step &s) { crop->setCropValue(s[0], s[1], s[2], s[3]); });
-    on("rect", [=](const Step &s) { crop->setCropValue(QRect(s[0], s[1], s[2], s[3])); });
+    on("area", [=](const Step &step) { crop->setCropRange(step[0], step[1]); });
+    on("areaFrom", [=](const Step &step) {
+        crop->setCropRange(step[0], step[1], step[2], step[3], step[4], step[5]);
+    });
+    on("leastPosition", [=](const Step &step) { crop->setCropMinPos(step[0], step[1]); });
+    on("leastSize", [=](const Step &step) { crop->setCropMinSize(step[0], step[1]); });
+    on("crop", [=](const Step &step) { crop->setCropValue(step[0], step[1], step[2], step[3]); });
+    on("rect",
+       [=](const Step &step) { crop->setCropValue(QRect(step[0], step[1], step[2], step[3])); });
 }
 
 void EditorUser::addMask(MaskEditFrame *mask)

@@ -70,9 +70,9 @@ private:
 // In a composite editor a row's name comes first: "w enter 3: h(2) w(3) (0,0,3,2)".
 //
 // What is heard: "20" is a row's report, "h(2)" a rectangle editor's signal of that
-// field, "(0,0,3,2)" any editor's valueChanged(); "finished" and "left" are the
-// messages of an entry, "page" and "key" a turn of the wheel and a key that come to
-// the page around the editor.
+// field, "(0,0,3,2)" any editor's valueChanged(), "too early" a row's report before its
+// slider stands there; "finished" and "left" are the messages of an entry, "page" and
+// "key" a turn of the wheel and a key that come to the page around the editor.
 //
 // What the user does:
 //   plus, minus, space      clicks a step button, presses plus by the space bar
@@ -89,7 +89,7 @@ private:
 //   lock position, size     clicks a lock button
 // What the program does to any row:
 //   value, range, tick (of the sampling), focus, show, hide, disable, enable, delete
-// to all rows: released and autoRepeat, each on or off, sampled
+// to all rows: sampled, released, autoRepeat; the last two end by off
 // to a slider editor:
 //   minimum, maximum, singleStep, pageStep, decimals, direction (flags and value),
 //   wheelEnabled, hideSlider; suffix, prefix, specialValueText and locale of the spin box
@@ -103,8 +103,8 @@ private:
 //   timer      whether the sampling "runs" or "stands"
 //   focused    "editor" where the row has the focus, or "other"
 //   selected   "all" of the field's text, "nothing" or what, once nothing is left to do
-//   pressed, refused, repeating   whether the handle is held, the entry was refused, a
-//              held step button repeats
+//   pressed, refused   whether the handle is held, whether the entry was refused
+//   repeating  whether minus and plus repeat while they are held
 class EditorUser
 {
 public:
@@ -131,6 +131,7 @@ private:
         QString verb;
         QString text; // behind the verb
         QString word(int i) const { return text.section(' ', i, i); }
+        // The word as a whole number.
         int operator[](int i) const { return word(i).toInt(); }
     };
     using Action = std::function<void(const Step &)>;

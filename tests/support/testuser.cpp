@@ -6,7 +6,7 @@
 namespace {
 
 // No display needed, the same look and locale everywhere. The platform is chosen before
-// the application is made.
+// the application is made. Linked into the programs that use any of this file.
 void prepareTest()
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))

@@ -22,7 +22,8 @@ int main(int argc, char *argv[])
     auto *plus = editor.findChild<QToolButton *>(QStringLiteral("sliderEditPlus"));
     const QPoint centre = plus->rect().center();
     for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        QMouseEvent event(type, centre, plus->mapToGlobal(centre), Qt::LeftButton, Qt::LeftButton,
+        const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+        QMouseEvent event(type, centre, plus->mapToGlobal(centre), Qt::LeftButton, held,
                           Qt::NoModifier);
         QApplication::sendEvent(plus, &event);
     }
