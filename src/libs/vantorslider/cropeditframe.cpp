@@ -107,24 +107,6 @@ void CropEditFramePrivate::slotHeightValueChanged(int val)
 
 } // namespace Internal
 
-/*!
-    \class CropEditFrame cropeditframe.h vantorslider/cropeditframe.h
-    \brief A rectangle editor that keeps a crop within an area.
-
-    A field that the user changes stops where its position plus size would leave
-    the area. What the host sets is not held, nor what the position or the offset
-    lock moves along, until the user changes a field of that pair. Hosts take the
-    crop from cropValueChanged(); the base's valueChanged() follows it and carries
-    the changed field as the user set it, before it was held in the area.
-*/
-
-/*!
-    \fn void CropEditFrame::cropValueChanged(int x, int y, int w, int h)
-    \brief The user changed the crop. Not emitted where it is the one that was
-    reported or set last.
-*/
-
-/*! Builds the editor with the least position 0, 0 and the least size 1 by 1. */
 CropEditFrame::CropEditFrame(QWidget *parent)
     : RectEditFrame(parent), d(new Internal::CropEditFramePrivate(this))
 {
@@ -138,32 +120,23 @@ CropEditFrame::~CropEditFrame()
     d = nullptr;
 }
 
-/*! Keeps \a nMinX and \a nMinY as least position for setCropRange() with two arguments. */
 void CropEditFrame::setCropMinPos(int nMinX, int nMinY)
 {
     d->m_nMinX = nMinX;
     d->m_nMinY = nMinY;
 }
 
-/*! Keeps \a nMinWidth and \a nMinHeight as least size for setCropRange() with two arguments. */
 void CropEditFrame::setCropMinSize(int nMinWidth, int nMinHeight)
 {
     d->m_nMinWidth = nMinWidth;
     d->m_nMinHeight = nMinHeight;
 }
 
-/*! Sets the fields' ranges for an area of \a width by \a height. Emits nothing. */
 void CropEditFrame::setCropRange(int width, int height)
 {
     setCropRange(d->m_nMinX, d->m_nMinY, d->m_nMinWidth, d->m_nMinHeight, width, height);
 }
 
-/*!
-    Sets the fields' ranges for an area of \a nTotalHor by \a nTotalVer with
-    least position \a nMinX, \a nMinY and least size \a nMinWidth by
-    \a nMinHeight, none of which is kept for later calls. A field's value
-    outside its range is clamped. Emits nothing.
-*/
 void CropEditFrame::setCropRange(int nMinX, int nMinY, int nMinWidth, int nMinHeight, int nTotalHor,
                                  int nTotalVer)
 {
@@ -173,21 +146,18 @@ void CropEditFrame::setCropRange(int nMinX, int nMinY, int nMinWidth, int nMinHe
     setRange(Height, nMinHeight, nTotalVer);
 }
 
-/*! Shows the crop \a x, \a y, \a w, \a h, each clamped to its field's range. Emits nothing. */
 void CropEditFrame::setCropValue(int x, int y, int w, int h)
 {
     d->m_lastCrop = Internal::wrappedRect(x, y, w, h);
     RectEditFrame::setValue(x, y, w, h);
 }
 
-/*! Shows the crop \a rect. Emits nothing. */
 void CropEditFrame::setCropValue(const QRect &rect)
 {
     d->m_lastCrop = rect;
     RectEditFrame::setValue(rect);
 }
 
-/*! As RectEditFrame::setRange(), for a field that is to differ from setCropRange(). */
 void CropEditFrame::setRange(Type type, int min, int max)
 {
     RectEditFrame::setRange(type, min, max);

@@ -110,25 +110,6 @@ void MaskEditFramePrivate::slotRightValueChanged(int val)
 
 } // namespace Internal
 
-/*!
-    \class MaskEditFrame maskeditframe.h vantorslider/maskeditframe.h
-    \brief An editor for the four margins of a mask over an area.
-
-    The margins stand in the fields of RectEditFrame: top in X, bottom in Y,
-    left in Width, right in Height. A margin that the user changes stops where
-    top and bottom together would pass the area's height, left and right its
-    width. Hosts take the margins from maskValueChanged(); the base's
-    valueChanged() follows it and carries the changed margin as the user set it.
-    Usable after setMaskRange().
-*/
-
-/*!
-    \fn void MaskEditFrame::maskValueChanged(int top, int bottom, int left, int right)
-    \brief The user changed the margins. Not emitted where they are those that
-    were reported or set last.
-*/
-
-/*! Builds the editor for an area of no size, with hidden lock buttons. */
 MaskEditFrame::MaskEditFrame(QWidget *parent)
     : RectEditFrame(parent), d(new Internal::MaskEditFramePrivate(this))
 {
@@ -142,7 +123,6 @@ MaskEditFrame::~MaskEditFrame()
     d = nullptr;
 }
 
-/*! Sets the margins' ranges for an area of \a width by \a height. Emits nothing. */
 void MaskEditFrame::setMaskRange(int width, int height)
 {
     d->m_nMaxHeight = height;
@@ -153,11 +133,6 @@ void MaskEditFrame::setMaskRange(int width, int height)
     setRange(Height, 0, width);
 }
 
-/*!
-    Shows the margins \a top, \a bottom, \a left and \a right, each clamped to
-    its range. A pair beyond the area is shown as it is, but may only shrink
-    then. Emits nothing.
-*/
 void MaskEditFrame::setMaskValue(int top, int bottom, int left, int right)
 {
     d->m_lastMask = Internal::wrappedRect(top, bottom, left, right);
@@ -167,10 +142,6 @@ void MaskEditFrame::setMaskValue(int top, int bottom, int left, int right)
     d->allowHorizontal(heldValue(left, right, d->m_nMaxWidth).directions, left, right);
 }
 
-/*!
-    Writes the margins to the four edges of \a maskRect: its left edge is the
-    left margin and so on. It is no rectangle of the area.
-*/
 void MaskEditFrame::getMaskValue(QRect &maskRect)
 {
     const auto [top, bottom, left, right] = Internal::fieldValues(this);

@@ -11,42 +11,109 @@ namespace Internal {
 class RGBEditFramePrivate;
 }
 
+/*!
+    \class RGBEditFrame rgbeditframe.h vantorslider/rgbeditframe.h
+    \brief A colour editor of three slider rows: red, green and blue, each 0 to 255 and
+    at 50 at first.
+
+    An operation that takes a Type addresses the one row that it names; any other value changes
+    nothing and is reported by a warning in Qt's log. The rows are named "frameR", "frameG" and
+    "frameB"; their sliders carry the dynamic properties "isColorControl_Red",
+    "isColorControl_Green" and "isColorControl_Blue".
+*/
 class VANTORSLIDER_EXPORT RGBEditFrame : public QFrame
 {
     Q_OBJECT
 
 public:
-    enum Type : int { R = 2, G = 4, B = 8 };
+    /*! The channels, as single bits. */
+    enum Type : int {
+        R = 2, //!< Red.
+        G = 4, //!< Green.
+        B = 8, //!< Blue.
+    };
 
+    /*! Builds the three rows without label texts. Emits nothing. */
     explicit RGBEditFrame(QWidget *parent = nullptr);
     ~RGBEditFrame() override;
 
+    /*! Shows \a text as the name of the row \a type. */
     void setLabelText(Type type, const QString &text);
+
+    /*! Shows the rows whose bit is set in \a types and hides the others. */
     void setEditerVisible(int types);
+
+    /*! SliderEditFrame::setHorizontalSpacing() of every row. */
     void setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton);
+
+    /*! Sets the gap between the rows to \a nVal pixels. */
     void setVerticalSpacing(const int &nVal);
+
+    /*! SliderEditFrame::setLabelWidthRange() of the row \a type. */
     void setLabelWidthRange(Type type, int maxw, int minw);
+
+    /*! SliderEditFrame::setLabelFixedWidth() of the row \a type. */
     void setLabelFixedWidth(Type type, int w);
+
+    /*! SliderEditFrame::setButtonWidthRange() of the row \a type. */
     void setButtonWidthRange(Type type, int maxw, int minw);
+
+    /*! SliderEditFrame::setButtonFixedWidth() of the row \a type. */
     void setButtonFixedWidth(Type type, int w);
+
+    /*! SliderEditFrame::setSpinBoxWidthRange() of the row \a type. */
     void setSpinBoxWidthRange(Type type, int maxw, int minw);
+
+    /*! SliderEditFrame::setSpinBoxFixedWidth() of the row \a type. */
     void setSpinBoxFixedWidth(Type type, int w);
+
+    /*! SliderEditFrame::setSpinBoxWheelEnable() of every row. */
     void setSpinBoxWheelEnable(bool b);
+
+    /*! SliderEditFrame::setValue() of the row \a type. Emits nothing. */
     void setValue(Type type, int val);
+
+    /*! Writes the channels' values to \a r, \a g and \a b. */
     void value(int &r, int &g, int &b);
+
+    /*! SliderEditFrame::setRange() of the row \a type. Emits nothing. */
     void setRange(Type type, int min, int max);
+
+    /*! SliderEditFrame::setSingleStep() of the row \a type. */
     void setSingleStep(Type type, int val);
+
+    /*! SliderEditFrame::setPageStep() of the row \a type. */
     void setPageStep(Type type, int val);
+
+    /*! SliderEditFrame::setAutoRepeat() of every row. */
     void setAutoRepeat(bool b);
+
+    /*! SliderEditFrame::setAutoRepeatDelay() of every row. */
     void setAutoRepeatDelay(int val);
+
+    /*! SliderEditFrame::setAutoRepeatInterval() of every row. */
     void setAutoRepeatInterval(int val);
+
+    /*! SliderEditFrame::setReleaseMode() of every row. */
     void setReleaseMode(bool b);
+
+    /*! SliderEditFrame::setTimeSamplingRate() of every row. */
     void setTimeSamplingRate(int val);
+
+    /*!
+        Lets the space below the rows take the spare height, if \a b is true; else the rows do.
+        On a shown editor it takes effect when its layout is next invalidated.
+    */
     void setLastVerticalSpacerExpanding(bool b);
+
+    /*! True while the pointer holds the slider of any row. */
     bool isMousePressed() const;
+
+    /*! The width in pixels of the widest label text, in the red row's font. */
     int labelMaxLength();
 
 Q_SIGNALS:
+    /*! The user changed a channel; \a r, \a g and \a b are all three values now. */
     void valueChanged(int r, int g, int b);
 
 private:

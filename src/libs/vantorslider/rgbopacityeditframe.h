@@ -11,40 +11,103 @@ namespace Internal {
 class RGBOpacityEditFramePrivate;
 }
 
+/*!
+    \class RGBOpacityEditFrame rgbopacityeditframe.h vantorslider/rgbopacityeditframe.h
+    \brief A colour editor with an opacity: three channels, each 0 to 255 and at 50 at
+    first, and below them the opacity, 0 to 100 and at 100.
+
+    An operation that takes a Type addresses the one row that it names; any other value changes
+    nothing and is reported by a warning in Qt's log. The opacity's row is named "frameOpacity",
+    the block of the channels "frameRGB".
+*/
 class VANTORSLIDER_EXPORT RGBOpacityEditFrame : public QFrame
 {
     Q_OBJECT
 
 public:
-    enum Type : int { R = 2, G = 4, B = 8, Opacity = 16 };
+    /*! The values, as single bits. */
+    enum Type : int {
+        R = 2, //!< Red.
+        G = 4, //!< Green.
+        B = 8, //!< Blue.
+        Opacity = 16, //!< The opacity.
+    };
 
+    /*! Builds the four rows without label texts. Emits nothing. */
     explicit RGBOpacityEditFrame(QWidget *parent = nullptr);
     ~RGBOpacityEditFrame() override;
 
+    /*! Shows \a text as the name of the row \a type. */
     void setLabelText(Type type, const QString &text);
+
+    /*! Shows the rows whose bit is set in \a types and hides the others. */
     void setEditerVisible(int types);
+
+    /*! SliderEditFrame::setHorizontalSpacing() of every row. */
     void setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton);
+
+    /*! Sets the gap between all four rows to \a nVal pixels. */
     void setVerticalSpacing(const int &nVal);
+
+    /*! SliderEditFrame::setLabelWidthRange() of the row \a type. */
     void setLabelWidthRange(Type type, int maxw, int minw);
+
+    /*! SliderEditFrame::setLabelFixedWidth() of the row \a type. */
     void setLabelFixedWidth(Type type, int w);
+
+    /*! SliderEditFrame::setButtonWidthRange() of the row \a type. */
     void setButtonWidthRange(Type type, int maxw, int minw);
+
+    /*! SliderEditFrame::setButtonFixedWidth() of the row \a type. */
     void setButtonFixedWidth(Type type, int w);
+
+    /*! SliderEditFrame::setSpinBoxWidthRange() of the row \a type. */
     void setSpinBoxWidthRange(Type type, int maxw, int minw);
+
+    /*! SliderEditFrame::setSpinBoxFixedWidth() of the row \a type. */
     void setSpinBoxFixedWidth(Type type, int w);
+
+    /*! SliderEditFrame::setSpinBoxWheelEnable() of every row. */
     void setSpinBoxWheelEnable(bool b);
+
+    /*! SliderEditFrame::setValue() of the row \a type. Emits nothing. */
     void setValue(Type type, int val);
+
+    /*! Writes the values to \a r, \a g, \a b and \a opacity. */
     void value(int &r, int &g, int &b, int &opacity);
+
+    /*! SliderEditFrame::setRange() of the row \a type. Emits nothing. */
     void setRange(Type type, int min, int max);
+
+    /*! SliderEditFrame::setSingleStep() of the row \a type. */
     void setSingleStep(Type type, int val);
+
+    /*! SliderEditFrame::setPageStep() of the row \a type. */
     void setPageStep(Type type, int val);
+
+    /*! SliderEditFrame::setAutoRepeat() of every row. */
     void setAutoRepeat(bool b);
+
+    /*! SliderEditFrame::setAutoRepeatDelay() of every row. */
     void setAutoRepeatDelay(int val);
+
+    /*! SliderEditFrame::setAutoRepeatInterval() of every row. */
     void setAutoRepeatInterval(int val);
+
+    /*! SliderEditFrame::setReleaseMode() of every row. */
     void setReleaseMode(bool b);
+
+    /*! SliderEditFrame::setTimeSamplingRate() of every row. */
     void setTimeSamplingRate(int val);
+
+    /*!
+        Lets the space below the rows take the spare height, if \a b is true; else the rows do.
+        On a shown editor it takes effect when its layout is next invalidated.
+    */
     void setLastVerticalSpacerExpanding(bool b);
 
 Q_SIGNALS:
+    /*! The user changed a value; \a r, \a g, \a b and \a opacity are all four values now. */
     void valueChanged(int r, int g, int b, int opacity);
 
 private:

@@ -9,21 +9,6 @@
 namespace Vantor {
 namespace Widgets {
 
-/*!
-    \class SliderEditDoubleSpinBox slidereditframe_p.h vantorslider/slidereditframe_p.h
-    \brief The floating-point field of a slider editor: a spin box that takes a typed
-    arithmetic expression.
-
-    Every text is valid to it; the calculator line edit filters while the user
-    types. Return and Enter emit editingFinished() and then enterFinished() and
-    go no further. An expression that ends in "=" is evaluated at once and
-    emits editingFinished(). The dynamic property "Quelmo_VK" = "Vk_NumberFloat"
-    tells a host which on-screen keyboard to show.
-
-    While the field has the focus its suffix is taken away, so that a bare
-    number is edited; it returns when editing ends.
-*/
-
 SliderEditDoubleSpinBox::SliderEditDoubleSpinBox(QWidget *parent)
     : QDoubleSpinBox(parent), m_pLineEditCal(new LineEditCal)
 {
@@ -35,7 +20,6 @@ SliderEditDoubleSpinBox::SliderEditDoubleSpinBox(QWidget *parent)
 
 SliderEditDoubleSpinBox::~SliderEditDoubleSpinBox() = default;
 
-/*! Accepts every text and changes neither \a text nor \a pos. */
 QValidator::State SliderEditDoubleSpinBox::validate(QString &text, int &pos) const
 {
     Q_UNUSED(text)
@@ -43,10 +27,6 @@ QValidator::State SliderEditDoubleSpinBox::validate(QString &text, int &pos) con
     return QValidator::Acceptable;
 }
 
-/*!
-    The number that \a text stands for: out of range the nearer end, and the
-    value as it is where \a text is no number.
-*/
 double SliderEditDoubleSpinBox::valueFromText(const QString &text) const
 {
     // The calculator writes two decimals; Qt would hold them all.
@@ -54,10 +34,6 @@ double SliderEditDoubleSpinBox::valueFromText(const QString &text) const
         .toDouble();
 }
 
-/*!
-    Steps the value by \a steps single steps. An expression that is pending is
-    evaluated first and stepped from; one that fails is dropped.
-*/
 void SliderEditDoubleSpinBox::stepBy(int steps)
 {
     if (m_pLineEditCal != nullptr
@@ -67,21 +43,11 @@ void SliderEditDoubleSpinBox::stepBy(int steps)
     QDoubleSpinBox::stepBy(steps);
 }
 
-/*!
-    Lets the wheel step the value while the field has the focus, if \a b is
-    true. Off at first: the wheel goes to the page around the field.
-*/
 void SliderEditDoubleSpinBox::setWheelEnable(bool b)
 {
     m_isWheelEnabled = b;
 }
 
-/*!
-    Hands the calculator its settings: \a result, shown when an evaluation
-    fails, the range \a min to \a max that results are clamped to,
-    \a retainResult decimals of a shown result, \a retainDecimal decimals of a
-    typed number, and whether a suffix is shown (\a bSuffix). Neither text nor value changes.
-*/
 void SliderEditDoubleSpinBox::setSpinBoxCal(const float &result, const float &max, const float &min,
                                             const int &retainResult, const int &retainDecimal,
                                             const bool &bSuffix)
@@ -96,10 +62,6 @@ void SliderEditDoubleSpinBox::setSpinBoxCal(const float &result, const float &ma
     m_pLineEditCal->setSuffix(bSuffix);
 }
 
-/*!
-    Evaluates the entry that is pending, if one is; its result is the field's text,
-    its value follows when the text is interpreted. A removed suffix returns.
-*/
 void SliderEditDoubleSpinBox::setSlotEditingFinished()
 {
     if (m_pLineEditCal == nullptr) {
@@ -114,10 +76,6 @@ void SliderEditDoubleSpinBox::setSlotEditingFinished()
     }
 }
 
-/*!
-    Shows again the suffix that was removed when the field got the focus. An entry
-    that is pending stays in the text.
-*/
 void SliderEditDoubleSpinBox::setSuffixShow()
 {
     if (m_strSuffix.isEmpty()) {
@@ -138,7 +96,6 @@ void SliderEditDoubleSpinBox::setSuffixShow()
     }
 }
 
-/*! Called when an expression that ended in "=" has been evaluated. */
 void SliderEditDoubleSpinBox::onSlotResultFinished()
 {
     Q_EMIT editingFinished();

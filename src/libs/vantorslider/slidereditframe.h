@@ -11,6 +11,20 @@ namespace Internal {
 class SliderEditPrivate;
 }
 
+/*!
+    \class SliderEditFrame slidereditframe.h vantorslider/slidereditframe.h
+    \brief A labelled editor for an integer parameter: name, slider, spin box, minus and
+    plus button in one row.
+
+    The spin box takes a typed arithmetic expression. valueChanged() reports what the user did
+    through the row's children, never what the setters did: no setter emits anything, even where
+    it clamps the value. Hiding or disabling the slider ends a drag, whose last value is
+    reported then.
+
+    Style sheets select on the dynamic properties "isSliderFrame" of the frame,
+    "isSliderEditSubtract" and "isSliderEditPlus" of the buttons, and on the children's object
+    names "labelName", "slider", "spinBox", "sliderEditSubtract" and "sliderEditPlus".
+*/
 class VANTORSLIDER_EXPORT SliderEditFrame : public QFrame
 {
     Q_OBJECT
@@ -23,55 +37,159 @@ class VANTORSLIDER_EXPORT SliderEditFrame : public QFrame
     Q_PROPERTY(int value READ value WRITE setValue NOTIFY valueChanged USER true)
 
 public:
+    /*! On which side of a reference value reported values are held. */
     enum ValueChangeDirection : int {
-        AllowedToBigger = 2,
-        AllowedToSmaller = 4,
-        AllowedToAny = AllowedToBigger | AllowedToSmaller
+        AllowedToBigger = 2, //!< Values may not fall below the reference.
+        AllowedToSmaller = 4, //!< Values may not rise above the reference.
+        AllowedToAny = AllowedToBigger | AllowedToSmaller, //!< No restriction; the default.
     };
 
+    /*! Builds a row with Qt's default range of a spin box, 0 to 99. Emits nothing. */
     explicit SliderEditFrame(QWidget *parent = nullptr);
     ~SliderEditFrame() override;
 
+    /*!
+        Sets the distance between label and slider to \a nLabelSlider and the
+        distances from the slider to the spin box and on to the buttons to
+        \a nSliderButton, in pixels.
+    */
     void setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton);
+
+    /*!
+        Shows \a text as the row's name. It also becomes the accessible name of the row, its
+        slider and its spin box, and with a minus or plus sign that of the buttons.
+    */
     void setLabelText(const QString &text);
+
+    /*! The text shown as the row's name. */
     QString labelText() const;
+
+    /*! Limits the label's width to \a maxw at most and \a minw at least, in pixels. */
     void setLabelWidthRange(int maxw, int minw);
+
+    /*! Makes the label \a w pixels wide. */
     void setLabelFixedWidth(int w);
+
+    /*! Limits each button's width to \a maxw at most and \a minw at least, in pixels. */
     void setButtonWidthRange(int maxw, int minw);
+
+    /*! Makes each button \a w pixels wide. */
     void setButtonFixedWidth(int w);
+
+    /*! Limits the spin box's width to \a maxw at most and \a minw at least, in pixels. */
     void setSpinBoxWidthRange(int maxw, int minw);
+
+    /*! Makes the spin box \a w pixels wide. */
     void setSpinBoxFixedWidth(int w);
+
+    /*! Lets the wheel step the spin box while it has the focus, if \a b is true; off at first. */
     void setSpinBoxWheelEnable(bool b);
+
+    /*!
+        Shows or hides the slider; without it the other children stay packed beside the label.
+        Hiding it ends a drag, whose last value is reported then.
+    */
     void setSliderVisible(bool b);
+
+    /*! Shows or hides both buttons. */
     void setButtonVisible(bool b);
+
+    /*! Sets the slider's property \a name to \a value, for style sheets that select on it. */
     void setSliderProperty(const char *name, const QVariant &value);
 
+    /*!
+        Shows \a val on slider and spin box, clamped to their range, and hands the range to the
+        spin box's calculator. Emits nothing.
+    */
     void setValue(int val);
+
+    /*! The value that the spin box holds. */
     int value();
+
+    /*!
+        Sets the range of slider and spin box to \a min up to \a max; an inverted range becomes
+        \a min alone. A value outside is clamped. Emits nothing. The calculator learns the new
+        range from the next setValue(). The handle of a range of exactly 2 to the 31st steps
+        begins one above \a min.
+    */
     void setRange(int min, int max);
+
+    /*! Sets the lower end of the range to \a min, raising the upper one to it; as setRange(). */
     void setMinimum(int min);
+
+    /*! Sets the upper end of the range to \a max, lowering the lower one to it; as setRange(). */
     void setMaximum(int max);
+
+    /*! The lower end of the range. */
     int minimum() const;
+
+    /*! The upper end of the range. */
     int maximum() const;
+
+    /*!
+        Sets the step of buttons, arrow keys and wheel to \a val. A negative one is ignored by
+        the spin box; the slider's own step becomes its absolute value.
+    */
     void setSingleStep(int val);
+
+    /*! The step of the buttons. */
     int singleStep();
+
+    /*! Sets the step of a click on the slider's groove to \a val. */
     void setPageStep(int val);
+
+    /*! The step of a click on the slider's groove. */
     int pageStep() const;
 
+    /*! Lets a held button repeat its step, if \a b is true. Each repetition is reported. */
     void setAutoRepeat(bool b);
+
+    /*! Sets the time before a held button repeats to \a val milliseconds. */
     void setAutoRepeatDelay(int val);
+
+    /*! Sets the time between a held button's repetitions to \a val milliseconds. */
     void setAutoRepeatInterval(int val);
+
+    /*!
+        Reports a drag once, when the handle is let go, if \a b is true. Release mode switches
+        the buttons' auto-repeat off, leaving it switches it on.
+    */
     void setReleaseMode(bool b);
+
+    /*!
+        Reports a drag at most once every \a val milliseconds and at its end. Leaves release
+        mode, which switches the buttons' auto-repeat on. Nothing switches sampling off again.
+    */
     void setTimeSamplingRate(int val);
+
+    /*!
+        Holds every reported value on one side of \a val. \a directions is a combination of
+        ValueChangeDirection; anything without AllowedToBigger means AllowedToSmaller. The value
+        shown now does not change.
+    */
     void setValueChangeDirection(int directions, int val);
 
+    /*! True while the pointer holds the slider; false as soon as it leaves it. */
     bool isMousePressed() const;
 
 Q_SIGNALS:
+    /*!
+        The user changed the value to \a val.
+
+        When it is emitted during a drag is decided by setReleaseMode() and
+        setTimeSamplingRate(). A value held at the reference of setValueChangeDirection() is
+        emitted on every attempt to pass it.
+
+        A receiver that does away with the editor calls deleteLater(): above the signal may
+        stand functions of QSlider or QSpinBox that go on with it.
+    */
     void valueChanged(int val);
 
 protected:
+    /*! Selects the spin box's text when the user enters it. */
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+    /*! The sampling tick. */
     void timerEvent(QTimerEvent *event) override;
 
 private:

@@ -11,6 +11,19 @@ namespace Internal {
 class SliderEditDoublePrivate;
 }
 
+/*!
+    \class SliderEditFrameDouble slidereditframedouble.h vantorslider/slidereditframedouble.h
+    \brief A labelled editor for a floating-point parameter: the twin of SliderEditFrame
+    for \c double values with a given number of decimals.
+
+    The slider works in whole positions: the value times 10 to the power of the decimals. Values
+    that would leave \c int there stop at its ends, so the range times that power should stay
+    within \c int. Values that are not a number are ignored by every setter.
+
+    valueChanged() reports what the user did, never what the setters did. The dynamic properties
+    and object names are those of SliderEditFrame, except that the spin box is named
+    "doubleSpinBox".
+*/
 class VANTORSLIDER_EXPORT SliderEditFrameDouble : public QFrame
 {
     Q_OBJECT
@@ -25,58 +38,145 @@ class VANTORSLIDER_EXPORT SliderEditFrameDouble : public QFrame
     Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged USER true)
 
 public:
+    /*! On which side of a reference value reported values are held. */
     enum ValueChangeDirection : int {
-        AllowedToBigger = 2,
-        AllowedToSmaller = 4,
-        AllowedToAny = AllowedToBigger | AllowedToSmaller
+        AllowedToBigger = 2, //!< Values may not fall below the reference.
+        AllowedToSmaller = 4, //!< Values may not rise above the reference.
+        AllowedToAny = AllowedToBigger | AllowedToSmaller, //!< No restriction; the default.
     };
 
+    /*!
+        Builds a row with two decimals and Qt's default range of a spin box, 0 to 99.99. Until
+        the first call that sets decimals or a range, a slider position is the value rounded to
+        a whole number.
+    */
     explicit SliderEditFrameDouble(QWidget *parent = nullptr);
     ~SliderEditFrameDouble() override;
 
+    /*! As SliderEditFrame::setHorizontalSpacing(). */
     void setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton);
+
+    /*! As SliderEditFrame::setLabelText(). */
     void setLabelText(const QString &text);
+
+    /*! The text shown as the row's name. */
     QString labelText() const;
+
+    /*! Limits the label's width to \a maxw at most and \a minw at least, in pixels. */
     void setLabelWidthRange(int maxw, int minw);
+
+    /*! Makes the label \a w pixels wide; 80 at first. */
     void setLabelFixedWidth(int w);
+
+    /*! Limits each button's width to \a maxw at most and \a minw at least, in pixels. */
     void setButtonWidthRange(int maxw, int minw);
+
+    /*! Makes each button \a w pixels wide. */
     void setButtonFixedWidth(int w);
+
+    /*! Limits the spin box's width to \a maxw at most and \a minw at least, in pixels. */
     void setSpinBoxWidthRange(int maxw, int minw);
+
+    /*! Makes the spin box \a w pixels wide. */
     void setSpinBoxFixedWidth(int w);
+
+    /*! As SliderEditFrame::setSpinBoxWheelEnable(). */
     void setSpinBoxWheelEnable(bool b);
+
+    /*! As SliderEditFrame::setSliderVisible(). */
     void setSliderVisible(bool b);
+
+    /*! Sets the slider's property \a name to \a value, for style sheets that select on it. */
     void setSliderProperty(const char *name, const QVariant &value);
 
+    /*!
+        Shows \a val, rounded to the decimals and clamped to the range, and hands the range to
+        the spin box's calculator. Emits nothing; not a number is ignored.
+    */
     void setValue(double val);
+
+    /*! The value that the spin box holds. */
     double value();
+
+    /*!
+        Sets the range to \a min up to \a max, each rounded to the decimals. A value outside is
+        clamped. Emits nothing. The calculator learns the new range from the next setValue(),
+        the handle its new place.
+    */
     void setRange(double min, double max);
+
+    /*! Sets the lower end of the range to \a min; otherwise as setRange(). */
     void setMinimum(double min);
+
+    /*! Sets the upper end of the range to \a max; otherwise as setRange(). */
     void setMaximum(double max);
+
+    /*! The lower end of the range. */
     double minimum() const;
+
+    /*! The upper end of the range. */
     double maximum() const;
+
+    /*!
+        Shows \a prec decimals, none where it is negative, and scales slider range and step by
+        10 to the power of \a prec. Range and value are rounded to the new decimals. The handle
+        keeps its position until the next setValue(). Emits nothing.
+    */
     void setDecimals(int prec);
+
+    /*! The number of decimals shown. */
     int decimals() const;
+
+    /*!
+        Sets the step of buttons, arrow keys and wheel to \a val. The slider's own step, for its
+        arrow keys, follows with the next call that sets decimals or a range: set the step
+        before them.
+    */
     void setSingleStep(double val);
+
+    /*! The step of the buttons. */
     double singleStep() const;
+
+    /*! Sets the step of a click on the slider's groove to \a val slider positions. */
     void setPageStep(int val);
+
+    /*! The step of a click on the slider's groove, in slider positions. */
     int pageStep() const;
 
+    /*! As SliderEditFrame::setAutoRepeat(). */
     void setAutoRepeat(bool b);
+
+    /*! As SliderEditFrame::setAutoRepeatDelay(). */
     void setAutoRepeatDelay(int val);
+
+    /*! As SliderEditFrame::setAutoRepeatInterval(). */
     void setAutoRepeatInterval(int val);
+
+    /*! As SliderEditFrame::setReleaseMode(); the spin box follows the handle meanwhile. */
     void setReleaseMode(bool b);
+
+    /*! As SliderEditFrame::setTimeSamplingRate(). */
     void setTimeSamplingRate(int val);
+
+    /*! As SliderEditFrame::setValueChangeDirection(); the reference \a val is a whole number. */
     void setValueChangeDirection(int directions, int val);
 
 Q_SIGNALS:
+    /*! The user changed the value to \a val. */
     void valueChanged(double val);
 
 protected:
+    /*! Selects the spin box's text when the user enters it. */
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+    /*! The sampling tick. */
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    /*! The number of decimals of \a num: 1 for a whole number, 0 where it has more than 10. */
     int getPrecision(float num);
+
+    /*! The power of ten that makes \a num whole, 10 at least and 1 000 000 000 at most. */
     int getMagnification(float num);
 
     Internal::SliderEditDoublePrivate *d;

@@ -8,18 +8,6 @@
 namespace Vantor {
 namespace Widgets {
 
-/*!
-    \class SliderEditSpinBox slidereditframe_p.h vantorslider/slidereditframe_p.h
-    \brief The integer field of a slider editor: a spin box that takes a typed
-    arithmetic expression.
-
-    Every text is valid to it; the calculator line edit filters while the user
-    types. Return and Enter emit editingFinished() and then enterFinished() and
-    go no further. An expression that ends in "=" is evaluated at once and
-    emits enterFinished(). The dynamic property "Quelmo_VK" = "Vk_Number"
-    tells a host which on-screen keyboard to show.
-*/
-
 SliderEditSpinBox::SliderEditSpinBox(QWidget *parent)
     : QSpinBox(parent), m_pLineEditCal(new LineEditCal)
 {
@@ -31,7 +19,6 @@ SliderEditSpinBox::SliderEditSpinBox(QWidget *parent)
 
 SliderEditSpinBox::~SliderEditSpinBox() = default;
 
-/*! Accepts every text and changes neither \a text nor \a pos. */
 QValidator::State SliderEditSpinBox::validate(QString &text, int &pos) const
 {
     Q_UNUSED(text)
@@ -39,19 +26,11 @@ QValidator::State SliderEditSpinBox::validate(QString &text, int &pos) const
     return QValidator::Acceptable;
 }
 
-/*!
-    The number that \a text stands for, rounded to a whole one: out of range the
-    nearer end, and the value as it is where \a text is no number.
-*/
 int SliderEditSpinBox::valueFromText(const QString &text) const
 {
     return Internal::saturatedInt(std::round(Internal::numberFromText(this, m_pLineEditCal, text)));
 }
 
-/*!
-    Steps the value by \a steps single steps. An expression that is pending is
-    evaluated first and stepped from; one that fails is dropped.
-*/
 void SliderEditSpinBox::stepBy(int steps)
 {
     if (m_pLineEditCal != nullptr
@@ -61,21 +40,11 @@ void SliderEditSpinBox::stepBy(int steps)
     QSpinBox::stepBy(steps);
 }
 
-/*!
-    Lets the wheel step the value while the field has the focus, if \a b is
-    true. Off at first: the wheel goes to the page around the field.
-*/
 void SliderEditSpinBox::setWheelEnable(bool b)
 {
     m_isWheelEnabled = b;
 }
 
-/*!
-    Hands the calculator its settings: \a result, shown when an evaluation
-    fails, the range \a min to \a max that results are clamped to,
-    \a retainResult decimals of a shown result, and \a retainDecimal decimals of a
-    typed number. Neither text nor value changes.
-*/
 void SliderEditSpinBox::setSpinBoxCal(const int &result, const int &max, const int &min,
                                       const int &retainResult, const int &retainDecimal)
 {
@@ -88,10 +57,6 @@ void SliderEditSpinBox::setSpinBoxCal(const int &result, const int &max, const i
     m_pLineEditCal->setInitialResult(static_cast<float>(result));
 }
 
-/*!
-    Evaluates the entry that is pending, if one is; its result is the field's text, its value
-    follows when the text is interpreted.
-*/
 void SliderEditSpinBox::setSlotEditingFinished()
 {
     if (m_pLineEditCal != nullptr
@@ -100,7 +65,6 @@ void SliderEditSpinBox::setSlotEditingFinished()
     }
 }
 
-/*! Called when an expression that ended in "=" has been evaluated. */
 void SliderEditSpinBox::onSlotResultFinished()
 {
     Q_EMIT enterFinished();
