@@ -63,7 +63,10 @@ void checkOperation(const QString &name, const QString &result, const Call<F> &c
     const QString base = isRect<F> ? "Rect" : "RGB";
     const auto warning = "warning: Set " + base + name + " has failed. The type  %1  is invalid.";
     const QString context = "(?i)%1editframe\\.cpp .*%1EditFrame::set.* default";
-    const QList<int> flags {2, 4, 8, 16, -2, 0, 6};
+    // The rows' own in their order, and others.
+    QList<int> flags {2 << settings.size(), -2, 0, 6};
+    for (auto row = settings.size(); row > 0; --row)
+        flags.prepend(1 << row);
     for (int i = 0; i < (isForAll ? 1 : flags.size()); ++i) {
         user.frame->setEditerVisible(0); // hidden rows are set as well
         user.heard(); // what the readings caused
@@ -71,7 +74,7 @@ void checkOperation(const QString &name, const QString &result, const Call<F> &c
         const bool isWrong = !isForAll && i >= user.rows.size();
         QCOMPARE(user.heard(), isWrong ? warning.arg(flags[i]) : QString());
         QVERIFY(!isWrong || user.log.lastContext().contains(QRegularExpression(context.arg(base))));
-        user.frame->setEditerVisible(30);
+        user.frame->setEditerVisible(~0);
         QCoreApplication::processEvents();
         for (int row = 0; row < user.rows.size(); ++row) {
             QStringList changes = settingsOf(user, user.rows[row]);

@@ -174,6 +174,8 @@ void tst_RectEditFrames::sequences_data()
          "mask 1000 900 0 2000 | w plus: mask(1000,900,0,1920) w(0) (1000,900,0,1920) | "
          "x plus: mask(180,900,0,1920) x(1000) (1000,900,0,1920) | "
          "x plus: x(180) (180,900,0,1920)");
+    mask("a sum that is set leaves 32 bits",
+         "mask 1 2147483647 0 0 | x plus: mask(0,1080,0,0) x(1) (1,1080,0,0)");
     mask("a smaller area clamps in silence",
          "mask 700 0 0 0 | area 500 500 | shown: 500 0 0 0 | area 1000 1000 | set 699 0 0 0 | "
          "x plus: x(700) (700,0,0,0)");

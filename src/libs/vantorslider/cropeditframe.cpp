@@ -35,10 +35,9 @@ private Q_SLOTS:
     void slotHeightValueChanged(int val);
 
 private:
-    using Type = RectEditFrame::Type;
-
-    int limit(Type position, Type size) const;
-    int heldInArea(Type changed, int val, Type partner, int partnerVal, int limit);
+    int horizontalLimit() const { return limit(RectEditFrame::X, RectEditFrame::Width); }
+    int verticalLimit() const { return limit(RectEditFrame::Y, RectEditFrame::Height); }
+    int limit(RectEditFrame::Type position, RectEditFrame::Type size) const;
     void report(const FieldValues &crop);
 };
 
@@ -56,22 +55,10 @@ void CropEditFramePrivate::createConnects()
 }
 
 // The far edge of the area: where the smallest position and the greatest size end.
-int CropEditFramePrivate::limit(Type position, Type size) const
+int CropEditFramePrivate::limit(RectEditFrame::Type position, RectEditFrame::Type size) const
 {
-    int lowest = 0;
-    int greatest = 0;
-    int unused = 0;
-    m_pEditer->range(position, lowest, unused);
-    m_pEditer->range(size, unused, greatest);
-    return saturatedSum(lowest, greatest);
-}
-
-int CropEditFramePrivate::heldInArea(Type changed, int val, Type partner, int partnerVal, int limit)
-{
-    const HeldValue held = heldValue(val, partnerVal, limit);
-    m_pEditer->setValueChangeDirection(changed, held.directions, held.value);
-    m_pEditer->setValueChangeDirection(partner, held.directions, partnerVal);
-    return held.value;
+    return saturatedSum(fieldRange(m_pEditer, position).lowest,
+                        fieldRange(m_pEditer, size).greatest);
 }
 
 void CropEditFramePrivate::report(const FieldValues &crop)
@@ -83,26 +70,22 @@ void CropEditFramePrivate::report(const FieldValues &crop)
 
 void CropEditFramePrivate::slotXValueChanged(int val)
 {
-    const auto [x, y, w, h] = fieldValues(m_pEditer);
-    report({heldInArea(Type::X, val, Type::Width, w, limit(Type::X, Type::Width)), y, w, h});
+    report(heldWithinLimit(m_pEditer, {fieldX, fieldWidth, horizontalLimit()}, val));
 }
 
 void CropEditFramePrivate::slotYValueChanged(int val)
 {
-    const auto [x, y, w, h] = fieldValues(m_pEditer);
-    report({x, heldInArea(Type::Y, val, Type::Height, h, limit(Type::Y, Type::Height)), w, h});
+    report(heldWithinLimit(m_pEditer, {fieldY, fieldHeight, verticalLimit()}, val));
 }
 
 void CropEditFramePrivate::slotWidthValueChanged(int val)
 {
-    const auto [x, y, w, h] = fieldValues(m_pEditer);
-    report({x, y, heldInArea(Type::Width, val, Type::X, x, limit(Type::X, Type::Width)), h});
+    report(heldWithinLimit(m_pEditer, {fieldWidth, fieldX, horizontalLimit()}, val));
 }
 
 void CropEditFramePrivate::slotHeightValueChanged(int val)
 {
-    const auto [x, y, w, h] = fieldValues(m_pEditer);
-    report({x, y, w, heldInArea(Type::Height, val, Type::Y, y, limit(Type::Y, Type::Height))});
+    report(heldWithinLimit(m_pEditer, {fieldHeight, fieldY, verticalLimit()}, val));
 }
 
 } // namespace Internal

@@ -39,6 +39,17 @@ void EditorRows::setVisible(int types) const
     }
 }
 
+int EditorRows::typesIn(const QWidget *panel) const
+{
+    int types = 0;
+    for (const Row &row : m_rows) {
+        if (row.frame->parentWidget() == panel) {
+            types |= row.type;
+        }
+    }
+    return types;
+}
+
 bool EditorRows::isMousePressed() const
 {
     return std::any_of(m_rows.begin(), m_rows.end(),

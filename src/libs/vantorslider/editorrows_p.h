@@ -60,6 +60,9 @@ public:
     // Shows the rows whose bit is set in types and hides the others.
     void setVisible(int types) const;
 
+    // The flags of the rows that stand in the panel.
+    int typesIn(const QWidget *panel) const;
+
     bool isMousePressed() const;
 
     // Width in pixels of the widest label text, in the font of the first row.

@@ -11,23 +11,6 @@ namespace Internal {
 // How the crop and the mask editor hold two fields that share an area, and show
 // and compare what comes of it.
 
-struct HeldValue
-{
-    int value;
-    // Of both fields: SliderEditFrame::ValueChangeDirection.
-    int directions;
-};
-
-// The value that fits beside its partner: at the limit of their sum neither of
-// the two may grow.
-inline HeldValue heldValue(int value, int partner, int limit)
-{
-    if (qint64(value) + partner < limit) {
-        return {value, SliderEditFrame::AllowedToAny};
-    }
-    return {saturatedDifference(limit, partner), SliderEditFrame::AllowedToSmaller};
-}
-
 // The four fields in their order: a crop's x, y, width and height, or a mask's
 // top, bottom, left and right margin.
 struct FieldValues
@@ -38,10 +21,65 @@ struct FieldValues
     int height = 0;
 };
 
+struct HeldField
+{
+    RectEditFrame::Type type;
+    int FieldValues::*value;
+};
+
+constexpr HeldField fieldX {RectEditFrame::X, &FieldValues::x};
+constexpr HeldField fieldY {RectEditFrame::Y, &FieldValues::y};
+constexpr HeldField fieldWidth {RectEditFrame::Width, &FieldValues::width};
+constexpr HeldField fieldHeight {RectEditFrame::Height, &FieldValues::height};
+
+// Two fields whose sum has a limit.
+struct HeldPair
+{
+    HeldField first;
+    HeldField second;
+    int limit;
+};
+
 inline FieldValues fieldValues(RectEditFrame *editer)
 {
     FieldValues values;
     editer->value(values.x, values.y, values.width, values.height);
+    return values;
+}
+
+struct FieldRange
+{
+    int lowest = 0;
+    int greatest = 0;
+};
+
+inline FieldRange fieldRange(RectEditFrame *editer, RectEditFrame::Type type)
+{
+    FieldRange range;
+    editer->range(type, range.lowest, range.greatest);
+    return range;
+}
+
+// Sets the allowed directions of a pair that has these values: at the limit neither
+// of the two may grow.
+inline void allowWithinLimit(RectEditFrame *editer, const HeldPair &pair, const FieldValues &values)
+{
+    const bool isBelow = qint64(values.*pair.first.value) + values.*pair.second.value < pair.limit;
+    for (const HeldField &field : {pair.first, pair.second}) {
+        editer->setValueChangeDirection(
+            field.type, isBelow ? SliderEditFrame::AllowedToAny : SliderEditFrame::AllowedToSmaller,
+            values.*field.value);
+    }
+}
+
+// The fields' values after the user has set the first of the pair to val: no more
+// of it than the second leaves of the limit.
+inline FieldValues heldWithinLimit(RectEditFrame *editer, const HeldPair &pair, int val)
+{
+    FieldValues values = fieldValues(editer);
+    values.*pair.first.value =
+        qMin(val, saturatedDifference(pair.limit, values.*pair.second.value));
+    allowWithinLimit(editer, pair, values);
     return values;
 }
 

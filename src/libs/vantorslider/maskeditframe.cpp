@@ -7,6 +7,11 @@ namespace Widgets {
 
 namespace Internal {
 
+constexpr HeldField fieldTop = fieldX;
+constexpr HeldField fieldBottom = fieldY;
+constexpr HeldField fieldLeft = fieldWidth;
+constexpr HeldField fieldRight = fieldHeight;
+
 // The area's size, and what keeps the margins within it and reports them.
 class MaskEditFramePrivate : public QObject
 {
@@ -17,8 +22,6 @@ public:
 
     void createWidgets();
     void createConnects();
-    void allowVertical(int directions, int top, int bottom);
-    void allowHorizontal(int directions, int left, int right);
 
     MaskEditFrame *m_pEditer;
     // Last margins reported or set: left, top, width and height of the
@@ -57,18 +60,6 @@ void MaskEditFramePrivate::createConnects()
     connect(m_pEditer, &RectEditFrame::heightValueChanged, this, &Private::slotRightValueChanged);
 }
 
-void MaskEditFramePrivate::allowVertical(int directions, int top, int bottom)
-{
-    m_pEditer->setValueChangeDirection(RectEditFrame::X, directions, top);
-    m_pEditer->setValueChangeDirection(RectEditFrame::Y, directions, bottom);
-}
-
-void MaskEditFramePrivate::allowHorizontal(int directions, int left, int right)
-{
-    m_pEditer->setValueChangeDirection(RectEditFrame::Height, directions, right);
-    m_pEditer->setValueChangeDirection(RectEditFrame::Width, directions, left);
-}
-
 void MaskEditFramePrivate::report(const FieldValues &mask)
 {
     if (showAsLast(m_pEditer, mask, m_lastMask)) {
@@ -78,34 +69,22 @@ void MaskEditFramePrivate::report(const FieldValues &mask)
 
 void MaskEditFramePrivate::slotTopValueChanged(int val)
 {
-    const auto [top, bottom, left, right] = fieldValues(m_pEditer);
-    const HeldValue held = heldValue(val, bottom, m_nMaxHeight);
-    allowVertical(held.directions, held.value, bottom);
-    report({held.value, bottom, left, right});
+    report(heldWithinLimit(m_pEditer, {fieldTop, fieldBottom, m_nMaxHeight}, val));
 }
 
 void MaskEditFramePrivate::slotBottomValueChanged(int val)
 {
-    const auto [top, bottom, left, right] = fieldValues(m_pEditer);
-    const HeldValue held = heldValue(val, top, m_nMaxHeight);
-    allowVertical(held.directions, top, held.value);
-    report({top, held.value, left, right});
+    report(heldWithinLimit(m_pEditer, {fieldBottom, fieldTop, m_nMaxHeight}, val));
 }
 
 void MaskEditFramePrivate::slotLeftValueChanged(int val)
 {
-    const auto [top, bottom, left, right] = fieldValues(m_pEditer);
-    const HeldValue held = heldValue(val, right, m_nMaxWidth);
-    allowHorizontal(held.directions, held.value, right);
-    report({top, bottom, held.value, right});
+    report(heldWithinLimit(m_pEditer, {fieldLeft, fieldRight, m_nMaxWidth}, val));
 }
 
 void MaskEditFramePrivate::slotRightValueChanged(int val)
 {
-    const auto [top, bottom, left, right] = fieldValues(m_pEditer);
-    const HeldValue held = heldValue(val, left, m_nMaxWidth);
-    allowHorizontal(held.directions, left, held.value);
-    report({top, bottom, left, held.value});
+    report(heldWithinLimit(m_pEditer, {fieldRight, fieldLeft, m_nMaxWidth}, val));
 }
 
 } // namespace Internal
@@ -137,9 +116,11 @@ void MaskEditFrame::setMaskValue(int top, int bottom, int left, int right)
 {
     d->m_lastMask = Internal::wrappedRect(top, bottom, left, right);
     RectEditFrame::setValue(top, bottom, left, right);
-    using Internal::heldValue;
-    d->allowVertical(heldValue(top, bottom, d->m_nMaxHeight).directions, top, bottom);
-    d->allowHorizontal(heldValue(left, right, d->m_nMaxWidth).directions, left, right);
+    const Internal::FieldValues mask {top, bottom, left, right};
+    Internal::allowWithinLimit(this, {Internal::fieldTop, Internal::fieldBottom, d->m_nMaxHeight},
+                               mask);
+    Internal::allowWithinLimit(this, {Internal::fieldLeft, Internal::fieldRight, d->m_nMaxWidth},
+                               mask);
 }
 
 void MaskEditFrame::getMaskValue(QRect &maskRect)

@@ -37,12 +37,10 @@ QString RectEditFrame::labelText(Type type) const
 
 void RectEditFrame::setEditerVisible(int types)
 {
-    d->ui->frameX->setVisible((types & X) != 0);
-    d->ui->frameY->setVisible((types & Y) != 0);
-    d->ui->framePosition->setVisible((types & Position) != 0);
-    d->ui->frameWidth->setVisible((types & Width) != 0);
-    d->ui->frameHeight->setVisible((types & Height) != 0);
-    d->ui->frameSize->setVisible((types & Size) != 0);
+    d->rows().setVisible(types);
+    for (QWidget *panel : {d->ui->framePosition, d->ui->frameSize}) {
+        panel->setVisible((types & d->rows().typesIn(panel)) != 0);
+    }
 }
 
 void RectEditFrame::setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton)
