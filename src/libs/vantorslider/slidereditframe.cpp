@@ -24,10 +24,10 @@ public:
 
     void createConnects() { connectRow(QOverload<int>::of(&QSpinBox::valueChanged)); }
 
-    SliderEditSpinBox *spinBox() const { return ui->spinBox; }
+    SliderEditSpinBox *spinBox() const { return form()->spinBox; }
     static int toPosition(int val) { return val; }
     static int toValue(int position) { return position; }
-    bool isLastValue(int val) const { return val == m_nLastValue; }
+    bool isLastValue(int val) const { return val == lastValue(); }
     bool isNewAtRelease(int position) const { return !isLastValue(position); }
     static constexpr bool spinBoxFollowsInReleaseMode = false;
     void showInSpinBox(int val);
@@ -70,18 +70,18 @@ bool isTextOf(const QString &text, int val)
 // as well: a failed entry may show another number than the value.
 void SliderEditPrivate::showInSpinBox(int val)
 {
-    if (val == spinValue() && isTextOf(ui->spinBox->text(), val)) {
+    if (val == spinValue() && isTextOf(spinBox()->text(), val)) {
         return;
     }
-    const QSignalBlocker blocker(ui->spinBox);
-    ui->spinBox->setValue(val);
+    const QSignalBlocker blocker(spinBox());
+    spinBox()->setValue(val);
 }
 
 void SliderEditPrivate::handToCalculator(int val)
 {
     constexpr int shownDecimals = 0;
-    ui->spinBox->setSpinBoxCal(val, ui->spinBox->maximum(), ui->spinBox->minimum(), shownDecimals,
-                               typedDecimals);
+    spinBox()->setSpinBoxCal(val, spinBox()->maximum(), spinBox()->minimum(), shownDecimals,
+                             typedDecimals);
 }
 
 void SliderEditPrivate::slotSpinBoxEditingFinished()
@@ -98,16 +98,16 @@ void SliderEditPrivate::slotSpinBoxEnterFinished()
 
 void SliderEditPrivate::slotButtonSubtractClicked()
 {
-    const qint64 next = qint64(spinValue()) - ui->spinBox->singleStep();
-    if (next >= ui->spinBox->minimum()) {
+    const qint64 next = qint64(spinValue()) - spinBox()->singleStep();
+    if (next >= spinBox()->minimum()) {
         report(saturatedInt(next));
     }
 }
 
 void SliderEditPrivate::slotButtonPlusClicked()
 {
-    const qint64 next = qint64(spinValue()) + ui->spinBox->singleStep();
-    if (next <= ui->spinBox->maximum()) {
+    const qint64 next = qint64(spinValue()) + spinBox()->singleStep();
+    if (next <= spinBox()->maximum()) {
         report(saturatedInt(next));
     }
 }
@@ -140,17 +140,17 @@ void SliderEditFrame::setLabelText(const QString &text)
 
 QString SliderEditFrame::labelText() const
 {
-    return d->ui->labelName->text();
+    return d->row().label->text();
 }
 
 void SliderEditFrame::setLabelWidthRange(int maxw, int minw)
 {
-    Internal::setWidthRange(d->ui->labelName, maxw, minw);
+    Internal::setWidthRange(d->row().label, maxw, minw);
 }
 
 void SliderEditFrame::setLabelFixedWidth(int w)
 {
-    d->ui->labelName->setFixedWidth(w);
+    d->row().label->setFixedWidth(w);
 }
 
 void SliderEditFrame::setButtonWidthRange(int maxw, int minw)
@@ -165,17 +165,17 @@ void SliderEditFrame::setButtonFixedWidth(int w)
 
 void SliderEditFrame::setSpinBoxWidthRange(int maxw, int minw)
 {
-    Internal::setWidthRange(d->ui->spinBox, maxw, minw);
+    Internal::setWidthRange(d->spinBox(), maxw, minw);
 }
 
 void SliderEditFrame::setSpinBoxFixedWidth(int w)
 {
-    d->ui->spinBox->setFixedWidth(w);
+    d->spinBox()->setFixedWidth(w);
 }
 
 void SliderEditFrame::setSpinBoxWheelEnable(bool b)
 {
-    d->ui->spinBox->setWheelEnable(b);
+    d->spinBox()->setWheelEnable(b);
 }
 
 void SliderEditFrame::setSliderVisible(bool b)
@@ -190,7 +190,7 @@ void SliderEditFrame::setButtonVisible(bool b)
 
 void SliderEditFrame::setSliderProperty(const char *name, const QVariant &value)
 {
-    d->ui->slider->setProperty(name, value);
+    d->slider()->setProperty(name, value);
 }
 
 void SliderEditFrame::setValue(int val)
@@ -200,17 +200,17 @@ void SliderEditFrame::setValue(int val)
 
 int SliderEditFrame::value()
 {
-    return d->ui->spinBox->value();
+    return d->spinBox()->value();
 }
 
 void SliderEditFrame::setRange(int min, int max)
 {
     {
-        const QSignalBlocker blocker(d->ui->spinBox);
-        d->ui->spinBox->setRange(min, max);
+        const QSignalBlocker blocker(d->spinBox());
+        d->spinBox()->setRange(min, max);
     }
-    const QSignalBlocker blocker(d->ui->slider);
-    d->ui->slider->setScale(min, max);
+    const QSignalBlocker blocker(d->slider());
+    d->slider()->setScale(min, max);
 }
 
 void SliderEditFrame::setMinimum(int min)
@@ -225,33 +225,33 @@ void SliderEditFrame::setMaximum(int max)
 
 int SliderEditFrame::minimum() const
 {
-    return d->ui->spinBox->minimum();
+    return d->spinBox()->minimum();
 }
 
 int SliderEditFrame::maximum() const
 {
-    return d->ui->spinBox->maximum();
+    return d->spinBox()->maximum();
 }
 
 void SliderEditFrame::setSingleStep(int val)
 {
-    d->ui->spinBox->setSingleStep(val);
-    d->ui->slider->setSingleStep(val);
+    d->spinBox()->setSingleStep(val);
+    d->slider()->setSingleStep(val);
 }
 
 int SliderEditFrame::singleStep()
 {
-    return d->ui->spinBox->singleStep();
+    return d->spinBox()->singleStep();
 }
 
 void SliderEditFrame::setPageStep(int val)
 {
-    d->ui->slider->setPageStep(val);
+    d->slider()->setPageStep(val);
 }
 
 int SliderEditFrame::pageStep() const
 {
-    return d->ui->slider->pageStep();
+    return d->slider()->pageStep();
 }
 
 void SliderEditFrame::setAutoRepeat(bool b)
@@ -271,31 +271,29 @@ void SliderEditFrame::setAutoRepeatInterval(int val)
 
 void SliderEditFrame::setReleaseMode(bool b)
 {
-    d->m_isReleaseMode = b;
+    d->setReleaseMode(b);
     setAutoRepeat(!b);
 }
 
 void SliderEditFrame::setTimeSamplingRate(int val)
 {
-    d->m_nTimeSamplingRate = val;
-    d->m_isTimeSampling = true;
+    d->setTimeSampling(val);
     setReleaseMode(false);
 }
 
 void SliderEditFrame::setValueChangeDirection(int directions, int val)
 {
-    d->m_valueChangeDirection = directions;
-    d->m_readValue = val;
+    d->setDirection(directions, val);
 }
 
 bool SliderEditFrame::isMousePressed() const
 {
-    return d->ui->slider->isMousePressed();
+    return d->slider()->isMousePressed();
 }
 
 bool SliderEditFrame::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != d->ui->spinBox) {
+    if (watched != d->spinBox()) {
         return QFrame::eventFilter(watched, event);
     }
     d->row().selectAllOnEntry(this, event);
@@ -304,7 +302,7 @@ bool SliderEditFrame::eventFilter(QObject *watched, QEvent *event)
 
 void SliderEditFrame::timerEvent(QTimerEvent *event)
 {
-    if (event->timerId() == d->m_nSamplingTimer) {
+    if (d->isSamplingTimer(event->timerId())) {
         d->sample();
     }
 }

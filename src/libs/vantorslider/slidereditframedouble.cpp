@@ -25,23 +25,24 @@ public:
 
     void createConnects() { connectRow(QOverload<double>::of(&QDoubleSpinBox::valueChanged)); }
 
-    SliderEditDoubleSpinBox *spinBox() const { return ui->doubleSpinBox; }
+    SliderEditDoubleSpinBox *spinBox() const { return form()->doubleSpinBox; }
     int toPosition(double val) const { return saturatedInt(std::round(val * m_nMagnification)); }
     double toValue(int position) const { return double(position) / m_nMagnification; }
-    bool isLastValue(double val) const { return std::fabs(val - m_nLastValue) < m_nMinPrecision; }
+    bool isLastValue(double val) const { return std::fabs(val - lastValue()) < minPrecision; }
     // Unlike the integer field this one follows the handle in release mode too, and
     // so has the slider's value: no valueChanged() of the slider comes at release.
     static constexpr bool spinBoxFollowsInReleaseMode = true;
-    bool isNewAtRelease(int pos) const { return m_isReleaseMode && pos != m_nLastPressedValue; }
+    bool isNewAtRelease(int pos) const { return isReleaseMode() && pos != lastPressedPosition(); }
     void showInSpinBox(double val);
     void handToCalculator(double val);
 
+    int precision() const { return m_nPrecision; }
+    void setPrecision(int decimals);
+    double singleStep() const { return m_dSingleStep; }
+    void setSingleStep(double step) { m_dSingleStep = step; }
+
     // Values closer than this are equal; bounds are nudged up by it.
-    double m_nMinPrecision = 1e-8;
-    int m_nPrecision = 2;
-    double m_dSingleStep = 0.01;
-    // 10 to the power of the precision only once setDecimals() has run.
-    int m_nMagnification = 1;
+    static constexpr double minPrecision = 1e-8;
 
 private Q_SLOTS:
     // The interface fixes all thirteen; the presses and releases of the buttons
@@ -62,35 +63,46 @@ private Q_SLOTS:
 
 private:
     friend SliderEngine; // connects the slots
+
+    int m_nPrecision = 2;
+    double m_dSingleStep = 0.01;
+    // 10 to the power of the precision only once that was set.
+    int m_nMagnification = 1;
 };
+
+void SliderEditDoublePrivate::setPrecision(int decimals)
+{
+    m_nPrecision = decimals;
+    m_nMagnification = qMax(1, saturatedInt(std::pow(10.0, decimals)));
+}
 
 void SliderEditDoublePrivate::showInSpinBox(double val)
 {
-    const QSignalBlocker blocker(ui->doubleSpinBox);
-    ui->doubleSpinBox->setValue(val);
+    const QSignalBlocker blocker(spinBox());
+    spinBox()->setValue(val);
 }
 
 void SliderEditDoublePrivate::handToCalculator(double val)
 {
     constexpr int shownDecimals = 2;
     constexpr bool hasSuffix = false;
-    ui->doubleSpinBox->setSpinBoxCal(
-        saturatedFloat(val), saturatedFloat(ui->doubleSpinBox->maximum()),
-        saturatedFloat(ui->doubleSpinBox->minimum()), shownDecimals, typedDecimals, hasSuffix);
+    spinBox()->setSpinBoxCal(saturatedFloat(val), saturatedFloat(spinBox()->maximum()),
+                             saturatedFloat(spinBox()->minimum()), shownDecimals, typedDecimals,
+                             hasSuffix);
 }
 
 void SliderEditDoublePrivate::slotButtonSubtractClicked()
 {
-    const double next = spinValue() - ui->doubleSpinBox->singleStep();
-    if (next >= ui->doubleSpinBox->minimum()) {
+    const double next = spinValue() - spinBox()->singleStep();
+    if (next >= spinBox()->minimum()) {
         report(next);
     }
 }
 
 void SliderEditDoublePrivate::slotButtonPlusClicked()
 {
-    const double next = spinValue() + ui->doubleSpinBox->singleStep();
-    if (next <= ui->doubleSpinBox->maximum() + m_nMinPrecision) {
+    const double next = spinValue() + spinBox()->singleStep();
+    if (next <= spinBox()->maximum() + minPrecision) {
         report(next);
     }
 }
@@ -123,17 +135,17 @@ void SliderEditFrameDouble::setLabelText(const QString &text)
 
 QString SliderEditFrameDouble::labelText() const
 {
-    return d->ui->labelName->text();
+    return d->row().label->text();
 }
 
 void SliderEditFrameDouble::setLabelWidthRange(int maxw, int minw)
 {
-    Internal::setWidthRange(d->ui->labelName, maxw, minw);
+    Internal::setWidthRange(d->row().label, maxw, minw);
 }
 
 void SliderEditFrameDouble::setLabelFixedWidth(int w)
 {
-    d->ui->labelName->setFixedWidth(w);
+    d->row().label->setFixedWidth(w);
 }
 
 void SliderEditFrameDouble::setButtonWidthRange(int maxw, int minw)
@@ -148,17 +160,17 @@ void SliderEditFrameDouble::setButtonFixedWidth(int w)
 
 void SliderEditFrameDouble::setSpinBoxWidthRange(int maxw, int minw)
 {
-    Internal::setWidthRange(d->ui->doubleSpinBox, maxw, minw);
+    Internal::setWidthRange(d->spinBox(), maxw, minw);
 }
 
 void SliderEditFrameDouble::setSpinBoxFixedWidth(int w)
 {
-    d->ui->doubleSpinBox->setFixedWidth(w);
+    d->spinBox()->setFixedWidth(w);
 }
 
 void SliderEditFrameDouble::setSpinBoxWheelEnable(bool b)
 {
-    d->ui->doubleSpinBox->setWheelEnable(b);
+    d->spinBox()->setWheelEnable(b);
 }
 
 void SliderEditFrameDouble::setSliderVisible(bool b)
@@ -168,7 +180,7 @@ void SliderEditFrameDouble::setSliderVisible(bool b)
 
 void SliderEditFrameDouble::setSliderProperty(const char *name, const QVariant &value)
 {
-    d->ui->slider->setProperty(name, value);
+    d->slider()->setProperty(name, value);
 }
 
 void SliderEditFrameDouble::setValue(double val)
@@ -180,7 +192,7 @@ void SliderEditFrameDouble::setValue(double val)
 
 double SliderEditFrameDouble::value()
 {
-    return d->ui->doubleSpinBox->value();
+    return d->spinBox()->value();
 }
 
 void SliderEditFrameDouble::setRange(double min, double max)
@@ -188,9 +200,9 @@ void SliderEditFrameDouble::setRange(double min, double max)
     if (std::isnan(min) || std::isnan(max)) {
         return;
     }
-    const QSignalBlocker blocker(d->ui->doubleSpinBox);
-    d->ui->doubleSpinBox->setRange(min + d->m_nMinPrecision, max + d->m_nMinPrecision);
-    setDecimals(d->m_nPrecision);
+    const QSignalBlocker blocker(d->spinBox());
+    d->spinBox()->setRange(min + d->minPrecision, max + d->minPrecision);
+    setDecimals(d->precision());
 }
 
 void SliderEditFrameDouble::setMinimum(double min)
@@ -199,14 +211,14 @@ void SliderEditFrameDouble::setMinimum(double min)
         return;
     }
     {
-        const QSignalBlocker blocker(d->ui->doubleSpinBox);
-        d->ui->doubleSpinBox->setMinimum(min + d->m_nMinPrecision);
+        const QSignalBlocker blocker(d->spinBox());
+        d->spinBox()->setMinimum(min + d->minPrecision);
     }
-    setDecimals(d->m_nPrecision);
+    setDecimals(d->precision());
     // Without decimals the slider stands at the spin box's rounded bound already.
     if (decimals() != 0) {
-        const QSignalBlocker blocker(d->ui->slider);
-        d->ui->slider->setScale(d->toPosition(min), d->ui->slider->maximum());
+        const QSignalBlocker blocker(d->slider());
+        d->slider()->setScale(d->toPosition(min), d->slider()->maximum());
     }
 }
 
@@ -216,54 +228,53 @@ void SliderEditFrameDouble::setMaximum(double max)
         return;
     }
     {
-        const QSignalBlocker blocker(d->ui->doubleSpinBox);
-        const double bound = max + d->m_nMinPrecision;
+        const QSignalBlocker blocker(d->spinBox());
+        const double bound = max + d->minPrecision;
         if (bound < minimum()) {
             // Qt moves the other end along too, but forgets it at the next change
             // of decimals.
-            d->ui->doubleSpinBox->setMinimum(bound);
+            d->spinBox()->setMinimum(bound);
         }
-        d->ui->doubleSpinBox->setMaximum(bound);
+        d->spinBox()->setMaximum(bound);
     }
-    setDecimals(d->m_nPrecision);
+    setDecimals(d->precision());
     if (decimals() != 0) {
-        const QSignalBlocker blocker(d->ui->slider);
+        const QSignalBlocker blocker(d->slider());
         const int highest = d->toPosition(max);
-        d->ui->slider->setScale(qMin(d->ui->slider->minimum(), highest), highest);
+        d->slider()->setScale(qMin(d->slider()->minimum(), highest), highest);
     }
 }
 
 double SliderEditFrameDouble::minimum() const
 {
-    return d->ui->doubleSpinBox->minimum();
+    return d->spinBox()->minimum();
 }
 
 double SliderEditFrameDouble::maximum() const
 {
-    return d->ui->doubleSpinBox->maximum();
+    return d->spinBox()->maximum();
 }
 
 void SliderEditFrameDouble::setDecimals(int prec)
 {
-    const QSignalBlocker spinBoxBlocker(d->ui->doubleSpinBox);
-    d->m_nPrecision = prec;
-    d->ui->doubleSpinBox->setDecimals(prec);
-    d->m_nMagnification = qMax(1, Internal::saturatedInt(std::pow(10.0, prec)));
+    const QSignalBlocker spinBoxBlocker(d->spinBox());
+    d->setPrecision(prec);
+    d->spinBox()->setDecimals(prec);
 
     const int lowest = d->toPosition(minimum());
     const int highest = d->toPosition(maximum());
-    d->ui->doubleSpinBox->setRange(d->toValue(lowest), d->toValue(highest));
+    d->spinBox()->setRange(d->toValue(lowest), d->toValue(highest));
 
-    const QSignalBlocker sliderBlocker(d->ui->slider);
-    d->ui->slider->setScale(lowest, highest);
-    if (d->m_dSingleStep > d->m_nMinPrecision) {
-        d->ui->slider->setSingleStep(d->toPosition(d->m_dSingleStep));
+    const QSignalBlocker sliderBlocker(d->slider());
+    d->slider()->setScale(lowest, highest);
+    if (d->singleStep() > d->minPrecision) {
+        d->slider()->setSingleStep(d->toPosition(d->singleStep()));
     }
 }
 
 int SliderEditFrameDouble::decimals() const
 {
-    return d->ui->doubleSpinBox->decimals();
+    return d->spinBox()->decimals();
 }
 
 void SliderEditFrameDouble::setSingleStep(double val)
@@ -271,23 +282,23 @@ void SliderEditFrameDouble::setSingleStep(double val)
     if (std::isnan(val)) {
         return;
     }
-    d->m_dSingleStep = val;
-    d->ui->doubleSpinBox->setSingleStep(val);
+    d->setSingleStep(val);
+    d->spinBox()->setSingleStep(val);
 }
 
 double SliderEditFrameDouble::singleStep() const
 {
-    return d->ui->doubleSpinBox->singleStep();
+    return d->spinBox()->singleStep();
 }
 
 void SliderEditFrameDouble::setPageStep(int val)
 {
-    d->ui->slider->setPageStep(val);
+    d->slider()->setPageStep(val);
 }
 
 int SliderEditFrameDouble::pageStep() const
 {
-    return d->ui->slider->pageStep();
+    return d->slider()->pageStep();
 }
 
 void SliderEditFrameDouble::setAutoRepeat(bool b)
@@ -307,26 +318,24 @@ void SliderEditFrameDouble::setAutoRepeatInterval(int val)
 
 void SliderEditFrameDouble::setReleaseMode(bool b)
 {
-    d->m_isReleaseMode = b;
+    d->setReleaseMode(b);
     setAutoRepeat(!b);
 }
 
 void SliderEditFrameDouble::setTimeSamplingRate(int val)
 {
-    d->m_nTimeSamplingRate = val;
-    d->m_isTimeSampling = true;
+    d->setTimeSampling(val);
     setReleaseMode(false);
 }
 
 void SliderEditFrameDouble::setValueChangeDirection(int directions, int val)
 {
-    d->m_valueChangeDirection = directions;
-    d->m_readValue = val;
+    d->setDirection(directions, val);
 }
 
 bool SliderEditFrameDouble::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != d->ui->doubleSpinBox) {
+    if (watched != d->spinBox()) {
         return QFrame::eventFilter(watched, event);
     }
     d->row().selectAllOnEntry(this, event);
@@ -335,7 +344,7 @@ bool SliderEditFrameDouble::eventFilter(QObject *watched, QEvent *event)
 
 void SliderEditFrameDouble::timerEvent(QTimerEvent *event)
 {
-    if (event->timerId() == d->m_nSamplingTimer) {
+    if (d->isSamplingTimer(event->timerId())) {
         d->sample();
     }
 }

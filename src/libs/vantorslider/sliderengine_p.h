@@ -91,25 +91,31 @@ public:
         }
     }
 
-    Editor *m_pSliderEditer;
-    Form *ui;
-    // Last value applied or accepted: a child's report of it is an echo.
-    Value m_nLastValue = 0;
-    // Slider positions: at the last press; at the start of sampling or the last tick.
-    int m_nLastPressedValue = -1;
-    int m_nLastTimerValue = -1;
-    bool m_isReleaseMode = false;
-    bool m_isTimeSampling = false;
-    bool m_isTimeSamplingValueChanged = false;
-    int m_nTimeSamplingRate = 100;
-    int m_nSamplingTimer = -1;
-    Value m_readValue = 0;
-    int m_valueChangeDirection = Editor::AllowedToAny;
-    bool m_isSampleInDelivery = false;
-    // The user moved the handle meanwhile: the next tick has something to report.
-    bool m_isMovedInDelivery = false;
+    bool isSamplingTimer(int id) const { return id == m_nSamplingTimer; }
+
+    // What is reported of a drag, and when. Neither setting switches the buttons'
+    // auto-repeat.
+    void setReleaseMode(bool isOn) { m_isReleaseMode = isOn; }
+    void setTimeSampling(int milliseconds)
+    {
+        m_nTimeSamplingRate = milliseconds;
+        m_isTimeSampling = true;
+    }
+
+    // On which side of the reference reported values are held.
+    void setDirection(int directions, Value reference)
+    {
+        m_valueChangeDirection = directions;
+        m_readValue = reference;
+    }
+
+    SliderEditSlider *slider() const { return ui->slider; }
 
 protected:
+    Form *form() const { return ui; }
+    Value lastValue() const { return m_nLastValue; }
+    int lastPressedPosition() const { return m_nLastPressedValue; }
+    bool isReleaseMode() const { return m_isReleaseMode; }
     Value spinValue() const { return engine().spinBox()->value(); }
 
     // The direction filter: without AllowedToBigger only smaller values are allowed,
@@ -252,6 +258,24 @@ private:
         }
         m_nSamplingTimer = -1;
     }
+
+    Editor *m_pSliderEditer;
+    Form *ui;
+    // Last value applied or accepted: a child's report of it is an echo.
+    Value m_nLastValue = 0;
+    // Slider positions: at the last press; at the start of sampling or the last tick.
+    int m_nLastPressedValue = -1;
+    int m_nLastTimerValue = -1;
+    bool m_isReleaseMode = false;
+    bool m_isTimeSampling = false;
+    bool m_isTimeSamplingValueChanged = false;
+    int m_nTimeSamplingRate = 100;
+    int m_nSamplingTimer = -1;
+    Value m_readValue = 0;
+    int m_valueChangeDirection = Editor::AllowedToAny;
+    bool m_isSampleInDelivery = false;
+    // The user moved the handle meanwhile: the next tick has something to report.
+    bool m_isMovedInDelivery = false;
 };
 
 // The calculator of a row: decimals of a typed number, whatever the kind of editor.
