@@ -1,5 +1,6 @@
 #include "theme.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtGui/QIcon>
 #include <QtGui/QPalette>
@@ -97,6 +98,17 @@ QVector<Theme::Name> Theme::names()
     return {{QStringLiteral("touch-dark"), tr("Touch, &dark")},
             {QStringLiteral("touch-light"), tr("Touch, &light")},
             {QStringLiteral("none"), tr("&None")}};
+}
+
+void Theme::setUpApplication()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // glyphs as sharp as the screen
+#endif
+    QApplication::setApplicationName(QStringLiteral("gallery"));
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    // The sheets name their glyphs by this prefix; see the top of a sheet.
+    QDir::addSearchPath(QStringLiteral("vantorslider"), QStringLiteral(":/styles"));
 }
 
 Theme::Theme(QObject *parent) : QObject(parent), m_font(QApplication::font()) { }

@@ -23,6 +23,9 @@ public:
     };
     static QVector<Name> names(); // in the order of Kind
 
+    // To be called before the application is made.
+    static void setUpApplication();
+
     explicit Theme(QObject *parent = nullptr);
     ~Theme() override;
 
