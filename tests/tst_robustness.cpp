@@ -31,14 +31,13 @@ private Q_SLOTS:
     void extremeSettings() { runTestCode(); }
 };
 
-// Endless scripts and huge texts. One without "=" is evaluated at Enter in the integer
+// Huge texts. One without "=" is evaluated at Enter in the integer
 // editor and has one added in the other. The field works on then.
 void tst_Robustness::pastedTexts_data()
 {
     QTest::addColumn<TestCode>("code");
     // A processor time in ms is not lengthened by the machine's other work.
-    const auto add = [](const QString &name, const QString &text, int mostMs,
-                        const QString &shown = {}) {
+    const auto add = [](const QString &name, const QString &text, int mostMs) {
         addForBoth(name, [=](auto &user) {
             user.row.field->setMaxLength(300000);
             user.perform("click");
@@ -48,25 +47,11 @@ void tst_Robustness::pastedTexts_data()
             const double ms = 1000.0 * double(std::clock() - start) / CLOCKS_PER_SEC
                 / qMax(1, qEnvironmentVariableIntValue("VANTORSLIDER_SLOWNESS"));
             QVERIFY2(ms < mostMs, qPrintable(QString::number(ms)));
-            if (!shown.isEmpty())
-                QCOMPARE(user.shown(), shown);
             user.perform("elsewhere"); // the floating-point field keeps the focus
             user.perform("enter 1/1");
             QCOMPARE(double(user.frame->value()), 1.0);
         });
     };
-    for (const QString script :
-         {"eval('for(;;);')=", "({toString:function(){for(;;){}}})=",
-          "(function f(n){return n<2?n:f(n-1)+f(n-2)})(50)=",
-          "(function f(){try{f()}catch(e){f()}})()=", "(function f(){try{f()}finally{f()}})()=",
-          "new Array(4294967295)=", "a=[];a.length=4294967295;a.join()=",
-          "[].constructor(4294967295)=", "throw {toString:function(){for(;;);}}="})
-        add(script, script, 350, "10");
-    // What these replace takes no part in the conversion of their result.
-    for (const QString script : {"String=function(x){return {toString:function(){for(;;);}}};({})=",
-                                 "this.__defineSetter__('object',function(v){for(;;);});({})=",
-                                 "this.__proto__={set string(v){for(;;);}};({})="})
-        add(script, script, 350, "0");
     // Qt lets a field have 32767 characters unless its host says more.
     add("zeros", QString(32000, '0') + '7', 200);
     add("points", QString(32000, '.'), 200);

@@ -44,12 +44,12 @@ template <typename SpinBox> QString bareText(const SpinBox *spinBox, QString tex
 }
 
 // The number that a bare text is; nothing for an expression. A comma is an operator,
-// where Qt would take it for one that groups digits.
+// where Qt would take it for one that groups digits; and Qt reads "inf" and "nan".
 inline std::optional<double> numberIn(const QString &text)
 {
     bool isNumber = !text.contains(QLatin1Char(','));
     const double number = isNumber ? QLocale::c().toDouble(text, &isNumber) : 0;
-    return isNumber && !std::isnan(number) ? std::optional<double>(number) : std::nullopt;
+    return isNumber && std::isfinite(number) ? std::optional<double>(number) : std::nullopt;
 }
 
 // The number that the text of a calculator spin box stands for. Qt takes the

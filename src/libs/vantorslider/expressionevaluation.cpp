@@ -1,5 +1,6 @@
 #include "expressionevaluation_p.h"
 
+#include "arithmetic_p.h"
 #include "calculatorpatterns_p.h"
 #include "scriptengine_p.h"
 
@@ -20,10 +21,10 @@ bool isTypedExpression(const QString &expression)
                        [&patterns](QChar character) { return patterns.isAccepted(character); });
 }
 
-// A "/" where an operand is due begins a pattern of the script language. Called
-// with a text, that can go on matching for hours, and no native call can be
-// abandoned; compiled, it takes stack for each bracket that it opens. No arithmetic
-// is written so; a comment before a bracket, 4//(2), is taken for one as well.
+// A "/" where an operand is due begins a regular expression literal. Called with a text,
+// that can go on matching for hours; compiled, it takes stack for each bracket that it
+// opens. No arithmetic is written so; a comment before a bracket, 4//(2), is taken for
+// one as well.
 bool hasUnboundedPattern(const QString &expression)
 {
     static const QRegularExpression pattern(QStringLiteral("(^|[-,+*/(=])/"));
@@ -33,25 +34,21 @@ bool hasUnboundedPattern(const QString &expression)
         && (expression.contains(call) || expression.count(QLatin1Char('(')) > maxBrackets);
 }
 
-// An array of a given length takes its memory at once, and ends the process where
-// there is none, or is joined and sorted for hours; a "finally" runs on after its
-// function was abandoned. No sum is written so.
-bool cannotBeAbandoned(const QString &script)
+// A line edit holds no more unless its host says so; what is longer was not meant for a
+// number field, and would keep an engine busy.
+bool isPastedArithmetic(const QString &expression)
 {
-    static const QRegularExpression words(
-        QStringLiteral("\\b(Array|constructor|finally)\\b|\\blength\\s*=[^=]"));
-    return script.contains(words);
+    constexpr int maxLength = 32767;
+    return expression.size() <= maxLength && isArithmetic(expression);
 }
 
 } // namespace
 
 std::optional<QString> evaluateExpression(const QString &expression)
 {
-    const bool isTyped = isTypedExpression(expression);
-    if (isTyped ? hasUnboundedPattern(expression) : cannotBeAbandoned(expression)) {
-        return std::nullopt;
-    }
-    std::optional<QString> result = evaluateScript(expression, !isTyped);
+    const bool isEvaluated = isTypedExpression(expression) ? !hasUnboundedPattern(expression)
+                                                           : isPastedArithmetic(expression);
+    std::optional<QString> result = isEvaluated ? evaluateScript(expression) : std::nullopt;
     if (result == QLatin1String("Infinity")) {
         return std::nullopt;
     }

@@ -8,9 +8,8 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// The value of an expression as text, or nothing where it fails: it throws,
-// yields "Infinity", calls a pattern, or is a script that can't be bounded or that
-// has spent its budget of time. A text of typed characters alone can't loop.
+// The value of an expression as text, or nothing where it fails: it is no arithmetic,
+// calls a pattern, throws or yields "Infinity".
 std::optional<QString> evaluateExpression(const QString &expression);
 
 } // namespace Internal

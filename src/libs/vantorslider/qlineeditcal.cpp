@@ -284,8 +284,10 @@ void LineEditCal::setShowResult(const QString &strText)
         setResultText(aroundEntry(beforeResult()));
         return;
     }
-    // A text that is no number counts as 0; NaN passes both comparisons.
-    float value = result->toFloat();
+    // A text that is no number counts as 0, also where Qt reads a number that is not
+    // finite. NaN passes both comparisons.
+    const bool isNumber = std::isfinite(result->toDouble()) || *result == QLatin1String("NaN");
+    float value = isNumber ? result->toFloat() : 0.0F;
     if (value > m_maxNum) {
         value = m_maxNum;
     }

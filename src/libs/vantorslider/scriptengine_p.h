@@ -9,9 +9,7 @@ namespace Widgets {
 namespace Internal {
 
 // The value of a text in the script language, as text; nothing where it throws.
-// A text that may loop has a budget of time, and nothing when that is spent. No
-// event of the host comes in before the answer.
-std::optional<QString> evaluateScript(const QString &text, bool mayLoop);
+std::optional<QString> evaluateScript(const QString &text);
 
 } // namespace Internal
 } // namespace Widgets
