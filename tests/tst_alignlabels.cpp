@@ -1,0 +1,199 @@
+#include "alignlabels.h"
+#include "editoruser.h"
+#include "rgbeditframe.h"
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QScrollArea>
+
+using namespace Vantor::Widgets;
+
+// One width for the labels of a panel, and what makes it follow.
+class tst_AlignLabels : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void column_data();
+    void column();
+    void alignment();
+    void deletedPanel();
+};
+
+namespace {
+
+int needOf(const QLabel *label)
+{
+    return label->fontMetrics().size(Qt::TextShowMnemonic, label->text()).width();
+}
+
+// Rows of both kinds, and behind a scroll area a composite editor.
+struct Panel
+{
+    Panel()
+    {
+        auto *layout = new QVBoxLayout(&page);
+        layout->addWidget(gain);
+        layout->addWidget(gamma);
+        layout->addWidget(area);
+        auto *inside = new QVBoxLayout(new QWidget);
+        inside->addWidget(rgb);
+        area->setWidgetResizable(true);
+        area->setWidget(inside->parentWidget());
+        gain->setLabelText("Middling");
+        gamma->setLabelText("&Widest of them");
+        rgb->setLabelText(RGBEditFrame::G, "Green");
+        alignLabels(&page);
+    }
+
+    QList<QLabel *> visibleLabels() const
+    {
+        QList<QLabel *> labels;
+        for (QLabel *label : page.findChildren<QLabel *>("labelName")) {
+            if (label->isVisible())
+                labels.append(label);
+        }
+        return labels;
+    }
+
+    // The width that all visible labels have; -1 where they differ, or where it is
+    // not that of the widest text.
+    int width() const
+    {
+        int width = 0;
+        const auto labels = visibleLabels();
+        for (const QLabel *label : labels)
+            width =
+                qMax(width, label->fontMetrics().size(Qt::TextShowMnemonic, label->text()).width());
+        for (const QLabel *label : labels) {
+            if (label->width() != width)
+                return -1;
+        }
+        return width;
+    }
+
+    QWidget page;
+    SliderEditFrame *const gain = new SliderEditFrame;
+    QPointer<SliderEditFrameDouble> gamma = new SliderEditFrameDouble;
+    RGBEditFrame *const rgb = new RGBEditFrame;
+    QScrollArea *const area = new QScrollArea;
+};
+
+using Change = std::function<void(Panel &)>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(Change)
+
+void tst_AlignLabels::column_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<int>("direction"); // that the width goes
+    const auto add = [](const char *name, int direction, const Change &change) {
+        QTest::newRow(name) << change << direction;
+    };
+    add("longer text", 1, [](Panel &p) { p.gain->setLabelText("Wider than all the others"); });
+    add("shorter text", -1, [](Panel &p) { p.gamma->setLabelText("Small"); });
+    add("another language", -1, [](Panel &p) {
+        p.page.setLayoutDirection(Qt::RightToLeft);
+        p.page.setLocale(QLocale::Arabic);
+        p.gain->setLabelText(QString::fromUtf8("ربح"));
+        p.gamma->setLabelText(QString::fromUtf8("غاما"));
+    });
+    add("font of the panel", 1, [](Panel &p) { p.page.setFont(QFont("", 30)); });
+    add("font of one label", 1, [](Panel &p) { rowsOf(*p.rgb)[1].label->setFont(QFont("", 60)); });
+    add("font of a sheet", 1, [](Panel &p) { p.page.setStyleSheet("* { font: 40px; }"); });
+    add("width of a sheet", 0, [](Panel &p) { p.page.setStyleSheet("* { min-width: 300px; }"); });
+    add("hidden row", -1, [](Panel &p) { p.gamma->hide(); });
+    add("row in a hidden panel", 1, [](Panel &p) {
+        p.area->hide();
+        p.rgb->setLabelText(RGBEditFrame::B, "Wider, and not to be seen");
+        QCoreApplication::processEvents();
+        QCOMPARE(rowsOf(*p.gamma)[0].label->maximumWidth(), needOf(rowsOf(*p.gamma)[0].label));
+        p.area->show();
+    });
+    add("row of an editor", 1, [](Panel &p) {
+        p.rgb->setEditerVisible(RGBEditFrame::B);
+        p.rgb->setLabelText(RGBEditFrame::R, "Wider, once it is seen");
+        QCoreApplication::processEvents();
+        p.rgb->setEditerVisible(RGBEditFrame::R);
+    });
+    add("new row", 1, [](Panel &p) {
+        auto *row = new SliderEditFrame;
+        row->setLabelText("Wider, and only now there");
+        p.rgb->parentWidget()->layout()->addWidget(row);
+    });
+    add("new content", 1, [](Panel &p) {
+        auto *row = new SliderEditFrame;
+        row->setLabelText("Wider, and only now there");
+        p.area->setWidget(row);
+    });
+    add("deleted row", -1, [](Panel &p) { delete p.gamma; });
+    add("column of its own", 0, [](Panel &p) {
+        alignLabels(p.area);
+        p.rgb->setLabelText(RGBEditFrame::R, "Wider, but elsewhere");
+        QTRY_COMPARE(rowsOf(*p.rgb)[2].label->maximumWidth(), needOf(rowsOf(*p.rgb)[0].label));
+        p.area->hide();
+    });
+}
+
+void tst_AlignLabels::column()
+{
+    QFETCH(const Change, change);
+    QFETCH(const int, direction);
+    for (const bool isShownFirst : {true, false}) {
+        Panel panel;
+        QVERIFY(User::show(panel.page));
+        const int before = panel.width();
+        QVERIFY(before > 0);
+        if (!isShownFirst)
+            panel.page.hide();
+        change(panel);
+        panel.page.show();
+        const auto directionSoFar = [&] {
+            const int after = panel.width();
+            return after < 0 ? 2 : (after > before) - (after < before);
+        };
+        QTRY_COMPARE(directionSoFar(), direction);
+    }
+}
+
+// The labels stay as they are until the host asks for a side.
+void tst_AlignLabels::alignment()
+{
+    Panel panel;
+    rowsOf(*panel.gain)[0].label->setAlignment(Qt::AlignCenter);
+    User::show(panel.page);
+    const auto alignments = [&panel] {
+        QCoreApplication::processEvents();
+        QList<int> alignments;
+        for (const QLabel *label : panel.visibleLabels())
+            alignments.append(int(label->alignment()));
+        return alignments;
+    };
+    const int left = Qt::AlignLeft | Qt::AlignVCenter, right = Qt::AlignRight | Qt::AlignVCenter;
+    QCOMPARE(alignments(), QList<int>({Qt::AlignCenter, right, right, right, right}));
+    alignLabels(&panel.page, Qt::AlignLeft | Qt::AlignTop);
+    QCOMPARE(alignments(), QList<int>({left, left, left, left, left}));
+    alignLabels(&panel.page, Qt::AlignRight);
+    panel.rgb->parentWidget()->layout()->addWidget(new SliderEditFrame);
+    QCOMPARE(alignments(), QList<int>({right, right, right, right, right, right}));
+}
+
+// With a change that is still to be followed.
+void tst_AlignLabels::deletedPanel()
+{
+    alignLabels(nullptr);
+    auto *panel = new Panel;
+    User::show(panel->page);
+    alignLabels(panel->gain);
+    panel->gain->setLabelText("Wider than all the others");
+    panel->gamma->hide();
+    QPointer<QWidget> gain = panel->gain;
+    delete panel;
+    QCoreApplication::processEvents();
+    QVERIFY(!gain);
+}
+
+QTEST_MAIN(tst_AlignLabels)
+
+#include "tst_alignlabels.moc"
