@@ -12,22 +12,27 @@ AdjustPage::AdjustPage(EditHistory *history, LogPane *log) : Page(tr("Adjust"), 
     addHeading(tr("Tone"),
                tr("Whole numbers, and numbers with two decimals. "
                   "Type an expression such as 12*3 into a field."));
-    addIntRow(tr("Contrast"), -100, 100, &PictureAdjustment::contrast);
-    addDoubleRow(tr("Gamma"), 0.2, 4.0, &PictureAdjustment::gamma);
-    addDoubleRow(tr("Saturation"), 0.0, 3.0, &PictureAdjustment::saturation);
+    addIntRow(tr("Contrast"), -100, 100, &Tone::contrast);
+    addDoubleRow(tr("Gamma"), 0.2, 4.0, &Tone::gamma);
+    addDoubleRow(tr("Saturation"), 0.0, 3.0, &Tone::saturation);
 
-    const int reference = PictureAdjustment().blackLevel;
+    const int reference = Tone().blackLevel;
     addHeading(
         tr("Held on one side"),
         tr("This level may not fall below %1, whatever is dragged or typed.").arg(reference));
-    IntRow *black = addIntRow(tr("Black level"), 0, 255, &PictureAdjustment::blackLevel);
+    IntRow *black = addIntRow(tr("Black level"), 0, 255, &Tone::blackLevel);
     black->setValueChangeDirection(IntRow::AllowedToBigger, reference);
     finish();
 }
 
+void AdjustPage::clear(Edits &edits, const QSize & /*size*/) const
+{
+    edits.tone = Tone();
+}
+
 AdjustPage::IntRow *AdjustPage::addBrightnessRow(const QString &mode)
 {
-    IntRow *row = addIntRow(mode, -100, 100, &PictureAdjustment::brightness);
+    IntRow *row = addIntRow(mode, -100, 100, &Tone::brightness);
     m_brightnessRows.append(row);
     connect(row, &IntRow::valueChanged, this, [this, row](int val) {
         for (IntRow *other : m_brightnessRows) {
@@ -39,8 +44,7 @@ AdjustPage::IntRow *AdjustPage::addBrightnessRow(const QString &mode)
     return row;
 }
 
-AdjustPage::IntRow *AdjustPage::addIntRow(const QString &label, int min, int max,
-                                          int PictureAdjustment::*field)
+AdjustPage::IntRow *AdjustPage::addIntRow(const QString &label, int min, int max, int Tone::*field)
 {
     auto *row = addEditor<IntRow>();
     row->setRange(min, max);
@@ -50,7 +54,7 @@ AdjustPage::IntRow *AdjustPage::addIntRow(const QString &label, int min, int max
 }
 
 AdjustPage::DoubleRow *AdjustPage::addDoubleRow(const QString &label, double min, double max,
-                                                double PictureAdjustment::*field)
+                                                double Tone::*field)
 {
     auto *row = addEditor<DoubleRow>();
     row->setSingleStep(0.05);
@@ -62,7 +66,7 @@ AdjustPage::DoubleRow *AdjustPage::addDoubleRow(const QString &label, double min
 }
 
 template <typename Row, typename Value>
-void AdjustPage::connectRow(Row *row, const QString &label, Value PictureAdjustment::*field)
+void AdjustPage::connectRow(Row *row, const QString &label, Value Tone::*field)
 {
     row->setLabelText(label);
     row->setAutoRepeat(true);
@@ -70,8 +74,8 @@ void AdjustPage::connectRow(Row *row, const QString &label, Value PictureAdjustm
     row->setButtonFixedWidth(51);
     connect(row, &Row::valueChanged, m_log, m_log->receiver(label, QStringLiteral("valueChanged")));
     connect(row, &Row::valueChanged, this, [this, label, field](Value val) {
-        edit(label, [=](Edits &edits) { edits.adjustment.*field = val; });
+        edit(label, [=](Edits &edits) { edits.tone.*field = val; });
     });
     connect(m_history, &EditHistory::restored, row,
-            [row, field](const Edits &edits) { row->setValue(edits.adjustment.*field); });
+            [row, field](const Edits &edits) { row->setValue(edits.tone.*field); });
 }

@@ -14,16 +14,17 @@ class AdjustPage : public Page
 public:
     AdjustPage(EditHistory *history, LogPane *log);
 
+    void clear(Edits &edits, const QSize &size) const override;
+
 private:
     using IntRow = Vantor::Widgets::SliderEditFrame;
     using DoubleRow = Vantor::Widgets::SliderEditFrameDouble;
 
     IntRow *addBrightnessRow(const QString &mode);
-    IntRow *addIntRow(const QString &label, int min, int max, int PictureAdjustment::*field);
-    DoubleRow *addDoubleRow(const QString &label, double min, double max,
-                            double PictureAdjustment::*field);
+    IntRow *addIntRow(const QString &label, int min, int max, int Tone::*field);
+    DoubleRow *addDoubleRow(const QString &label, double min, double max, double Tone::*field);
     template <typename Row, typename Value>
-    void connectRow(Row *row, const QString &label, Value PictureAdjustment::*field);
+    void connectRow(Row *row, const QString &label, Value Tone::*field);
 
     QVector<IntRow *> m_brightnessRows;
 };

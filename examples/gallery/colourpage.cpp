@@ -41,6 +41,11 @@ ColourPage::ColourPage(EditHistory *history, LogPane *log) : Page(tr("Colour"), 
     finish();
 }
 
+void ColourPage::clear(Edits &edits, const QSize & /*size*/) const
+{
+    edits.colours = Colours();
+}
+
 void ColourPage::addGain()
 {
     addHeading(tr("Gain"), tr("Percent of each channel."));
@@ -49,10 +54,10 @@ void ColourPage::addGain()
     connect(editor, &RGBEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Gain"), QStringLiteral("valueChanged")));
     connect(editor, &RGBEditFrame::valueChanged, this, [this](int r, int g, int b) {
-        edit(tr("Gain"), [=](Edits &edits) { edits.adjustment.gain = {r, g, b}; });
+        edit(tr("Gain"), [=](Edits &edits) { edits.colours.gain = {r, g, b}; });
     });
     connect(m_history, &EditHistory::restored, editor, [editor](const Edits &edits) {
-        const auto &gain = edits.adjustment.gain;
+        const auto &gain = edits.colours.gain;
         setChannels(editor, gain[0], gain[1], gain[2]);
     });
 }
@@ -70,14 +75,14 @@ void ColourPage::addLift()
             m_log->receiver(tr("Lift"), QStringLiteral("valueChanged")));
     connect(editor, &RGBAllEditFrame::valueChanged, this, [this](int r, int g, int b, int all) {
         edit(tr("Lift"), [=](Edits &edits) {
-            edits.adjustment.lift = {r, g, b};
-            edits.adjustment.liftMaster = all;
+            edits.colours.lift = {r, g, b};
+            edits.colours.liftMaster = all;
         });
     });
     connect(m_history, &EditHistory::restored, editor, [editor](const Edits &edits) {
-        const auto &lift = edits.adjustment.lift;
+        const auto &lift = edits.colours.lift;
         setChannels(editor, lift[0], lift[1], lift[2]);
-        editor->setValue(RGBAllEditFrame::ALL, edits.adjustment.liftMaster);
+        editor->setValue(RGBAllEditFrame::ALL, edits.colours.liftMaster);
     });
 }
 
@@ -92,13 +97,13 @@ void ColourPage::addWash()
     connect(editor, &RGBOpacityEditFrame::valueChanged, this,
             [this](int r, int g, int b, int opacity) {
                 edit(tr("Wash"), [=](Edits &edits) {
-                    edits.adjustment.wash = QColor(r, g, b);
-                    edits.adjustment.washOpacity = opacity;
+                    edits.colours.wash = QColor(r, g, b);
+                    edits.colours.washOpacity = opacity;
                 });
             });
     connect(m_history, &EditHistory::restored, editor, [editor](const Edits &edits) {
-        const QColor &wash = edits.adjustment.wash;
+        const QColor &wash = edits.colours.wash;
         setChannels(editor, wash.red(), wash.green(), wash.blue());
-        editor->setValue(RGBOpacityEditFrame::Opacity, edits.adjustment.washOpacity);
+        editor->setValue(RGBOpacityEditFrame::Opacity, edits.colours.washOpacity);
     });
 }

@@ -10,6 +10,8 @@ class ColourPage : public Page
 public:
     ColourPage(EditHistory *history, LogPane *log);
 
+    void clear(Edits &edits, const QSize &size) const override;
+
 private:
     void addGain();
     void addLift();

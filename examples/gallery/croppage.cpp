@@ -3,7 +3,7 @@
 using Vantor::Widgets::CropEditFrame;
 
 CropPage::CropPage(PictureView *view, EditHistory *history, LogPane *log)
-    : RectPage(tr("Crop"), history, log)
+    : RectPage(tr("Crop"), PictureView::Overlay::Crop, view, history, log)
 {
     addHeading(tr("Crop"),
                tr("The rectangle stays inside the picture. Lock the position to move "
@@ -22,27 +22,30 @@ CropPage::CropPage(PictureView *view, EditHistory *history, LogPane *log)
     });
     connect(m_history, &EditHistory::restored, this,
             [this](const Edits &edits) { showCrop(edits.crop); });
-
-    connect(m_editor, &CropEditFrame::sizeLockChanged, view, &PictureView::setCropSizeLocked);
-    connect(view, &PictureView::cropPressed, this,
-            [this, view] { m_history->begin([view] { return view->isCropPressed(); }); });
-    connect(view, &PictureView::cropDragged, this, [this](const QRect &crop) {
-        showCrop(crop);
-        edit(tr("Crop"), [=](Edits &edits) { edits.crop = crop; });
-    });
 }
 
-void CropPage::startOn(const QSize &size, Edits &edits)
+RectRules CropPage::rules(const QSize &picture) const
 {
-    const QSize least = PictureView::leastCropSize(size);
+    return rulesOf(m_editor, picture);
+}
+
+void CropPage::startOn(const QSize &size)
+{
+    const QSize least = size.boundedTo(QSize(16, 16));
     m_editor->setSizeLock(false);
     m_editor->setCropMinSize(least.width(), least.height());
     m_editor->setCropRange(size.width(), size.height());
-    const QSize crop = (size / 2).expandedTo(least);
-    const QSize beside = size - crop;
-    edits.crop = QRect(
-        QPoint(qMin(size.width() / 5, beside.width()), qMin(size.height() / 5, beside.height())),
-        crop);
+}
+
+void CropPage::clear(Edits &edits, const QSize &size) const
+{
+    edits.crop = QRect(QPoint(), size);
+}
+
+void CropPage::takeDragged(const QRect &rect)
+{
+    showCrop(rect);
+    edit(tr("Crop"), [rect](Edits &edits) { edits.crop = rect; });
 }
 
 void CropPage::showCrop(const QRect &crop)

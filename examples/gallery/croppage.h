@@ -12,8 +12,12 @@ class CropPage : public RectPage
 public:
     CropPage(PictureView *view, EditHistory *history, LogPane *log);
 
-    PictureView::Overlay overlay() const override { return PictureView::Overlay::Crop; }
-    void startOn(const QSize &size, Edits &edits) override;
+    RectRules rules(const QSize &picture) const override;
+    void startOn(const QSize &size) override;
+    void clear(Edits &edits, const QSize &size) const override;
+
+protected:
+    void takeDragged(const QRect &rect) override;
 
 private:
     void showCrop(const QRect &crop);

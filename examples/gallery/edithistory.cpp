@@ -7,9 +7,9 @@
 class EditHistory::Step : public QUndoCommand
 {
 public:
-    Step(EditHistory *history, const QString &name, const Edits &edits)
+    Step(EditHistory *history, const QString &name, const Edits &edits, bool isShown)
         : QUndoCommand(name), m_history(history), m_number(history->m_step),
-          m_before(history->m_edits), m_after(edits)
+          m_before(history->m_edits), m_after(edits), m_isShown(isShown)
     {
     }
 
@@ -17,10 +17,10 @@ public:
 
     void redo() override
     {
-        // The stack calls this for a new step, too: the editor has the value by
-        // then, and setting it in the middle of a drag would disturb that.
-        if (m_isNew) {
-            m_isNew = false;
+        // The stack calls this for a new step, too: what an editor reported it shows
+        // by then, and setting it in the middle of a drag would disturb that.
+        if (m_isShown) {
+            m_isShown = false;
             m_history->set(m_after);
         } else {
             m_history->restore(m_after);
@@ -42,7 +42,7 @@ private:
     const int m_number;
     const Edits m_before;
     Edits m_after;
-    bool m_isNew = true;
+    bool m_isShown;
 };
 
 EditHistory::EditHistory(QObject *parent) : QObject(parent)
@@ -94,7 +94,16 @@ void EditHistory::record(const QString &name, const Edits &edits)
     if (!m_isHeld() && !m_end.isActive()) {
         ++m_step; // an entry, a key, a turn of the wheel
     }
-    m_stack.push(new Step(this, name, edits));
+    m_stack.push(new Step(this, name, edits, true));
+}
+
+void EditHistory::change(const QString &name, const Edits &edits)
+{
+    if (edits == m_edits) {
+        return;
+    }
+    ++m_step;
+    m_stack.push(new Step(this, name, edits, false));
 }
 
 void EditHistory::begin(const std::function<bool()> &isHeld)

@@ -32,11 +32,13 @@ public:
     void reset(const Edits &edits);
     // The user changed something; the name stands behind Undo in the menu.
     void record(const QString &name, const Edits &edits);
+    // The program changes something: one step, and the editors show it.
+    void change(const QString &name, const Edits &edits);
     // Begins a step that takes in what is recorded as long as isHeld() says so. For
     // what is dragged without a slider; those are watched.
     void begin(const std::function<bool()> &isHeld);
 
-    // Its actions go into the menu.
+    // Its actions go into the menu, and it knows whether all is saved.
     QUndoStack *stack() { return &m_stack; }
 
 Q_SIGNALS:

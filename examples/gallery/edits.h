@@ -5,18 +5,22 @@
 #include <QtCore/QMargins>
 #include <QtCore/QRect>
 
+#include <tuple>
+
 // All that the editors of the pages say, and so all that a step of the undo
 // history holds. Rectangles are in picture pixels.
 struct Edits
 {
-    PictureAdjustment adjustment;
+    Tone tone;
+    Colours colours;
     QRect crop;
     QMargins mask;
     QRect layer;
+    bool isLayerShown = false;
 };
 
 inline bool operator==(const Edits &a, const Edits &b)
 {
-    return a.adjustment == b.adjustment && a.crop == b.crop && a.mask == b.mask
-        && a.layer == b.layer;
+    return std::tie(a.tone, a.colours, a.crop, a.mask, a.layer, a.isLayerShown)
+        == std::tie(b.tone, b.colours, b.crop, b.mask, b.layer, b.isLayerShown);
 }

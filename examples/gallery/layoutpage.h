@@ -4,17 +4,23 @@
 
 #include <layouteditframe.h>
 
-// Places a second picture on the first.
+// Places a second picture on the first, as soon as the user says where.
 class LayoutPage : public RectPage
 {
     Q_OBJECT
 
 public:
-    LayoutPage(EditHistory *history, LogPane *log);
+    LayoutPage(PictureView *view, EditHistory *history, LogPane *log);
 
-    PictureView::Overlay overlay() const override { return PictureView::Overlay::Layer; }
-    void startOn(const QSize &size, Edits &edits) override;
+    RectRules rules(const QSize &picture) const override;
+    void startOn(const QSize &size) override;
+    void clear(Edits &edits, const QSize &size) const override;
+
+protected:
+    void takeDragged(const QRect &rect) override;
 
 private:
+    void place(const QRect &layer);
+
     Vantor::Widgets::LayoutEditFrame *m_editor;
 };

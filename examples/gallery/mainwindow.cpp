@@ -9,18 +9,14 @@
 #include "maskpage.h"
 #include "numberpad.h"
 #include "pagescroller.h"
+#include "picturefile.h"
 #include "pictureview.h"
 #include "testcard.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QtEndian>
 #include <QtGui/QCloseEvent>
-#include <QtGui/QImageReader>
-#include <QtGui/QImageWriter>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QButtonGroup>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
@@ -32,26 +28,12 @@
 
 namespace {
 
-// At four bytes a pixel these are 256 MB. Qt 6 itself reads no more.
-const int maxMegapixels = 64;
-
-double megapixels(const QSize &size)
+// What is being typed counts: a shortcut leaves the focus where it is.
+void finishEntry()
 {
-    return double(size.width()) * size.height() / 1e6;
-}
-
-// Qt's readers of these two take what there is of the picture without a word.
-bool endsTooSoon(const QString &fileName, const QByteArray &format)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return false;
+    if (QWidget *field = QApplication::focusWidget()) {
+        field->clearFocus();
     }
-    if (format == "bmp") {
-        file.seek(2);
-        return qFromLittleEndian<quint32>(file.read(4).constData()) > file.size();
-    }
-    return format == "gif" && file.seek(file.size() - 1) && file.read(1) != ";";
 }
 
 } // namespace
@@ -74,6 +56,8 @@ MainWindow::MainWindow()
     panelLayout->addWidget(m_stack);
 
     connect(m_history, &EditHistory::changed, m_view, &PictureView::setEdits);
+    connect(m_history->stack(), &QUndoStack::cleanChanged, this,
+            [this](bool isClean) { setWindowModified(!isClean); });
     createPages();
     for (int i = 0; i < m_pages.size(); ++i) {
         auto *button = new QPushButton(m_pages.at(i)->title());
@@ -112,31 +96,9 @@ MainWindow::MainWindow()
 
 bool MainWindow::openPicture(const QString &fileName, QString *problem)
 {
-    QImageReader reader(fileName);
-    reader.setAutoTransform(true);
-    if (megapixels(reader.size()) > maxMegapixels) {
-        *problem = tr("%1 has %2 megapixels. Up to %3 can be opened.")
-                       .arg(fileName)
-                       .arg(megapixels(reader.size()), 0, 'f', 1)
-                       .arg(maxMegapixels);
-        return false;
-    }
-    // The reader of JPEG gives what there is of the picture and only logs why.
-    const QByteArray format = reader.format(); // not known any more when it is read
-    QStringList warnings;
-    const auto connection = connect(m_log, &LogPane::warned, this,
-                                    [&](const QString &message) { warnings.append(message); });
-    const QImage picture = reader.read();
-    disconnect(connection);
+    const QImage picture = PictureFile::read(fileName, m_log, problem);
     if (picture.isNull()) {
-        *problem = tr("%1 cannot be opened: %2").arg(fileName, reader.errorString());
         return false;
-    }
-    if (endsTooSoon(fileName, format)) {
-        warnings.append(tr("the file ends too soon"));
-    }
-    if (!warnings.isEmpty()) {
-        *problem = tr("%1 is not complete: %2").arg(fileName, warnings.first());
     }
     setPicture(picture, QFileInfo(fileName).fileName());
     return true;
@@ -146,7 +108,8 @@ void MainWindow::showPage(int index)
 {
     m_pageButtons->button(index)->setChecked(true);
     m_stack->setCurrentIndex(index);
-    m_view->setOverlay(m_pages.at(index)->overlay());
+    const Page *page = m_pages.at(index);
+    m_view->setOverlay(page->overlay(), page->rules(m_view->pictureSize()));
 }
 
 QScrollArea *MainWindow::currentScrollArea() const
@@ -157,7 +120,7 @@ QScrollArea *MainWindow::currentScrollArea() const
 void MainWindow::createPages()
 {
     m_pages = {new AdjustPage(m_history, m_log), new CropPage(m_view, m_history, m_log),
-               new MaskPage(m_history, m_log), new LayoutPage(m_history, m_log),
+               new MaskPage(m_view, m_history, m_log), new LayoutPage(m_view, m_history, m_log),
                new ColourPage(m_history, m_log)};
     for (Page *page : qAsConst(m_pages)) {
         m_stack->addWidget(new PageScroller(page));
@@ -169,8 +132,10 @@ void MainWindow::createMenus()
     QMenu *file = menuBar()->addMenu(tr("&File"));
     file->addAction(tr("&Open…"), this, &MainWindow::chooseAndOpen)
         ->setShortcut(QKeySequence::Open);
-    file->addAction(tr("&Save cropped picture…"), this, &MainWindow::chooseAndSave)
+    file->addAction(tr("&Save picture…"), this, &MainWindow::savePicture)
         ->setShortcut(QKeySequence::Save);
+    file->addAction(tr("Save &crop…"), this, &MainWindow::saveCrop)
+        ->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
     file->addSeparator();
     file->addAction(tr("&Quit"), this, &QWidget::close)->setShortcut(QKeySequence::Quit);
 
@@ -180,6 +145,12 @@ void MainWindow::createMenus()
     QAction *redo = m_history->stack()->createRedoAction(this, tr("&Redo"));
     redo->setShortcuts(QKeySequence::Redo);
     edit->addActions({undo, redo});
+    edit->addSeparator();
+    edit->addAction(tr("Reset &page"), this, [this] {
+        Page *page = m_pages.at(m_stack->currentIndex());
+        reset({page}, tr("Reset %1").arg(page->title()));
+    });
+    edit->addAction(tr("Reset &all"), this, [this] { reset(m_pages, tr("Reset all")); });
 
     QMenu *view = menuBar()->addMenu(tr("&View"));
     const auto addChoice = [](QMenu *menu, const QString &text, bool checked) {
@@ -218,23 +189,31 @@ void MainWindow::setPicture(const QImage &picture, const QString &name)
 {
     m_view->setPicture(picture);
     Edits edits;
-    edits.adjustment = m_history->edits().adjustment;
     for (Page *page : qAsConst(m_pages)) {
-        page->startOn(picture.size(), edits);
+        page->startOn(picture.size());
+        page->clear(edits, picture.size());
     }
     m_history->reset(edits);
-    m_savedCrop = edits.crop;
+    showPage(m_stack->currentIndex()); // with the rules for this picture
     setWindowTitle(
-        tr("%1 (%2 × %3) — Gallery").arg(name).arg(picture.width()).arg(picture.height()));
+        tr("%1[*] (%2 × %3) — Gallery").arg(name).arg(picture.width()).arg(picture.height()));
+}
+
+void MainWindow::reset(const QVector<Page *> &pages, const QString &name)
+{
+    Edits edits = m_history->edits();
+    for (const Page *page : pages) {
+        page->clear(edits, m_view->pictureSize());
+    }
+    m_history->change(name, edits);
 }
 
 void MainWindow::chooseAndOpen()
 {
-    if (!mayLoseCrop()) {
+    if (!mayLoseEdits()) {
         return;
     }
-    const QString fileName = QFileDialog::getOpenFileName(
-        this, tr("Open"), QString(), tr("Pictures (*.png *.jpg *.jpeg *.bmp *.gif *.svg)"));
+    const QString fileName = PictureFile::askForOpen(this);
     if (fileName.isEmpty()) {
         return;
     }
@@ -245,44 +224,46 @@ void MainWindow::chooseAndOpen()
     }
 }
 
-bool MainWindow::chooseAndSave()
+bool MainWindow::chooseAndSave(const QRect &part, const QString &title, const QString &name)
 {
-    QFileDialog dialog(this, tr("Save cropped picture"), QString(),
-                       tr("PNG picture (*.png);;JPEG picture (*.jpg);;BMP picture (*.bmp)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.selectFile(tr("cropped"));
-    // The dialog itself adds the suffix, and then asks before it overwrites a file.
-    const auto takeSuffix = [&dialog](const QString &filter) {
-        dialog.setDefaultSuffix(filter.section(QStringLiteral("*."), 1).remove(QLatin1Char(')')));
-    };
-    takeSuffix(dialog.selectedNameFilter());
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, takeSuffix);
-    if (dialog.exec() != QDialog::Accepted) {
+    const QString fileName = PictureFile::askForSave(this, title, name, m_view->hasAlpha());
+    if (fileName.isEmpty()) {
         return false;
     }
-    const QString fileName = dialog.selectedFiles().constFirst();
-    QImageWriter writer(fileName);
-    if (!writer.write(m_view->croppedPicture())) {
-        QMessageBox::critical(this, dialog.windowTitle(),
-                              tr("%1 cannot be written: %2").arg(fileName, writer.errorString()));
+    QString problem;
+    if (!PictureFile::write(m_view->painted(part), fileName, &problem)) {
+        QMessageBox::critical(this, title, problem);
         return false;
     }
-    m_savedCrop = m_history->edits().crop;
+    m_history->stack()->setClean();
     return true;
 }
 
-bool MainWindow::mayLoseCrop()
+bool MainWindow::savePicture()
 {
-    if (m_history->edits().crop == m_savedCrop) {
+    finishEntry();
+    return chooseAndSave(QRect(QPoint(), m_view->pictureSize()), tr("Save picture"), tr("picture"));
+}
+
+bool MainWindow::saveCrop()
+{
+    finishEntry();
+    return chooseAndSave(m_history->edits().crop, tr("Save crop"), tr("crop"));
+}
+
+bool MainWindow::mayLoseEdits()
+{
+    finishEntry();
+    if (m_history->stack()->isClean()) {
         return true;
     }
-    const auto answer =
-        QMessageBox::question(this, tr("Crop"), tr("The cropped picture is not saved. Save it?"),
-                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
-    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && chooseAndSave());
+    const auto answer = QMessageBox::question(
+        this, tr("Picture"), tr("What was changed since the picture was saved is lost. Save it?"),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && savePicture());
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    event->setAccepted(mayLoseCrop());
+    event->setAccepted(mayLoseEdits());
 }

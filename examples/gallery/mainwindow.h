@@ -40,12 +40,15 @@ private:
     void createPages();
     void createMenus();
     void setPicture(const QImage &picture, const QString &name);
+    void reset(const QVector<Page *> &pages, const QString &name);
     void chooseAndOpen();
-    bool chooseAndSave(); // false if the crop is not saved
-    bool mayLoseCrop(); // asks if need be
+    // False if it is not saved.
+    bool chooseAndSave(const QRect &part, const QString &title, const QString &name);
+    bool savePicture();
+    bool saveCrop();
+    bool mayLoseEdits(); // asks if need be
 
     EditHistory *m_history;
-    QRect m_savedCrop;
     PictureView *m_view;
     LogPane *m_log;
     QVector<Page *> m_pages;

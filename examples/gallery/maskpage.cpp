@@ -2,11 +2,12 @@
 
 using Vantor::Widgets::MaskEditFrame;
 
-MaskPage::MaskPage(EditHistory *history, LogPane *log) : RectPage(tr("Mask"), history, log)
+MaskPage::MaskPage(PictureView *view, EditHistory *history, LogPane *log)
+    : RectPage(tr("Mask"), PictureView::Overlay::Mask, view, history, log)
 {
     addHeading(tr("Mask"),
                tr("Four margins. Top and bottom together never pass the height of the "
-                  "picture, left and right never its width."));
+                  "picture, left and right never its width. Drag their edges in the picture."));
     m_editor = addEditor<MaskEditFrame>();
     setUp(m_editor, tr("Mask"), {tr("Top"), tr("Bottom"), tr("Left"), tr("Right")});
     finish();
@@ -18,16 +19,40 @@ MaskPage::MaskPage(EditHistory *history, LogPane *log) : RectPage(tr("Mask"), hi
                 edit(tr("Mask"),
                      [=](Edits &edits) { edits.mask = QMargins(left, top, right, bottom); });
             });
-    connect(m_history, &EditHistory::restored, this, [this](const Edits &edits) {
-        const QMargins &mask = edits.mask;
-        m_editor->setMaskValue(mask.top(), mask.bottom(), mask.left(), mask.right());
-    });
+    connect(m_history, &EditHistory::restored, this,
+            [this](const Edits &edits) { showMask(edits.mask); });
 }
 
-void MaskPage::startOn(const QSize &size, Edits &edits)
+RectRules MaskPage::rules(const QSize &picture) const
 {
-    const int vertical = size.height() / 9;
-    const int horizontal = size.width() / 16;
+    RectRules rules;
+    rules.area = rules.most = picture;
+    rules.lastCorner = QPoint(picture.width(), picture.height());
+    rules.least = QSize(0, 0);
+    rules.step = step;
+    return rules;
+}
+
+void MaskPage::startOn(const QSize &size)
+{
+    m_picture = size;
     m_editor->setMaskRange(size.width(), size.height());
-    edits.mask = QMargins(horizontal, vertical, horizontal, vertical);
+}
+
+void MaskPage::clear(Edits &edits, const QSize & /*size*/) const
+{
+    edits.mask = QMargins();
+}
+
+void MaskPage::takeDragged(const QRect &rect)
+{
+    const QMargins mask(rect.x(), rect.y(), m_picture.width() - rect.x() - rect.width(),
+                        m_picture.height() - rect.y() - rect.height());
+    showMask(mask);
+    edit(tr("Mask"), [mask](Edits &edits) { edits.mask = mask; });
+}
+
+void MaskPage::showMask(const QMargins &mask)
+{
+    m_editor->setMaskValue(mask.top(), mask.bottom(), mask.left(), mask.right());
 }

@@ -4,17 +4,24 @@
 
 #include <maskeditframe.h>
 
-// Masks the picture's margins.
+// Masks the picture's margins. In the picture what they leave is dragged.
 class MaskPage : public RectPage
 {
     Q_OBJECT
 
 public:
-    MaskPage(EditHistory *history, LogPane *log);
+    MaskPage(PictureView *view, EditHistory *history, LogPane *log);
 
-    PictureView::Overlay overlay() const override { return PictureView::Overlay::Mask; }
-    void startOn(const QSize &size, Edits &edits) override;
+    RectRules rules(const QSize &picture) const override;
+    void startOn(const QSize &size) override;
+    void clear(Edits &edits, const QSize &size) const override;
+
+protected:
+    void takeDragged(const QRect &rect) override;
 
 private:
+    void showMask(const QMargins &mask);
+
     Vantor::Widgets::MaskEditFrame *m_editor;
+    QSize m_picture;
 };

@@ -60,7 +60,7 @@ void Page::changeEvent(QEvent *event)
     }
 }
 
-void Page::addWidget(QWidget *editor)
+void Page::addWidget(QWidget *widget)
 {
-    m_layout->addWidget(editor);
+    m_layout->addWidget(widget);
 }

@@ -18,13 +18,13 @@ public:
 
     // The title in lower case begins the names of the pictures of this page.
     const QString &title() const { return m_title; }
+    // What the page shows in the picture, and what it allows there.
     virtual PictureView::Overlay overlay() const { return PictureView::Overlay::None; }
-    // Fits the ranges to a picture of this size and says what its edits start with.
-    virtual void startOn(const QSize &size, Edits &edits)
-    {
-        Q_UNUSED(size)
-        Q_UNUSED(edits)
-    }
+    virtual RectRules rules(const QSize & /*picture*/) const { return {}; }
+    // Fits the ranges to a picture of this size.
+    virtual void startOn(const QSize & /*size*/) { }
+    // Takes back what the page's editors say: the picture of this size is as it was.
+    virtual void clear(Edits &edits, const QSize &size) const = 0;
 
     // Gives the labels of all rows the width of the widest text.
     void alignLabels();
@@ -39,6 +39,7 @@ protected:
         addWidget(editor);
         return editor;
     }
+    void addWidget(QWidget *widget);
 
     // Connected to an editor's signal: lets the function change the edits as the
     // user changed the editor of this name.
@@ -61,8 +62,6 @@ protected:
     LogPane *const m_log;
 
 private:
-    void addWidget(QWidget *editor);
-
     const QString m_title;
     QVBoxLayout *const m_layout;
 };

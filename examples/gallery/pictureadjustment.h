@@ -5,14 +5,18 @@
 
 #include <array>
 
-// What the editors say about the picture. The defaults leave it unchanged.
-struct PictureAdjustment
+// What the editors say about the pixels of the picture. The defaults leave them unchanged.
+struct Tone
 {
     int brightness = 0; // -100 to 100
     int contrast = 0; // -100 to 100
     double gamma = 1.0;
     double saturation = 1.0; // 0 is grey
     int blackLevel = 16; // 16 to 255, of a video signal: 16 is black
+};
+
+struct Colours
+{
     std::array<int, 3> gain = {100, 100, 100}; // percent, red, green, blue
     std::array<int, 3> lift = {0, 0, 0}; // -100 to 100, added to each channel
     int liftMaster = 100; // percent of the lift
@@ -20,9 +24,10 @@ struct PictureAdjustment
     int washOpacity = 0; // percent
 };
 
-bool operator==(const PictureAdjustment &a, const PictureAdjustment &b);
+bool operator==(const Tone &a, const Tone &b);
+bool operator==(const Colours &a, const Colours &b);
 
-// Returns an RGB32 copy of the picture with the adjustment applied. All but
-// the saturation goes through one table for each channel, so that a preview is
-// ready within the time of one frame.
-QImage adjusted(const QImage &picture, const PictureAdjustment &adjustment);
+// Changes a picture of the format RGB32 or ARGB32, whose alpha stays. All but the
+// saturation goes through one table for each channel, so that what a window shows
+// is ready within the time of one frame.
+void adjust(QImage &picture, const Tone &tone, const Colours &colours);

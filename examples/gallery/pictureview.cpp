@@ -1,98 +1,133 @@
 #include "pictureview.h"
 
-#include "testcard.h"
-
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
+#include <QtGui/QWheelEvent>
+
+#include <cmath>
 
 namespace {
 
 const QColor backdrop(18, 19, 22);
 const QColor outline(255, 204, 77);
+const int margin = 16; // around a fitted picture, in view pixels
+const double largestScale = 32;
+const double zoomStep = 1.25; // of one notch of the wheel
 
-// Half the width of a finger's tip, in view pixels: so far from a handle it is
-// taken hold of.
-const int reach = 22;
-
-// Enough for a large window, and scaled to it within a few milliseconds.
-const QSize reducedSize(2560, 1600);
-
-// Which of an extent's ends, if any, a position takes hold of. At least the middle
-// half is left to hold the whole.
-Qt::Edges edgeAt(double pos, double low, double high, Qt::Edge lowEdge, Qt::Edge highEdge)
+QBrush checkerboard()
 {
-    const double inwards = qMin<double>(reach, (high - low) / 4);
-    if (pos < low + inwards) {
-        return lowEdge;
-    }
-    return pos > high - inwards ? Qt::Edges(highEdge) : Qt::Edges();
+    QPixmap tile(16, 16);
+    tile.fill(QColor(204, 204, 204));
+    QPainter painter(&tile);
+    painter.fillRect(0, 0, 8, 8, Qt::white);
+    painter.fillRect(8, 8, 8, 8, Qt::white);
+    return QBrush(tile);
 }
 
-Qt::CursorShape cursorOf(Qt::Edges edges)
+bool isPaintedAlike(const Edits &a, const Edits &b)
 {
-    if (edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge)) {
-        return Qt::SizeFDiagCursor;
-    }
-    if (edges == (Qt::RightEdge | Qt::TopEdge) || edges == (Qt::LeftEdge | Qt::BottomEdge)) {
-        return Qt::SizeBDiagCursor;
-    }
-    if (edges & (Qt::LeftEdge | Qt::RightEdge)) {
-        return Qt::SizeHorCursor;
-    }
-    return edges ? Qt::SizeVerCursor : Qt::SizeAllCursor;
+    Edits copy = a;
+    copy.crop = b.crop;
+    return copy == b;
 }
 
 } // namespace
 
-PictureView::PictureView(QWidget *parent) : QWidget(parent), m_layerPicture(layerPicture())
+PictureView::PictureView(QWidget *parent) : QWidget(parent)
 {
-    setMinimumSize(240, 120);
+    setMinimumSize(160, 120);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Picture"));
 }
 
 void PictureView::setPicture(const QImage &picture)
 {
-    m_picture = picture.convertToFormat(QImage::Format_RGB32);
-    m_reduced = m_picture;
-    if (m_picture.width() > reducedSize.width() || m_picture.height() > reducedSize.height()) {
-        m_reduced = m_picture.scaled(reducedSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    }
-    m_preview = QImage();
-    update();
-}
-
-QImage PictureView::croppedPicture() const
-{
-    return adjusted(m_picture.copy(m_edits.crop), m_edits.adjustment);
+    m_composition.setPicture(picture);
+    m_shown = QImage();
+    fit();
 }
 
 void PictureView::setEdits(const Edits &edits)
 {
-    if (!(edits.adjustment == m_edits.adjustment)) {
+    if (!isPaintedAlike(edits, m_edits)) {
         m_shown = QImage();
     }
     m_edits = edits;
     update();
 }
 
-void PictureView::setOverlay(Overlay overlay)
+void PictureView::setOverlay(Overlay overlay, const RectRules &rules)
 {
+    if (overlay != m_overlay) {
+        m_edges = {};
+    }
     m_overlay = overlay;
+    m_rules = rules;
     unsetCursor();
     update();
 }
 
-void PictureView::setCropSizeLocked(bool locked)
+double PictureView::scale() const
 {
-    m_isCropSizeLocked = locked;
+    return m_isFitted ? fittingScale() : m_scale;
+}
+
+void PictureView::fit()
+{
+    m_isFitted = true;
+    m_centre = QRectF(QPointF(), QSizeF(pictureSize())).center();
     update();
 }
 
-QSize PictureView::leastCropSize(const QSize &picture)
+void PictureView::setScale(double scale)
 {
-    return picture.boundedTo(QSize(16, 16));
+    zoom(scale / this->scale(), QRectF(rect()).center());
+}
+
+void PictureView::zoom(double factor, const QPointF &pos)
+{
+    const double least = qMin(fittingScale(), 1.0);
+    const double scale = qBound(least, this->scale() * factor, largestScale);
+    if (scale == fittingScale()) {
+        fit();
+        return;
+    }
+    const QPointF middle = QRectF(rect()).center();
+    const QPointF under = toPicture(pos);
+    m_isFitted = false;
+    m_scale = scale;
+    m_centre = under - (pos - middle) * devicePixelRatioF() / scale;
+    update();
+}
+
+QRectF PictureView::toView(const QRectF &rect) const
+{
+    const QRectF area = pictureArea();
+    const double factor = scale() / devicePixelRatioF();
+    return {area.topLeft() + rect.topLeft() * factor, rect.size() * factor};
+}
+
+QPointF PictureView::toPicture(const QPointF &pos) const
+{
+    return (pos - pictureArea().topLeft()) * devicePixelRatioF() / scale();
+}
+
+QRect PictureView::rectOf(Overlay overlay) const
+{
+    switch (overlay) {
+    case Overlay::Crop:
+        return m_edits.crop;
+    case Overlay::Mask:
+        return QRect(QPoint(), pictureSize()).marginsRemoved(m_edits.mask);
+    case Overlay::Layer:
+        return m_edits.layer;
+    case Overlay::None:
+        break;
+    }
+    return {};
 }
 
 QSize PictureView::sizeHint() const
@@ -102,178 +137,212 @@ QSize PictureView::sizeHint() const
 
 void PictureView::paintEvent(QPaintEvent * /*event*/)
 {
-    // The preview is scaled once for each size of the view; an editor's change then
-    // costs one pass over the preview only.
-    const QRect area = pictureArea();
-    const QSize pixels = area.size() * devicePixelRatioF();
-    if (m_preview.size() != pixels) {
-        m_preview = m_reduced.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        m_shown = QImage();
-    }
-    if (m_shown.isNull()) {
-        m_shown = adjusted(m_preview, m_edits.adjustment);
-    }
     QPainter painter(this);
     painter.fillRect(rect(), backdrop);
-    painter.drawImage(area, m_shown);
-
+    paintPicture(painter);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (m_overlay == Overlay::Crop) {
-        paintCrop(painter);
-    } else if (m_overlay == Overlay::Mask) {
-        paintMask(painter);
-    } else if (m_overlay == Overlay::Layer) {
-        paintLayer(painter);
+    paintOverlay(painter);
+    if (hasFocus()) {
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
 }
 
 void PictureView::mousePressEvent(QMouseEvent *event)
 {
-    m_isCropPressed = event->button() == Qt::LeftButton && isCropAt(event->pos(), &m_dragEdges);
-    if (m_isCropPressed) {
-        m_dragStart = event->pos();
-        m_dragCrop = m_edits.crop;
-        Q_EMIT cropPressed();
+    if (event->button() == Qt::MiddleButton
+        || (event->button() == Qt::LeftButton && !isRectAt(event->pos()))) {
+        m_press = m_isFitted ? Press::None : Press::Picture;
+    } else if (event->button() == Qt::LeftButton) {
+        m_press = Press::Rect;
+        m_edges = edgesAt(event->pos(), rectInView(), m_rules);
+        m_pressRect = rectOf(m_overlay);
+        Q_EMIT rectPressed();
+    } else {
+        return;
     }
+    m_pressPos = event->pos();
+    m_pressCentre = m_centre;
+    updateCursor(event->pos());
 }
 
 void PictureView::mouseMoveEvent(QMouseEvent *event)
 {
-    m_isCropPressed = m_isCropPressed && (event->buttons() & Qt::LeftButton);
-    if (m_isCropPressed) {
-        const QRect crop = draggedCrop(event->pos());
-        if (crop != m_edits.crop) {
-            Q_EMIT cropDragged(crop);
-        }
+    if (!event->buttons()) {
+        m_press = Press::None; // whatever took the release
+    }
+    const QPointF by = QPointF(event->pos() - m_pressPos) * devicePixelRatioF() / scale();
+    if (m_press == Press::Rect) {
+        moveRect(m_pressRect, by.toPoint());
+    } else if (m_press == Press::Picture) {
+        const QSizeF size = pictureSize();
+        m_centre = m_pressCentre - by;
+        m_centre.setX(qBound(0.0, m_centre.x(), size.width()));
+        m_centre.setY(qBound(0.0, m_centre.y(), size.height()));
+        update();
+    } else {
+        updateCursor(event->pos());
+    }
+}
+
+void PictureView::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_press = Press::None;
+    updateCursor(event->pos());
+}
+
+void PictureView::wheelEvent(QWheelEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
+    const QPointF pos = event->position();
+#else
+    const QPointF pos = event->posF();
+#endif
+    zoom(std::pow(zoomStep, event->angleDelta().y() / double(QWheelEvent::DefaultDeltasPerStep)),
+         pos);
+}
+
+void PictureView::keyPressEvent(QKeyEvent *event)
+{
+    QPoint by;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        by = {-m_rules.step, 0};
+        break;
+    case Qt::Key_Right:
+        by = {m_rules.step, 0};
+        break;
+    case Qt::Key_Up:
+        by = {0, -m_rules.step};
+        break;
+    case Qt::Key_Down:
+        by = {0, m_rules.step};
+        break;
+    default:
+        break;
+    }
+    if (by.isNull() || m_overlay == Overlay::None) {
+        QWidget::keyPressEvent(event);
         return;
     }
-    Qt::Edges edges;
-    if (isCropAt(event->pos(), &edges)) {
-        setCursor(cursorOf(edges));
-    } else {
+    moveRect(rectOf(m_overlay), by);
+}
+
+double PictureView::fittingScale() const
+{
+    const QSizeF inside = QSizeF(size() - QSize(2 * margin, 2 * margin)) * devicePixelRatioF();
+    const QSize size = pictureSize();
+    return qBound(0.001, qMin(inside.width() / size.width(), inside.height() / size.height()),
+                  largestScale);
+}
+
+// In whole device pixels.
+QRectF PictureView::pictureArea() const
+{
+    const double ratio = devicePixelRatioF();
+    const QPointF middle = QRectF(rect()).center() * ratio;
+    const QPoint corner = (middle - m_centre * scale()).toPoint();
+    const QSizeF extent = QSizeF(pictureSize()) * scale();
+    return {QPointF(corner) / ratio, extent / ratio};
+}
+
+bool PictureView::isRectAt(const QPoint &pos) const
+{
+    return m_overlay != Overlay::None && isHeldAt(pos, rectInView(), m_rules);
+}
+
+void PictureView::moveRect(const QRect &from, const QPoint &by)
+{
+    const QRect to = dragged(from, m_edges, by, m_rules);
+    if (to != rectOf(m_overlay)) {
+        Q_EMIT rectDragged(to);
+    }
+}
+
+void PictureView::updateCursor(const QPoint &pos)
+{
+    if (m_press == Press::Picture) {
+        setCursor(Qt::ClosedHandCursor);
+    } else if (isRectAt(pos)) {
+        setCursor(cursorOf(edgesAt(pos, rectInView(), m_rules)));
+    } else if (m_isFitted) {
         unsetCursor();
+    } else {
+        setCursor(Qt::OpenHandCursor);
     }
 }
 
-void PictureView::mouseReleaseEvent(QMouseEvent * /*event*/)
+// Only what is seen is computed, from a picture that is reduced where the scale is
+// below 1; above it, pixels are enlarged.
+void PictureView::paintPicture(QPainter &painter)
 {
-    m_isCropPressed = false;
+    const double ratio = devicePixelRatioF();
+    const double scale = this->scale();
+    const double computed = qMin(scale, 1.0);
+    const double enlarged = scale / computed;
+    const QRectF area = pictureArea();
+    const QRectF seen((-area.topLeft()) * ratio / enlarged, QSizeF(size()) * ratio / enlarged);
+    const QRect part = seen.toAlignedRect() & QRect(QPoint(), m_composition.size(computed));
+    if (part.isEmpty()) {
+        return;
+    }
+    if (m_shown.isNull() || part != m_shownPart || computed != m_shownScale) {
+        m_shown = m_composition.painted(m_edits, part, computed);
+        m_shownPart = part;
+        m_shownScale = computed;
+    }
+    const QRectF target(area.topLeft() + QPointF(part.topLeft()) * enlarged / ratio,
+                        QSizeF(part.size()) * enlarged / ratio);
+    if (hasAlpha()) {
+        painter.setBrushOrigin(area.topLeft());
+        painter.fillRect(target, checkerboard());
+    }
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, enlarged > 1 && enlarged < 2);
+    painter.drawImage(target, m_shown);
 }
 
-QRect PictureView::pictureArea() const
+void PictureView::paintOverlay(QPainter &painter)
 {
-    const int margin = 16;
-    const QRect inside = rect().adjusted(margin, margin, -margin, -margin);
-    QRect area(QPoint(), m_picture.size().scaled(inside.size(), Qt::KeepAspectRatio));
-    area.setSize(area.size().expandedTo(QSize(1, 1)));
-    area.moveCenter(inside.center());
-    return area;
-}
-
-QRectF PictureView::toView(const QRect &rect) const
-{
-    const QRect area = pictureArea();
-    const double scale = area.width() / static_cast<double>(qMax(1, m_picture.width()));
-    return {area.left() + rect.left() * scale, area.top() + rect.top() * scale,
-            rect.width() * scale, rect.height() * scale};
-}
-
-// Whether the pointer takes hold of the crop there, and by which edges.
-bool PictureView::isCropAt(const QPoint &pos, Qt::Edges *edges) const
-{
-    const QRectF crop = toView(m_edits.crop);
-    const int outwards = m_isCropSizeLocked ? 0 : reach;
-    if (m_overlay != Overlay::Crop
-        || !crop.adjusted(-outwards, -outwards, outwards, outwards).contains(pos)) {
-        return false;
+    if (m_overlay == Overlay::None) {
+        return;
     }
-    *edges = {};
-    if (!m_isCropSizeLocked) {
-        *edges = edgeAt(pos.x(), crop.left(), crop.right(), Qt::LeftEdge, Qt::RightEdge)
-            | edgeAt(pos.y(), crop.top(), crop.bottom(), Qt::TopEdge, Qt::BottomEdge);
-    }
-    return true;
-}
-
-// The crop that was pressed, as the pointer has taken it along within the picture.
-QRect PictureView::draggedCrop(const QPoint &pos) const
-{
-    const double scale = m_picture.width() / static_cast<double>(pictureArea().width());
-    const QPoint moved = (pos - m_dragStart) * scale;
-    const QSize least = leastCropSize(m_picture.size());
-    const int right = m_picture.width() - 1;
-    const int bottom = m_picture.height() - 1;
-    QRect crop = m_dragCrop;
-    if (!m_dragEdges) {
-        crop.moveTo(qBound(0, crop.left() + moved.x(), right + 1 - crop.width()),
-                    qBound(0, crop.top() + moved.y(), bottom + 1 - crop.height()));
-    }
-    if (m_dragEdges & Qt::LeftEdge) {
-        crop.setLeft(qBound(0, crop.left() + moved.x(), crop.right() + 1 - least.width()));
-    }
-    if (m_dragEdges & Qt::TopEdge) {
-        crop.setTop(qBound(0, crop.top() + moved.y(), crop.bottom() + 1 - least.height()));
-    }
-    if (m_dragEdges & Qt::RightEdge) {
-        crop.setRight(qBound(crop.left() - 1 + least.width(), crop.right() + moved.x(), right));
-    }
-    if (m_dragEdges & Qt::BottomEdge) {
-        crop.setBottom(qBound(crop.top() - 1 + least.height(), crop.bottom() + moved.y(), bottom));
-    }
-    return crop;
-}
-
-void PictureView::paintCrop(QPainter &painter)
-{
-    const QRectF crop = toView(m_edits.crop);
+    const QRectF held = rectInView();
     QPainterPath outside;
     outside.addRect(pictureArea());
-    outside.addRect(crop);
-    painter.fillPath(outside, QColor(0, 0, 0, 165));
+    outside.addRect(held);
+    if (m_overlay == Overlay::Crop) {
+        painter.fillPath(outside, QColor(0, 0, 0, 165));
+        painter.setPen(QPen(QColor(255, 255, 255, 110), 1));
+        for (int i = 1; i < 3; ++i) {
+            const double x = held.left() + held.width() * i / 3;
+            const double y = held.top() + held.height() * i / 3;
+            painter.drawLine(QPointF(x, held.top()), QPointF(x, held.bottom()));
+            painter.drawLine(QPointF(held.left(), y), QPointF(held.right(), y));
+        }
+    } else if (m_overlay == Overlay::Mask) {
+        painter.fillPath(outside, QBrush(QColor(255, 255, 255, 60), Qt::BDiagPattern));
+    }
+    const bool isOff = m_overlay == Overlay::Layer && !m_edits.isLayerShown;
+    painter.setPen(QPen(outline, 2, isOff ? Qt::DashLine : Qt::SolidLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(held);
+    paintHandles(painter, held);
+}
 
-    painter.setPen(QPen(QColor(255, 255, 255, 110), 1));
-    for (int i = 1; i < 3; ++i) {
-        const double x = crop.left() + crop.width() * i / 3;
-        const double y = crop.top() + crop.height() * i / 3;
-        painter.drawLine(QPointF(x, crop.top()), QPointF(x, crop.bottom()));
-        painter.drawLine(QPointF(crop.left(), y), QPointF(crop.right(), y));
-    }
-    painter.setPen(QPen(outline, 2));
-    painter.drawRect(crop);
-    if (m_isCropSizeLocked) {
-        return;
-    }
+void PictureView::paintHandles(QPainter &painter, const QRectF &rect)
+{
     painter.setPen(QPen(backdrop, 1));
     painter.setBrush(outline);
-    for (const double x : {crop.left(), crop.center().x(), crop.right()}) {
-        for (const double y : {crop.top(), crop.center().y(), crop.bottom()}) {
-            if (QPointF(x, y) != crop.center()) {
-                painter.drawEllipse(QPointF(x, y), 7, 7);
+    for (const double x : {rect.left(), rect.center().x(), rect.right()}) {
+        for (const double y : {rect.top(), rect.center().y(), rect.bottom()}) {
+            // Where a press takes hold of all that there is, no lock in the way.
+            const QPointF handle(x, y);
+            const Qt::Edges edges = edgesAt(handle, rect, m_rules);
+            if (edges && edges == edgesAt(handle, rect, RectRules())) {
+                painter.drawEllipse(handle, 7, 7);
             }
         }
     }
-}
-
-void PictureView::paintMask(QPainter &painter)
-{
-    const QRectF hole = toView(QRect(QPoint(), m_picture.size()).marginsRemoved(m_edits.mask));
-    QPainterPath margins;
-    margins.addRect(pictureArea());
-    if (hole.isValid()) {
-        margins.addRect(hole);
-    }
-    painter.fillPath(margins, QColor(0, 0, 0, 215));
-    painter.fillPath(margins, QBrush(QColor(255, 255, 255, 60), Qt::BDiagPattern));
-    painter.setPen(QPen(outline, 2));
-    painter.drawRect(hole);
-}
-
-void PictureView::paintLayer(QPainter &painter)
-{
-    painter.setClipRect(pictureArea()); // a layer may reach over the picture's edge
-    const QRectF layer = toView(m_edits.layer);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(layer, m_layerPicture);
-    painter.setPen(QPen(outline, 2));
-    painter.drawRect(layer);
 }

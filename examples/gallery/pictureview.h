@@ -1,12 +1,13 @@
 #pragma once
 
-#include "edits.h"
+#include "composition.h"
+#include "rectdrag.h"
 
 #include <QtWidgets/QWidget>
 
-// Shows the picture as large as the widget allows, with the adjustment and, on
-// top, what the current page is about. The crop is moved or, by its edges and
-// corners, resized with the pointer.
+// Shows the picture as it would be saved and, on top, what the current page is about:
+// a rectangle, which the pointer or the arrow keys move and resize. The wheel
+// zooms, and what the pointer drags beside the rectangle is the picture itself.
 class PictureView : public QWidget
 {
     Q_OBJECT
@@ -17,48 +18,68 @@ public:
     explicit PictureView(QWidget *parent = nullptr);
 
     void setPicture(const QImage &picture);
-    QImage croppedPicture() const;
+    QSize pictureSize() const { return m_composition.size(); }
+    bool hasAlpha() const { return m_composition.hasAlpha(); }
+    // A part as it is saved, in picture pixels.
+    QImage painted(const QRect &part) { return m_composition.painted(m_edits, part); }
 
     void setEdits(const Edits &edits);
-    void setOverlay(Overlay overlay);
-    // A crop of a locked size is only moved.
-    void setCropSizeLocked(bool locked);
-    bool isCropPressed() const { return m_isCropPressed; }
-    QRect cropInView() const { return toView(m_edits.crop).toRect(); }
-    static QSize leastCropSize(const QSize &picture);
+    void setOverlay(Overlay overlay, const RectRules &rules);
+    Overlay overlay() const { return m_overlay; }
+    bool isRectPressed() const { return m_press == Press::Rect; }
+
+    // Device pixels for one pixel of the picture.
+    double scale() const;
+    void fit(); // also after each change of the widget's size
+    void setScale(double scale); // about the middle
+    void zoom(double factor, const QPointF &pos); // the picture stays under the position
+    QRectF toView(const QRectF &rect) const;
+    QPointF toPicture(const QPointF &pos) const;
+    // The rectangle of the overlay, in picture pixels.
+    QRect rectOf(Overlay overlay) const;
+    QRectF rectInView() const { return toView(rectOf(m_overlay)); }
 
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    void cropPressed();
-    void cropDragged(const QRect &crop);
+    void rectPressed();
+    void rectDragged(const QRect &rect);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    QRect pictureArea() const;
-    QRectF toView(const QRect &rect) const;
-    bool isCropAt(const QPoint &pos, Qt::Edges *edges) const;
-    QRect draggedCrop(const QPoint &pos) const;
-    void paintCrop(QPainter &painter);
-    void paintMask(QPainter &painter);
-    void paintLayer(QPainter &painter);
+    enum class Press { None, Rect, Picture };
 
-    QImage m_picture;
-    QImage m_reduced; // what the preview is made of
-    // Both in the size of pictureArea(), in device pixels, and made when painted.
-    QImage m_preview;
-    QImage m_shown; // the preview with the adjustment
-    QImage m_layerPicture;
+    double fittingScale() const;
+    QRectF pictureArea() const;
+    bool isRectAt(const QPoint &pos) const;
+    void moveRect(const QRect &from, const QPoint &by);
+    void updateCursor(const QPoint &pos);
+    void paintPicture(QPainter &painter);
+    void paintOverlay(QPainter &painter);
+    void paintHandles(QPainter &painter, const QRectF &rect);
+
+    Composition m_composition;
+    QImage m_shown; // what was painted last, with its part and scale; null: is painted anew
+    QRect m_shownPart;
+    double m_shownScale = 0;
     Edits m_edits;
     Overlay m_overlay = Overlay::None;
-    bool m_isCropSizeLocked = false;
-    bool m_isCropPressed = false;
-    QPoint m_dragStart; // where the pointer was pressed, in view pixels
-    QRect m_dragCrop; // the crop at that moment
-    Qt::Edges m_dragEdges; // those that follow the pointer; all, if none
+    RectRules m_rules;
+
+    bool m_isFitted = true;
+    double m_scale = 1; // if it is not fitted
+    QPointF m_centre; // what is shown in the middle, in picture pixels
+
+    Press m_press = Press::None;
+    QPoint m_pressPos; // in view pixels
+    QRect m_pressRect; // the rectangle at that moment
+    QPointF m_pressCentre;
+    Qt::Edges m_edges; // those that were taken hold of last; none: the whole
 };

@@ -7,6 +7,9 @@
 
 namespace {
 
+const auto positionLock = QStringLiteral("toolButtonLockPosition");
+const auto sizeLock = QStringLiteral("toolButtonLockSize");
+
 // A lock goes by the rectangle at which it was switched on.
 void lockAnew(const QWidget &editor, const QString &lockName)
 {
@@ -19,11 +22,25 @@ void lockAnew(const QWidget &editor, const QString &lockName)
 
 } // namespace
 
+RectPage::RectPage(const QString &title, PictureView::Overlay overlay, PictureView *view,
+                   EditHistory *history, LogPane *log)
+    : Page(title, history, log), m_overlay(overlay), m_view(view)
+{
+    connect(view, &PictureView::rectPressed, this,
+            [this, view] { m_history->begin([view] { return view->isRectPressed(); }); });
+    connect(view, &PictureView::rectDragged, this, [this](const QRect &rect) {
+        if (m_view->overlay() == m_overlay) {
+            takeDragged(rect);
+        }
+    });
+}
+
 void RectPage::setUp(Rect *editor, const QString &name, const QStringList &labels)
 {
     const Rect::Type fields[] = {Rect::X, Rect::Y, Rect::Width, Rect::Height};
     for (int i = 0; i < labels.size(); ++i) {
         editor->setLabelText(fields[i], labels.at(i));
+        editor->setSingleStep(fields[i], step);
         editor->setPageStep(fields[i], 40);
     }
     editor->setVerticalSpacing(controlSpacing);
@@ -40,6 +57,29 @@ void RectPage::setUp(Rect *editor, const QString &name, const QStringList &label
     connect(editor, &Rect::valueChanged, m_log, receiver("valueChanged"));
     connect(editor, &Rect::sizeLockChanged, m_log, receiver("sizeLockChanged"));
     connect(editor, &Rect::PositionLockChanged, m_log, receiver("PositionLockChanged"));
+
+    const auto followLock = [this] {
+        if (m_view->overlay() == m_overlay) {
+            m_view->setOverlay(m_overlay, rules(m_view->pictureSize()));
+        }
+    };
+    connect(editor, &Rect::sizeLockChanged, this, followLock);
+    connect(editor, &Rect::PositionLockChanged, this, followLock);
+}
+
+RectRules RectPage::rulesOf(Rect *editor, const QSize &area)
+{
+    RectRules rules;
+    int least = 0; // of a position: it begins at 0 on each page
+    editor->range(Rect::X, least, rules.lastCorner.rx());
+    editor->range(Rect::Y, least, rules.lastCorner.ry());
+    editor->range(Rect::Width, rules.least.rwidth(), rules.most.rwidth());
+    editor->range(Rect::Height, rules.least.rheight(), rules.most.rheight());
+    rules.area = area;
+    rules.step = step;
+    rules.isPositionLocked = editor->findChild<QToolButton *>(positionLock)->isChecked();
+    rules.isSizeLocked = editor->findChild<QToolButton *>(sizeLock)->isChecked();
+    return rules;
 }
 
 void RectPage::showRect(Rect *editor, const std::function<void()> &set)
@@ -54,9 +94,9 @@ void RectPage::showRect(Rect *editor, const std::function<void()> &set)
     }
     const QSignalBlocker blocker(editor); // toggling a lock is reported
     if (before.topLeft() != after.topLeft()) {
-        lockAnew(*editor, QStringLiteral("toolButtonLockPosition"));
+        lockAnew(*editor, positionLock);
     }
     if (before.size() != after.size()) {
-        lockAnew(*editor, QStringLiteral("toolButtonLockSize"));
+        lockAnew(*editor, sizeLock);
     }
 }

@@ -6,23 +6,40 @@
 
 #include <functional>
 
-// What the pages with a rectangle editor share: the labels, the steps and the
-// log of the signals that all rectangle editors have.
+// What the pages with a rectangle editor share: the labels, the steps, the log of the
+// signals that all rectangle editors have, and the rectangle that is dragged in the
+// picture.
 class RectPage : public Page
 {
     Q_OBJECT
 
+public:
+    PictureView::Overlay overlay() const override { return m_overlay; }
+
 protected:
     using Rect = Vantor::Widgets::RectEditFrame;
 
-    using Page::Page;
+    RectPage(const QString &title, PictureView::Overlay overlay, PictureView *view,
+             EditHistory *history, LogPane *log);
+
+    // The user has moved or resized the rectangle in the picture.
+    virtual void takeDragged(const QRect &rect) = 0;
 
     // The labels are those of x, y, width and height, in this order.
     void setUp(Rect *editor, const QString &name, const QStringList &labels);
+
+    // Those of an editor whose fields are the position and the size of the rectangle.
+    static RectRules rulesOf(Rect *editor, const QSize &area);
 
     // Around the setting of a rectangle that the user has not set in the editor
     // itself. Otherwise the next change would be held by an edge that the rectangle
     // no longer touches, and a lock that is on would pull the partner to where the
     // rectangle was when it was switched on.
     static void showRect(Rect *editor, const std::function<void()> &set);
+
+    static constexpr int step = 1;
+
+private:
+    const PictureView::Overlay m_overlay;
+    PictureView *const m_view;
 };

@@ -1,5 +1,7 @@
+#include "editortour.h"
 #include "logpane.h"
 #include "mainwindow.h"
+#include "picturetour.h"
 #include "scripteduser.h"
 #include "shots.h"
 #include "theme.h"
@@ -35,7 +37,9 @@ int main(int argc, char *argv[])
         MainWindow window;
         window.log()->setEcho(true);
         window.show();
-        ScriptedUser(window).play();
+        ScriptedUser user(window);
+        tourEditors(user);
+        tourPictures(user);
     }
     if (!parser.isSet(shotsOption)) {
         return 0;

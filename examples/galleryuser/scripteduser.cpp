@@ -7,130 +7,26 @@
 #include "pictureview.h"
 #include "userevents.h"
 
+#include <QtCore/QTimer>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSlider>
 
+#include <QAction> // of QtWidgets or, with Qt 6, of QtGui
+
 ScriptedUser::ScriptedUser(MainWindow &window) : m_window(window) { }
 
-void ScriptedUser::play()
+PictureView *ScriptedUser::view() const
 {
-    playAdjust();
-    playCrop();
-    playMaskAndLayout();
-    playColour();
-    playNumberPad();
-    playUndo();
-}
-
-void ScriptedUser::playAdjust()
-{
-    showPage(QStringLiteral("Adjust"));
-    drag(QStringLiteral("Continuous"), 40);
-    drag(QStringLiteral("On release"), -20);
-    drag(QStringLiteral("Every 100 ms"), 30);
-    click(QStringLiteral("Contrast"), "sliderEditPlus");
-    click(QStringLiteral("Contrast"), "sliderEditPlus");
-    click(QStringLiteral("Contrast"), "sliderEditSubtract");
-    type(QStringLiteral("Contrast"), QStringLiteral("12*3\n"));
-    type(QStringLiteral("Contrast"), QStringLiteral("1/0\n"));
-    type(QStringLiteral("Gamma"), QStringLiteral("(1+4)/4\n"));
-    type(QStringLiteral("Saturation"), QStringLiteral("7/5="));
-    drag(QStringLiteral("Black level"), 0);
-}
-
-void ScriptedUser::playCrop()
-{
-    const QString width = QStringLiteral("Width");
-    showPage(QStringLiteral("Crop"));
-    type(width, QStringLiteral("12*3\n"));
-    type(width, QStringLiteral("900\n"));
-    click("toolButtonLockSize");
-    say(QStringLiteral("drags the width against the edge of the picture, proportion locked"));
-    drag(width, slider(width)->maximum());
-    click("toolButtonLockSize");
-    click("toolButtonLockPosition");
-    drag(QStringLiteral("X"), 300);
-    click("toolButtonLockPosition");
-
-    say(QStringLiteral("drags the rectangle in the picture, which sets the editor silently"));
-    PictureView *view = m_window.view();
-    const QString x = fieldText(QStringLiteral("X"));
-    drag(view, view->rect().center(), view->rect().center() + QPoint(-60, -40));
-    expect(fieldText(QStringLiteral("X")) != x, "the editor shows where the crop was dragged to");
-}
-
-void ScriptedUser::playMaskAndLayout()
-{
-    showPage(QStringLiteral("Mask"));
-    type(QStringLiteral("Bottom"), QStringLiteral("1000\n"));
-    type(QStringLiteral("Top"), QStringLiteral("100\n"));
-    type(QStringLiteral("Bottom"), QStringLiteral("120\n"));
-    click(QStringLiteral("Left"), "sliderEditPlus");
-
-    showPage(QStringLiteral("Layout"));
-    click("toolButtonLockSize");
-    drag(QStringLiteral("Width"), 700);
-    click("toolButtonLockSize");
-    click(QStringLiteral("X"), "sliderEditSubtract");
-}
-
-void ScriptedUser::playColour()
-{
-    showPage(QStringLiteral("Colour"));
-    drag(QStringLiteral("Red"), 120);
-    click(QStringLiteral("Master"), "sliderEditSubtract");
-    type(QStringLiteral("Opacity"), QStringLiteral("60/4\n"));
-    turnWheelOver(QStringLiteral("Green"));
-}
-
-void ScriptedUser::playNumberPad()
-{
-    NumberPad *pad = m_window.numberPad();
-    showPage(QStringLiteral("Adjust"));
-    pad->setEnabledByFocus(true);
-    clickInto(QStringLiteral("Contrast"));
-    say(QStringLiteral("taps 7 * 6 and Enter on the number pad"));
-    for (const char *key : {"7", "*", "6", "⏎"}) {
-        click(pad->button(QString::fromUtf8(key)));
-    }
-    expect(!pad->isVisible(), "Enter closes the pad");
-    expect(fieldText(QStringLiteral("Contrast")) == QLatin1String("42"), "the pad's taps count");
-    pad->setEnabledByFocus(false);
-}
-
-// Each way to change something is one step back and one forth, on every page.
-void ScriptedUser::playUndo()
-{
-    const QString contrast = QStringLiteral("Contrast");
-    const QString gamma = QStringLiteral("Gamma");
-    showPage(QStringLiteral("Adjust"));
-    undoAndRedo(contrast, [&] { drag(contrast, -80); });
-    undoAndRedo(contrast, [&] { type(contrast, QStringLiteral("10+5\n")); });
-    undoAndRedo(gamma, [&] { hold(gamma, "sliderEditPlus"); });
-    undoAndRedo(gamma, [&] { drag(gamma, 300); });
-
-    const QString x = QStringLiteral("X");
-    showPage(QStringLiteral("Crop"));
-    undoAndRedo(x, [&] { drag(x, 100); });
-    undoAndRedo(QStringLiteral("Width"), [&] {
-        say(QStringLiteral("drags the crop's right edge in the picture"));
-        const QRect crop = m_window.view()->cropInView();
-        const QPoint edge(crop.right(), crop.center().y());
-        drag(m_window.view(), edge, edge - QPoint(40, 0));
-    });
-    for (const QString &page : {QStringLiteral("Layout"), QStringLiteral("Mask")}) {
-        const QString row = page == QLatin1String("Mask") ? QStringLiteral("Left") : x;
-        showPage(page);
-        undoAndRedo(row, [&] { drag(row, 300); });
-    }
-    showPage(QStringLiteral("Colour"));
-    undoAndRedo(QStringLiteral("Opacity"), [&] { drag(QStringLiteral("Opacity"), 40); });
+    return m_window.view();
 }
 
 void ScriptedUser::showPage(const QString &title)
@@ -156,6 +52,65 @@ void ScriptedUser::drag(const QString &row, int sliderPosition)
     });
     User::dropHandle(handleOwner);
     QApplication::processEvents();
+}
+
+void ScriptedUser::choose(const QString &menuEntry)
+{
+    say(QStringLiteral("chooses %1").arg(menuEntry));
+    const auto actions = m_window.menuBar()->findChildren<QAction *>();
+    for (QAction *action : actions) {
+        if (action->text().remove(QLatin1Char('&')) == menuEntry) {
+            action->trigger();
+            QApplication::processEvents();
+            return;
+        }
+    }
+    qFatal("The menus have no entry %s.", qPrintable(menuEntry));
+}
+
+void ScriptedUser::inDialog(const std::function<bool(QWidget *)> &work,
+                            const std::function<void()> &open)
+{
+    bool isWorked = false;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        isWorked = dialog && work(dialog);
+        if (isWorked) {
+            timer.stop();
+        }
+    });
+    timer.start(10);
+    open();
+    expect(isWorked, "the dialog opens");
+    m_window.activateWindow(); // as a window system does when a dialog is closed
+    QApplication::processEvents();
+}
+
+void ScriptedUser::answer(int button, const std::function<void()> &open)
+{
+    const auto work = [this, button](QWidget *dialog) {
+        auto *box = qobject_cast<QMessageBox *>(dialog);
+        if (box) {
+            say(QStringLiteral("is asked: %1").arg(box->text()));
+            User::click(box->button(static_cast<QMessageBox::StandardButton>(button)));
+        }
+        return box != nullptr;
+    };
+    inDialog(work, open);
+}
+
+void ScriptedUser::takeFile(const QString &path, const std::function<void()> &open)
+{
+    const auto work = [path](QWidget *dialog) {
+        auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        if (name) {
+            name->setText(path);
+            QTest::keyClick(name, Qt::Key_Return);
+        }
+        return name != nullptr;
+    };
+    inDialog(work, open);
 }
 
 void ScriptedUser::undoAndRedo(const QString &row, const std::function<void()> &change)

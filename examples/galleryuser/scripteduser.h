@@ -6,11 +6,11 @@
 #include <functional>
 
 class MainWindow;
-class QPushButton;
+class PictureView;
 class QSlider;
 
-// Works the window by pointer, keys and wheel, as a person would. Rows are named by their labels on
-// the page that is shown.
+// Works the window by pointer, keys and wheel, as a person would. Rows are named by their
+// labels on the page that is shown. What it does and what comes of it is in the log.
 class ScriptedUser : public QObject
 {
     Q_OBJECT
@@ -18,37 +18,39 @@ class ScriptedUser : public QObject
 public:
     explicit ScriptedUser(MainWindow &window);
 
-    // A tour of every page; what it does and what comes of it is in the log. The
-    // program ends where something comes out otherwise than the user expects.
-    void play();
-
-    void showPage(const QString &title);
+    MainWindow &window() const { return m_window; }
+    PictureView *view() const;
     QWidget *row(const QString &label) const;
-    void drag(const QString &row, int sliderPosition);
-    void click(const QString &row, const char *button);
-    void click(const char *lockButton);
-    void clickInto(const QString &row);
-    void type(const QString &row, const QString &text);
-    void click(QWidget *widget);
-    void moveAway(); // from the editors, so that none is drawn as hovered
-
-private:
-    void playAdjust();
-    void playCrop();
-    void playMaskAndLayout();
-    void playColour();
-    void playNumberPad();
-    void playUndo();
-
     QSlider *slider(const QString &row) const;
     QString fieldText(const QString &row) const;
-    static void expect(bool isSo, const char *what);
+
     void say(const QString &what) const;
+    // Ends the program where it is otherwise.
+    static void expect(bool isSo, const char *what);
+    // That the change is one step back and one forth, as the row's field shows it.
     void undoAndRedo(const QString &row, const std::function<void()> &change);
-    void hold(const QString &row, const char *button);
+
+    void showPage(const QString &title);
+    void drag(const QString &row, int sliderPosition);
     void drag(QWidget *widget, const QPoint &from, const QPoint &to);
-    static void move(const std::function<void(int)> &moveTo); // in steps from 1 to dragMoves
+    void click(const QString &row, const char *button);
+    void click(const char *lockButton);
+    void click(QWidget *widget);
+    void hold(const QString &row, const char *button);
+    void clickInto(const QString &row);
+    void type(const QString &row, const QString &text);
     void turnWheelOver(const QString &row);
+    void moveAway(); // from the editors, so that none is drawn as hovered
+
+    void choose(const QString &menuEntry);
+    // What opens a dialog comes last: it returns when the dialog is closed. The work says
+    // whether that was its dialog.
+    void answer(int button, const std::function<void()> &open);
+    void takeFile(const QString &path, const std::function<void()> &open);
+    void inDialog(const std::function<bool(QWidget *)> &work, const std::function<void()> &open);
+
+private:
+    static void move(const std::function<void(int)> &moveTo); // in steps from 1 to dragMoves
 
     static constexpr int dragMoves = 6;
 

@@ -39,6 +39,11 @@ public:
         ScriptedUser user(m_window);
         for (const Page *page : m_window.pages()) {
             user.showPage(page->title());
+            if (page->title() == QLatin1String("Mask")) {
+                for (const char *row : {"Top", "Bottom", "Left", "Right"}) {
+                    user.type(QLatin1String(row), QStringLiteral("120\n"));
+                }
+            }
             QWidget *plus = page->findChild<QWidget *>(QStringLiteral("sliderEditPlus"));
             user.click(plus);
             user.click(page->findChild<QWidget *>(QStringLiteral("sliderEditSubtract")));
@@ -47,6 +52,11 @@ public:
             user.moveAway();
             QApplication::processEvents();
             save(m_window.grab(), page->title().toLower() + suffix);
+            // On the other pages the picture has neither mask nor layer.
+            if (page->title() == QLatin1String("Mask")
+                || page->title() == QLatin1String("Layout")) {
+                user.choose(QStringLiteral("Reset page"));
+            }
         }
     }
 
@@ -153,6 +163,9 @@ bool takeShots(MainWindow &window, const QString &folder)
     user.type(QStringLiteral("Saturation"), QStringLiteral("6/5="));
     user.showPage(QStringLiteral("Crop"));
     user.type(QStringLiteral("Width"), QStringLiteral("12*75\n"));
+    user.type(QStringLiteral("Height"), QStringLiteral("540\n"));
+    user.type(QStringLiteral("X"), QStringLiteral("384\n"));
+    user.type(QStringLiteral("Y"), QStringLiteral("216\n"));
     user.click("toolButtonLockPosition");
 
     Camera camera(window, folder);

@@ -215,6 +215,10 @@ def main():
             check_focusable(page)
             check_names(children, row_names)
             rows = rows_of(children)
+            if name == "Crop":
+                # It is the whole picture at first, which can't be moved.
+                for row in rows[2:]:
+                    check_change(rows, heard, row, row[3], -1)
             for row in rows:
                 _, slider, _, minus, plus = row
                 step = STEPS.get(row[0].name, 1)

@@ -1,0 +1,130 @@
+#include "editortour.h"
+
+#include "mainwindow.h"
+#include "numberpad.h"
+#include "pictureview.h"
+#include "scripteduser.h"
+
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QSlider>
+
+namespace {
+
+void playAdjust(ScriptedUser &user)
+{
+    user.showPage(QStringLiteral("Adjust"));
+    user.drag(QStringLiteral("Continuous"), 40);
+    user.drag(QStringLiteral("On release"), -20);
+    user.drag(QStringLiteral("Every 100 ms"), 30);
+    user.click(QStringLiteral("Contrast"), "sliderEditPlus");
+    user.click(QStringLiteral("Contrast"), "sliderEditPlus");
+    user.click(QStringLiteral("Contrast"), "sliderEditSubtract");
+    user.type(QStringLiteral("Contrast"), QStringLiteral("12*3\n"));
+    user.type(QStringLiteral("Contrast"), QStringLiteral("1/0\n"));
+    user.type(QStringLiteral("Gamma"), QStringLiteral("(1+4)/4\n"));
+    user.type(QStringLiteral("Saturation"), QStringLiteral("7/5="));
+    user.drag(QStringLiteral("Black level"), 0);
+}
+
+void playCrop(ScriptedUser &user)
+{
+    const QString width = QStringLiteral("Width");
+    user.showPage(QStringLiteral("Crop"));
+    user.type(width, QStringLiteral("12*3\n"));
+    user.type(width, QStringLiteral("900\n"));
+    user.click("toolButtonLockSize");
+    user.say(QStringLiteral("drags the width against the edge of the picture, proportion locked"));
+    user.drag(width, user.slider(width)->maximum());
+    user.click("toolButtonLockSize");
+    user.click("toolButtonLockPosition");
+    user.drag(QStringLiteral("X"), 300);
+    user.click("toolButtonLockPosition");
+
+    user.say(QStringLiteral("drags the rectangle in the picture, which sets the editor silently"));
+    PictureView *view = user.window().view();
+    const QString x = user.fieldText(QStringLiteral("X"));
+    user.drag(view, view->rect().center(), view->rect().center() + QPoint(-60, -40));
+    ScriptedUser::expect(user.fieldText(QStringLiteral("X")) != x,
+                         "the editor shows where the crop was dragged to");
+}
+
+void playMaskAndLayout(ScriptedUser &user)
+{
+    user.showPage(QStringLiteral("Mask"));
+    user.type(QStringLiteral("Bottom"), QStringLiteral("1000\n"));
+    user.type(QStringLiteral("Top"), QStringLiteral("100\n"));
+    user.type(QStringLiteral("Bottom"), QStringLiteral("120\n"));
+    user.click(QStringLiteral("Left"), "sliderEditPlus");
+
+    user.showPage(QStringLiteral("Layout"));
+    user.click("toolButtonLockSize");
+    user.drag(QStringLiteral("Width"), 700);
+    user.click("toolButtonLockSize");
+    user.click(QStringLiteral("X"), "sliderEditSubtract");
+}
+
+void playColour(ScriptedUser &user)
+{
+    user.showPage(QStringLiteral("Colour"));
+    user.drag(QStringLiteral("Red"), 120);
+    user.click(QStringLiteral("Master"), "sliderEditSubtract");
+    user.type(QStringLiteral("Opacity"), QStringLiteral("60/4\n"));
+    user.turnWheelOver(QStringLiteral("Green"));
+}
+
+void playNumberPad(ScriptedUser &user)
+{
+    NumberPad *pad = user.window().numberPad();
+    user.showPage(QStringLiteral("Adjust"));
+    pad->setEnabledByFocus(true);
+    user.clickInto(QStringLiteral("Contrast"));
+    user.say(QStringLiteral("taps 7 * 6 and Enter on the number pad"));
+    for (const char *key : {"7", "*", "6", "⏎"}) {
+        user.click(pad->button(QString::fromUtf8(key)));
+    }
+    ScriptedUser::expect(!pad->isVisible(), "Enter closes the pad");
+    ScriptedUser::expect(user.fieldText(QStringLiteral("Contrast")) == QLatin1String("42"),
+                         "the pad's taps count");
+    pad->setEnabledByFocus(false);
+}
+
+// Each way to change something is one step back and one forth, on every page.
+void playUndo(ScriptedUser &user)
+{
+    const QString contrast = QStringLiteral("Contrast");
+    const QString gamma = QStringLiteral("Gamma");
+    user.showPage(QStringLiteral("Adjust"));
+    user.undoAndRedo(contrast, [&] { user.drag(contrast, -80); });
+    user.undoAndRedo(contrast, [&] { user.type(contrast, QStringLiteral("10+5\n")); });
+    user.undoAndRedo(gamma, [&] { user.hold(gamma, "sliderEditPlus"); });
+    user.undoAndRedo(gamma, [&] { user.drag(gamma, 300); });
+
+    const QString x = QStringLiteral("X");
+    user.showPage(QStringLiteral("Crop"));
+    user.undoAndRedo(x, [&] { user.drag(x, 100); });
+    user.undoAndRedo(QStringLiteral("Width"), [&] {
+        user.say(QStringLiteral("drags the crop's right edge in the picture"));
+        const QRect crop = user.window().view()->rectInView().toRect();
+        const QPoint edge(crop.right(), crop.center().y());
+        user.drag(user.window().view(), edge, edge - QPoint(40, 0));
+    });
+    for (const QString &page : {QStringLiteral("Layout"), QStringLiteral("Mask")}) {
+        const QString row = page == QLatin1String("Mask") ? QStringLiteral("Left") : x;
+        user.showPage(page);
+        user.undoAndRedo(row, [&] { user.drag(row, 300); });
+    }
+    user.showPage(QStringLiteral("Colour"));
+    user.undoAndRedo(QStringLiteral("Opacity"), [&] { user.drag(QStringLiteral("Opacity"), 40); });
+}
+
+} // namespace
+
+void tourEditors(ScriptedUser &user)
+{
+    playAdjust(user);
+    playCrop(user);
+    playMaskAndLayout(user);
+    playColour(user);
+    playNumberPad(user);
+    playUndo(user);
+}
