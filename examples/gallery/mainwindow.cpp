@@ -26,6 +26,8 @@
 
 #include <QActionGroup> // of QtWidgets or, with Qt 6, of QtGui
 
+#include <utility>
+
 namespace {
 
 // What is being typed counts: a shortcut leaves the focus where it is.
@@ -122,7 +124,7 @@ void MainWindow::createPages()
     m_pages = {new AdjustPage(m_history, m_log), new CropPage(m_view, m_history, m_log),
                new MaskPage(m_view, m_history, m_log), new LayoutPage(m_view, m_history, m_log),
                new ColourPage(m_history, m_log)};
-    for (Page *page : qAsConst(m_pages)) {
+    for (Page *page : std::as_const(m_pages)) {
         m_stack->addWidget(new PageScroller(page));
     }
 }
@@ -189,7 +191,7 @@ void MainWindow::setPicture(const QImage &picture, const QString &name)
 {
     m_view->setPicture(picture);
     Edits edits;
-    for (Page *page : qAsConst(m_pages)) {
+    for (Page *page : std::as_const(m_pages)) {
         page->startOn(picture.size());
         page->clear(edits, picture.size());
     }
