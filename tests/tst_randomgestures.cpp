@@ -155,7 +155,7 @@ template <typename Frame> void add(const QString &start, const QStringList &step
         for (int left = set > 0 ? set : 1000; left > 0 && !QTest::currentTestFailed(); left -= 50) {
             const QString done = Session<Frame>(start, steps, random).play(qMin(left, 50));
             if (QTest::currentTestFailed())
-                qInfo("%s", qPrintable(done));
+                QFAIL(qPrintable(done));
         }
     });
 }
