@@ -395,33 +395,6 @@ void comparePanels(std::vector<Figure> &figures)
         panel(QStringLiteral("with a style sheet of 200 rules"), 1.10, sheetOf200Rules()));
 }
 
-template <typename Editor> Nanoseconds buildRows(int rowCount)
-{
-    constexpr int rowsPerSample = 1000;
-    return timed(rowsPerSample, [rowCount] {
-        for (int i = 0; i < rowsPerSample / rowCount; ++i) {
-            const std::unique_ptr<QWidget> panel = buildPanel<Editor>(rowCount);
-            // A child that is deleted with events in the queue searches all of it.
-            QCoreApplication::sendPostedEvents();
-        }
-    });
-}
-
-// How much dearer a row is in a large panel than in one of ten: layouts and
-// queued events of Qt make it so, and the library may not add to that.
-Figure compareGrowth(int rowCount)
-{
-    const Comparison ours = compare(
-        rounds / 2, [rowCount] { return buildRows<SliderEditFrame>(rowCount); },
-        [] { return buildRows<SliderEditFrame>(10); });
-    const Comparison bare = compare(
-        rounds / 2, [rowCount] { return buildRows<BareRow>(rowCount); },
-        [] { return buildRows<BareRow>(10); });
-    return {QStringLiteral("Growth of the cost of a row from 10 to %1 rows").arg(rowCount),
-            QString::number(ours.ratio, 'f', 2), QString::number(bare.ratio, 'f', 2),
-            ours.ratio / bare.ratio, 1.10};
-}
-
 void discardMessages(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     Q_UNUSED(context)
@@ -456,7 +429,5 @@ int main(int argc, char *argv[])
     figures.push_back(compareEnter());
     compareDrags(figures);
     comparePanels(figures);
-    figures.push_back(compareGrowth(100));
-    figures.push_back(compareGrowth(1000));
     return printTable(figures) == 0 ? 0 : 1;
 }
