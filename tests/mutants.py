@@ -139,8 +139,13 @@ def main():
     parser.add_argument("--json", type=pathlib.Path, metavar="FILE", help="the results once more")
     arguments = parser.parse_intermixed_args()
     source = arguments.source
-    mutants = [mutant for mutant in read_mutants(source)
-               if not arguments.lines or mutant[0] in arguments.lines]
+    mutants = list(read_mutants(source))
+    for line in arguments.lines:
+        if line not in (mutant[0] for mutant in mutants):
+            sys.exit(f"mutants.txt:{line}: no fault stands in this line")
+    if arguments.lines:
+        mutants = [mutant for mutant in mutants if mutant[0] in arguments.lines]
+    print("== Building and testing without a fault", flush=True)
     # A test need not be linked anew where only the shared library is.
     subprocess.run(["cmake", "-S", ".", "-B", "build", "-G", "Ninja",
                     "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS=-O0 -g0",
