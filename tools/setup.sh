@@ -3,27 +3,6 @@
 
 set -euo pipefail
 
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-
-qt5_packages=(
-    libqt5svg5-dev qt5-qmake qtbase5-dev qtscript5-dev qttools5-dev qttools5-dev-tools
-)
-qt6_packages=(
-    libgl-dev qmake6 qt6-base-dev qt6-declarative-dev qt6-svg-dev qt6-tools-dev
-    qt6-tools-dev-tools
-)
-build_packages=(cmake fonts-dejavu-core g++ make ninja-build pkg-config)
-
-# With VANTORSLIDER_QT=6 a command works on the build for Qt 6, whose presets and
-# folders have this ending.
-if [ "${VANTORSLIDER_QT:-5}" = 6 ]; then
-    ending=-qt6
-    build_packages+=("${qt6_packages[@]}")
-else
-    ending=
-    build_packages+=("${qt5_packages[@]}")
-fi
-
 say() {
     printf '== %s\n' "$*"
 }
@@ -32,6 +11,32 @@ fail() {
     say "$@" >&2
     exit 1
 }
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+qt5_packages=(
+    libqt5svg5-dev qt5-qmake qtbase5-dev qtscript5-dev qttools5-dev qttools5-dev-tools
+)
+# The plug-in that reads the glyphs has a package of its own since Debian 13.
+qt6_packages=(
+    libgl-dev qmake6 qt6-base-dev qt6-declarative-dev qt6-svg-dev 'qt6-svg-plugins|libqt6svg6'
+    qt6-tools-dev qt6-tools-dev-tools
+)
+build_packages=(cmake fonts-dejavu-core g++ make ninja-build pkg-config)
+
+# With VANTORSLIDER_QT=6 a command works on the build for Qt 6, whose presets and
+# folders have this ending.
+case ${VANTORSLIDER_QT:-5} in
+5)
+    ending=
+    build_packages+=("${qt5_packages[@]}")
+    ;;
+6)
+    ending=-qt6
+    build_packages+=("${qt6_packages[@]}")
+    ;;
+*) fail "VANTORSLIDER_QT is $VANTORSLIDER_QT, and can be 5 or 6" ;;
+esac
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then
@@ -62,15 +67,28 @@ apt_install() {
         apt-get install -q --no-install-recommends "$@"
 }
 
+# Sets missing to those of the named Debian packages that are not installed, each
+# once. Of names joined by "|" the first counts that this Debian has, or the last.
+find_missing() {
+    local names name
+    missing=()
+    for names in "$@"; do
+        while [ "$names" != "${names#*|}" ] && [ -z "$(apt-cache show "${names%%|*}" 2>/dev/null)" ]; do
+            names=${names#*|}
+        done
+        name=${names%%|*}
+        if [ "$(dpkg-query -W -f='${db:Status-Status}' "$name" 2>/dev/null)" != installed ] \
+            && [[ " ${missing[*]} " != *" $name "* ]]; then
+            missing+=("$name")
+        fi
+    done
+}
+
 # Installs those of the named Debian packages that are missing, and says first
 # what that will take.
 need() {
-    local missing=() package plan count fetch disk
-    for package in "$@"; do
-        if [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" != installed ]; then
-            missing+=("$package")
-        fi
-    done
+    local missing plan count fetch disk
+    find_missing "$@"
     if [ ${#missing[@]} -eq 0 ]; then
         say "All packages are installed already: $*"
         return
@@ -81,6 +99,7 @@ need() {
         || fail "To install them, run this as root, or install sudo"
 
     quietly "Reading the lists of packages" as_root apt-get update
+    find_missing "$@" # by what the lists say now
     plan=$(apt_install --assume-no "${missing[@]}" 2>&1) || true
     count=$(sed -nE 's/.* ([0-9]+) newly installed.*/\1/p' <<<"$plan")
     fetch=$(sed -nE 's/^Need to get (.*) of archives.*/\1/p' <<<"$plan")
@@ -100,7 +119,8 @@ need() {
 
 # The commands that work on the last commit rather than on the files as they are.
 need_clone() {
-    [ -e "$root/.git" ] || fail "$root is no clone: this works on its last commit"
+    [ -e "$root/.git" ] || fail "$root is no clone, and this works on the last commit of one:" \
+        "run it in a clone (git clone), or make the folder one (git init, git add, git commit)"
 }
 
 # Writes the last commit as a tar archive, of a clone of another user's too.
