@@ -1,5 +1,6 @@
 #include "editoruser.h"
 #include "recteditframe.h"
+#include "rgbeditframe.h"
 
 #include <QtCore/QDir>
 
@@ -15,6 +16,7 @@ class tst_Styles : public QObject
 private Q_SLOTS:
     void initTestCase_data();
     void contrast();
+    void glyphs();
     void largeFont();
     void edges();
 };
@@ -75,6 +77,29 @@ void tst_Styles::contrast()
     while (matches.hasNext()) {
         const QStringList texts = matches.next().capturedTexts();
         QVERIFY2(texts.size() == 4 && contrastOf(texts[2], texts[3]) >= 4.5, qPrintable(texts[0]));
+    }
+}
+
+// Buttons and handles look otherwise than without the theme's pictures.
+void tst_Styles::glyphs()
+{
+    QFETCH_GLOBAL(QString, sheet);
+    for (QWidget *editor : QList<QWidget *> {new RectEditFrame, new RGBEditFrame}) {
+        EditorUser user(editor);
+        const QList<QWidget *> parts = editor->findChildren<QWidget *>(
+            QRegularExpression("^(slider|sliderEditSubtract|sliderEditPlus|toolButton.*)$"));
+        const auto pictures = [&user, &parts](const QString &sheet) {
+            user.page.setStyleSheet(sheet);
+            QList<QImage> images;
+            for (QWidget *part : parts)
+                images.append(part->grab().toImage());
+            return images;
+        };
+        const QList<QImage> themed = pictures(sheet);
+        const QList<QImage> blank =
+            pictures(QString(sheet).remove(QRegularExpression("image: [^;]+;")));
+        for (int i = 0; i < parts.size(); ++i)
+            QVERIFY2(themed[i] != blank[i], qPrintable(parts[i]->objectName()));
     }
 }
 

@@ -18,6 +18,9 @@ int main(int argc, char *argv[])
     parser.addPositionalArgument(QStringLiteral("picture"), QStringLiteral("The picture to open."),
                                  QStringLiteral("[picture]"));
     parser.process(app);
+    if (!Theme::hasGlyphs()) {
+        return 1;
+    }
 
     MainWindow window;
     const QStringList pictures = parser.positionalArguments();

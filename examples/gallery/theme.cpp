@@ -3,6 +3,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtGui/QIcon>
+#include <QtGui/QImageReader>
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyle>
@@ -109,6 +110,19 @@ void Theme::setUpApplication()
     QApplication::setStyle(QStringLiteral("Fusion"));
     // The sheets name their glyphs by this prefix; see the top of a sheet.
     QDir::addSearchPath(QStringLiteral("vantorslider"), QStringLiteral(":/styles"));
+}
+
+bool Theme::hasGlyphs()
+{
+    if (QImageReader::supportedImageFormats().contains("svg")) {
+        return true;
+    }
+    qCritical(
+        "Qt can't read SVG here, and buttons and handles would be blank: install its plug-in, "
+        "on Debian %s.",
+        QT_VERSION < QT_VERSION_CHECK(6, 0, 0) ? "libqt5svg5"
+                                               : "qt6-svg-plugins, or libqt6svg6 before Debian 13");
+    return false;
 }
 
 Theme::Theme(QObject *parent) : QObject(parent), m_font(QApplication::font()) { }

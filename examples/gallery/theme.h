@@ -25,6 +25,8 @@ public:
 
     // To be called before the application is made.
     static void setUpApplication();
+    // Where Qt can't read the glyphs it says what to install.
+    static bool hasGlyphs();
 
     explicit Theme(QObject *parent = nullptr);
     ~Theme() override;

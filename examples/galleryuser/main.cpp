@@ -32,6 +32,9 @@ int main(int argc, char *argv[])
         QStringLiteral("folder"));
     parser.addOption(shotsOption);
     parser.process(app);
+    if (!Theme::hasGlyphs()) {
+        return 1;
+    }
 
     {
         MainWindow window;
