@@ -1,6 +1,7 @@
 #include "recteditframe_p.h"
 
 #include <QtCore/QPointer>
+#include <QtCore/QSignalBlocker>
 
 namespace Vantor {
 namespace Widgets {
@@ -57,7 +58,19 @@ void RectEditFramePrivate::createConnects()
 // that run captures and reports, this one then captures anew.
 void RectEditFramePrivate::setSizeLock(bool bLock)
 {
-    ui->toolButtonLockSize->setChecked(bLock);
+    QToolButton *const button = ui->toolButtonLockSize;
+    if (button->isChecked() != bLock) {
+        const QPointer<RectEditFramePrivate> self(this);
+        {
+            // Qt goes on with the button after a signal of its own.
+            const QSignalBlocker blocker(button);
+            button->setChecked(bLock);
+        }
+        Q_EMIT button->toggled(bLock);
+        if (!self) {
+            return;
+        }
+    }
     m_isLockedSize = bLock;
     if (bLock) {
         m_lockedSize = QSize(ui->frameWidth->value(), ui->frameHeight->value());
