@@ -79,6 +79,25 @@ void tst_TypedEntries::whole_data()
     row("0 9999 10", "type 1,234 | up: 235 | elsewhere: finished finished", "235");
     row("0 100 0", "specialValueText off | click | elsewhere: finished finished", "off");
     row("0 100 7", "specialValueText off | enter 0: 0", "off");
+    // From its own menu the user comes back and goes on typing; the page's may read values.
+    row("0 100 50", "type 12* | menu 3 | selected: nothing | keys +1\t: finished 37 finished",
+        "37");
+    row("0 100 50", "type 12*2 | pageMenu: finished 24 finished | selected: all", "24");
+    // Only a correction ends the history of the field; without one the keys are the page's.
+    row("0 100 50",
+        "click | undo: page | redo: page | keys 12*3 | undo | redo | hide: 36 finished finished",
+        "36");
+    row("0 100 50",
+        "type 12*3 | undo | undo: page | redo | redo: page | keys \t: finished 36 finished", "36");
+    row("0 100 50", "type 12a | undo: page | hide: 12 finished finished", "12");
+    row("0 100 50", "type 12* | paste 07 | undo: page | keys \t: finished 84 finished", "84");
+    // What the program does to a pending entry: it drops or keeps it.
+    for (const QString drop : {"value 50", "singleStep 2"})
+        row("0 100 50", "type 12*3 | " + drop + " | undo: page", "50");
+    row("0 100 50", "type 12*3 | range 0 40 | elsewhere: finished 40 finished", "40");
+    row("0 100 50", "type 12*3 | range 0 90 | elsewhere: finished 36 finished", "36");
+    // At the end of the range there is no step, and the entry stays.
+    row("0 100 100", "type 5/1 | up | elsewhere: finished 5 finished", "5");
     // What was refused stays so until something else is typed, stepped or set.
     row("0 100 10", "type 2+=: finished finished left | refused: yes", "10");
     row("0 100 10", "click | paste while(1) | hide: finished finished | refused: yes", "10");
@@ -102,12 +121,19 @@ void tst_TypedEntries::fraction_data()
     row("0 10 1", "type 5/4 | up: 1.26 | elsewhere", "1.26");
     row("0 10 1", "type 5/4 | down: 1.24 | elsewhere", "1.24");
     row("0 10 1", "type 3/2 | hide: 1.5", "1.50");
+    for (const QString drop : {"value 1", "range 0 9", "singleStep 2", "decimals 2"})
+        row("0 10 1", "type 3/2 | " + drop, "1.00");
     row("0 9999 1.234 3", "enter 0/0", "1.234");
     row("0 9999 1.234 3", "click | paste 1,,2 | elsewhere", "1.234");
     row("0 1e7 1234567 2", "enter 1/0", "1234567.00"); // shown as 1.23457e+06
     row("0 99999 12345.67 2", "prefix $ | type 1/0\t", "$12345.67");
     row("0 10 1", "locale de_DE | enter 2.5: 2.5", "2.50");
-    row("0 9999999 1234567.891 3", "suffix mm | click | elsewhere", "1234567.891mm");
+    row("0 9999999 1234567.891 3", "suffix mm | click: 1234567.875 | elsewhere", "1234567.875mm");
+    row("0 99999999 16777217", "suffix mm | click: 16777216 | elsewhere", "16777216.00mm");
+    row("0 100 2.5", "suffix 5 | click: 2 | elsewhere", "2.005");
+    row("0 100 12.5", "prefix $ | suffix mm | click | elsewhere", "$12.50mm");
+    row("-5 100 -5", "specialValueText off | suffix mm | click | elsewhere", "off/-500");
+    row("0 100 10", "suffix mm | type 12* | menu 2 | selected: nothing | elsewhere: 24", "24.00mm");
     row("0 9999 2 4", "suffix mm | click | elsewhere", "2.0000mm");
     row("0 10 1", "suffix mm | type 3 | elsewhere: 3", "3.00mm");
     row("0 10 1", "suffix mm | type 3/2= | elsewhere: 1.5", "1.50mm");

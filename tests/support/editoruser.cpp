@@ -4,6 +4,12 @@
 #include "rgbeditframe.h"
 #include "rgbopacityeditframe.h"
 
+#include <QtGui/QClipboard>
+#include <QtWidgets/QMenu>
+
+#include <QAction> // of QtWidgets or, with Qt 6, of QtGui
+#include <QShortcut>
+
 #include <cmath>
 
 using namespace Vantor::Widgets;
@@ -38,12 +44,15 @@ Page::Page(EventLog &log) : m_log(log)
     setLayout(new QVBoxLayout);
     setFocusPolicy(Qt::StrongFocus);
     resize(1000, 100);
+    for (const QString key : {"Ctrl+Z", "Ctrl+Shift+Z"})
+        connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this,
+                [this] { m_log.add("page"); });
 }
 
 void Page::keyPressEvent(QKeyEvent *event)
 {
-    // Qt's field passes on the keys that paste.
-    if (event->modifiers() != Qt::ControlModifier)
+    // Qt's field passes on the keys that paste, undo and redo.
+    if ((event->modifiers() & Qt::ControlModifier) == 0 && event->key() != Qt::Key_Shift)
         m_log.add("key");
 }
 
@@ -94,6 +103,34 @@ void EditorUser::addGestures()
     on("enter", [](const Step &step) { step.row.type(step.text + '\n'); });
     on("keys", [](const Step &step) { User::type(step.text); });
     on("paste", [](const Step &step) { User::paste(step.text); });
+    on("undo", [](const Step &) { User::press(Qt::Key_Z, Qt::ControlModifier); });
+    on("redo",
+       [](const Step &) { User::press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); });
+    on("menu", [](const Step &step) {
+        QApplication::clipboard()->setText(step.text);
+        QTimer::singleShot(0, step.row.field, [] {
+            QCoreApplication::processEvents(); // the platform looks at the menu's window
+            QWidget *const menu = QApplication::activePopupWidget();
+            menu->close();
+            for (QAction *action : menu->actions()) {
+                if (action->text().contains("Paste"))
+                    action->trigger();
+            }
+        });
+        const QPoint center = step.row.spinBox->rect().center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, center,
+                                step.row.spinBox->mapToGlobal(center));
+        QApplication::sendEvent(step.row.spinBox, &event);
+    });
+    on("pageMenu", [this](const Step &) {
+        QMenu menu(&page);
+        menu.addAction("Save");
+        QTimer::singleShot(0, &menu, [&menu] {
+            QCoreApplication::processEvents();
+            menu.close();
+        });
+        menu.exec();
+    });
     on("up", [](const Step &) { User::press(Qt::Key_Up); });
     on("down", [](const Step &) { User::press(Qt::Key_Down); });
     on("right", [](const Step &) { User::press(Qt::Key_Right); });

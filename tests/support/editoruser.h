@@ -72,7 +72,7 @@ private:
 // What is heard: "20" is a row's report, "h(2)" a rectangle editor's signal of that
 // field, "(0,0,3,2)" any editor's valueChanged(), "too early" a row's report before its
 // slider stands there; "finished" and "left" are the messages of an entry, "page" and
-// "key" a turn of the wheel and a key that come to the page around the editor.
+// "key" a turn of the wheel or a shortcut, and a key that come to the page around the editor.
 //
 // What the user does:
 //   plus, minus, space      clicks a step button, presses plus by the space bar
@@ -83,6 +83,8 @@ private:
 //   type 12*3               clicks into the field and types; "\n" is Enter
 //   keys *2, paste 07       goes on where the focus is
 //   enter 12*3              types and presses Enter; its messages go without saying
+//   menu 07                 pastes by the field's own menu; pageMenu: opens one of the page
+//   undo, redo              presses their keys
 //   up, down, right         presses an arrow key
 //   wheel                   turns it over the slider, then over the field
 //   leave                   moves the pointer off the slider

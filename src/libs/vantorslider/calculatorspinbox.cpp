@@ -2,6 +2,7 @@
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QAbstractSpinBox>
+#include <QtWidgets/QStyle>
 
 namespace Vantor {
 namespace Widgets {
@@ -32,6 +33,20 @@ void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard)
     LocaleChangeFilter filter;
     spinBox->installEventFilter(&filter);
     spinBox->setLocale(QLocale::c());
+}
+
+// Style sheets need a polish to see a changed property.
+void markRefusedEntries(QAbstractSpinBox *spinBox, LineEditCal *calculator)
+{
+    const auto mark = [spinBox, calculator](bool isRefused) {
+        spinBox->setProperty("isEntryRefused", isRefused);
+        for (QWidget *widget :
+             {static_cast<QWidget *>(spinBox), static_cast<QWidget *>(calculator)}) {
+            widget->style()->unpolish(widget);
+            widget->style()->polish(widget);
+        }
+    };
+    QObject::connect(calculator, &LineEditCal::entryRefusedChanged, spinBox, mark);
 }
 
 bool isFinishingKey(const QKeyEvent *event)

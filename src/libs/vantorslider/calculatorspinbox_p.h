@@ -1,5 +1,6 @@
 #pragma once
 
+#include "fieldtext_p.h"
 #include "qlineeditcal.h"
 #include "saturation_p.h"
 
@@ -25,23 +26,14 @@ namespace Internal {
 // keyboard: the kind of on-screen keyboard that the host is to show.
 void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard);
 
+// Has the spin box say to style sheets that its entry was refused.
+void markRefusedEntries(QAbstractSpinBox *spinBox, LineEditCal *calculator);
+
 bool isFinishingKey(const QKeyEvent *event);
 
 // Undoes a host's change of locale: the calculator writes a decimal point in every
 // country, and a spin box that read it by a German locale would take 0.25 for 25.
 void keepDecimalPoint(QAbstractSpinBox *spinBox, const QEvent *event);
-
-// What stands between prefix and suffix.
-template <typename SpinBox> QString bareText(const SpinBox *spinBox, QString text)
-{
-    if (text.startsWith(spinBox->prefix())) {
-        text.remove(0, spinBox->prefix().length());
-    }
-    if (text.endsWith(spinBox->suffix())) {
-        text.chop(spinBox->suffix().length());
-    }
-    return text;
-}
 
 // The number that a bare text is; nothing for an expression. A comma is an operator,
 // where Qt would take it for one that groups digits; and Qt reads "inf" and "nan".
@@ -61,7 +53,7 @@ inline std::optional<double> numberIn(const QString &text)
 template <typename SpinBox>
 double numberFromText(const SpinBox *spinBox, const LineEditCal *calculator, const QString &text)
 {
-    const QString bare = bareText(spinBox, text);
+    const QString bare = FieldText(spinBox, text).entry;
     const std::optional<double> number = numberIn(bare);
     const double value = spinBox->value();
     const bool isRefused = calculator != nullptr && calculator->isEntryRefused();
@@ -85,7 +77,7 @@ template <typename SpinBox> Entry pendingEntry(const SpinBox *spinBox, const QSt
                       : spinBox->prefix() + valueText + spinBox->suffix())) {
         return Entry::None;
     }
-    if (!numberIn(bareText(spinBox, text))) {
+    if (!numberIn(FieldText(spinBox, text).entry)) {
         return Entry::Expression;
     }
     return spinBox->valueFromText(text) == spinBox->value() ? Entry::None : Entry::Number;

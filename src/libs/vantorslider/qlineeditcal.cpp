@@ -2,12 +2,12 @@
 
 #include "calculatorpatterns_p.h"
 #include "expressionevaluation_p.h"
+#include "fieldtext_p.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
-#include <QtWidgets/QDoubleSpinBox>
-#include <QtWidgets/QSpinBox>
-#include <QtWidgets/QStyle>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QApplication>
 
 #include <algorithm>
 #include <cmath>
@@ -16,6 +16,7 @@ namespace Vantor {
 namespace Widgets {
 
 using Internal::CalculatorPatterns;
+using Internal::FieldText;
 
 /*!
     \class LineEditCal
@@ -94,7 +95,7 @@ void LineEditCal::setSuffix(bool bSuffix)
 */
 void LineEditCal::setSlotEditingFinished()
 {
-    const QString entry = entryOf(text()).text;
+    const QString entry = FieldText(parent(), text()).entry;
     if (entry != beforeResult()) {
         setShowResult(entry);
     }
@@ -110,25 +111,30 @@ bool LineEditCal::isEntryRefused() const
     return m_isEntryRefused;
 }
 
-LineEditCal::Entry LineEditCal::entryOf(const QString &text) const
+bool LineEditCal::isLeftForOwnPopup(const QFocusEvent *event)
 {
-    Entry entry {{}, text, {}};
-    const auto strip = [&entry](const auto *spinBox) {
-        if (entry.text.startsWith(spinBox->prefix())) {
-            entry.prefix = spinBox->prefix();
-            entry.text.remove(0, entry.prefix.length());
-        }
-        if (entry.text.endsWith(spinBox->suffix())) {
-            entry.suffix = spinBox->suffix();
-            entry.text.chop(entry.suffix.length());
-        }
-    };
-    if (const auto *whole = qobject_cast<const QSpinBox *>(parent())) {
-        strip(whole);
-    } else if (const auto *fraction = qobject_cast<const QDoubleSpinBox *>(parent())) {
-        strip(fraction);
+    const QObject *owner =
+        event->reason() == Qt::PopupFocusReason ? QApplication::activePopupWidget() : nullptr;
+    while (owner != nullptr && owner != this && owner != parent()) {
+        owner = owner->parent();
     }
-    return entry;
+    m_isInOwnPopup = owner != nullptr;
+    return m_isInOwnPopup;
+}
+
+// A line edit takes the shortcuts of undo and redo from the host. With nothing to undo
+// or to redo in the field they are the host's.
+bool LineEditCal::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if ((key->matches(QKeySequence::Undo) && !isUndoAvailable())
+            || (key->matches(QKeySequence::Redo) && !isRedoAvailable())) {
+            event->ignore();
+            return false;
+        }
+    }
+    return QLineEdit::event(event);
 }
 
 /*!
@@ -137,29 +143,29 @@ LineEditCal::Entry LineEditCal::entryOf(const QString &text) const
 */
 void LineEditCal::onSlotTextChanged(QString text)
 {
-    const Entry entry = entryOf(text);
+    const FieldText shown(parent(), text);
     if (isModified()) {
         setEntryRefused(false); // the user may type the shown result once more
     }
-    if (entry.text == beforeResult()) {
+    if (shown.entry == beforeResult()) {
         return;
     }
     setEntryRefused(false);
-    if (entry.text.isEmpty()) {
+    if (shown.entry.isEmpty()) {
         m_beforeText.clear();
         return;
     }
-    m_cursorPosition = cursorPosition() - static_cast<int>(entry.prefix.length());
-    if (entry.text.endsWith(QLatin1Char('='))) {
+    m_cursorPosition = cursorPosition() - static_cast<int>(shown.prefix.length());
+    if (shown.entry.endsWith(QLatin1Char('='))) {
         const QPointer<LineEditCal> self(this);
-        setShowResult(entry.text.left(entry.text.length() - 1));
+        setShowResult(shown.entry.left(shown.entry.length() - 1));
         if (self) {
             Q_EMIT signalsResult();
         }
         return;
     }
     const QSignalBlocker blocker(this);
-    setTextFormat(entry.text);
+    setTextFormat(shown.entry);
 }
 
 // Only the character before the cursor is tested, so a paste that ends in an
@@ -281,7 +287,7 @@ void LineEditCal::setShowResult(const QString &strText)
     const std::optional<QString> result = Internal::evaluateExpression(strText);
     if (!result) {
         setEntryRefused(true);
-        setResultText(aroundEntry(beforeResult()));
+        setShownEntry(beforeResult());
         return;
     }
     // A text that is no number counts as 0, also where Qt reads a number that is not
@@ -298,32 +304,29 @@ void LineEditCal::setShowResult(const QString &strText)
     m_beforeResult = m_beforeText;
     m_isInitialResultPending = false;
     setEntryRefused(std::isnan(value));
-    setResultText(aroundEntry(m_beforeText));
+    setShownEntry(m_beforeText);
 }
 
-// The spin box around the field says so to style sheets, which need a polish to see
-// a changed property.
 void LineEditCal::setEntryRefused(bool isRefused)
 {
-    if (m_isEntryRefused == isRefused) {
-        return;
-    }
-    m_isEntryRefused = isRefused;
-    if (auto *spinBox = qobject_cast<QAbstractSpinBox *>(parent())) {
-        spinBox->setProperty("isEntryRefused", isRefused);
-        for (QWidget *widget : {static_cast<QWidget *>(spinBox), static_cast<QWidget *>(this)}) {
-            widget->style()->unpolish(widget);
-            widget->style()->polish(widget);
-        }
+    if (m_isEntryRefused != isRefused) {
+        m_isEntryRefused = isRefused;
+        Q_EMIT entryRefusedChanged(isRefused);
     }
 }
 
-// What the filtering pass leaves, with the cursor in it.
+// What the filtering pass leaves, with the cursor in it. Writing it would end the
+// history of the field, so only a correction is written.
 void LineEditCal::setEntryText(const QString &entry, int cursorPosition)
 {
-    const Entry shown = entryOf(text());
-    setResultText(shown.prefix + entry + shown.suffix);
-    setCursorPosition(static_cast<int>(shown.prefix.length()) + cursorPosition);
+    const FieldText shown(parent(), text());
+    if (entry != shown.entry) {
+        setResultText(shown.with(entry));
+    }
+    cursorPosition += static_cast<int>(shown.prefix.length());
+    if (cursorPosition != this->cursorPosition()) {
+        setCursorPosition(cursorPosition);
+    }
     m_beforeText = entry;
 }
 
@@ -332,11 +335,9 @@ void LineEditCal::setResultText(QString text)
     QLineEdit::setText(text);
 }
 
-// The text with another entry between prefix and suffix.
-QString LineEditCal::aroundEntry(const QString &entry) const
+void LineEditCal::setShownEntry(const QString &entry)
 {
-    const Entry shown = entryOf(text());
-    return shown.prefix + entry + shown.suffix;
+    setResultText(FieldText(parent(), text()).with(entry));
 }
 
 } // namespace Widgets

@@ -24,25 +24,23 @@ public:
     void setSuffix(bool bSuffix);
     void setSlotEditingFinished();
     bool isEntryRefused() const;
+    // To be asked when the spin box loses the focus: to a menu of the field's own, such
+    // as the one that pastes, from which the user comes back and goes on typing. True
+    // until the focus is lost to something else.
+    bool isLeftForOwnPopup(const QFocusEvent *event);
+    bool isInOwnPopup() const { return m_isInOwnPopup; }
+    bool event(QEvent *event) override;
     Internal::HostWindow &hostWindow() { return m_hostWindow; }
 
 Q_SIGNALS:
     void signalsResult();
+    void entryRefusedChanged(bool isRefused);
 
 protected Q_SLOTS:
     void onSlotTextChanged(QString text);
 
 private:
-    // What stands between prefix and suffix of the spin box around the field.
-    struct Entry
-    {
-        QString prefix;
-        QString text;
-        QString suffix;
-    };
-
-    Entry entryOf(const QString &text) const;
-    QString aroundEntry(const QString &entry) const;
+    void setShownEntry(const QString &entry);
     void setTextFormat(QString strText);
     void setExpressionFormat(QString strText);
     void setIntereptString(QString &strText, bool &bCursor);
@@ -74,6 +72,7 @@ private:
     float m_initialResult = 0.0F;
     bool m_isInitialResultPending = false;
     bool m_isEntryRefused = false;
+    bool m_isInOwnPopup = false;
     Internal::HostWindow m_hostWindow {this};
 };
 

@@ -14,6 +14,7 @@ SliderEditDoubleSpinBox::SliderEditDoubleSpinBox(QWidget *parent)
 {
     Internal::setUpCalculatorSpinBox(this, QStringLiteral("Vk_NumberFloat"));
     setLineEdit(m_pLineEditCal);
+    Internal::markRefusedEntries(this, m_pLineEditCal);
     connect(m_pLineEditCal, &LineEditCal::signalsResult, this,
             &SliderEditDoubleSpinBox::onSlotResultFinished);
 }
@@ -133,16 +134,15 @@ void SliderEditDoubleSpinBox::focusInEvent(QFocusEvent *event)
 {
     const QPointer<SliderEditDoubleSpinBox> self(this);
     if (m_btnFirstPress && !suffix().isEmpty()) {
-        const bool isPending =
-            Internal::pendingEntry(this, textFromValue(value())) != Internal::Entry::None;
-        QString number = text();
+        const bool isNumber = specialValueText().isEmpty() || text() != specialValueText();
+        QString number = Internal::FieldText(this, text()).entry;
+        number.remove(suffix()); // wherever it occurs
         m_strSuffix = suffix();
-        number.remove(m_strSuffix);
         setSuffix(QString());
         m_btnFirstPress = false;
-        // What the value says already would lose digits on the way through float.
-        if (isPending) {
-            setValue(static_cast<double>(number.toFloat()));
+        if (isNumber) {
+            setValue(static_cast<double>(
+                Internal::saturatedFloat(Internal::numberIn(number).value_or(0))));
         }
     }
     if (!self) {
@@ -157,6 +157,11 @@ void SliderEditDoubleSpinBox::focusInEvent(QFocusEvent *event)
 void SliderEditDoubleSpinBox::focusOutEvent(QFocusEvent *event)
 {
     if (Internal::isDroppedWithWindow(this, m_pLineEditCal)) {
+        return;
+    }
+    if (m_pLineEditCal != nullptr && m_pLineEditCal->isLeftForOwnPopup(event)) {
+        m_pLineEditCal->event(event);
+        QWidget::focusOutEvent(event);
         return;
     }
     const QPointer<SliderEditDoubleSpinBox> self(this);

@@ -13,6 +13,7 @@ SliderEditSpinBox::SliderEditSpinBox(QWidget *parent)
 {
     Internal::setUpCalculatorSpinBox(this, QStringLiteral("Vk_Number"));
     setLineEdit(m_pLineEditCal);
+    Internal::markRefusedEntries(this, m_pLineEditCal);
     connect(m_pLineEditCal, &LineEditCal::signalsResult, this,
             &SliderEditSpinBox::onSlotResultFinished);
 }
@@ -109,6 +110,11 @@ void SliderEditSpinBox::focusInEvent(QFocusEvent *event)
 void SliderEditSpinBox::focusOutEvent(QFocusEvent *event)
 {
     if (Internal::isDroppedWithWindow(this, m_pLineEditCal)) {
+        return;
+    }
+    if (m_pLineEditCal != nullptr && m_pLineEditCal->isLeftForOwnPopup(event)) {
+        m_pLineEditCal->event(event);
+        QWidget::focusOutEvent(event);
         return;
     }
     const QPointer<SliderEditSpinBox> self(this);

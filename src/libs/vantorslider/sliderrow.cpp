@@ -1,5 +1,6 @@
 #include "sliderrow_p.h"
 
+#include "qlineeditcal.h"
 #include "slidereditframe_p.h"
 
 #include <QtCore/QEvent>
@@ -119,6 +120,10 @@ void SliderRow::selectAllOnEntry(QWidget *frame, const QEvent *event) const
 {
     if (event->type() != QEvent::FocusIn && event->type() != QEvent::MouseButtonPress) {
         return;
+    }
+    const auto *calculator = spinBox->findChild<LineEditCal *>();
+    if (calculator != nullptr && calculator->isInOwnPopup()) {
+        return; // the user comes back from it and types on
     }
     QTimer::singleShot(0, Qt::PreciseTimer, frame, [field = spinBox] {
         if (field->isEnabled()) {
