@@ -162,7 +162,7 @@ void tst_AlignLabels::alignment()
 {
     Panel panel;
     rowsOf(*panel.gain)[0].label->setAlignment(Qt::AlignCenter);
-    User::show(panel.page);
+    QVERIFY(User::show(panel.page));
     const auto alignments = [&panel] {
         QCoreApplication::processEvents();
         QList<int> alignments;
@@ -184,7 +184,7 @@ void tst_AlignLabels::deletedPanel()
 {
     alignLabels(nullptr);
     auto *panel = new Panel;
-    User::show(panel->page);
+    QVERIFY(User::show(panel->page));
     alignLabels(panel->gain);
     panel->gain->setLabelText("Wider than all the others");
     panel->gamma->hide();

@@ -21,6 +21,10 @@ private Q_SLOTS:
     void order();
 };
 
+// A row is what the user types, and what the field shows then: "|" is the cursor, and a "="
+// behind the text stands for each result. "<" steps back, what stands in "[]" is pasted, "\n"
+// finishes. "{}" holds the decimals of a result and of an entry, the range, and what a
+// failing evaluation shows.
 void tst_LineEditCal::editing_data()
 {
     QTest::addColumn<QString>("script");
@@ -36,6 +40,7 @@ void tst_LineEditCal::editing_data()
     row("[1\xf0\x9f\x98\x80+2]<\xf0\x9f\x98\x81", "1\xf0\x9f\x98\x80+|2");
     row("[1\xf0\x9f\x98\x80+2]=", "8.5|=");
     row("0.1+1.259", "0.1+1.25|");
+    row(".259", ".25|");
     row("(1.25)*2.5.", "(1.25)*2.5|");
     row("*3<<07", "7|*3");
     row("1.25*3<<9", "1.25|*3");
@@ -75,9 +80,6 @@ void tst_LineEditCal::editing_data()
     }
 }
 
-// Types the script; "<" steps back, what stands in "[]" is pasted, "\n" finishes. In "{}"
-// stand decimals of a result and of an entry, the range and what a failing evaluation
-// shows. Shown is the cursor as "|" and behind the text a "=" for each result.
 void tst_LineEditCal::editing()
 {
     QFETCH(QString, script);
@@ -85,7 +87,7 @@ void tst_LineEditCal::editing()
     LineEditCal field;
     log.watch(&field, &LineEditCal::signalsResult, "result");
     field.setInitialResult(8.5F);
-    User::show(field);
+    QVERIFY(User::show(field));
     const QRegularExpression step("(?s)\\[.*?\\]|\\{.*?\\}|.");
     for (auto steps = step.globalMatch(script); steps.hasNext();) {
         const QString text = steps.next().captured();
@@ -154,7 +156,7 @@ void tst_LineEditCal::pasted()
     field.setMaxLength(2000000);
     field.setResultsRadixPointSeveral(3);
     field.setInitialResult(8.5F);
-    User::show(field);
+    QVERIFY(User::show(field));
     const std::clock_t start = std::clock(); // the machine's other work takes none of it
     field.setText(text + '=');
     const double ms = 1000.0 * double(std::clock() - start) / CLOCKS_PER_SEC
@@ -176,7 +178,7 @@ void tst_LineEditCal::order()
     LineEditCal field;
     log.watch(&field, &LineEditCal::signalsResult, "result");
     log.watch(&field, &QLineEdit::textChanged, "text");
-    User::show(field);
+    QVERIFY(User::show(field));
     User::type("07*2=");
     QCOMPARE(log.take().join(' '),
              QString("text(0) text(07) text(7*) text(7*2) text(14) result() text(7*2=)"));

@@ -238,6 +238,18 @@ void tst_Robustness::whileHeld_data()
         delete host;
         QCOMPARE(user.heard(), QString());
     });
+    addForBoth("the host's dialog goes", [](auto &user) {
+        struct HostDialog : QDialog
+        {
+        };
+        auto *const host = new HostDialog;
+        user.frame->setParent(host);
+        user.frame->show();
+        QVERIFY(User::show(*host));
+        user.play("released | hold 40");
+        delete host;
+        QCOMPARE(user.heard(), QString());
+    });
     // One click is one step.
     QTest::newRow("int, a report takes longer than a repetition") << TestCode([] {
         UserOf<SliderEditFrame> user;

@@ -235,6 +235,8 @@ void tst_SliderEditFrame::scale_data()
     add("half bound",
         "range 0 0.285 | bounds: 0..0.29 | ranges: 0..29 | maximum 0.285 | bounds: 0..0.29 | "
         "ranges: 0..28");
+    add("half bound, one decimal",
+        "decimals 1 | maximum 0.349999995 | bounds: 0..0.4 | ranges: 0..3");
     // The slider's step follows at the next decimals, and is never 0.
     add("single step",
         "range 0 1 | value 0.1 | groove after: 0.2 | singleStep 0.05 | right: 0.21 | decimals 2 | "

@@ -29,7 +29,7 @@ QString answer(const QString &typed, Qt::Key key, Settings... settings)
     log.watch(&box, &SpinBox::editingFinished, "editing");
     log.watch(&box, &SpinBox::enterFinished, "enter");
     log.watch(&box, QOverload<decltype(box.value())>::of(&SpinBox::valueChanged), "value");
-    User::show(page);
+    QVERIFY(User::show(page));
     box.setFocus();
     box.selectAll();
     User::type(typed);

@@ -81,7 +81,7 @@ EditorUser::EditorUser(QWidget *editor, double unit) : rows(rowsOf(*editor)), m_
     addIf(editor, &EditorUser::addRect);
     addIf(editor, &EditorUser::addCrop); // which is a rectangle, too
     addIf(editor, &EditorUser::addMask);
-    User::show(page);
+    QVERIFY(User::show(page));
     log.take(); // the platform's own messages
 }
 

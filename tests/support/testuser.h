@@ -11,7 +11,7 @@
 namespace User {
 
 // Shows the window and waits until it is active; false if it never is.
-bool show(QWidget &window);
+[[nodiscard]] bool show(QWidget &window);
 void paste(const QString &text);
 // A click on the groove before (false) or behind (true) the handle.
 void clickGroove(QSlider *slider, bool behind);
