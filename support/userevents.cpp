@@ -83,14 +83,19 @@ void User::click(QWidget *widget)
 
 void User::turnWheel(QWidget *widget, bool away)
 {
-    const QPoint pos = inWindow(widget, widget->rect().center());
-    const QPoint global = widget->window()->mapToGlobal(pos);
+    turnWheelAt(widget, widget->rect().center(), away);
+}
+
+void User::turnWheelAt(QWidget *widget, const QPoint &pos, bool away)
+{
+    const QPoint local = inWindow(widget, pos);
+    const QPoint global = widget->window()->mapToGlobal(local);
     const QPoint notch(0, (away ? 1 : -1) * QWheelEvent::DefaultDeltasPerStep);
 #if QT_VERSION >= QT_VERSION_CHECK(5, 12, 0)
-    QWheelEvent event(pos, global, QPoint(), notch, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
-                      false);
+    QWheelEvent event(local, global, QPoint(), notch, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
 #else
-    QWheelEvent event(pos, global, QPoint(), notch, notch.y(), Qt::Vertical, Qt::NoButton,
+    QWheelEvent event(local, global, QPoint(), notch, notch.y(), Qt::Vertical, Qt::NoButton,
                       Qt::NoModifier);
 #endif
     report(widget, &event);

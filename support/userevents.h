@@ -25,6 +25,7 @@ void releaseAt(QWidget *widget, const QPoint &pos);
 void click(QWidget *widget);
 // One notch, away from the user or towards, over the middle of the widget.
 void turnWheel(QWidget *widget, bool away = true);
+void turnWheelAt(QWidget *widget, const QPoint &pos, bool away = true);
 
 // Where the handle is when the slider stands at the position.
 QRect handleRect(const QSlider *slider, int position);

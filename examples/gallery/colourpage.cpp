@@ -4,6 +4,8 @@
 #include <rgbeditframe.h>
 #include <rgbopacityeditframe.h>
 
+#include <QtWidgets/QLabel>
+
 using Vantor::Widgets::RGBAllEditFrame;
 using Vantor::Widgets::RGBEditFrame;
 using Vantor::Widgets::RGBOpacityEditFrame;
@@ -88,7 +90,16 @@ void ColourPage::addLift()
 
 void ColourPage::addWash()
 {
-    addHeading(tr("Wash"), tr("A colour laid over the picture."));
+    // At an opacity of 0 the colour shows nowhere else.
+    auto *swatch = new QLabel;
+    swatch->setObjectName(QStringLiteral("swatch"));
+    swatch->setAccessibleName(tr("Colour of the wash"));
+    connect(m_history, &EditHistory::changed, swatch, [swatch](const Edits &edits) {
+        QPixmap colour(56, 32);
+        colour.fill(edits.colours.wash);
+        swatch->setPixmap(colour);
+    });
+    addHeading(tr("Wash"), tr("A colour laid over the picture."), swatch);
     auto *editor = addEditor<RGBOpacityEditFrame>();
     setUpChannels(editor, 0, 255);
     editor->setLabelText(RGBOpacityEditFrame::Opacity, tr("Opacity"));

@@ -77,8 +77,7 @@ MainWindow::MainWindow()
     auto *left = new QSplitter(Qt::Vertical);
     left->addWidget(m_view);
     left->addWidget(m_log);
-    left->setStretchFactor(0, 1);
-    left->setSizes({480, 280});
+    left->setSizes({600, 200}); // in this proportion in a small window, too
     left->setChildrenCollapsible(false);
 
     auto *halves = new QSplitter;
@@ -88,7 +87,8 @@ MainWindow::MainWindow()
     halves->setChildrenCollapsible(false);
     setCentralWidget(halves);
 
-    createMenus();
+    createFileAndEditMenus();
+    createViewMenu(panel);
     resize(1280, 800);
     showPage(0);
     setPicture(testCard(), tr("Test card"));
@@ -129,7 +129,7 @@ void MainWindow::createPages()
     }
 }
 
-void MainWindow::createMenus()
+void MainWindow::createFileAndEditMenus()
 {
     QMenu *file = menuBar()->addMenu(tr("&File"));
     file->addAction(tr("&Open…"), this, &MainWindow::chooseAndOpen)
@@ -153,14 +153,33 @@ void MainWindow::createMenus()
         reset({page}, tr("Reset %1").arg(page->title()));
     });
     edit->addAction(tr("Reset &all"), this, [this] { reset(m_pages, tr("Reset all")); });
+}
 
+void MainWindow::createViewMenu(QWidget *panel)
+{
     QMenu *view = menuBar()->addMenu(tr("&View"));
+    view->addAction(tr("&Fit"), m_view, &PictureView::fit)->setShortcut(Qt::CTRL | Qt::Key_0);
+    view->addAction(tr("&100 %"), this, [this] { m_view->setScale(1); })
+        ->setShortcut(Qt::CTRL | Qt::Key_1);
+    view->addAction(tr("Zoom &in"), this, [this] { m_view->setScale(m_view->scale() * 2); })
+        ->setShortcut(QKeySequence::ZoomIn);
+    view->addAction(tr("Zoom &out"), this, [this] { m_view->setScale(m_view->scale() / 2); })
+        ->setShortcut(QKeySequence::ZoomOut);
+    view->addSeparator();
     const auto addChoice = [](QMenu *menu, const QString &text, bool checked) {
         QAction *action = menu->addAction(text);
         action->setCheckable(true);
         action->setChecked(checked);
         return action;
     };
+
+    QAction *editors = addChoice(view, tr("&Editors"), true);
+    editors->setShortcut(Qt::Key_F8);
+    connect(editors, &QAction::toggled, panel, &QWidget::setVisible);
+    QAction *log = addChoice(view, tr("Signal &log"), true);
+    log->setShortcut(Qt::Key_F9);
+    connect(log, &QAction::toggled, m_log, &QWidget::setVisible);
+    view->addSeparator();
 
     QMenu *themes = view->addMenu(tr("&Theme"));
     auto *themeGroup = new QActionGroup(this);
@@ -260,7 +279,7 @@ bool MainWindow::mayLoseEdits()
         return true;
     }
     const auto answer = QMessageBox::question(
-        this, tr("Picture"), tr("What was changed since the picture was saved is lost. Save it?"),
+        this, tr("Picture"), tr("The picture has changes that are not saved. Save them?"),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && savePicture());
 }

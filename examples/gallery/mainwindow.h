@@ -38,7 +38,8 @@ protected:
 
 private:
     void createPages();
-    void createMenus();
+    void createFileAndEditMenus();
+    void createViewMenu(QWidget *panel);
     void setPicture(const QImage &picture, const QString &name);
     void reset(const QVector<Page *> &pages, const QString &name);
     void chooseAndOpen();

@@ -32,6 +32,7 @@ NumberPad::NumberPad(QWidget *parent)
 
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget * /*old*/, QWidget *now) { followFocus(now); });
+    qApp->installEventFilter(this);
 }
 
 void NumberPad::setEnabledByFocus(bool enabled)
@@ -43,6 +44,19 @@ void NumberPad::setEnabledByFocus(bool enabled)
 QPushButton *NumberPad::button(const QString &text) const
 {
     return findChild<QPushButton *>(text);
+}
+
+bool NumberPad::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType() && isVisible()) {
+        auto *pressed = static_cast<QWidget *>(watched);
+        QWidget *field = QApplication::focusWidget();
+        if (field && pressed->window() != this && pressed != field
+            && !field->isAncestorOf(pressed)) {
+            field->clearFocus(); // many a widget takes no focus when it is clicked
+        }
+    }
+    return QFrame::eventFilter(watched, event);
 }
 
 void NumberPad::addKey(int row, int column, const QString &text, int key, const QString &name)

@@ -8,7 +8,7 @@ class QPushButton;
 // An on-screen keyboard for the library's spin boxes. It opens below a widget
 // that has the dynamic property "Quelmo_VK" as soon as that gets the focus, and
 // types into it by real key events. It never takes the focus itself: a spin box
-// that lost it would take the entry as finished.
+// that lost it would take the entry as finished. A click elsewhere closes it.
 class NumberPad : public QFrame
 {
     Q_OBJECT
@@ -18,6 +18,9 @@ public:
 
     void setEnabledByFocus(bool enabled);
     QPushButton *button(const QString &text) const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void addKey(int row, int column, const QString &text, int key, const QString &name = QString());

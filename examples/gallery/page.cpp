@@ -1,6 +1,7 @@
 #include "page.h"
 
 #include <QtCore/QEvent>
+#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QVBoxLayout>
 
@@ -36,13 +37,18 @@ void Page::alignLabels()
     }
 }
 
-void Page::addHeading(const QString &title, const QString &caption)
+void Page::addHeading(const QString &title, const QString &caption, QWidget *beside)
 {
     auto *heading =
         new QLabel(QStringLiteral("<b>%1</b><br><small>%2</small>").arg(title, caption));
     heading->setWordWrap(true);
     heading->setContentsMargins(4, m_layout->isEmpty() ? 0 : 14, 4, 2);
-    m_layout->addWidget(heading);
+    auto *line = new QHBoxLayout;
+    line->addWidget(heading, 1);
+    if (beside) {
+        line->addWidget(beside);
+    }
+    m_layout->addLayout(line);
 }
 
 void Page::finish()

@@ -30,7 +30,7 @@ public:
     void alignLabels();
 
 protected:
-    void addHeading(const QString &title, const QString &caption);
+    void addHeading(const QString &title, const QString &caption, QWidget *beside = nullptr);
 
     template <typename Editor> Editor *addEditor()
     {

@@ -11,7 +11,7 @@ namespace {
 
 const QColor backdrop(18, 19, 22);
 const QColor outline(255, 204, 77);
-const int margin = 16; // around a fitted picture, in view pixels
+const int margin = 8; // around a fitted picture, in view pixels
 const double largestScale = 32;
 const double zoomStep = 1.25; // of one notch of the wheel
 
@@ -36,7 +36,7 @@ bool isPaintedAlike(const Edits &a, const Edits &b)
 
 PictureView::PictureView(QWidget *parent) : QWidget(parent)
 {
-    setMinimumSize(160, 120);
+    setMinimumSize(240, 120);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);

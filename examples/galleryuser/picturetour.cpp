@@ -1,6 +1,8 @@
 #include "picturetour.h"
 
+#include "logpane.h"
 #include "mainwindow.h"
+#include "numberpad.h"
 #include "page.h"
 #include "pictureview.h"
 #include "scripteduser.h"
@@ -10,6 +12,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QScrollArea>
 
@@ -48,6 +51,8 @@ public:
     void saveWhatIsShown();
     void keepTransparency();
     void dragInPicture();
+    void makeRoom();
+    void lookClosely();
 
 private:
     QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
@@ -148,8 +153,8 @@ void Tour::saveWhatIsShown()
     m_user.showPage(QStringLiteral("Layout"));
     m_user.type(QStringLiteral("Width"), QStringLiteral("131\n"));
     m_user.showPage(QStringLiteral("Crop"));
-    m_user.type(QStringLiteral("Width"), QStringLiteral("200\n"));
-    m_user.type(QStringLiteral("X"), QStringLiteral("90\n"));
+    m_user.type(QStringLiteral("Width"), QStringLiteral("100\n"));
+    m_user.type(QStringLiteral("X"), QStringLiteral("195\n")); // through the layer
     m_user.showPage(QStringLiteral("Adjust"));
     m_user.type(QStringLiteral("Contrast"), QStringLiteral("40\n"));
     m_user.type(QStringLiteral("Saturation"), QStringLiteral("1.5\n"));
@@ -160,7 +165,7 @@ void Tour::saveWhatIsShown()
     ScriptedUser::expect(saved.pixel(8, 100) == qRgb(0, 0, 0), "the mask is saved");
     ScriptedUser::expect(!m_window.isWindowModified(), "all is saved");
     const QImage crop = save(QStringLiteral("Save crop…"), "crop.png");
-    ScriptedUser::expect(isSame(crop, saved.copy(90, 0, 200, m_size.height())),
+    ScriptedUser::expect(isSame(crop, saved.copy(195, 0, 100, m_size.height())),
                          "the crop is a part of the picture");
 }
 
@@ -240,6 +245,62 @@ void Tour::dragInPicture()
                          "the crop stays in the picture");
 }
 
+void Tour::lookClosely()
+{
+    const auto isAt = [this](const QPoint &pos, const QPointF &pixel) {
+        return (m_view->toPicture(pos) - pixel).manhattanLength() * m_view->scale() <= 2;
+    };
+    m_user.showPage(QStringLiteral("Adjust"));
+    m_user.choose(QStringLiteral("Fit"));
+    const double fitting = m_view->scale();
+    const QPoint pos(90, 70);
+    QPointF pixel = m_view->toPicture(pos);
+    for (int i = 0; i < 3; ++i) {
+        User::turnWheelAt(m_view, pos);
+    }
+    ScriptedUser::expect(m_view->scale() > 1.5 * fitting && isAt(pos, pixel),
+                         "the wheel zooms in under the pointer");
+    const QPoint middle = m_view->rect().center();
+    pixel = m_view->toPicture(middle);
+    m_user.drag(m_view, middle, middle + QPoint(50, 30));
+    ScriptedUser::expect(isAt(middle + QPoint(50, 30), pixel), "the picture follows the pointer");
+    m_user.choose(QStringLiteral("100 %"));
+    ScriptedUser::expect(m_view->scale() == 1, "a pixel is a pixel");
+    m_user.choose(QStringLiteral("Fit"));
+    ScriptedUser::expect(m_view->scale() == fitting, "all of it is in the window again");
+}
+
+void Tour::makeRoom()
+{
+    const QSize size = m_window.size();
+    m_window.resize(780, 480);
+    QApplication::processEvents();
+    ScriptedUser::expect(m_window.log()->height() < m_view->height() / 2,
+                         "in a small window the log is small");
+    m_user.choose(QStringLiteral("Signal log"));
+    m_user.choose(QStringLiteral("Editors"));
+    ScriptedUser::expect(m_view->size() == m_window.centralWidget()->size(),
+                         "the picture has the whole window");
+    m_user.choose(QStringLiteral("Signal log"));
+    m_user.choose(QStringLiteral("Editors"));
+    m_window.resize(size);
+
+    m_user.showPage(QStringLiteral("Colour"));
+    auto *swatch = m_window.findChild<QLabel *>(QStringLiteral("swatch"));
+    ScriptedUser::expect(swatch->grab().toImage().pixel(20, 10) == qRgb(255, 140, 40),
+                         "a swatch shows the colour of the wash");
+
+    const QString contrast = QStringLiteral("Contrast");
+    m_user.showPage(QStringLiteral("Adjust"));
+    m_window.numberPad()->setEnabledByFocus(true);
+    m_user.type(contrast, QStringLiteral("7*3"));
+    m_user.click(m_window.log());
+    ScriptedUser::expect(!m_window.numberPad()->isVisible(), "a click elsewhere closes the pad");
+    ScriptedUser::expect(m_user.fieldText(contrast) == QLatin1String("21"),
+                         "the entry counts by then");
+    m_window.numberPad()->setEnabledByFocus(false);
+}
+
 } // namespace
 
 void tourPictures(ScriptedUser &user)
@@ -250,4 +311,6 @@ void tourPictures(ScriptedUser &user)
     tour.saveWhatIsShown();
     tour.keepTransparency();
     tour.dragInPicture();
+    tour.lookClosely();
+    tour.makeRoom();
 }
