@@ -99,6 +99,10 @@ template <typename Frame> void checkVisibility()
         for (QWidget *panel : panels.keys())
             QCOMPARE(panel->isVisible(), panels[panel] != 0);
     }
+    user.frame->setSliderVisible(false);
+    user.frame->setButtonVisible(false);
+    for (const EditorRow &row : user.rows)
+        QVERIFY(row.slider->isHidden() && row.minus->isHidden() && row.plus->isHidden());
 }
 
 // Holds the handle of each row in turn.
@@ -113,6 +117,48 @@ template <typename Frame> void checkMousePressed()
     }
 }
 
+// Each row by its flag. A combination names none.
+template <typename Frame> void checkReading()
+{
+    UserOf<Frame> user;
+    Frame &frame = *user.frame;
+    QString none = "warning: Get %1 %3range %2 warning: %4 %1 label text %2 warning: Get %1 value "
+                   "%2 warning: Get %1 single step %2 warning: Get %1 page step %2 -7..-8  0 0 0";
+    none = none.arg(isRect<Frame> ? "Rect" : "RGB", "has failed. The type  %1  is invalid.",
+                    isRect<Frame> ? "value " : "", isRect<Frame> ? "Set" : "Get");
+    for (const int flag : {2, 4, 8, 16, 0, 6, 24, 30}) {
+        const auto type = static_cast<typename Frame::Type>(flag);
+        frame.setLabelText(type, QString::number(flag));
+        frame.setRange(type, flag, 100 + flag);
+        frame.setValue(type, 50 + flag);
+        frame.setSingleStep(type, 1 + flag);
+        frame.setPageStep(type, 2 + flag);
+        user.heard(); // the warnings of the setters
+        int min = -7, max = -8;
+        frame.range(type, min, max);
+        QStringList found {limits(min, max), frame.labelText(type)};
+        for (const int number : {frame.value(type), frame.singleStep(type), frame.pageStep(type)})
+            found.append(QString::number(number));
+        user.log.add(found.join(' '));
+        const bool isRow = qPopulationCount(uint(flag)) == 1 && flag < 2 << user.rows.size();
+        const QString own = "%1..%2 %1 %3 %4 %5";
+        QCOMPARE(user.heard(),
+                 isRow ? own.arg(flag).arg(100 + flag).arg(50 + flag).arg(1 + flag).arg(2 + flag)
+                       : none.arg(flag));
+    }
+}
+
+// The program leads the user into each field.
+template <typename Frame> void checkFieldFocus()
+{
+    UserOf<Frame> user;
+    for (int row = 0; row < user.rows.size(); ++row) {
+        user.frame->setFieldFocus(typename Frame::Type(2 << row));
+        QVERIFY(user.rows[row].spinBox->hasFocus());
+        QCOMPARE(user.rows[row].field->selectedText(), user.rows[row].field->text());
+    }
+}
+
 // The spacing of the editor's layout, size and policies of the spacer at its end.
 QList<int> formOf(const QWidget &editor)
 {
@@ -123,19 +169,23 @@ QList<int> formOf(const QWidget &editor)
 }
 
 // What the four-value editors start with, and each row in its place of the signal.
-template <typename Frame> void checkColours(const QString &range, const QString &value)
+template <typename Frame>
+void checkColours(const QString &range, const QString &value, const QString &wideRange)
 {
     UserOf<Frame> user;
     // The end of editing finds what was set last.
     user.play(QString("ranges: 0..255 0..255 0..255 %2 | shown: 50 50 50 %3 | "
-                      "%1 click | elsewhere: finished finished | "
-                      "r value 10 | g value 20 | b value 30 | %1 value 40 | "
-                      "r minus: (9,20,30,40) | g minus: (9,19,30,40) | b minus: (9,19,29,40) | "
-                      "%1 minus: (9,19,29,39)")
+                      "%1 click | elsewhere: finished finished")
                   .arg(user.rows[3].name, range, value));
+    user.frame->setValue(10, 20, 30, 40);
+    user.play(QString("r minus: (9,20,30,40) | g minus: (9,19,30,40) | b minus: (9,19,29,40) | "
+                      "%1 minus: (9,19,29,39)")
+                  .arg(user.rows[3].name));
     int r = 0, g = 0, b = 0, own = 0;
     user.frame->value(r, g, b, own);
     QCOMPARE(QVector<int>({r, g, b, own}), QVector<int>({9, 19, 29, 39}));
+    user.frame->setRange(-1, 999);
+    user.play("ranges: -1..999 -1..999 -1..999 " + wideRange);
 }
 
 // Operations by the end of their warning, with what they make of a row.
@@ -163,6 +213,16 @@ template <typename F, typename T = typename F::Type> void addChecks()
     add(" single step", "plus=23", [](F &f, T t) { f.setSingleStep(t, 3); });
     add(" page step", "pageStep=7", [](F &f, T t) { f.setPageStep(t, 7); });
     addAll(" spacing", "gap=17 gap=23 gap=23", [](F &f, T) { f.setHorizontalSpacing(17, 23); });
+    addAll(" label widths", "label=20..90", [](F &f, T) { f.setLabelWidthRange(90, 20); });
+    addAll(" label widths, fixed", "label=33..33", [](F &f, T) { f.setLabelFixedWidth(33); });
+    addAll(" button widths", "button=9..60", [](F &f, T) { f.setButtonWidthRange(60, 9); });
+    addAll(" button widths, fixed", "button=41..41", [](F &f, T) { f.setButtonFixedWidth(41); });
+    addAll(" spinbox widths", "box=9..80", [](F &f, T) { f.setSpinBoxWidthRange(80, 9); });
+    addAll(" spinbox widths, fixed", "box=72..72", [](F &f, T) { f.setSpinBoxFixedWidth(72); });
+    add(" slider property", "pageStep=7", [](F &f, T t) { f.setSliderProperty(t, "pageStep", 7); });
+    add(" field focus", "", [](F &f, T t) { f.setFieldFocus(t); });
+    add(" value change direction", "plus=20 hold 60=20 drop=20 click=20 wheel=20",
+        [](F &f, T t) { f.setValueChangeDirection(t, SliderEditFrame::AllowedToSmaller, 20); });
     addAll(" wheel", "wheel=61", [](F &f, T) { f.setSpinBoxWheelEnable(true); });
     addAll(" repeat", "autoRepeat=true/true", [](F &f, T) { f.setAutoRepeat(true); });
     addAll(" repeat delay", "autoRepeatDelay=321/321", [](F &f, T) { f.setAutoRepeatDelay(321); });
@@ -171,11 +231,13 @@ template <typename F, typename T = typename F::Type> void addChecks()
     addAll(" release mode", "hold 60=21", [](F &f, T) { f.setReleaseMode(true); });
     addAll(" sampling", "autoRepeat=true/true hold 60 ms=5000",
            [](F &f, T) { f.setTimeSamplingRate(5000); });
-    if constexpr (isRect<F>) {
-        add(" value change direction", "plus=20 hold 60=20 drop=20 click=20 wheel=20",
-            [](F &f, T t) { f.setValueChangeDirection(t, SliderEditFrame::AllowedToSmaller, 20); });
-    }
-    QTest::addRow("%s visibility", F::staticMetaObject.className()) << TestCode(checkVisibility<F>);
+    const auto addCheck = [](const char *name, void (*check)()) {
+        QTest::addRow("%s %s", F::staticMetaObject.className(), name) << TestCode(check);
+    };
+    addCheck("visibility", checkVisibility<F>);
+    addCheck("pressed", checkMousePressed<F>);
+    addCheck("reading", checkReading<F>);
+    addCheck("fields", checkFieldFocus<F>);
 }
 
 } // namespace
@@ -187,11 +249,15 @@ void tst_CompositeEditors::rows_data()
     addChecks<RGBAllEditFrame>();
     addChecks<RGBOpacityEditFrame>();
     addChecks<RectEditFrame>();
-    QTest::newRow("all") << TestCode([] { checkColours<RGBAllEditFrame>("0..255", "50"); });
+    QTest::newRow("all") << TestCode(
+        [] { checkColours<RGBAllEditFrame>("0..255", "50", "-1..999"); });
     QTest::newRow("opacity") << TestCode(
-        [] { checkColours<RGBOpacityEditFrame>("0..100", "100"); });
-    QTest::newRow("RGBEditFrame pressed") << TestCode(checkMousePressed<RGBEditFrame>);
-    QTest::newRow("RectEditFrame pressed") << TestCode(checkMousePressed<RectEditFrame>);
+        [] { checkColours<RGBOpacityEditFrame>("0..100", "100", "0..100"); });
+    addFor<RGBEditFrame>("all channels at once", [](auto &user) {
+        user.frame->setRange(-1, 999);
+        user.frame->setValue(700, 800, 900);
+        user.play("ranges: -1..999 -1..999 -1..999 | b plus: (700,800,901) | shown: 700 800 901");
+    });
 }
 
 // An editor's form, what the program sets of it, and what reaches the block of channels.
@@ -241,21 +307,25 @@ void tst_CompositeEditors::form()
         QCOMPARE(rect.findChild<QLayout *>(fields)->spacing(), 0);
 }
 
-// Only the red row's font measures, and the master's own.
+// The first row's font measures, and that of a row beside the channels its own label.
 void tst_CompositeEditors::labelMaxLength()
 {
-    RGBAllEditFrame frame;
-    const auto rows = rowsOf(frame);
-    QCOMPARE(frame.labelMaxLength(), 0);
-    for (int i = 0; i < 4; ++i)
-        rows[i].frame->setFont(QFont(frame.font().family(), 40 - 5 * i));
-    QString text;
-    for (const int i : {3, 2, 0, 1}) {
-        frame.setLabelText(RGBAllEditFrame::Type(2 << i), text += "WW");
-        const QFontMetrics metrics = rows[i == 3 ? 3 : 0].frame->fontMetrics();
-        // To a pixel: one may round otherwise than the other.
-        QVERIFY(qAbs(frame.labelMaxLength() - metrics.size(0, text).width()) <= 1);
-    }
+    const auto check = [](auto &&frame, int ownRow) {
+        const auto rows = rowsOf(frame);
+        QCOMPARE(frame.labelMaxLength(), 0);
+        for (int i = 0; i < 4; ++i)
+            rows[i].frame->setFont(QFont(frame.font().family(), 40 - 5 * i));
+        QString text;
+        for (const int i : {3, 2, 0, 1}) {
+            rows[i].label->setText(text += "WW");
+            const QFontMetrics metrics = rows[i == ownRow ? i : 0].frame->fontMetrics();
+            // To a pixel: one may round otherwise than the other.
+            QVERIFY(qAbs(frame.labelMaxLength() - metrics.size(0, text).width()) <= 1);
+        }
+    };
+    check(RGBAllEditFrame(), 3);
+    check(RGBOpacityEditFrame(), 3);
+    check(RectEditFrame(), -1);
 }
 
 QTEST_MAIN(tst_CompositeEditors)

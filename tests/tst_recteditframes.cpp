@@ -106,6 +106,13 @@ void tst_RectEditFrames::sequences_data()
          "w range 0 100 | set 0 0 20 40 | sizeLock on: sizeLock(true) | "
          "h enter 300: w(100) h(200) (0,0,100,200) | sizeLock off: sizeLock(false) | "
          "h plus: h(201) (0,0,100,201)");
+    rect("the program locks as the user does",
+         "set 10 20 40 20 | locks: no no 0 | positionLock on: positionLock(true) | "
+         "locks: yes no 0 | x plus: x(11) (11,21,40,20) | set 11 50 40 20 | positionLock on | "
+         "x plus: x(12) (12,51,40,20) | positionLock off: positionLock(false) | "
+         "x plus: x(13) (13,51,40,20) | sizeLock on: sizeLock(true) | locks: no yes 2 | "
+         "ratio 0.6667 | locks: no yes 0.667 | sizeLock off: sizeLock(false) | locks: no no 0 | "
+         "h value 0 | lock size: sizeLock(true) | locks: no yes 0");
     // Floats hold these numbers exactly, so the fields can be typed into.
     rect("position saturates",
          "x range -2147483648 2147483647 | y range -2147483648 2147483647 | "
@@ -170,6 +177,13 @@ void tst_RectEditFrames::sequences_data()
          "w plus: w(120) (0,0,120,1800) | h plus: h(1800) (0,0,120,1800) | mask 0 0 1000 0 | "
          "h enter 921: mask(0,0,1000,920) h(921) (0,0,1000,921) | h plus: h(920) (0,0,1000,920) | "
          "w plus: w(1000) (0,0,1000,920)");
+    mask("a least size is left of the area",
+         "leastSize 16 32 | ranges: 0..1080 0..1080 0..1920 0..1920 | area 100 100 | "
+         "ranges: 0..68 0..68 0..84 0..84 | mask 60 0 0 80 | "
+         "y enter 20: mask(60,8,0,80) y(20) (60,20,0,80) | y plus: y(8) (60,8,0,80) | "
+         "w enter 20: mask(60,8,4,80) w(20) (60,8,20,80) | leastSize 101 -9 | area 100 100 | "
+         "ranges: 0..100 0..100 0..0 0..0 | mask 0 0 5 0 | w click | "
+         "elsewhere: finished mask(0,0,0,0) w(0) (0,0,0,0) finished");
     mask("set beyond the limits",
          "mask 1000 900 0 2000 | w plus: mask(1000,900,0,1920) w(0) (1000,900,0,1920) | "
          "x plus: mask(180,900,0,1920) x(1000) (1000,900,0,1920) | "
@@ -205,24 +219,6 @@ void tst_RectEditFrames::sequences_data()
     addFor<RectEditFrame>("receiver deletes the editor", [](auto &user) {
         connect(user.frame, &RectEditFrame::heightValueChanged, [&] { delete user.frame; });
         user.play("set 0 0 40 20 | sizeLock on: sizeLock(true) | w space: h(21)");
-    });
-    // A combination names no field.
-    addFor<RectEditFrame>("reads one field", [](auto &user) {
-        const QString failed = "has failed. The type  %1  is invalid.";
-        const QString none =
-            "warning: Get Rect value range %1 warning: Set Rect label text %1 -7..-8";
-        for (const int flag : {2, 4, 8, 16, 0, 6, 24, 30}) {
-            const auto type = static_cast<RectEditFrame::Type>(flag);
-            user.frame->setLabelText(type, QString::number(flag));
-            user.frame->setRange(type, flag, 100 + flag);
-            user.heard(); // the warnings of the setters
-            int min = -7, max = -8;
-            user.frame->range(type, min, max);
-            user.log.add(user.frame->labelText(type) + limits(min, max));
-            const QString own = QString::number(flag) + limits(flag, 100 + flag);
-            const bool isField = qPopulationCount(uint(flag)) == 1;
-            QCOMPARE(user.heard(), isField ? own : none.arg(failed.arg(flag)));
-        }
     });
 }
 

@@ -138,7 +138,8 @@ void tst_Robustness::deletedInASignal_data()
     addDeletions<RGBEditFrame>(some, safe);
     addDeletions<RGBAllEditFrame>(some, safe);
     addDeletions<RGBOpacityEditFrame>(some, safe);
-    addDeletions<RectEditFrame>(some + "; lock size | lock position", safe + "; sizeLock on");
+    addDeletions<RectEditFrame>(some + "; lock size | lock position",
+                                safe + "; sizeLock on; positionLock on");
     addDeletions<CropEditFrame>(some, safe);
     addDeletions<MaskEditFrame>(some, safe, "area 100 100 | ");
 }

@@ -65,10 +65,14 @@ template <typename AnyUser> void compareSetters(AnyUser &user)
         QCOMPARE(spacer->geometry().width() > 100, !isVisible);
         QCOMPARE(spacer->geometry().width() > 0, !isVisible);
     }
-    if constexpr (AnyUser::isWhole) {
-        frame.setButtonVisible(false);
-        QVERIFY(row.minus->isHidden() && row.plus->isHidden());
-    }
+    frame.setButtonVisible(false);
+    QVERIFY(row.minus->isHidden() && row.plus->isHidden());
+
+    QVERIFY(!frame.autoRepeat() && !frame.isReleaseMode() && frame.timeSamplingRate() == 0);
+    frame.setTimeSamplingRate(40);
+    QVERIFY(frame.autoRepeat() && !frame.isReleaseMode() && frame.timeSamplingRate() == 40);
+    frame.setReleaseMode(true);
+    QVERIFY(!frame.autoRepeat() && frame.isReleaseMode() && frame.timeSamplingRate() == 40);
     QCOMPARE(user.heard(), QString());
 }
 
@@ -151,6 +155,8 @@ void tst_SliderEditFrame::sequences_data()
         QTest::mouseClick(user.row.spinBox, Qt::LeftButton, {}, {user.row.spinBox->width() / 2, 1});
         user.play("selected: all");
     });
+    addBoth("the program leads into the field", "fieldFocus | selected: all");
+    addBoth("the program leads to the start of an entry", "type 5 | fieldFocus | selected: all");
     addInt("a disabled field selects nothing",
            "focus | disable: finished finished | selected: nothing");
     addDouble("a disabled field selects nothing", "focus | disable | selected: nothing");
@@ -175,8 +181,8 @@ void tst_SliderEditFrame::sequences_data()
     addInt("sampled without release mode",
            "sampled | released | hold 20 40 | tick | shown: 10 | drop: 40");
     for (const QString end : {"drop", "focus", "hideSlider", "disable", "leave"})
-        addInt("pressed until " + end,
-               "pressed: no | hold | pressed: yes | " + end + " | pressed: no");
+        addBoth("pressed until " + end,
+                "pressed: no | hold | pressed: yes | " + end + " | pressed: no");
     addInt("minus at the minimum",
            "singleStep 5 | value 5 | minus: 0 | value 3 | minus | shown: 3");
     addInt("plus at the maximum",

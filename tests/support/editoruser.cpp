@@ -175,7 +175,6 @@ void EditorUser::addSights()
     add("timer", "runs", "stands",
         [](const EditorRow &row) { return samplingInterval(row.frame) > 0; });
     add("focused", "editor", "other", [](const EditorRow &row) { return row.frame->hasFocus(); });
-    add("pressed", "yes", "no", [](const EditorRow &row) { return row.whole->isMousePressed(); });
     add("refused", "yes", "no",
         [](const EditorRow &row) { return row.spinBox->property("isEntryRefused").toBool(); });
     on("repeating", [this](const Step &step) {
@@ -212,6 +211,8 @@ template <typename Frame> void EditorUser::add(Frame *frame)
        [](const Step &step) { step.row.spinBox->setProperty(qPrintable(step.verb), step.text); });
     on("locale", [](const Step &step) { step.row.spinBox->setLocale(QLocale(step.text)); });
     on("hideSlider", [=](const Step &) { frame->setSliderVisible(false); });
+    on("fieldFocus", [=](const Step &) { frame->setFieldFocus(); });
+    on("pressed", [=](const Step &) { log.add(frame->isMousePressed() ? "yes" : "no"); });
     on("wheelEnabled", [=](const Step &) { frame->setSpinBoxWheelEnable(true); });
     on("bounds", [=](const Step &) {
         log.add(inUnits(frame->minimum()) + ".." + inUnits(frame->maximum()));
@@ -256,6 +257,12 @@ void EditorUser::addRect(RectEditFrame *rect)
         User::click(rect->findChild<QToolButton *>(button));
     });
     on("sizeLock", [=](const Step &step) { rect->setSizeLock(step.text == "on"); });
+    on("positionLock", [=](const Step &step) { rect->setPositionLock(step.text == "on"); });
+    on("locks", [=](const Step &) {
+        for (const bool isLocked : {rect->isPositionLocked(), rect->isSizeLocked()})
+            log.add(isLocked ? "yes" : "no");
+        log.add(QString::number(rect->sizeLockRatio()));
+    });
     on("ratio", [=](const Step &step) { rect->setSizeLock(step.text.toDouble()); });
     on("set", [=](const Step &step) { rect->setValue(step[0], step[1], step[2], step[3]); });
 }
@@ -278,6 +285,7 @@ void EditorUser::addMask(MaskEditFrame *mask)
 {
     log.watch(mask, &MaskEditFrame::maskValueChanged, "mask");
     on("area", [=](const Step &step) { mask->setMaskRange(step[0], step[1]); });
+    on("leastSize", [=](const Step &step) { mask->setMaskMinSize(step[0], step[1]); });
     on("mask", [=](const Step &step) { mask->setMaskValue(step[0], step[1], step[2], step[3]); });
 }
 

@@ -94,10 +94,11 @@ private:
 // to all rows: sampled, released, autoRepeat; the last two end by off
 // to a slider editor:
 //   minimum, maximum, singleStep, pageStep, decimals, direction (flags and value),
-//   wheelEnabled, hideSlider; suffix, prefix, specialValueText and locale of the spin box
+//   wheelEnabled, hideSlider, fieldFocus; suffix, prefix, specialValueText and locale of the spin
+//   box
 // to a rectangle, a crop or a mask:
-//   set, sizeLock on or off, ratio; area, areaFrom, leastPosition, leastSize, crop, rect;
-//   area, mask
+//   set, sizeLock and positionLock on or off, ratio; area, areaFrom, leastPosition,
+//   leastSize, crop, rect; area, leastSize, mask
 // What both find:
 //   shown      what the fields hold, each with the slider's position behind a slash where
 //              that is another
@@ -105,6 +106,7 @@ private:
 //   timer      whether the sampling "runs" or "stands"
 //   focused    "editor" where the row has the focus, or "other"
 //   selected   "all" of the field's text, "nothing" or what, once nothing is left to do
+//   locks      of a rectangle: is the position locked, is the size, and its ratio
 //   pressed, refused   whether the handle is held, whether the entry was refused
 //   repeating  whether minus and plus repeat while they are held
 class EditorUser

@@ -49,6 +49,14 @@ public:
         }
     }
 
+    // What the row answers; nothing, or 0, where there is none.
+    template <typename Getter>
+    auto get(int type, const QMessageLogger &here, const char *task, Getter getter) const
+    {
+        SliderEditFrame *frame = findOrWarn(type, here, task);
+        return frame != nullptr ? (frame->*getter)() : decltype((frame->*getter)()) {};
+    }
+
     template <typename Operation, typename... Arguments>
     void all(Operation operation, const Arguments &...arguments) const
     {

@@ -30,6 +30,8 @@ public:
     // Limits of top + bottom and of left + right.
     int m_nMaxHeight = 0;
     int m_nMaxWidth = 0;
+    int m_nMinWidth = 0;
+    int m_nMinHeight = 0;
 
 private Q_SLOTS:
     void slotTopValueChanged(int val);
@@ -102,14 +104,21 @@ MaskEditFrame::~MaskEditFrame()
     d = nullptr;
 }
 
+void MaskEditFrame::setMaskMinSize(int nMinWidth, int nMinHeight)
+{
+    d->m_nMinWidth = nMinWidth;
+    d->m_nMinHeight = nMinHeight;
+}
+
 void MaskEditFrame::setMaskRange(int width, int height)
 {
-    d->m_nMaxHeight = height;
-    d->m_nMaxWidth = width;
-    setRange(X, 0, height);
-    setRange(Y, 0, height);
-    setRange(Width, 0, width);
-    setRange(Height, 0, width);
+    const auto room = [](int extent, int least) { return extent - qMax(0, qMin(least, extent)); };
+    d->m_nMaxHeight = room(height, d->m_nMinHeight);
+    d->m_nMaxWidth = room(width, d->m_nMinWidth);
+    setRange(X, 0, d->m_nMaxHeight);
+    setRange(Y, 0, d->m_nMaxHeight);
+    setRange(Width, 0, d->m_nMaxWidth);
+    setRange(Height, 0, d->m_nMaxWidth);
 }
 
 void MaskEditFrame::setMaskValue(int top, int bottom, int left, int right)

@@ -28,7 +28,17 @@ public:
     explicit MaskEditFrame(QWidget *parent = nullptr);
     ~MaskEditFrame() override;
 
-    /*! Sets the margins' ranges for an area of \a width by \a height. Emits nothing. */
+    /*!
+        Keeps \a nMinWidth and \a nMinHeight for setMaskRange(): what the margins leave of the
+        area is that large at least, or as large as the area where that is smaller. 0 by 0 at
+        first: the margins may leave nothing. \since 1.1
+    */
+    void setMaskMinSize(int nMinWidth, int nMinHeight);
+
+    /*!
+        Sets the margins' ranges for an area of \a width by \a height, from 0 to what the least
+        size leaves of it. Emits nothing.
+    */
     void setMaskRange(int width, int height);
 
     /*!

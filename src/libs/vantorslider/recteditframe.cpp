@@ -63,10 +63,20 @@ void RectEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
                   &SliderEditFrame::setLabelWidthRange, maxw, minw);
 }
 
+void RectEditFrame::setLabelWidthRange(int maxw, int minw)
+{
+    d->rows().all(&SliderEditFrame::setLabelWidthRange, maxw, minw);
+}
+
 void RectEditFrame::setLabelFixedWidth(Type type, int w)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect label fixed width",
                   &SliderEditFrame::setLabelFixedWidth, w);
+}
+
+void RectEditFrame::setLabelFixedWidth(int w)
+{
+    d->rows().all(&SliderEditFrame::setLabelFixedWidth, w);
 }
 
 void RectEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
@@ -75,10 +85,20 @@ void RectEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
                   &SliderEditFrame::setButtonWidthRange, maxw, minw);
 }
 
+void RectEditFrame::setButtonWidthRange(int maxw, int minw)
+{
+    d->rows().all(&SliderEditFrame::setButtonWidthRange, maxw, minw);
+}
+
 void RectEditFrame::setButtonFixedWidth(Type type, int w)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect button fixed width",
                   &SliderEditFrame::setButtonFixedWidth, w);
+}
+
+void RectEditFrame::setButtonFixedWidth(int w)
+{
+    d->rows().all(&SliderEditFrame::setButtonFixedWidth, w);
 }
 
 void RectEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
@@ -87,15 +107,46 @@ void RectEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
                   &SliderEditFrame::setSpinBoxWidthRange, maxw, minw);
 }
 
+void RectEditFrame::setSpinBoxWidthRange(int maxw, int minw)
+{
+    d->rows().all(&SliderEditFrame::setSpinBoxWidthRange, maxw, minw);
+}
+
 void RectEditFrame::setSpinBoxFixedWidth(Type type, int w)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect spinbox fixed width",
                   &SliderEditFrame::setSpinBoxFixedWidth, w);
 }
 
+void RectEditFrame::setSpinBoxFixedWidth(int w)
+{
+    d->rows().all(&SliderEditFrame::setSpinBoxFixedWidth, w);
+}
+
 void RectEditFrame::setSpinBoxWheelEnable(bool b)
 {
     d->rows().all(&SliderEditFrame::setSpinBoxWheelEnable, b);
+}
+
+void RectEditFrame::setSliderVisible(bool b)
+{
+    d->rows().all(&SliderEditFrame::setSliderVisible, b);
+}
+
+void RectEditFrame::setButtonVisible(bool b)
+{
+    d->rows().all(&SliderEditFrame::setButtonVisible, b);
+}
+
+void RectEditFrame::setSliderProperty(Type type, const char *name, const QVariant &value)
+{
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect slider property",
+                  &SliderEditFrame::setSliderProperty, name, value);
+}
+
+void RectEditFrame::setFieldFocus(Type type)
+{
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect field focus", &SliderEditFrame::setFieldFocus);
 }
 
 void RectEditFrame::setValue(Type type, int val)
@@ -127,6 +178,11 @@ void RectEditFrame::value(int &x, int &y, int &w, int &h)
     h = d->ui->frameHeight->value();
 }
 
+int RectEditFrame::value(Type type) const
+{
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect value", &SliderEditFrame::value);
+}
+
 void RectEditFrame::value(QRect &rect)
 {
     rect = Internal::saturatedRect(d->ui->frameX->value(), d->ui->frameY->value(),
@@ -153,10 +209,21 @@ void RectEditFrame::setSingleStep(Type type, int val)
                   val);
 }
 
+int RectEditFrame::singleStep(Type type) const
+{
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect single step",
+                         &SliderEditFrame::singleStep);
+}
+
 void RectEditFrame::setPageStep(Type type, int val)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect page step", &SliderEditFrame::setPageStep,
                   val);
+}
+
+int RectEditFrame::pageStep(Type type) const
+{
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect page step", &SliderEditFrame::pageStep);
 }
 
 void RectEditFrame::setValueChangeDirection(Type type, int directions, int val)
@@ -200,6 +267,11 @@ bool RectEditFrame::isMousePressed() const
     return d->rows().isMousePressed();
 }
 
+int RectEditFrame::labelMaxLength() const
+{
+    return d->rows().labelMaxLength();
+}
+
 void RectEditFrame::setPositionLockEnable(bool b)
 {
     d->ui->toolButtonLockPosition->setVisible(b);
@@ -222,6 +294,27 @@ void RectEditFrame::setSizeLock(qreal ratio)
 {
     constexpr int basis = 1000;
     d->m_lockedSize = QSize(Internal::saturatedInt(std::round(ratio * basis)), basis);
+}
+
+void RectEditFrame::setPositionLock(bool bLock)
+{
+    d->setPositionLock(bLock);
+}
+
+bool RectEditFrame::isPositionLocked() const
+{
+    return d->m_isLockedPosition;
+}
+
+bool RectEditFrame::isSizeLocked() const
+{
+    return d->m_isLockedSize;
+}
+
+qreal RectEditFrame::sizeLockRatio() const
+{
+    const QSize basis = d->m_lockedSize;
+    return isSizeLocked() && basis.height() != 0 ? qreal(basis.width()) / basis.height() : 0;
 }
 
 } // namespace Widgets

@@ -84,23 +84,53 @@ public:
     /*! SliderEditFrame::setLabelWidthRange() of the field \a type. */
     void setLabelWidthRange(Type type, int maxw, int minw);
 
+    /*! setLabelWidthRange() of every field. \since 1.1 */
+    void setLabelWidthRange(int maxw, int minw);
+
     /*! SliderEditFrame::setLabelFixedWidth() of the field \a type. */
     void setLabelFixedWidth(Type type, int w);
+
+    /*! setLabelFixedWidth() of every field. \since 1.1 */
+    void setLabelFixedWidth(int w);
 
     /*! SliderEditFrame::setButtonWidthRange() of the field \a type. */
     void setButtonWidthRange(Type type, int maxw, int minw);
 
+    /*! setButtonWidthRange() of every field. \since 1.1 */
+    void setButtonWidthRange(int maxw, int minw);
+
     /*! SliderEditFrame::setButtonFixedWidth() of the field \a type. */
     void setButtonFixedWidth(Type type, int w);
+
+    /*! setButtonFixedWidth() of every field. \since 1.1 */
+    void setButtonFixedWidth(int w);
 
     /*! SliderEditFrame::setSpinBoxWidthRange() of the field \a type. */
     void setSpinBoxWidthRange(Type type, int maxw, int minw);
 
+    /*! setSpinBoxWidthRange() of every field. \since 1.1 */
+    void setSpinBoxWidthRange(int maxw, int minw);
+
     /*! SliderEditFrame::setSpinBoxFixedWidth() of the field \a type. */
     void setSpinBoxFixedWidth(Type type, int w);
 
+    /*! setSpinBoxFixedWidth() of every field. \since 1.1 */
+    void setSpinBoxFixedWidth(int w);
+
     /*! SliderEditFrame::setSpinBoxWheelEnable() of every field. */
     void setSpinBoxWheelEnable(bool b);
+
+    /*! SliderEditFrame::setSliderVisible() of every field. \since 1.1 */
+    void setSliderVisible(bool b);
+
+    /*! SliderEditFrame::setButtonVisible() of every field. \since 1.1 */
+    void setButtonVisible(bool b);
+
+    /*! SliderEditFrame::setSliderProperty() of the field \a type. \since 1.1 */
+    void setSliderProperty(Type type, const char *name, const QVariant &value);
+
+    /*! SliderEditFrame::setFieldFocus() of the field \a type. \since 1.1 */
+    void setFieldFocus(Type type);
 
     /*! Shows \a val in the field \a type, clamped to its range. Emits nothing. */
     virtual void setValue(Type type, int val);
@@ -113,6 +143,9 @@ public:
 
     /*! Writes the fields' values to \a x, \a y, \a w and \a h. */
     void value(int &x, int &y, int &w, int &h);
+
+    /*! The value of the field \a type; 0 where it names none. \since 1.1 */
+    int value(Type type) const;
 
     /*! Writes the rectangle that the fields show to \a rect. */
     void value(QRect &rect);
@@ -129,8 +162,14 @@ public:
     /*! SliderEditFrame::setSingleStep() of the field \a type. */
     void setSingleStep(Type type, int val);
 
+    /*! The step of the field \a type; 0 where it names none. \since 1.1 */
+    int singleStep(Type type) const;
+
     /*! SliderEditFrame::setPageStep() of the field \a type. */
     void setPageStep(Type type, int val);
+
+    /*! The page step of the field \a type; 0 where it names none. \since 1.1 */
+    int pageStep(Type type) const;
 
     /*! SliderEditFrame::setValueChangeDirection() of the field \a type. */
     void setValueChangeDirection(Type type, int directions, int val);
@@ -159,6 +198,9 @@ public:
     /*! True while the pointer holds the slider of any field. */
     bool isMousePressed() const;
 
+    /*! The width in pixels of the widest label text, in the font of x. \since 1.1 */
+    int labelMaxLength() const;
+
     /*! Shows the position's lock button, if \a b is true, else its placeholder. The lock stays. */
     void setPositionLockEnable(bool b);
 
@@ -180,6 +222,25 @@ public:
         and a change of the height sends the width to 0; one below 0 is of no use.
     */
     void setSizeLock(qreal ratio);
+
+    /*!
+        Switches the position lock to \a bLock and, on, takes the position shown as its basis.
+        Emits PositionLockChanged() only where the button's state changes. \since 1.1
+    */
+    void setPositionLock(bool bLock);
+
+    /*! True while the position lock is on, whether its button is shown or not. \since 1.1 */
+    bool isPositionLocked() const;
+
+    /*! True while the size lock is on, whether its button is shown or not. \since 1.1 */
+    bool isSizeLocked() const;
+
+    /*!
+        The proportion that the size lock keeps or, of an OffsetLock, that the size had when the
+        lock was switched on: width by height. One that was set is kept in thousandths. 0 while
+        the lock is off, and where the height is 0. \since 1.1
+    */
+    qreal sizeLockRatio() const;
 
 Q_SIGNALS:
     /*! The user changed a field; emitted last, with all four values. */
@@ -206,7 +267,7 @@ Q_SIGNALS:
     /*! The size lock was switched to \a bLock, by the user or the host. */
     void sizeLockChanged(bool bLock);
 
-    /*! The user switched the position lock to \a bLock. */
+    /*! The position lock was switched to \a bLock, by the user or the host. */
     void PositionLockChanged(bool bLock);
 
 private:

@@ -54,22 +54,42 @@ void RectEditFramePrivate::createConnects()
             &Private::slotLockSizeButtonToggled);
 }
 
+// Qt goes on with a button after a signal of its own, whose receiver may delete the
+// editor: it is emitted when the button is done. False where the editor is gone.
+bool RectEditFramePrivate::switchButton(QToolButton *button, bool isChecked)
+{
+    if (button->isChecked() == isChecked) {
+        return true;
+    }
+    const QPointer<RectEditFramePrivate> self(this);
+    {
+        const QSignalBlocker blocker(button);
+        button->setChecked(isChecked);
+    }
+    Q_EMIT button->toggled(isChecked);
+    return !self.isNull();
+}
+
 // Where the button's state changes, it calls back here through toggled():
 // that run captures and reports, this one then captures anew.
+void RectEditFramePrivate::setPositionLock(bool bLock)
+{
+    if (!switchButton(ui->toolButtonLockPosition, bLock)) {
+        return;
+    }
+    m_isLockedPosition = bLock;
+    if (bLock) {
+        m_lockedPosition = QPoint(ui->frameX->value(), ui->frameY->value());
+    }
+    allowAnyDirection(ui->frameX);
+    allowAnyDirection(ui->frameY);
+}
+
+// As the position lock.
 void RectEditFramePrivate::setSizeLock(bool bLock)
 {
-    QToolButton *const button = ui->toolButtonLockSize;
-    if (button->isChecked() != bLock) {
-        const QPointer<RectEditFramePrivate> self(this);
-        {
-            // Qt goes on with the button after a signal of its own.
-            const QSignalBlocker blocker(button);
-            button->setChecked(bLock);
-        }
-        Q_EMIT button->toggled(bLock);
-        if (!self) {
-            return;
-        }
+    if (!switchButton(ui->toolButtonLockSize, bLock)) {
+        return;
     }
     m_isLockedSize = bLock;
     if (bLock) {
@@ -81,12 +101,7 @@ void RectEditFramePrivate::setSizeLock(bool bLock)
 
 void RectEditFramePrivate::slotLockPositionButtonToggled(bool checked)
 {
-    m_isLockedPosition = checked;
-    if (checked) {
-        m_lockedPosition = QPoint(ui->frameX->value(), ui->frameY->value());
-    }
-    allowAnyDirection(ui->frameX);
-    allowAnyDirection(ui->frameY);
+    setPositionLock(checked);
     Q_EMIT m_pEditer->PositionLockChanged(checked);
 }
 

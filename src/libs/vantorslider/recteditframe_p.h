@@ -21,6 +21,7 @@ public:
 
     void createWidgets();
     void createConnects();
+    void setPositionLock(bool bLock);
     void setSizeLock(bool bLock);
     void slotLockPositionButtonToggled(bool checked);
     void slotLockSizeButtonToggled(bool checked);
@@ -69,6 +70,7 @@ private:
                 ui->frameY};
     }
 
+    bool switchButton(QToolButton *button, bool isChecked);
     void changePosition(const LockedField &changed, int val, const LockedField &partner);
     void changeSize(const LockedField &changed, int val, const LockedField &partner);
 

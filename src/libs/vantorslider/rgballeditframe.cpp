@@ -44,13 +44,8 @@ RGBAllEditFramePrivate::~RGBAllEditFramePrivate()
 
 void RGBAllEditFramePrivate::createWidgets()
 {
-    using Editor = RGBAllEditFrame;
-    for (const auto type : {Editor::ALL, Editor::R, Editor::G, Editor::B}) {
-        m_pEditer->setRange(type, 0, 255);
-    }
-    for (const auto type : {Editor::ALL, Editor::R, Editor::G, Editor::B}) {
-        m_pEditer->setValue(type, 50);
-    }
+    m_pEditer->setRange(0, 255);
+    m_pEditer->setValue(50, 50, 50, 50);
 }
 
 void RGBAllEditFramePrivate::createConnects()
@@ -97,6 +92,11 @@ void RGBAllEditFrame::setLabelText(Type type, const QString &text)
     d->rows().one(type, &SliderEditFrame::setLabelText, &RGBEditFrame::setLabelText, text);
 }
 
+QString RGBAllEditFrame::labelText(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::labelText, &RGBEditFrame::labelText);
+}
+
 void RGBAllEditFrame::setEditerVisible(int types)
 {
     d->rows().setVisible(types);
@@ -119,9 +119,21 @@ void RGBAllEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
+void RGBAllEditFrame::setLabelWidthRange(int maxw, int minw)
+{
+    d->rows().all(&SliderEditFrame::setLabelWidthRange,
+                  QOverload<int, int>::of(&RGBEditFrame::setLabelWidthRange), maxw, minw);
+}
+
 void RGBAllEditFrame::setLabelFixedWidth(Type type, int w)
 {
     d->rows().one(type, &SliderEditFrame::setLabelFixedWidth, &RGBEditFrame::setLabelFixedWidth, w);
+}
+
+void RGBAllEditFrame::setLabelFixedWidth(int w)
+{
+    d->rows().all(&SliderEditFrame::setLabelFixedWidth,
+                  QOverload<int>::of(&RGBEditFrame::setLabelFixedWidth), w);
 }
 
 void RGBAllEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
@@ -130,10 +142,22 @@ void RGBAllEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
+void RGBAllEditFrame::setButtonWidthRange(int maxw, int minw)
+{
+    d->rows().all(&SliderEditFrame::setButtonWidthRange,
+                  QOverload<int, int>::of(&RGBEditFrame::setButtonWidthRange), maxw, minw);
+}
+
 void RGBAllEditFrame::setButtonFixedWidth(Type type, int w)
 {
     d->rows().one(type, &SliderEditFrame::setButtonFixedWidth, &RGBEditFrame::setButtonFixedWidth,
                   w);
+}
+
+void RGBAllEditFrame::setButtonFixedWidth(int w)
+{
+    d->rows().all(&SliderEditFrame::setButtonFixedWidth,
+                  QOverload<int>::of(&RGBEditFrame::setButtonFixedWidth), w);
 }
 
 void RGBAllEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
@@ -142,10 +166,22 @@ void RGBAllEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
+void RGBAllEditFrame::setSpinBoxWidthRange(int maxw, int minw)
+{
+    d->rows().all(&SliderEditFrame::setSpinBoxWidthRange,
+                  QOverload<int, int>::of(&RGBEditFrame::setSpinBoxWidthRange), maxw, minw);
+}
+
 void RGBAllEditFrame::setSpinBoxFixedWidth(Type type, int w)
 {
     d->rows().one(type, &SliderEditFrame::setSpinBoxFixedWidth, &RGBEditFrame::setSpinBoxFixedWidth,
                   w);
+}
+
+void RGBAllEditFrame::setSpinBoxFixedWidth(int w)
+{
+    d->rows().all(&SliderEditFrame::setSpinBoxFixedWidth,
+                  QOverload<int>::of(&RGBEditFrame::setSpinBoxFixedWidth), w);
 }
 
 void RGBAllEditFrame::setSpinBoxWheelEnable(bool b)
@@ -153,9 +189,36 @@ void RGBAllEditFrame::setSpinBoxWheelEnable(bool b)
     d->rows().all(&SliderEditFrame::setSpinBoxWheelEnable, &RGBEditFrame::setSpinBoxWheelEnable, b);
 }
 
+void RGBAllEditFrame::setSliderVisible(bool b)
+{
+    d->rows().all(&SliderEditFrame::setSliderVisible, &RGBEditFrame::setSliderVisible, b);
+}
+
+void RGBAllEditFrame::setButtonVisible(bool b)
+{
+    d->rows().all(&SliderEditFrame::setButtonVisible, &RGBEditFrame::setButtonVisible, b);
+}
+
+void RGBAllEditFrame::setSliderProperty(Type type, const char *name, const QVariant &value)
+{
+    d->rows().one(type, &SliderEditFrame::setSliderProperty, &RGBEditFrame::setSliderProperty, name,
+                  value);
+}
+
+void RGBAllEditFrame::setFieldFocus(Type type)
+{
+    d->rows().one(type, &SliderEditFrame::setFieldFocus, &RGBEditFrame::setFieldFocus);
+}
+
 void RGBAllEditFrame::setValue(Type type, int val)
 {
     d->rows().one(type, &SliderEditFrame::setValue, &RGBEditFrame::setValue, val);
+}
+
+void RGBAllEditFrame::setValue(int r, int g, int b, int all)
+{
+    d->ui->frameAll->setValue(all);
+    d->ui->frameRGB->setValue(r, g, b);
 }
 
 void RGBAllEditFrame::value(int &r, int &g, int &b, int &all)
@@ -164,9 +227,26 @@ void RGBAllEditFrame::value(int &r, int &g, int &b, int &all)
     d->ui->frameRGB->value(r, g, b);
 }
 
+int RGBAllEditFrame::value(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::value,
+                         QOverload<RGBEditFrame::Type>::of(&RGBEditFrame::value));
+}
+
 void RGBAllEditFrame::setRange(Type type, int min, int max)
 {
     d->rows().one(type, &SliderEditFrame::setRange, &RGBEditFrame::setRange, min, max);
+}
+
+void RGBAllEditFrame::setRange(int min, int max)
+{
+    d->rows().all(&SliderEditFrame::setRange, QOverload<int, int>::of(&RGBEditFrame::setRange), min,
+                  max);
+}
+
+void RGBAllEditFrame::range(Type type, int &min, int &max) const
+{
+    d->rows().range(type, min, max);
 }
 
 void RGBAllEditFrame::setSingleStep(Type type, int val)
@@ -174,9 +254,25 @@ void RGBAllEditFrame::setSingleStep(Type type, int val)
     d->rows().one(type, &SliderEditFrame::setSingleStep, &RGBEditFrame::setSingleStep, val);
 }
 
+int RGBAllEditFrame::singleStep(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::singleStep, &RGBEditFrame::singleStep);
+}
+
 void RGBAllEditFrame::setPageStep(Type type, int val)
 {
     d->rows().one(type, &SliderEditFrame::setPageStep, &RGBEditFrame::setPageStep, val);
+}
+
+int RGBAllEditFrame::pageStep(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::pageStep, &RGBEditFrame::pageStep);
+}
+
+void RGBAllEditFrame::setValueChangeDirection(Type type, int directions, int val)
+{
+    d->rows().one(type, &SliderEditFrame::setValueChangeDirection,
+                  &RGBEditFrame::setValueChangeDirection, directions, val);
 }
 
 void RGBAllEditFrame::setAutoRepeat(bool b)
@@ -210,9 +306,14 @@ void RGBAllEditFrame::setLastVerticalSpacerExpanding(bool b)
     Internal::setSpacerExpanding(d->ui->verticalSpacer, b);
 }
 
+bool RGBAllEditFrame::isMousePressed() const
+{
+    return d->rows().isMousePressed();
+}
+
 int RGBAllEditFrame::labelMaxLength()
 {
-    return qMax(d->ui->frameRGB->labelMaxLength(), d->rows().row.labelMaxLength());
+    return d->rows().labelMaxLength();
 }
 
 } // namespace Widgets

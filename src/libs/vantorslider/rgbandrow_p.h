@@ -14,8 +14,9 @@ struct RGBAndRow
 {
     // What the own row's flag does not name is the block's, which warns of what
     // names no channel.
-    template <typename RowOperation, typename BlockOperation, typename... Arguments>
-    void one(int type, RowOperation rowOperation, BlockOperation blockOperation,
+    template <typename RowOperation, typename... BlockArguments, typename... Arguments>
+    void one(int type, RowOperation rowOperation,
+             void (RGBEditFrame::*blockOperation)(RGBEditFrame::Type, BlockArguments...),
              const Arguments &...arguments) const
     {
         if (SliderEditFrame *frame = row.find(type)) {
@@ -24,6 +25,27 @@ struct RGBAndRow
             (block->*blockOperation)(static_cast<RGBEditFrame::Type>(type), arguments...);
         }
     }
+
+    template <typename RowGetter, typename BlockGetter>
+    auto get(int type, RowGetter rowGetter, BlockGetter blockGetter) const
+    {
+        SliderEditFrame *frame = row.find(type);
+        return frame != nullptr ? (frame->*rowGetter)()
+                                : (block->*blockGetter)(static_cast<RGBEditFrame::Type>(type));
+    }
+
+    void range(int type, int &min, int &max) const
+    {
+        if (const SliderEditFrame *frame = row.find(type)) {
+            min = frame->minimum();
+            max = frame->maximum();
+        } else {
+            block->range(static_cast<RGBEditFrame::Type>(type), min, max);
+        }
+    }
+
+    bool isMousePressed() const { return row.isMousePressed() || block->isMousePressed(); }
+    int labelMaxLength() const { return qMax(block->labelMaxLength(), row.labelMaxLength()); }
 
     template <typename RowOperation, typename BlockOperation, typename... Arguments>
     void all(RowOperation rowOperation, BlockOperation blockOperation,

@@ -50,12 +50,8 @@ RGBEditFramePrivate::~RGBEditFramePrivate()
 
 void RGBEditFramePrivate::createWidgets()
 {
-    for (const auto channel : {RGBEditFrame::R, RGBEditFrame::G, RGBEditFrame::B}) {
-        m_pEditer->setRange(channel, 0, 255);
-    }
-    for (const auto channel : {RGBEditFrame::R, RGBEditFrame::G, RGBEditFrame::B}) {
-        m_pEditer->setValue(channel, 50);
-    }
+    m_pEditer->setRange(0, 255);
+    m_pEditer->setValue(50, 50, 50);
     ui->frameR->setSliderProperty("isColorControl_Red", true);
     ui->frameG->setSliderProperty("isColorControl_Green", true);
     ui->frameB->setSliderProperty("isColorControl_Blue", true);
@@ -109,6 +105,12 @@ void RGBEditFrame::setLabelText(Type type, const QString &text)
                   text);
 }
 
+QString RGBEditFrame::labelText(Type type) const
+{
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB label text",
+                         &SliderEditFrame::labelText);
+}
+
 void RGBEditFrame::setEditerVisible(int types)
 {
     d->rows().setVisible(types);
@@ -130,10 +132,20 @@ void RGBEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
                   &SliderEditFrame::setLabelWidthRange, maxw, minw);
 }
 
+void RGBEditFrame::setLabelWidthRange(int maxw, int minw)
+{
+    d->rows().all(&SliderEditFrame::setLabelWidthRange, maxw, minw);
+}
+
 void RGBEditFrame::setLabelFixedWidth(Type type, int w)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB label fixed width",
                   &SliderEditFrame::setLabelFixedWidth, w);
+}
+
+void RGBEditFrame::setLabelFixedWidth(int w)
+{
+    d->rows().all(&SliderEditFrame::setLabelFixedWidth, w);
 }
 
 void RGBEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
@@ -142,10 +154,20 @@ void RGBEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
                   &SliderEditFrame::setButtonWidthRange, maxw, minw);
 }
 
+void RGBEditFrame::setButtonWidthRange(int maxw, int minw)
+{
+    d->rows().all(&SliderEditFrame::setButtonWidthRange, maxw, minw);
+}
+
 void RGBEditFrame::setButtonFixedWidth(Type type, int w)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB button fixed width",
                   &SliderEditFrame::setButtonFixedWidth, w);
+}
+
+void RGBEditFrame::setButtonFixedWidth(int w)
+{
+    d->rows().all(&SliderEditFrame::setButtonFixedWidth, w);
 }
 
 void RGBEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
@@ -154,10 +176,20 @@ void RGBEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
                   &SliderEditFrame::setSpinBoxWidthRange, maxw, minw);
 }
 
+void RGBEditFrame::setSpinBoxWidthRange(int maxw, int minw)
+{
+    d->rows().all(&SliderEditFrame::setSpinBoxWidthRange, maxw, minw);
+}
+
 void RGBEditFrame::setSpinBoxFixedWidth(Type type, int w)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB spinbox fixed width",
                   &SliderEditFrame::setSpinBoxFixedWidth, w);
+}
+
+void RGBEditFrame::setSpinBoxFixedWidth(int w)
+{
+    d->rows().all(&SliderEditFrame::setSpinBoxFixedWidth, w);
 }
 
 void RGBEditFrame::setSpinBoxWheelEnable(bool b)
@@ -165,9 +197,37 @@ void RGBEditFrame::setSpinBoxWheelEnable(bool b)
     d->rows().all(&SliderEditFrame::setSpinBoxWheelEnable, b);
 }
 
+void RGBEditFrame::setSliderVisible(bool b)
+{
+    d->rows().all(&SliderEditFrame::setSliderVisible, b);
+}
+
+void RGBEditFrame::setButtonVisible(bool b)
+{
+    d->rows().all(&SliderEditFrame::setButtonVisible, b);
+}
+
+void RGBEditFrame::setSliderProperty(Type type, const char *name, const QVariant &value)
+{
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB slider property",
+                  &SliderEditFrame::setSliderProperty, name, value);
+}
+
+void RGBEditFrame::setFieldFocus(Type type)
+{
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB field focus", &SliderEditFrame::setFieldFocus);
+}
+
 void RGBEditFrame::setValue(Type type, int val)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB value", &SliderEditFrame::setValue, val);
+}
+
+void RGBEditFrame::setValue(int r, int g, int b)
+{
+    d->ui->frameR->setValue(r);
+    d->ui->frameG->setValue(g);
+    d->ui->frameB->setValue(b);
 }
 
 void RGBEditFrame::value(int &r, int &g, int &b)
@@ -177,9 +237,27 @@ void RGBEditFrame::value(int &r, int &g, int &b)
     b = d->ui->frameB->value();
 }
 
+int RGBEditFrame::value(Type type) const
+{
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB value", &SliderEditFrame::value);
+}
+
 void RGBEditFrame::setRange(Type type, int min, int max)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB range", &SliderEditFrame::setRange, min, max);
+}
+
+void RGBEditFrame::setRange(int min, int max)
+{
+    d->rows().all(&SliderEditFrame::setRange, min, max);
+}
+
+void RGBEditFrame::range(Type type, int &min, int &max) const
+{
+    if (const auto *row = d->rows().findOrWarn(type, VANTORSLIDER_HERE, "Get RGB range")) {
+        min = row->minimum();
+        max = row->maximum();
+    }
 }
 
 void RGBEditFrame::setSingleStep(Type type, int val)
@@ -188,9 +266,26 @@ void RGBEditFrame::setSingleStep(Type type, int val)
                   val);
 }
 
+int RGBEditFrame::singleStep(Type type) const
+{
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB single step",
+                         &SliderEditFrame::singleStep);
+}
+
 void RGBEditFrame::setPageStep(Type type, int val)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB page step", &SliderEditFrame::setPageStep, val);
+}
+
+int RGBEditFrame::pageStep(Type type) const
+{
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB page step", &SliderEditFrame::pageStep);
+}
+
+void RGBEditFrame::setValueChangeDirection(Type type, int directions, int val)
+{
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB value change direction",
+                  &SliderEditFrame::setValueChangeDirection, directions, val);
 }
 
 void RGBEditFrame::setAutoRepeat(bool b)

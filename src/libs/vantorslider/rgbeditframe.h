@@ -40,6 +40,9 @@ public:
     /*! Shows \a text as the name of the row \a type. */
     void setLabelText(Type type, const QString &text);
 
+    /*! The name shown of the row \a type; empty where it names none. \since 1.1 */
+    QString labelText(Type type) const;
+
     /*! Shows the rows whose bit is set in \a types and hides the others. */
     void setEditerVisible(int types);
 
@@ -52,38 +55,92 @@ public:
     /*! SliderEditFrame::setLabelWidthRange() of the row \a type. */
     void setLabelWidthRange(Type type, int maxw, int minw);
 
+    /*! setLabelWidthRange() of every row. \since 1.1 */
+    void setLabelWidthRange(int maxw, int minw);
+
     /*! SliderEditFrame::setLabelFixedWidth() of the row \a type. */
     void setLabelFixedWidth(Type type, int w);
+
+    /*! setLabelFixedWidth() of every row. \since 1.1 */
+    void setLabelFixedWidth(int w);
 
     /*! SliderEditFrame::setButtonWidthRange() of the row \a type. */
     void setButtonWidthRange(Type type, int maxw, int minw);
 
+    /*! setButtonWidthRange() of every row. \since 1.1 */
+    void setButtonWidthRange(int maxw, int minw);
+
     /*! SliderEditFrame::setButtonFixedWidth() of the row \a type. */
     void setButtonFixedWidth(Type type, int w);
+
+    /*! setButtonFixedWidth() of every row. \since 1.1 */
+    void setButtonFixedWidth(int w);
 
     /*! SliderEditFrame::setSpinBoxWidthRange() of the row \a type. */
     void setSpinBoxWidthRange(Type type, int maxw, int minw);
 
+    /*! setSpinBoxWidthRange() of every row. \since 1.1 */
+    void setSpinBoxWidthRange(int maxw, int minw);
+
     /*! SliderEditFrame::setSpinBoxFixedWidth() of the row \a type. */
     void setSpinBoxFixedWidth(Type type, int w);
+
+    /*! setSpinBoxFixedWidth() of every row. \since 1.1 */
+    void setSpinBoxFixedWidth(int w);
 
     /*! SliderEditFrame::setSpinBoxWheelEnable() of every row. */
     void setSpinBoxWheelEnable(bool b);
 
+    /*! SliderEditFrame::setSliderVisible() of every row. \since 1.1 */
+    void setSliderVisible(bool b);
+
+    /*! SliderEditFrame::setButtonVisible() of every row. \since 1.1 */
+    void setButtonVisible(bool b);
+
+    /*! SliderEditFrame::setSliderProperty() of the row \a type. \since 1.1 */
+    void setSliderProperty(Type type, const char *name, const QVariant &value);
+
+    /*! SliderEditFrame::setFieldFocus() of the row \a type. \since 1.1 */
+    void setFieldFocus(Type type);
+
     /*! SliderEditFrame::setValue() of the row \a type. Emits nothing. */
     void setValue(Type type, int val);
+
+    /*! Shows \a r, \a g and \a b, each clamped to its row's range. Emits nothing. \since 1.1 */
+    void setValue(int r, int g, int b);
 
     /*! Writes the channels' values to \a r, \a g and \a b. */
     void value(int &r, int &g, int &b);
 
+    /*! The value of the row \a type; 0 where it names none. \since 1.1 */
+    int value(Type type) const;
+
     /*! SliderEditFrame::setRange() of the row \a type. Emits nothing. */
     void setRange(Type type, int min, int max);
+
+    /*! Sets the range of all three channels to \a min up to \a max. Emits nothing. \since 1.1 */
+    void setRange(int min, int max);
+
+    /*!
+        Writes the range of the row \a type to \a min and \a max; leaves them where it names
+        none. \since 1.1
+    */
+    void range(Type type, int &min, int &max) const;
 
     /*! SliderEditFrame::setSingleStep() of the row \a type. */
     void setSingleStep(Type type, int val);
 
+    /*! The step of the row \a type; 0 where it names none. \since 1.1 */
+    int singleStep(Type type) const;
+
     /*! SliderEditFrame::setPageStep() of the row \a type. */
     void setPageStep(Type type, int val);
+
+    /*! The page step of the row \a type; 0 where it names none. \since 1.1 */
+    int pageStep(Type type) const;
+
+    /*! SliderEditFrame::setValueChangeDirection() of the row \a type. \since 1.1 */
+    void setValueChangeDirection(Type type, int directions, int val);
 
     /*! SliderEditFrame::setAutoRepeat() of every row. */
     void setAutoRepeat(bool b);

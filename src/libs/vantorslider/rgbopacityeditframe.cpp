@@ -96,6 +96,11 @@ void RGBOpacityEditFrame::setLabelText(Type type, const QString &text)
     d->rows().one(type, &SliderEditFrame::setLabelText, &RGBEditFrame::setLabelText, text);
 }
 
+QString RGBOpacityEditFrame::labelText(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::labelText, &RGBEditFrame::labelText);
+}
+
 void RGBOpacityEditFrame::setEditerVisible(int types)
 {
     d->rows().setVisible(types);
@@ -119,9 +124,21 @@ void RGBOpacityEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
+void RGBOpacityEditFrame::setLabelWidthRange(int maxw, int minw)
+{
+    d->rows().all(&SliderEditFrame::setLabelWidthRange,
+                  QOverload<int, int>::of(&RGBEditFrame::setLabelWidthRange), maxw, minw);
+}
+
 void RGBOpacityEditFrame::setLabelFixedWidth(Type type, int w)
 {
     d->rows().one(type, &SliderEditFrame::setLabelFixedWidth, &RGBEditFrame::setLabelFixedWidth, w);
+}
+
+void RGBOpacityEditFrame::setLabelFixedWidth(int w)
+{
+    d->rows().all(&SliderEditFrame::setLabelFixedWidth,
+                  QOverload<int>::of(&RGBEditFrame::setLabelFixedWidth), w);
 }
 
 void RGBOpacityEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
@@ -130,10 +147,22 @@ void RGBOpacityEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
+void RGBOpacityEditFrame::setButtonWidthRange(int maxw, int minw)
+{
+    d->rows().all(&SliderEditFrame::setButtonWidthRange,
+                  QOverload<int, int>::of(&RGBEditFrame::setButtonWidthRange), maxw, minw);
+}
+
 void RGBOpacityEditFrame::setButtonFixedWidth(Type type, int w)
 {
     d->rows().one(type, &SliderEditFrame::setButtonFixedWidth, &RGBEditFrame::setButtonFixedWidth,
                   w);
+}
+
+void RGBOpacityEditFrame::setButtonFixedWidth(int w)
+{
+    d->rows().all(&SliderEditFrame::setButtonFixedWidth,
+                  QOverload<int>::of(&RGBEditFrame::setButtonFixedWidth), w);
 }
 
 void RGBOpacityEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
@@ -142,10 +171,22 @@ void RGBOpacityEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
+void RGBOpacityEditFrame::setSpinBoxWidthRange(int maxw, int minw)
+{
+    d->rows().all(&SliderEditFrame::setSpinBoxWidthRange,
+                  QOverload<int, int>::of(&RGBEditFrame::setSpinBoxWidthRange), maxw, minw);
+}
+
 void RGBOpacityEditFrame::setSpinBoxFixedWidth(Type type, int w)
 {
     d->rows().one(type, &SliderEditFrame::setSpinBoxFixedWidth, &RGBEditFrame::setSpinBoxFixedWidth,
                   w);
+}
+
+void RGBOpacityEditFrame::setSpinBoxFixedWidth(int w)
+{
+    d->rows().all(&SliderEditFrame::setSpinBoxFixedWidth,
+                  QOverload<int>::of(&RGBEditFrame::setSpinBoxFixedWidth), w);
 }
 
 void RGBOpacityEditFrame::setSpinBoxWheelEnable(bool b)
@@ -153,9 +194,36 @@ void RGBOpacityEditFrame::setSpinBoxWheelEnable(bool b)
     d->rows().all(&SliderEditFrame::setSpinBoxWheelEnable, &RGBEditFrame::setSpinBoxWheelEnable, b);
 }
 
+void RGBOpacityEditFrame::setSliderVisible(bool b)
+{
+    d->rows().all(&SliderEditFrame::setSliderVisible, &RGBEditFrame::setSliderVisible, b);
+}
+
+void RGBOpacityEditFrame::setButtonVisible(bool b)
+{
+    d->rows().all(&SliderEditFrame::setButtonVisible, &RGBEditFrame::setButtonVisible, b);
+}
+
+void RGBOpacityEditFrame::setSliderProperty(Type type, const char *name, const QVariant &value)
+{
+    d->rows().one(type, &SliderEditFrame::setSliderProperty, &RGBEditFrame::setSliderProperty, name,
+                  value);
+}
+
+void RGBOpacityEditFrame::setFieldFocus(Type type)
+{
+    d->rows().one(type, &SliderEditFrame::setFieldFocus, &RGBEditFrame::setFieldFocus);
+}
+
 void RGBOpacityEditFrame::setValue(Type type, int val)
 {
     d->rows().one(type, &SliderEditFrame::setValue, &RGBEditFrame::setValue, val);
+}
+
+void RGBOpacityEditFrame::setValue(int r, int g, int b, int opacity)
+{
+    d->ui->frameOpacity->setValue(opacity);
+    d->ui->frameRGB->setValue(r, g, b);
 }
 
 void RGBOpacityEditFrame::value(int &r, int &g, int &b, int &opacity)
@@ -164,9 +232,25 @@ void RGBOpacityEditFrame::value(int &r, int &g, int &b, int &opacity)
     d->ui->frameRGB->value(r, g, b);
 }
 
+int RGBOpacityEditFrame::value(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::value,
+                         QOverload<RGBEditFrame::Type>::of(&RGBEditFrame::value));
+}
+
 void RGBOpacityEditFrame::setRange(Type type, int min, int max)
 {
     d->rows().one(type, &SliderEditFrame::setRange, &RGBEditFrame::setRange, min, max);
+}
+
+void RGBOpacityEditFrame::setRange(int min, int max)
+{
+    d->ui->frameRGB->setRange(min, max);
+}
+
+void RGBOpacityEditFrame::range(Type type, int &min, int &max) const
+{
+    d->rows().range(type, min, max);
 }
 
 void RGBOpacityEditFrame::setSingleStep(Type type, int val)
@@ -174,9 +258,25 @@ void RGBOpacityEditFrame::setSingleStep(Type type, int val)
     d->rows().one(type, &SliderEditFrame::setSingleStep, &RGBEditFrame::setSingleStep, val);
 }
 
+int RGBOpacityEditFrame::singleStep(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::singleStep, &RGBEditFrame::singleStep);
+}
+
 void RGBOpacityEditFrame::setPageStep(Type type, int val)
 {
     d->rows().one(type, &SliderEditFrame::setPageStep, &RGBEditFrame::setPageStep, val);
+}
+
+int RGBOpacityEditFrame::pageStep(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::pageStep, &RGBEditFrame::pageStep);
+}
+
+void RGBOpacityEditFrame::setValueChangeDirection(Type type, int directions, int val)
+{
+    d->rows().one(type, &SliderEditFrame::setValueChangeDirection,
+                  &RGBEditFrame::setValueChangeDirection, directions, val);
 }
 
 void RGBOpacityEditFrame::setAutoRepeat(bool b)
@@ -208,6 +308,16 @@ void RGBOpacityEditFrame::setTimeSamplingRate(int val)
 void RGBOpacityEditFrame::setLastVerticalSpacerExpanding(bool b)
 {
     Internal::setSpacerExpanding(d->ui->verticalSpacer, b);
+}
+
+bool RGBOpacityEditFrame::isMousePressed() const
+{
+    return d->rows().isMousePressed();
+}
+
+int RGBOpacityEditFrame::labelMaxLength() const
+{
+    return d->rows().labelMaxLength();
 }
 
 } // namespace Widgets

@@ -193,6 +193,11 @@ void SliderEditFrame::setSliderProperty(const char *name, const QVariant &value)
     d->slider()->setProperty(name, value);
 }
 
+void SliderEditFrame::setFieldFocus()
+{
+    d->row().setFieldFocus();
+}
+
 void SliderEditFrame::setValue(int val)
 {
     d->apply(val);
@@ -259,6 +264,11 @@ void SliderEditFrame::setAutoRepeat(bool b)
     d->row().setAutoRepeat(b);
 }
 
+bool SliderEditFrame::autoRepeat() const
+{
+    return d->row().plus->autoRepeat();
+}
+
 void SliderEditFrame::setAutoRepeatDelay(int val)
 {
     d->row().setAutoRepeatDelay(val);
@@ -275,10 +285,20 @@ void SliderEditFrame::setReleaseMode(bool b)
     setAutoRepeat(!b);
 }
 
+bool SliderEditFrame::isReleaseMode() const
+{
+    return d->isReleaseMode();
+}
+
 void SliderEditFrame::setTimeSamplingRate(int val)
 {
     d->setTimeSampling(val);
     setReleaseMode(false);
+}
+
+int SliderEditFrame::timeSamplingRate() const
+{
+    return d->timeSamplingRate();
 }
 
 void SliderEditFrame::setValueChangeDirection(int directions, int val)

@@ -98,6 +98,12 @@ public:
     void setSliderProperty(const char *name, const QVariant &value);
 
     /*!
+        Gives the keyboard focus to the spin box and selects its text, as if the user had
+        clicked into it. \since 1.1
+    */
+    void setFieldFocus();
+
+    /*!
         Shows \a val on slider and spin box, clamped to their range, and hands the range to the
         spin box's calculator. Emits nothing.
     */
@@ -144,6 +150,12 @@ public:
     /*! Lets a held button repeat its step, if \a b is true. Each repetition is reported. */
     void setAutoRepeat(bool b);
 
+    /*!
+        Whether a held button repeats its step; setReleaseMode() and setTimeSamplingRate() switch
+        it, too. \since 1.1
+    */
+    bool autoRepeat() const;
+
     /*! Sets the time before a held button repeats to \a val milliseconds. */
     void setAutoRepeatDelay(int val);
 
@@ -156,11 +168,17 @@ public:
     */
     void setReleaseMode(bool b);
 
+    /*! True in release mode; false at first. \since 1.1 */
+    bool isReleaseMode() const;
+
     /*!
         Reports a drag at most once every \a val milliseconds and at its end. Leaves release
         mode, which switches the buttons' auto-repeat on. Nothing switches sampling off again.
     */
     void setTimeSamplingRate(int val);
+
+    /*! The milliseconds of time sampling; 0 while it is off, as at first. \since 1.1 */
+    int timeSamplingRate() const;
 
     /*!
         Holds every reported value on one side of \a val. \a directions is a combination of

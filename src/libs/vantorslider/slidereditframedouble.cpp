@@ -178,9 +178,19 @@ void SliderEditFrameDouble::setSliderVisible(bool b)
     d->row().setSliderVisible(b);
 }
 
+void SliderEditFrameDouble::setButtonVisible(bool b)
+{
+    d->row().setButtonVisible(b);
+}
+
 void SliderEditFrameDouble::setSliderProperty(const char *name, const QVariant &value)
 {
     d->slider()->setProperty(name, value);
+}
+
+void SliderEditFrameDouble::setFieldFocus()
+{
+    d->row().setFieldFocus();
 }
 
 void SliderEditFrameDouble::setValue(double val)
@@ -306,6 +316,11 @@ void SliderEditFrameDouble::setAutoRepeat(bool b)
     d->row().setAutoRepeat(b);
 }
 
+bool SliderEditFrameDouble::autoRepeat() const
+{
+    return d->row().plus->autoRepeat();
+}
+
 void SliderEditFrameDouble::setAutoRepeatDelay(int val)
 {
     d->row().setAutoRepeatDelay(val);
@@ -322,15 +337,30 @@ void SliderEditFrameDouble::setReleaseMode(bool b)
     setAutoRepeat(!b);
 }
 
+bool SliderEditFrameDouble::isReleaseMode() const
+{
+    return d->isReleaseMode();
+}
+
 void SliderEditFrameDouble::setTimeSamplingRate(int val)
 {
     d->setTimeSampling(val);
     setReleaseMode(false);
 }
 
+int SliderEditFrameDouble::timeSamplingRate() const
+{
+    return d->timeSamplingRate();
+}
+
 void SliderEditFrameDouble::setValueChangeDirection(int directions, int val)
 {
     d->setDirection(directions, val);
+}
+
+bool SliderEditFrameDouble::isMousePressed() const
+{
+    return d->slider()->isMousePressed();
 }
 
 bool SliderEditFrameDouble::eventFilter(QObject *watched, QEvent *event)

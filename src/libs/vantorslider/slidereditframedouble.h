@@ -86,8 +86,17 @@ public:
     /*! As SliderEditFrame::setSliderVisible(). */
     void setSliderVisible(bool b);
 
+    /*! Shows or hides both buttons. \since 1.1 */
+    void setButtonVisible(bool b);
+
     /*! Sets the slider's property \a name to \a value, for style sheets that select on it. */
     void setSliderProperty(const char *name, const QVariant &value);
+
+    /*!
+        Gives the keyboard focus to the spin box and selects its text, as if the user had
+        clicked into it. \since 1.1
+    */
+    void setFieldFocus();
 
     /*!
         Shows \a val, rounded to the decimals and clamped to the range, and hands the range to
@@ -146,6 +155,12 @@ public:
     /*! As SliderEditFrame::setAutoRepeat(). */
     void setAutoRepeat(bool b);
 
+    /*!
+        Whether a held button repeats its step; setReleaseMode() and setTimeSamplingRate() switch
+        it, too. \since 1.1
+    */
+    bool autoRepeat() const;
+
     /*! As SliderEditFrame::setAutoRepeatDelay(). */
     void setAutoRepeatDelay(int val);
 
@@ -155,11 +170,20 @@ public:
     /*! As SliderEditFrame::setReleaseMode(); the spin box follows the handle meanwhile. */
     void setReleaseMode(bool b);
 
+    /*! True in release mode; false at first. \since 1.1 */
+    bool isReleaseMode() const;
+
     /*! As SliderEditFrame::setTimeSamplingRate(). */
     void setTimeSamplingRate(int val);
 
+    /*! The milliseconds of time sampling; 0 while it is off, as at first. \since 1.1 */
+    int timeSamplingRate() const;
+
     /*! As SliderEditFrame::setValueChangeDirection(); the reference \a val is a whole number. */
     void setValueChangeDirection(int directions, int val);
+
+    /*! True while the pointer holds the slider; false as soon as it leaves it. \since 1.1 */
+    bool isMousePressed() const;
 
 Q_SIGNALS:
     /*! The user changed the value to \a val. */

@@ -102,6 +102,9 @@ public:
         m_isTimeSampling = true;
     }
 
+    bool isReleaseMode() const { return m_isReleaseMode; }
+    int timeSamplingRate() const { return m_isTimeSampling ? m_nTimeSamplingRate : 0; }
+
     // On which side of the reference reported values are held.
     void setDirection(int directions, Value reference)
     {
@@ -115,7 +118,6 @@ protected:
     Form *form() const { return ui; }
     Value lastValue() const { return m_nLastValue; }
     int lastPressedPosition() const { return m_nLastPressedValue; }
-    bool isReleaseMode() const { return m_isReleaseMode; }
     Value spinValue() const { return engine().spinBox()->value(); }
 
     // The direction filter: without AllowedToBigger only smaller values are allowed,

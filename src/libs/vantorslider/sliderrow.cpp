@@ -97,6 +97,12 @@ void SliderRow::setButtonVisible(bool isVisible) const
     minus->setVisible(isVisible);
 }
 
+void SliderRow::setFieldFocus() const
+{
+    spinBox->setFocus(Qt::OtherFocusReason);
+    spinBox->selectAll();
+}
+
 void SliderRow::setAutoRepeat(bool isRepeating) const
 {
     plus->setAutoRepeat(isRepeating);

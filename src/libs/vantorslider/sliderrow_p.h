@@ -43,6 +43,7 @@ struct SliderRow
     void setButtonWidthRange(int maximum, int minimum) const;
     void setButtonFixedWidth(int width) const;
     void setButtonVisible(bool isVisible) const;
+    void setFieldFocus() const;
     void setAutoRepeat(bool isRepeating) const;
     void setAutoRepeatDelay(int milliseconds) const;
     void setAutoRepeatInterval(int milliseconds) const;
