@@ -119,7 +119,12 @@ template <typename Editor> struct Shown
 // Before every sample: some of Qt's work takes longer in a window in the background.
 void activate(const QWidget *widget)
 {
-    QApplication::setActiveWindow(widget->window());
+    QWidget *window = widget->window();
+    window->activateWindow();
+    QCoreApplication::processEvents();
+    if (!window->isActiveWindow()) {
+        qFatal("The window does not become active.");
+    }
 }
 
 QSpinBox *spinBoxOf(QWidget *editor)
