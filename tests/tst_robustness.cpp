@@ -181,7 +181,7 @@ void takeAwayHeld(AnyUser &user, const QString &steps, const QString &removal, b
             User::pressAt(row.plus, row.plus->rect().center());
         else
             QTest::keyPress(row.plus, Qt::Key_Space);
-        QTRY_VERIFY(row.slider->value() > 10);
+        QVERIFY(comesTrue([&] { return row.slider->value() > 10; }));
     } else {
         for (const QString &step : (steps + (isInReport ? " | tick | drop" : "")).split(" | "))
             user.perform(step);

@@ -43,6 +43,16 @@ void User::clickGroove(QSlider *slider, bool behind)
     releaseAt(slider, pos);
 }
 
+bool comesTrue(const std::function<bool()> &condition)
+{
+    bool isTrue = condition();
+    for (int i = 0; i < 500 && !isTrue; ++i) {
+        QTest::qWait(10);
+        isTrue = condition();
+    }
+    return isTrue;
+}
+
 int samplingInterval(QObject *editor)
 {
     const auto timers = timersOf(editor);

@@ -7,6 +7,8 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QSlider>
 
+#include <functional>
+
 // What only tests let the user do.
 namespace User {
 
@@ -17,6 +19,10 @@ void paste(const QString &text);
 void clickGroove(QSlider *slider, bool behind);
 
 } // namespace User
+
+// Whether it is true within five seconds, while events are delivered. QTRY_VERIFY() of
+// Qt 6.8 narrows its time limit, which -Wconversion minds.
+[[nodiscard]] bool comesTrue(const std::function<bool()> &condition);
 
 // The interval of the editor's sampling timer, -1 when none runs. A test gives a
 // long interval and lets the ticks come itself.
