@@ -28,10 +28,16 @@ namespace {
 
 // What the user does with a row. "#" is a position, at times beyond the range.
 const QStringList gestures =
-    QString("plus; minus; enter (#+7-7)/1; type (#+7-7)/1\t; "
-            "click | up | down | down | keys \n; groove before; groove after; wheel; hold | drop; "
-            "hold | move # | move # | tick | drop; hold | move # | tick | move # | drop")
+    QString(
+        "plus; minus; enter (#+7-7)/1; type (#+7-7)/1\t; "
+        "click | up | down | down | keys \n; groove before; groove after; wheel; hold | drop; "
+        "hold | move # | move # | tick | drop; hold | move # | tick | move # | drop; "
+        "hold | move # | dialog | drop; type #/1 | dialog; type # | minus; hold | move # | hide "
+        "| show; type # | disable | enable; space | type # | hold | drop")
         .split("; ");
+
+// What the user is in the middle of when the program deletes the editor.
+const QStringList lastGestures {"plus", "hold | move 20", "type 5", "type 5/"};
 
 // A new editor with its user and program, and what must hold of them.
 template <typename Frame> class Session
@@ -43,7 +49,7 @@ public:
     Session(const QString &start, const QStringList &steps, std::mt19937 &random)
         : m_programSteps(steps), m_random(random)
     {
-        playProgram(start + any({"", " | released", " | sampled"}) + " | " + steps[0]);
+        playProgram("edits | " + start + any({"", " | released", " | sampled"}) + " | " + steps[0]);
     }
 
     // What was done, as a row for a table.
@@ -59,6 +65,7 @@ public:
             else
                 playUser(number(0, int(m_user.rows.size()) - 1), action);
         }
+        deleteEditor();
         return m_done.join(" | ").replace('\t', "\\t").replace('\n', "\\n");
     }
 
@@ -107,14 +114,20 @@ private:
             m_user.perform(step);
             const QString heard = m_user.heard();
             m_done.append(step + ": " + heard);
+            const auto most = qMax(1, int(m_isInEdit) + int(heard.count("start")));
+            verifyEdits(heard);
             QVERIFY(!heard.contains("warning") && !heard.contains("too early"));
             // What a lock has clamped is reported before the entry.
-            QVERIFY(heard.count(change) <= (gesture.contains('(') && !lock.isEmpty() ? 2 : 1));
+            const int clamped =
+                QRegularExpression("enter|type").match(gesture).hasMatch() && !lock.isEmpty() ? 1
+                                                                                              : 0;
+            QVERIFY(heard.count(change) <= most + clamped);
             if (heard.lastIndexOf(change, -1, &match) >= 0)
                 changed = match.captured(1);
             if (heard.lastIndexOf(isCrop || isMask ? held : change, -1, &match) >= 0)
                 m_reported = match.captured(1);
         }
+        QVERIFY(!m_isInEdit);
         QCOMPARE(m_user.shown().replace(' ', ','), m_reported);
         for (const EditorRow &each : m_user.rows)
             QVERIFY(!each.whole || each.whole->value() == each.slider->value());
@@ -122,6 +135,34 @@ private:
             lock = lock.isEmpty() ? QVector<int> {value(row & 2), value(row | 1)} : QVector<int>();
         else if (!changed.isEmpty())
             verifyField(row, changed.section(',', row, row).toInt(), lock);
+    }
+
+    // Starts and ends take turns, and all that is reported comes between them.
+    void verifyEdits(const QString &heard)
+    {
+        static const QSet<QString> others {"", "finished", "left", "page", "key"};
+        for (const QString &word : heard.split(' ')) {
+            const bool isLock = word.contains("Lock");
+            if (word == "start" || word == "late")
+                QVERIFY(!std::exchange(m_isInEdit, true) && word == "start");
+            else if (word == "end")
+                QVERIFY(std::exchange(m_isInEdit, false));
+            else
+                QVERIFY(m_isInEdit || isLock || others.contains(word));
+        }
+    }
+
+    // Nothing is heard any more, wherever the user was.
+    void deleteEditor()
+    {
+        if (QTest::currentTestFailed())
+            return;
+        for (const QString &action : any(lastGestures).split(" | "))
+            m_user.perform(m_user.rows.first().step(action));
+        verifyEdits(m_user.heard());
+        delete m_user.frame;
+        QCoreApplication::processEvents();
+        QCOMPARE(m_user.heard(), QString());
     }
 
     // Of the field that the user has changed and what is locked to it.
@@ -145,6 +186,7 @@ private:
     QVector<int> m_locks[2]; // the positions and the sizes where they were locked
     QStringList m_done;
     QString m_reported;
+    bool m_isInEdit = false;
 };
 
 template <typename Frame> void add(const QString &start, const QStringList &steps)

@@ -4,7 +4,9 @@
 #include "rgbeditframe.h"
 #include "rgbopacityeditframe.h"
 
+#include <QtCore/QTimer>
 #include <QtGui/QClipboard>
+#include <QtWidgets/QDialog>
 #include <QtWidgets/QMenu>
 
 #include <QAction> // of QtWidgets or, with Qt 6, of QtGui
@@ -151,6 +153,13 @@ void EditorUser::addGestures()
     on("show hide", [](const Step &step) { step.row.frame->setVisible(step.verb == "show"); });
     on("enable disable",
        [](const Step &step) { step.row.frame->setEnabled(step.verb == "enable"); });
+    on("dialog", [this](const Step &) {
+        QDialog dialog(&page);
+        QTimer::singleShot(0, &dialog, &QDialog::accept);
+        dialog.exec();
+        page.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&page));
+    });
     on("delete", [](const Step &step) {
         delete step.row.frame;
         QCoreApplication::processEvents(); // what was left to do finds it gone
@@ -190,6 +199,14 @@ template <typename Frame> void EditorUser::addModes(Frame *frame)
     on("autoRepeat", [=](const Step &step) { frame->setAutoRepeat(step.text != "off"); });
     // Long enough for the ticks to come by hand.
     on("sampled", [=](const Step &) { frame->setTimeSamplingRate(60000); });
+    on("edits", [=](const Step &) {
+        QObject::connect(frame, &Frame::editStarted, &page,
+                         [this] { log.add(values() == m_valuesBefore ? "start" : "late"); });
+        QObject::connect(frame, &Frame::editFinished, &page, [this] {
+            log.add("end");
+            m_valuesBefore = values();
+        });
+    });
 }
 
 // The program around a slider editor.
@@ -307,6 +324,7 @@ void EditorUser::perform(const QString &action)
     }
     const QString verb = rest.section(' ', 0, 0);
     QVERIFY2(m_actions.contains(verb), qPrintable("What is " + action));
+    m_valuesBefore = values();
     m_actions[verb]({rows[index], index, verb, rest.section(' ', 1)});
 }
 
@@ -323,6 +341,14 @@ void EditorUser::play(const QString &steps)
         const QString actual = heard();
         QVERIFY2(actual == expected, qPrintable(step + " but was " + actual));
     }
+}
+
+QVariantList EditorUser::values() const
+{
+    QVariantList values;
+    for (const EditorRow &row : rows)
+        values.append(row.frame->property("value"));
+    return values;
 }
 
 QString EditorUser::heard()

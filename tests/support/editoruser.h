@@ -73,6 +73,8 @@ private:
 // field, "(0,0,3,2)" any editor's valueChanged(), "too early" a row's report before its
 // slider stands there; "finished" and "left" are the messages of an entry, "page" and
 // "key" a turn of the wheel or a shortcut, and a key that come to the page around the editor.
+// "start" and "end" are those of an edit, which only the rows hear that ask for "edits";
+// "late" is a start at which a value is not the one of before.
 //
 // What the user does:
 //   plus, minus, space      clicks a step button, presses plus by the space bar
@@ -90,7 +92,8 @@ private:
 //   leave                   moves the pointer off the slider
 //   lock position, size     clicks a lock button
 // What the program does to any row:
-//   value, range, tick (of the sampling), focus, show, hide, disable, enable, delete
+//   value, range, tick (of the sampling), focus, show, hide, disable, enable, delete;
+//   dialog (shows a modal one and closes it)
 // to all rows: sampled, released, autoRepeat; the last two end by off
 // to a slider editor:
 //   minimum, maximum, singleStep, pageStep, decimals, direction (flags and value),
@@ -150,10 +153,12 @@ private:
     void addMask(Vantor::Widgets::MaskEditFrame *mask);
     template <typename Frame> void addIf(QWidget *editor, void (EditorUser::*add)(Frame *));
     void on(const QString &verbs, const Action &action);
+    QVariantList values() const;
     QString inUnits(double value) const { return QString::number(value / m_unit, 'g', 12); }
 
     QMap<QString, Action> m_actions;
     const double m_unit;
+    QVariantList m_valuesBefore; // the step, or at the end of an edit within it
 };
 
 // The user of an editor of that class. A slider editor's unit is, unless the test wants

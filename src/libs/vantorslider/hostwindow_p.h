@@ -23,11 +23,11 @@ public:
 
     // When the user comes to the widget: the window is whole then, or soon.
     void remember();
+    // The same where it is whole now.
+    void rememberType();
     bool isBeingDestroyed() const;
 
 private:
-    void rememberType();
-
     const QWidget *m_widget;
     // Only to be compared; it may be gone.
     const QWidget *m_window = nullptr;

@@ -1,6 +1,7 @@
 #include "qlineeditcal.h"
 
 #include "calculatorpatterns_p.h"
+#include "editspan_p.h"
 #include "expressionevaluation_p.h"
 #include "fieldtext_p.h"
 
@@ -144,8 +145,10 @@ bool LineEditCal::event(QEvent *event)
 void LineEditCal::onSlotTextChanged(QString text)
 {
     const FieldText shown(parent(), text);
+    Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     if (isModified()) {
         setEntryRefused(false); // the user may type the shown result once more
+        edit.begin(Internal::EditSpan::Entry);
     }
     if (shown.entry == beforeResult()) {
         return;

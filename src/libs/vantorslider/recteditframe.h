@@ -8,8 +8,9 @@ namespace Vantor {
 namespace Widgets {
 
 namespace Internal {
+class EditSpan;
 class RectEditFramePrivate;
-}
+} // namespace Internal
 
 /*!
     \class RectEditFrame recteditframe.h vantorslider/recteditframe.h
@@ -270,7 +271,18 @@ Q_SIGNALS:
     /*! The position lock was switched to \a bLock, by the user or the host. */
     void PositionLockChanged(bool bLock);
 
+    /*!
+        As SliderEditFrame::editStarted(), of any row: one edit takes in all signals of all
+        rows. \since 1.1
+    */
+    void editStarted();
+
+    /*! As SliderEditFrame::editFinished(), of all rows. \since 1.1 */
+    void editFinished();
+
 private:
+    friend class Internal::EditSpan;
+
     Internal::RectEditFramePrivate *d;
 };
 

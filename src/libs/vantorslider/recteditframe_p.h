@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editorrows_p.h"
+#include "editspan_p.h"
 #include "recteditframe.h"
 #include "rectlocks_p.h"
 #include "slidereditframe.h"
@@ -36,6 +37,7 @@ public:
 
     RectEditFrame *m_pEditer;
     Ui::RectEditFrame *ui;
+    EditSpan m_edits {m_pEditer};
     RectEditFrame::LockType m_sizeLockType = RectEditFrame::SizeScaleLock;
     QPoint m_lockedPosition;
     // Width and height at the switch-on, or a ratio in thousandths.

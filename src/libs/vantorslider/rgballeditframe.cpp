@@ -1,5 +1,6 @@
 #include "rgballeditframe.h"
 
+#include "editspan_p.h"
 #include "rgbandrow_p.h"
 #include "ui_rgballeditframe.h"
 
@@ -25,6 +26,7 @@ public:
 
     RGBAllEditFrame *m_pEditer;
     Ui::RGBAllEditFrame *ui;
+    EditSpan m_edits {m_pEditer};
 
 private Q_SLOTS:
     void allValueChanged(int val);
@@ -68,6 +70,11 @@ void RGBAllEditFramePrivate::allValueChanged(int val)
 void RGBAllEditFramePrivate::rgbValueChanged(int r, int g, int b)
 {
     Q_EMIT m_pEditer->valueChanged(r, g, b, ui->frameAll->value());
+}
+
+EditSpan *EditSpan::of(const RGBAllEditFrame &editor)
+{
+    return editor.d != nullptr ? &editor.d->m_edits : nullptr;
 }
 
 } // namespace Internal

@@ -8,8 +8,9 @@ namespace Vantor {
 namespace Widgets {
 
 namespace Internal {
+class EditSpan;
 class RGBAllEditFramePrivate;
-}
+} // namespace Internal
 
 /*!
     \class RGBAllEditFrame rgballeditframe.h vantorslider/rgballeditframe.h
@@ -179,7 +180,18 @@ Q_SIGNALS:
     /*! The user changed a value; \a r, \a g, \a b and \a all are all four values now. */
     void valueChanged(int r, int g, int b, int all);
 
+    /*!
+        As SliderEditFrame::editStarted(), of any row: one edit takes in all signals of all
+        rows. \since 1.1
+    */
+    void editStarted();
+
+    /*! As SliderEditFrame::editFinished(), of all rows. \since 1.1 */
+    void editFinished();
+
 private:
+    friend class Internal::EditSpan;
+
     Internal::RGBAllEditFramePrivate *d;
 };
 

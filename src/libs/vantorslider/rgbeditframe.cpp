@@ -1,6 +1,7 @@
 #include "rgbeditframe.h"
 
 #include "editorrows_p.h"
+#include "editspan_p.h"
 #include "slidereditframe.h"
 #include "ui_rgbeditframe.h"
 
@@ -30,6 +31,7 @@ public:
 
     RGBEditFrame *m_pEditer;
     Ui::RGBEditFrame *ui;
+    EditSpan m_edits {m_pEditer};
 
 private Q_SLOTS:
     void redValueChanged(int val);
@@ -80,6 +82,11 @@ void RGBEditFramePrivate::greenValueChanged(int val)
 void RGBEditFramePrivate::blueValueChanged(int val)
 {
     Q_EMIT m_pEditer->valueChanged(ui->frameR->value(), ui->frameG->value(), val);
+}
+
+EditSpan *EditSpan::of(const RGBEditFrame &editor)
+{
+    return editor.d != nullptr ? &editor.d->m_edits : nullptr;
 }
 
 } // namespace Internal

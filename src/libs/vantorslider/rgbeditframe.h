@@ -8,8 +8,9 @@ namespace Vantor {
 namespace Widgets {
 
 namespace Internal {
+class EditSpan;
 class RGBEditFramePrivate;
-}
+} // namespace Internal
 
 /*!
     \class RGBEditFrame rgbeditframe.h vantorslider/rgbeditframe.h
@@ -173,7 +174,18 @@ Q_SIGNALS:
     /*! The user changed a channel; \a r, \a g and \a b are all three values now. */
     void valueChanged(int r, int g, int b);
 
+    /*!
+        As SliderEditFrame::editStarted(), of any row: one edit takes in all signals of all
+        rows. \since 1.1
+    */
+    void editStarted();
+
+    /*! As SliderEditFrame::editFinished(), of all rows. \since 1.1 */
+    void editFinished();
+
 private:
+    friend class Internal::EditSpan;
+
     Internal::RGBEditFramePrivate *d;
 };
 

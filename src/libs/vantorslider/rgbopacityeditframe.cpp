@@ -1,5 +1,6 @@
 #include "rgbopacityeditframe.h"
 
+#include "editspan_p.h"
 #include "rgbandrow_p.h"
 #include "ui_rgbopacityeditframe.h"
 
@@ -28,6 +29,7 @@ public:
 
     RGBOpacityEditFrame *m_pEditer;
     Ui::RGBOpacityEditFrame *ui;
+    EditSpan m_edits {m_pEditer};
 
 private Q_SLOTS:
     void opacityValueChanged(int val);
@@ -72,6 +74,11 @@ void RGBOpacityEditFramePrivate::opacityValueChanged(int val)
 void RGBOpacityEditFramePrivate::rgbValueChanged(int r, int g, int b)
 {
     Q_EMIT m_pEditer->valueChanged(r, g, b, ui->frameOpacity->value());
+}
+
+EditSpan *EditSpan::of(const RGBOpacityEditFrame &editor)
+{
+    return editor.d != nullptr ? &editor.d->m_edits : nullptr;
 }
 
 } // namespace Internal

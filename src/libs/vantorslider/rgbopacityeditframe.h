@@ -8,8 +8,9 @@ namespace Vantor {
 namespace Widgets {
 
 namespace Internal {
+class EditSpan;
 class RGBOpacityEditFramePrivate;
-}
+} // namespace Internal
 
 /*!
     \class RGBOpacityEditFrame rgbopacityeditframe.h vantorslider/rgbopacityeditframe.h
@@ -180,7 +181,18 @@ Q_SIGNALS:
     /*! The user changed a value; \a r, \a g, \a b and \a opacity are all four values now. */
     void valueChanged(int r, int g, int b, int opacity);
 
+    /*!
+        As SliderEditFrame::editStarted(), of any row: one edit takes in all signals of all
+        rows. \since 1.1
+    */
+    void editStarted();
+
+    /*! As SliderEditFrame::editFinished(), of all rows. \since 1.1 */
+    void editFinished();
+
 private:
+    friend class Internal::EditSpan;
+
     Internal::RGBOpacityEditFramePrivate *d;
 };
 

@@ -1,3 +1,4 @@
+#include "editspan_p.h"
 #include "slidereditframe_p.h"
 
 #include <QtCore/QEvent>
@@ -15,6 +16,7 @@ SliderEditButton::SliderEditButton(QWidget *parent) : QToolButton(parent) { }
 
 bool SliderEditButton::event(QEvent *event)
 {
+    const Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     const bool isHandled = QToolButton::event(event);
     const QEvent::Type type = event->type();
     if (type == QEvent::Hide || type == QEvent::WindowBlocked
@@ -32,7 +34,11 @@ void SliderEditButton::letGo()
         setAutoRepeat(false);
         setAutoRepeat(true);
     }
-    setDown(false);
+    if (isDown()) {
+        setDown(false);
+        Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
+        edit.release(Internal::EditSpan::Button);
+    }
 }
 
 } // namespace Widgets

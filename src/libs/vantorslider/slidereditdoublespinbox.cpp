@@ -1,6 +1,7 @@
 #include "slidereditframe_p.h"
 
 #include "calculatorspinbox_p.h"
+#include "editspan_p.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
@@ -8,6 +9,8 @@
 
 namespace Vantor {
 namespace Widgets {
+
+using Internal::EditSpan;
 
 SliderEditDoubleSpinBox::SliderEditDoubleSpinBox(QWidget *parent)
     : QDoubleSpinBox(parent), m_pLineEditCal(new LineEditCal)
@@ -37,11 +40,14 @@ double SliderEditDoubleSpinBox::valueFromText(const QString &text) const
 
 void SliderEditDoubleSpinBox::stepBy(int steps)
 {
+    EditSpan::Scope edit(EditSpan::around(this));
+    edit.begin();
     if (m_pLineEditCal != nullptr
         && Internal::pendingEntry(this, textFromValue(value())) == Internal::Entry::Expression) {
         m_pLineEditCal->setSlotEditingFinished();
     }
     QDoubleSpinBox::stepBy(steps);
+    edit.release(EditSpan::Entry);
 }
 
 void SliderEditDoubleSpinBox::setWheelEnable(bool b)
@@ -99,7 +105,12 @@ void SliderEditDoubleSpinBox::setSuffixShow()
 
 void SliderEditDoubleSpinBox::onSlotResultFinished()
 {
+    EditSpan::Scope edit(EditSpan::around(this));
     Q_EMIT editingFinished();
+    // Where the value is another, the entry is pending until the field is left.
+    if (edit && Internal::pendingEntry(this, textFromValue(value())) == Internal::Entry::None) {
+        edit.release(EditSpan::Entry);
+    }
 }
 
 // Part of the interface, for what a later version may do there.
@@ -123,6 +134,7 @@ void SliderEditDoubleSpinBox::keyPressEvent(QKeyEvent *event)
         QDoubleSpinBox::keyPressEvent(event);
         return;
     }
+    const EditSpan::Scope edit(EditSpan::around(this));
     const QPointer<SliderEditDoubleSpinBox> self(this);
     Q_EMIT editingFinished();
     if (self) {
@@ -164,19 +176,23 @@ void SliderEditDoubleSpinBox::focusOutEvent(QFocusEvent *event)
         QWidget::focusOutEvent(event);
         return;
     }
+    EditSpan::Scope edit(EditSpan::around(this));
     const QPointer<SliderEditDoubleSpinBox> self(this);
     setSlotEditingFinished();
     if (self) {
         QDoubleSpinBox::focusOutEvent(event);
     }
+    edit.release(EditSpan::Entry);
 }
 
 // Hidden before it loses the focus, the base interprets the text here.
 void SliderEditDoubleSpinBox::hideEvent(QHideEvent *event)
 {
+    EditSpan::Scope edit(EditSpan::around(this));
     const QPointer<SliderEditDoubleSpinBox> self(this);
     if (!Internal::isDroppedWithWindow(this, m_pLineEditCal)) {
         setSlotEditingFinished();
+        edit.release(EditSpan::Entry);
     }
     if (self) {
         QDoubleSpinBox::hideEvent(event);

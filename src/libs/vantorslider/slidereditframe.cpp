@@ -34,16 +34,15 @@ public:
     void handToCalculator(int val);
 
 private Q_SLOTS:
-    // The interface fixes all thirteen; the presses and releases of the buttons
-    // mean nothing yet.
+    // The interface fixes all thirteen.
     void slotSpinBoxEditingFinished();
     void slotSpinBoxEnterFinished();
     void slotButtonSubtractClicked();
-    void slotButtonSubtractPressed() { }
-    void slotButtonSubtractReleased() { }
+    void slotButtonSubtractPressed() { buttonPressed(); }
+    void slotButtonSubtractReleased() { buttonReleased(); }
     void slotButtonPlusClicked();
-    void slotButtonPlusPressed() { }
-    void slotButtonPlusReleased() { }
+    void slotButtonPlusPressed() { buttonPressed(); }
+    void slotButtonPlusReleased() { buttonReleased(); }
     void slotSpinBoxValueChanged(int val) { spinBoxValueChanged(val); }
     void slotSliderMoved(int val) { sliderMoved(val); }
     void slotSliderValueChanged(int val) { sliderValueChanged(val); }
@@ -98,6 +97,7 @@ void SliderEditPrivate::slotSpinBoxEnterFinished()
 
 void SliderEditPrivate::slotButtonSubtractClicked()
 {
+    const EditSpan::Scope edit(edits());
     const qint64 next = qint64(spinValue()) - spinBox()->singleStep();
     if (next >= spinBox()->minimum()) {
         report(saturatedInt(next));
@@ -106,10 +106,16 @@ void SliderEditPrivate::slotButtonSubtractClicked()
 
 void SliderEditPrivate::slotButtonPlusClicked()
 {
+    const EditSpan::Scope edit(edits());
     const qint64 next = qint64(spinValue()) + spinBox()->singleStep();
     if (next <= spinBox()->maximum()) {
         report(saturatedInt(next));
     }
+}
+
+EditSpan *EditSpan::of(const SliderEditFrame &editor)
+{
+    return editor.d != nullptr ? editor.d->edits() : nullptr;
 }
 
 } // namespace Internal

@@ -8,8 +8,9 @@ namespace Vantor {
 namespace Widgets {
 
 namespace Internal {
+class EditSpan;
 class SliderEditPrivate;
-}
+} // namespace Internal
 
 /*!
     \class SliderEditFrame slidereditframe.h vantorslider/slidereditframe.h
@@ -203,6 +204,26 @@ Q_SIGNALS:
     */
     void valueChanged(int val);
 
+    /*!
+        The user begins an edit: what is done in one go, such as a drag from press to release, a
+        held button with all its repetitions, an entry from its first key to its end, or one
+        click, key or wheel step. value() is still the one of before.
+
+        The two signals come strictly in pairs, never nested, and valueChanged() between them
+        only; an edit may end without one. Nothing that the program does begins an edit.
+
+        \since 1.1
+    */
+    void editStarted();
+
+    /*!
+        The edit is over; its last valueChanged() has come. Hiding or disabling the row, or a
+        dialog that blocks it, ends an edit, too.
+
+        \since 1.1
+    */
+    void editFinished();
+
 protected:
     /*! Selects the spin box's text when the user enters it. */
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -211,6 +232,8 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    friend class Internal::EditSpan;
+
     Internal::SliderEditPrivate *d;
 };
 

@@ -42,6 +42,7 @@ protected:
 
 private:
     void releasePointer();
+    void letGo(QMouseEvent *event);
 
     bool m_isMousePressed = false;
     std::unique_ptr<Internal::HostWindow> m_hostWindow;

@@ -45,16 +45,15 @@ public:
     static constexpr double minPrecision = 1e-8;
 
 private Q_SLOTS:
-    // The interface fixes all thirteen; the presses and releases of the buttons
-    // mean nothing yet.
+    // The interface fixes all thirteen.
     void slotSpinBoxEditingFinished() { editingFinished(); }
     void slotSpinBoxEnterFinished() { enterFinished(); }
     void slotButtonSubtractClicked();
-    void slotButtonSubtractPressed() { }
-    void slotButtonSubtractReleased() { }
+    void slotButtonSubtractPressed() { buttonPressed(); }
+    void slotButtonSubtractReleased() { buttonReleased(); }
     void slotButtonPlusClicked();
-    void slotButtonPlusPressed() { }
-    void slotButtonPlusReleased() { }
+    void slotButtonPlusPressed() { buttonPressed(); }
+    void slotButtonPlusReleased() { buttonReleased(); }
     void slotSpinBoxValueChanged(double val) { spinBoxValueChanged(val); }
     void slotSliderMoved(int pos) { sliderMoved(pos); }
     void slotSliderValueChanged(int pos) { sliderValueChanged(pos); }
@@ -93,6 +92,7 @@ void SliderEditDoublePrivate::handToCalculator(double val)
 
 void SliderEditDoublePrivate::slotButtonSubtractClicked()
 {
+    const EditSpan::Scope edit(edits());
     const double next = spinValue() - spinBox()->singleStep();
     if (next >= spinBox()->minimum()) {
         report(next);
@@ -101,10 +101,16 @@ void SliderEditDoublePrivate::slotButtonSubtractClicked()
 
 void SliderEditDoublePrivate::slotButtonPlusClicked()
 {
+    const EditSpan::Scope edit(edits());
     const double next = spinValue() + spinBox()->singleStep();
     if (next <= spinBox()->maximum() + minPrecision) {
         report(next);
     }
+}
+
+EditSpan *EditSpan::of(const SliderEditFrameDouble &editor)
+{
+    return editor.d != nullptr ? editor.d->edits() : nullptr;
 }
 
 } // namespace Internal

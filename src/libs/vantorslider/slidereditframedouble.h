@@ -8,8 +8,9 @@ namespace Vantor {
 namespace Widgets {
 
 namespace Internal {
+class EditSpan;
 class SliderEditDoublePrivate;
-}
+} // namespace Internal
 
 /*!
     \class SliderEditFrameDouble slidereditframedouble.h vantorslider/slidereditframedouble.h
@@ -189,6 +190,12 @@ Q_SIGNALS:
     /*! The user changed the value to \a val. */
     void valueChanged(double val);
 
+    /*! As SliderEditFrame::editStarted(). \since 1.1 */
+    void editStarted();
+
+    /*! As SliderEditFrame::editFinished(). \since 1.1 */
+    void editFinished();
+
 protected:
     /*! Selects the spin box's text when the user enters it. */
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -202,6 +209,8 @@ private:
 
     /*! The power of ten that makes \a num whole, 10 at least and 1 000 000 000 at most. */
     int getMagnification(float num);
+
+    friend class Internal::EditSpan;
 
     Internal::SliderEditDoublePrivate *d;
 };

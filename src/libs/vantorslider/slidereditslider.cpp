@@ -1,3 +1,4 @@
+#include "editspan_p.h"
 #include "hostwindow_p.h"
 #include "slidereditframe_p.h"
 
@@ -38,6 +39,7 @@ void SliderEditSlider::setScale(int min, int max)
 
 bool SliderEditSlider::event(QEvent *event)
 {
+    const Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     const bool isHandled = QSlider::event(event);
     // A modal dialog takes the pointer away: the release goes to it.
     if (event->type() == QEvent::WindowBlocked) {
@@ -53,13 +55,24 @@ void SliderEditSlider::mousePressEvent(QMouseEvent *event)
         m_hostWindow = std::make_unique<Internal::HostWindow>(this);
     }
     m_hostWindow->remember();
+    Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     QSlider::mousePressEvent(event);
+    if (!edit || repeatAction() == SliderNoAction) {
+        return;
+    }
+    // The groove steps on for as long as it is pressed. QSlider begins with it behind the
+    // first step, even where a receiver of that has taken the slider from under the pointer.
+    if (m_isMousePressed) {
+        edit.hold(Internal::EditSpan::Handle);
+    } else {
+        setRepeatAction(SliderNoAction);
+    }
 }
 
 void SliderEditSlider::mouseReleaseEvent(QMouseEvent *event)
 {
     m_isMousePressed = false;
-    QSlider::mouseReleaseEvent(event);
+    letGo(event);
 }
 
 // Part of the interface, for what a later version may do there.
@@ -110,7 +123,17 @@ void SliderEditSlider::releasePointer()
     m_isMousePressed = false;
     QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton,
                         Qt::NoButton, Qt::NoModifier);
-    QSlider::mouseReleaseEvent(&release);
+    letGo(&release);
+}
+
+// A release that comes while another button is down is none to QSlider.
+void SliderEditSlider::letGo(QMouseEvent *event)
+{
+    Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
+    QSlider::mouseReleaseEvent(event);
+    if (edit && !isSliderDown() && repeatAction() == SliderNoAction) {
+        edit.release(Internal::EditSpan::Handle);
+    }
 }
 
 } // namespace Widgets

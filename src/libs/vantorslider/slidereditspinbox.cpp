@@ -1,12 +1,15 @@
 #include "slidereditframe_p.h"
 
 #include "calculatorspinbox_p.h"
+#include "editspan_p.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 
 namespace Vantor {
 namespace Widgets {
+
+using Internal::EditSpan;
 
 SliderEditSpinBox::SliderEditSpinBox(QWidget *parent)
     : QSpinBox(parent), m_pLineEditCal(new LineEditCal)
@@ -34,11 +37,14 @@ int SliderEditSpinBox::valueFromText(const QString &text) const
 
 void SliderEditSpinBox::stepBy(int steps)
 {
+    EditSpan::Scope edit(EditSpan::around(this));
+    edit.begin();
     if (m_pLineEditCal != nullptr
         && Internal::pendingEntry(this, textFromValue(value())) == Internal::Entry::Expression) {
         m_pLineEditCal->setSlotEditingFinished();
     }
     QSpinBox::stepBy(steps);
+    edit.release(EditSpan::Entry);
 }
 
 void SliderEditSpinBox::setWheelEnable(bool b)
@@ -92,6 +98,7 @@ void SliderEditSpinBox::keyPressEvent(QKeyEvent *event)
         QSpinBox::keyPressEvent(event);
         return;
     }
+    const EditSpan::Scope edit(EditSpan::around(this));
     const QPointer<SliderEditSpinBox> self(this);
     Q_EMIT editingFinished();
     if (self) {
@@ -117,19 +124,23 @@ void SliderEditSpinBox::focusOutEvent(QFocusEvent *event)
         QWidget::focusOutEvent(event);
         return;
     }
+    EditSpan::Scope edit(EditSpan::around(this));
     const QPointer<SliderEditSpinBox> self(this);
     Q_EMIT editingFinished();
     if (self) {
         QSpinBox::focusOutEvent(event);
     }
+    edit.release(EditSpan::Entry);
 }
 
 // Hidden before it loses the focus, the base interprets the text here.
 void SliderEditSpinBox::hideEvent(QHideEvent *event)
 {
+    EditSpan::Scope edit(EditSpan::around(this));
     const QPointer<SliderEditSpinBox> self(this);
     if (!Internal::isDroppedWithWindow(this, m_pLineEditCal)) {
         setSlotEditingFinished();
+        edit.release(EditSpan::Entry);
     }
     if (self) {
         QSpinBox::hideEvent(event);

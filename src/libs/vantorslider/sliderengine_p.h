@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editspan_p.h"
 #include "slidereditframe_p.h"
 #include "sliderrow_p.h"
 
@@ -113,6 +114,7 @@ public:
     }
 
     SliderEditSlider *slider() const { return ui->slider; }
+    EditSpan *edits() { return &m_edits; }
 
 protected:
     Form *form() const { return ui; }
@@ -122,10 +124,16 @@ protected:
 
     // The direction filter: without AllowedToBigger only smaller values are allowed,
     // whatever the other bits say. What a tick reports is not reported again where
-    // the receiver ends the drag. Nothing of the frame is touched after the signal,
-    // here and wherever this is called last: the receiver may have deleted it.
+    // the receiver ends the drag. An entry that was pending is over with it. Nothing of
+    // the frame is touched after the signal, here and wherever this is called last: the
+    // receiver may have deleted it.
     void emitValueChanged(Value val)
     {
+        EditSpan::Scope edit(&m_edits);
+        edit.begin();
+        if (!edit) {
+            return;
+        }
         if ((m_valueChangeDirection & Editor::AllowedToAny) != Editor::AllowedToAny) {
             const bool isHeldAbove = (m_valueChangeDirection & Editor::AllowedToBigger) != 0;
             val = isHeldAbove ? qMax(val, m_readValue) : qMin(val, m_readValue);
@@ -134,13 +142,18 @@ protected:
         if (m_isSampleInDelivery) {
             m_nLastTimerValue = spinPosition();
         }
+        edit.release(EditSpan::Entry);
         Q_EMIT m_pSliderEditer->valueChanged(val);
     }
 
     void report(Value val)
     {
-        apply(val);
-        emitValueChanged(spinValue());
+        EditSpan::Scope edit(&m_edits);
+        edit.begin();
+        if (edit) {
+            apply(val);
+            emitValueChanged(spinValue());
+        }
     }
 
     void editingFinished()
@@ -158,22 +171,42 @@ protected:
     // has made it the frame's proxy.
     void enterFinished()
     {
-        const QPointer<SliderEngine> self(this);
+        EditSpan::Scope edit(&m_edits);
         m_pSliderEditer->setFocus(Qt::OtherFocusReason);
-        if (self && engine().spinBox()->hasFocus()) {
+        if (edit && engine().spinBox()->hasFocus()) {
             engine().spinBox()->interpretText();
         }
+        edit.release(EditSpan::Entry);
     }
+
+    void buttonPressed()
+    {
+        EditSpan::Scope edit(&m_edits);
+        edit.begin(EditSpan::Button);
+    }
+
+    // Its click is still to come.
+    void buttonReleased() { m_edits.release(EditSpan::Button); }
 
     void spinBoxValueChanged(Value val)
     {
-        if (!engine().isLastValue(val)) {
-            report(val);
+        if (engine().isLastValue(val)) {
+            return;
         }
+        if (!m_edits.isOpen()) {
+            // At the start of the edit a receiver finds the value of before.
+            engine().showInSpinBox(m_nLastValue);
+        }
+        report(val);
     }
 
     void sliderPressed()
     {
+        EditSpan::Scope edit(&m_edits);
+        edit.begin(EditSpan::Handle);
+        if (!edit) {
+            return;
+        }
         if (m_isTimeSampling) {
             startSamplingTimer();
         }
@@ -185,6 +218,11 @@ protected:
         const Value val = engine().toValue(position);
         if (engine().isLastValue(val)
             || (m_isReleaseMode && !Engine::spinBoxFollowsInReleaseMode)) {
+            return;
+        }
+        EditSpan::Scope edit(&m_edits);
+        edit.begin();
+        if (!edit) {
             return;
         }
         apply(val);
@@ -216,6 +254,8 @@ protected:
     // Comes before Qt brings the slider's value to the handle's position.
     void sliderReleased()
     {
+        EditSpan::Scope edit(&m_edits);
+        edit.release(EditSpan::Handle);
         const int position = ui->slider->value();
         if (!m_isTimeSampling) {
             if (engine().isNewAtRelease(position)) {
@@ -263,6 +303,7 @@ private:
 
     Editor *m_pSliderEditer;
     Form *ui;
+    EditSpan m_edits {m_pSliderEditer};
     // Last value applied or accepted: a child's report of it is an echo.
     Value m_nLastValue = 0;
     // Slider positions: at the last press; at the start of sampling or the last tick.

@@ -1,0 +1,147 @@
+#include "editspan_p.h"
+
+#include "recteditframe.h"
+#include "rgballeditframe.h"
+#include "rgbeditframe.h"
+#include "rgbopacityeditframe.h"
+#include "slidereditframe.h"
+#include "slidereditframedouble.h"
+
+#include <QtCore/QTimer>
+
+namespace Vantor {
+namespace Widgets {
+namespace Internal {
+
+EditSpan::~EditSpan()
+{
+    for (Scope *scope = m_innermost; scope != nullptr; scope = scope->m_outer) {
+        scope->m_span = nullptr;
+    }
+    leaveOuter();
+}
+
+template <typename Editor> EditSpan *EditSpan::find(const QWidget *widget)
+{
+    const auto *const editor = qobject_cast<const Editor *>(widget);
+    return editor != nullptr ? of(*editor) : nullptr;
+}
+
+// A widget that is being destroyed is of none of these classes any more.
+EditSpan *EditSpan::around(const QWidget *widget)
+{
+    EditSpan *span = nullptr;
+    while (span == nullptr && !widget->isWindow() && widget->parentWidget() != nullptr) {
+        widget = widget->parentWidget();
+        for (const auto findOf :
+             {find<SliderEditFrame>, find<SliderEditFrameDouble>, find<RectEditFrame>,
+              find<RGBEditFrame>, find<RGBAllEditFrame>, find<RGBOpacityEditFrame>}) {
+            span = span != nullptr ? span : findOf(widget);
+        }
+    }
+    return span;
+}
+
+void EditSpan::begin()
+{
+    if (m_isOpen && m_isTold && !m_isCounted) {
+        return;
+    }
+    const Scope scope(this);
+    EditSpan *const outer = m_isOpen && !m_isCounted ? nullptr : around(m_editor);
+    m_isOpen = true;
+    if (outer != nullptr) {
+        if (!m_isCounted) {
+            m_isCounted = true;
+            ++outer->m_openRows;
+        }
+        outer->begin();
+    }
+    if (scope && !m_isTold && !m_editor->signalsBlocked()) {
+        m_isTold = true;
+        if (m_hostWindow == nullptr) {
+            m_hostWindow = std::make_unique<HostWindow>(m_editor);
+        }
+        m_hostWindow->rememberType();
+        m_emit(m_editor, true);
+    }
+}
+
+void EditSpan::endUnlessHeld()
+{
+    if (!m_isOpen || m_innermost != nullptr || m_holders != Nobody || m_openRows != 0) {
+        return;
+    }
+    m_isOpen = false;
+    const Scope scope(this);
+    leaveOuter();
+    if (!scope || !m_isTold || m_hostWindow->isBeingDestroyed()) {
+        return;
+    }
+    if (m_editor->signalsBlocked()) {
+        // Where they still are then, the next edit continues this one.
+        QTimer::singleShot(0, m_editor, [this] { emitEnd(); });
+    } else {
+        emitEnd();
+    }
+}
+
+void EditSpan::emitEnd()
+{
+    if (m_isTold && !m_isOpen && !m_editor->signalsBlocked()) {
+        m_isTold = false;
+        m_emit(m_editor, false);
+    }
+}
+
+void EditSpan::leaveOuter()
+{
+    EditSpan *const outer = m_isCounted ? around(m_editor) : nullptr;
+    m_isCounted = false;
+    if (outer != nullptr) {
+        --outer->m_openRows;
+        outer->endUnlessHeld();
+    }
+}
+
+EditSpan::Scope::Scope(EditSpan *span) : m_span(span)
+{
+    if (span != nullptr) {
+        m_outer = span->m_innermost;
+        span->m_innermost = this;
+    }
+}
+
+EditSpan::Scope::~Scope()
+{
+    if (m_span != nullptr) {
+        m_span->m_innermost = m_outer;
+        m_span->endUnlessHeld();
+    }
+}
+
+void EditSpan::Scope::begin(Holder holder)
+{
+    if (m_span != nullptr) {
+        hold(holder);
+        m_span->begin();
+    }
+}
+
+void EditSpan::Scope::hold(Holder holder)
+{
+    if (m_span != nullptr) {
+        m_span->m_holders |= holder;
+    }
+}
+
+void EditSpan::Scope::release(Holder holder)
+{
+    if (m_span != nullptr) {
+        m_span->release(holder);
+    }
+}
+
+} // namespace Internal
+} // namespace Widgets
+} // namespace Vantor

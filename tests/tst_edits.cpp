@@ -1,0 +1,249 @@
+#include "editoruser.h"
+#include "rgballeditframe.h"
+#include "rgbeditframe.h"
+#include "rgbopacityeditframe.h"
+
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QDialog>
+
+using namespace Vantor::Widgets;
+
+// Where an edit of the user begins and ends, for hosts that undo it in one step.
+class tst_Edits : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void rows_data();
+    void rows() { runTestCode(); }
+    void composites_data();
+    void composites() { runTestCode(); }
+};
+
+namespace {
+
+// Where none of these takes the focus, a button steps over the entry that is pending.
+template <typename AnyUser> void leaveFocusInField(AnyUser &user)
+{
+    for (QWidget *part : QWidgetList({&user.page, user.frame, user.row.plus, user.row.slider}))
+        part->setFocusPolicy(Qt::NoFocus);
+}
+
+// What is heard while the editor's signals are blocked, and when they are no more.
+template <typename AnyUser> void blockedAtTheEnd(AnyUser &user)
+{
+    user.play("edits | hold 20: start 20");
+    user.frame->blockSignals(true);
+    user.play("drop");
+    user.frame->blockSignals(false);
+    QCoreApplication::processEvents();
+    QCOMPARE(user.heard(), QString("end"));
+    user.play("plus: start 21 end | hold 40: start 40");
+    // Blocked for good, the next edit continues the one that the host knows of.
+    user.frame->blockSignals(true);
+    user.play("drop");
+    QCoreApplication::processEvents();
+    user.play("hold 50");
+    user.frame->blockSignals(false);
+    user.play("move 60: 60 | drop: end");
+}
+
+template <typename AnyUser> void blockedAtTheStart(AnyUser &user)
+{
+    user.perform("edits");
+    user.frame->blockSignals(true);
+    user.play("hold 20 | drop | hold 30");
+    user.frame->blockSignals(false);
+    user.play("move 40: start 40 | drop: end");
+}
+
+template <typename AnyUser> void windowGoes(AnyUser &user, const QString &gesture)
+{
+    auto *const host = new QFrame;
+    user.frame->setParent(host);
+    QVERIFY(User::show(*host));
+    user.perform("edits");
+    if (gesture == "button")
+        User::pressAt(user.row.plus, user.row.plus->rect().center());
+    else
+        user.perform(gesture);
+    QVERIFY(user.heard().startsWith("start"));
+    delete host;
+    QCOMPARE(user.heard(), QString());
+}
+
+// Each repetition of a held button is in the same edit.
+template <typename AnyUser> void repeat(AnyUser &user)
+{
+    user.play("edits | autoRepeat");
+    user.frame->setAutoRepeatDelay(10);
+    user.frame->setAutoRepeatInterval(5);
+    User::pressAt(user.row.plus, user.row.plus->rect().center());
+    QCOMPARE(user.heard(), QString("start"));
+    QTRY_VERIFY(user.row.slider->value() >= 13);
+    QVERIFY(user.heard().startsWith("11 12 13"));
+    User::releaseAt(user.row.plus, user.row.plus->rect().center());
+    const QString heard = user.heard();
+    QVERIFY2(heard.endsWith(" end") && heard.count("end") == 1, qPrintable(heard));
+}
+
+// What a screen reader does, and a host's own gestures: no event comes to the parts.
+template <typename AnyUser> void operateParts(AnyUser &user)
+{
+    user.perform("edits");
+    user.row.plus->click();
+    QCOMPARE(user.heard(), QString("start 11 end"));
+    user.row.slider->setValue(30);
+    QCOMPARE(user.heard(), QString("start 30 end"));
+    user.row.spinBox->setProperty("value", 40 * user.position);
+    QCOMPARE(user.heard(), QString("start 40 end"));
+    user.row.slider->setSliderDown(true);
+    user.row.slider->setSliderPosition(50);
+    QCOMPARE(user.heard(), QString("start 50"));
+    user.row.slider->setSliderDown(false);
+    QCOMPARE(user.heard(), QString("end"));
+}
+
+// A dialog of the receiver, and what the user does meanwhile with the same row.
+template <typename AnyUser> void nest(AnyUser &user, const QString &steps)
+{
+    user.perform("edits");
+    user.row.slider->setFocus();
+    bool isNested = false;
+    QObject::connect(user.frame, &std::remove_pointer_t<decltype(user.frame)>::valueChanged,
+                     &user.page, [&] {
+                         if (!std::exchange(isNested, true)) {
+                             user.perform("dialog");
+                             QTest::keyClick(user.row.slider, Qt::Key_Right);
+                         }
+                     });
+    for (const QString &step : steps.split(" | "))
+        user.perform(step);
+    const QStringList heard = user.heard().split(' ');
+    QVERIFY2(heard.first() == "start" && heard.indexOf("end") == heard.size() - 1,
+             qPrintable(heard.join(' ')));
+}
+
+} // namespace
+
+void tst_Edits::rows_data()
+{
+    QTest::addColumn<TestCode>("code");
+    const auto addInt = rowsAfter<SliderEditFrame>("edits | ");
+    const auto addDouble = rowsAfter<SliderEditFrameDouble>("edits | ");
+    const auto addBoth = [=](const QString &name, const QString &steps) {
+        addInt(name, steps);
+        addDouble(name, steps);
+    };
+    const QString all = "hold 20 60: start 20 60 | ", none = "hold 20 60: start | ";
+    for (const QString mode : {"", "released | ", "sampled | "}) {
+        const QString hold = mode + (mode.isEmpty() ? all : none);
+        const QString last = mode.isEmpty() ? ": end" : ": 60 end";
+        addBoth(mode + "drag", hold + "drop" + last);
+        addBoth(mode + "drag, slider hidden", hold + "hideSlider" + last + " | drop");
+        addBoth(mode + "drag, disabled", hold + "disable" + last + " | enable | drop");
+        addBoth(mode + "drag, dialog", hold + "dialog" + last + " | drop");
+        addBoth(mode + "drag, left", hold + "leave | drop" + last);
+        addBoth(mode + "nothing dragged", mode + "hold: start | drop: end");
+        addBoth(mode + "drag, deleted", hold + "delete");
+        addBoth(mode + "steps",
+                mode
+                    + "groove after: start 20 end | right: start 21 end | plus: start 22 end | "
+                      "minus: start 21 end | space: start 22 end");
+    }
+    addBoth("ticks", "sampled | hold 20: start | tick: 20 | move 30 | tick: 30 | drop: end");
+    addBoth("nothing to step", "value 100 | plus: start end | right | focus | up");
+    addBoth("wheel", "wheelEnabled | focus | wheel: page start 11 end");
+    addBoth("the program", "value 20 | range 0 15 | value 9 | hide | show | disable | enable");
+    addForBoth("repeated steps", [](auto &user) { repeat(user); });
+    addForBoth("operated by a program", [](auto &user) { operateParts(user); });
+    for (const QString end : {"Enter\n", "Tab\t"}) {
+        const QString keys = " | keys " + end.right(1),
+                      left = end == "Tab\t" ? "" : "finished left ";
+        addInt("entry, " + end.left(3),
+               "type 5: start | keys 0" + keys + ": finished " + (left.isEmpty() ? "" : "finished ")
+                   + "50 " + (left.isEmpty() ? "finished " : left) + "end");
+        addDouble("entry, " + end.left(3), "type 5: start | keys 0/100" + keys + ": 50 end");
+    }
+    addInt("entry, =", "type 5*4: start | keys =: finished 20 finished left end");
+    addDouble("entry, =", "type 1/5: start | keys = | elsewhere: 20 end");
+    addInt("refused, =", "type 5*: start | keys =: finished finished left end");
+    addDouble("refused, =", "type 5*: start | keys =: end | elsewhere");
+    addInt("taken back", "type 10: start | elsewhere: finished finished end");
+    addDouble("taken back", "type .10: start | elsewhere: end");
+    addInt("refused", "type 1/0: start | hide: end finished finished");
+    addDouble("refused", "type 1/0: start | hide: end");
+    addInt("entry, disabled", "type 5: start | disable: finished 5 finished end");
+    addInt("entry, dialog", "type 5: start | dialog: finished 5 finished end");
+    addBoth("entry, deleted", "type 5: start | delete");
+    addInt("entry, own menu", "type 1: start | menu 2 | keys \t: finished 12 finished end");
+    addDouble("entry, own menu", "type .1: start | menu 2 | keys \t: 12 end");
+    addInt("replaced by the program",
+           "type 5: start | value 20 | elsewhere: finished finished end");
+    addInt("nothing entered", "click | elsewhere: finished finished");
+    // A step makes a report of both, and ends the entry.
+    addInt("entry and key", "type 7: start | up: 8 end | up: start 9 end");
+    addDouble("entry and key", "type .07: start | up: 8 end | up: start 9 end");
+    // The focus leaves the field first.
+    addInt("entry and button", "type 7: start | minus: finished 7 finished end start 6 end");
+    addDouble("entry and button", "type .07: start | minus: 7 end start 6 end");
+    addInt("entry and handle",
+           "type 10: start | hold 20: finished finished end start 20 | drop: end");
+    addForBoth("entry and button without focus", [](auto &user) {
+        leaveFocusInField(user);
+        user.play("edits | type 7: start | plus: 11 end | type 7: start | hold 30: 30 | drop: end");
+    });
+    addForBoth("blocked at the end", [](auto &user) { blockedAtTheEnd(user); });
+    addForBoth("blocked at the start", [](auto &user) { blockedAtTheStart(user); });
+    for (const QString gesture : {"hold", "button", "type 5"})
+        addForBoth("the window goes, " + gesture, [=](auto &user) { windowGoes(user, gesture); });
+    for (const QString steps : {"plus", "hold 40 | drop", "groove after", "right", "type .5\t"})
+        addForBoth("dialog in the report, " + steps, [=](auto &user) { nest(user, steps); });
+}
+
+// One edit takes in the signals of all rows.
+void tst_Edits::composites_data()
+{
+    QTest::addColumn<TestCode>("code");
+    const auto crop = rowsAfter<CropEditFrame>("area 100 100 | crop 1 2 40 20 | edits | ");
+    crop("locked position",
+         "lock position: positionLock(true) | x plus: start crop(2,3,40,20) x(2) (2,3,40,20) end");
+    crop(
+        "locked size",
+        "lock size: sizeLock(true) | w released | w hold 60: start | w drop: crop(1,2,60,30) h(30) "
+        "w(60) (1,2,60,30) end");
+    crop("from row to row",
+         "x type 5: start | y minus: finished crop(5,2,40,20) x(5) (5,2,40,20) finished end start "
+         "crop(5,1,40,20) y(1) (5,1,40,20) end");
+    crop("held at the edge", "w hold 99: start crop(1,2,99,20) w(99) (1,2,99,20) | w drop: end");
+    crop("the program", "sizeLock on: sizeLock(true) | crop 3 4 5 6 | hide | show");
+    const auto mask = rowsAfter<MaskEditFrame>("area 100 100 | edits | ");
+    mask("margin", "x plus: start mask(1,0,0,0) x(1) (1,0,0,0) end");
+    const auto rgb = rowsAfter<RGBEditFrame>("edits | ");
+    rgb("drag", "g hold 60 70: start (50,60,50) (50,70,50) | g drop: end");
+    const auto all = rowsAfter<RGBAllEditFrame>("edits | ");
+    all("own row", "all plus: start (50,50,50,51) end");
+    all("block", "b hold 60: start (50,50,60,50) | b disable: end | b enable | b drop");
+    const auto opacity = rowsAfter<RGBOpacityEditFrame>("edits | ");
+    opacity("own row", "opacity minus: start (50,50,50,99) end");
+    opacity("entry", "r type 9: start | opacity click: finished (9,50,50,100) finished end");
+    // Two fingers, of which the second presses a key.
+    addFor<RectEditFrame>("two rows at once", [](auto &user) {
+        user.play("edits | x hold 7: start x(7) (7,0,0,0)");
+        QTest::keyPress(user.rows[1].plus, Qt::Key_Space);
+        user.play("x drop");
+        QTest::keyRelease(user.rows[1].plus, Qt::Key_Space);
+        QCOMPARE(user.heard(), QString("y(1) (7,1,0,0) end"));
+    });
+    addFor<RGBAllEditFrame>("blocked at the start", [](auto &user) {
+        user.perform("edits");
+        user.frame->blockSignals(true);
+        user.perform("r hold 20");
+        user.frame->blockSignals(false);
+        user.play("r move 40: start (40,50,50,50) | r drop: end");
+    });
+}
+
+QTEST_MAIN(tst_Edits)
+
+#include "tst_edits.moc"
