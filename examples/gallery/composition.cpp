@@ -48,7 +48,7 @@ void Composition::setPicture(const QImage &picture)
 {
     m_levels = {picture.convertToFormat(picture.hasAlphaChannel() ? QImage::Format_ARGB32
                                                                   : QImage::Format_RGB32)};
-    while (m_levels.constLast().width() > 1024) {
+    while (m_levels.constLast().width() > 128) {
         const QImage &last = m_levels.constLast();
         m_levels.append(last.scaled(last.width() / 2, qMax(1, last.height() / 2),
                                     Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
