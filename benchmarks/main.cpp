@@ -5,6 +5,7 @@
 #include "bareeditors.h"
 #include "comparison.h"
 #include "heapcounter.h"
+#include "picture.h"
 #include "userevents.h"
 
 #include "cropeditframe.h"
@@ -434,5 +435,6 @@ int main(int argc, char *argv[])
     figures.push_back(compareEnter());
     compareDrags(figures);
     comparePanels(figures);
+    comparePicture(figures);
     return printTable(figures) == 0 ? 0 : 1;
 }
