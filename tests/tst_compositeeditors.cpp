@@ -39,7 +39,7 @@ QStringList settingsOf(EditorUser &user, const EditorRow &row)
         settings << QString("gap=%1").arg(layout->contentsMargins().right());
     const int value = row.whole->value();
     row.whole->setValue(20);
-    for (const QString action : {"plus", "hold 60", "drop", "click", "wheel"}) {
+    for (const QString action : {"reset", "plus", "hold 60", "drop", "click", "wheel"}) {
         user.perform(row.step(action));
         settings << action + QString("=%1").arg(row.whole->value())
                  << action + QString(" ms=%1").arg(samplingInterval(row.frame));
@@ -123,27 +123,39 @@ template <typename Frame> void checkReading()
     UserOf<Frame> user;
     Frame &frame = *user.frame;
     QString none = "warning: Get %1 %3range %2 warning: %4 %1 label text %2 warning: Get %1 value "
-                   "%2 warning: Get %1 single step %2 warning: Get %1 page step %2 -7..-8  0 0 0";
+                   "%2 warning: Get %1 single step %2 warning: Get %1 page step %2 warning: Get %1 "
+                   "default value %2 warning: Get %1 default value %2 warning: Reset %1 value %2 "
+                   "-7..-8  0 0 0 0 0";
     none = none.arg(isRect<Frame> ? "Rect" : "RGB", "has failed. The type  %1  is invalid.",
                     isRect<Frame> ? "value " : "", isRect<Frame> ? "Set" : "Get");
     for (const int flag : {2, 4, 8, 16, 0, 6, 24, 30}) {
         const auto type = static_cast<typename Frame::Type>(flag);
+        const bool isRow = qPopulationCount(uint(flag)) == 1 && flag < 2 << user.rows.size();
         frame.setLabelText(type, QString::number(flag));
         frame.setRange(type, flag, 100 + flag);
         frame.setValue(type, 50 + flag);
         frame.setSingleStep(type, 1 + flag);
         frame.setPageStep(type, 2 + flag);
+        frame.setDefaultValue(type, 3 + flag);
         user.heard(); // the warnings of the setters
         int min = -7, max = -8;
         frame.range(type, min, max);
         QStringList found {limits(min, max), frame.labelText(type)};
-        for (const int number : {frame.value(type), frame.singleStep(type), frame.pageStep(type)})
+        for (const int number : {frame.value(type), frame.singleStep(type), frame.pageStep(type),
+                                 frame.defaultValue(type), int(frame.hasDefaultValue(type))})
             found.append(QString::number(number));
+        frame.resetValue(type);
+        if (isRow)
+            QCOMPARE(frame.value(type), 3 + flag);
         user.log.add(found.join(' '));
-        const bool isRow = qPopulationCount(uint(flag)) == 1 && flag < 2 << user.rows.size();
-        const QString own = "%1..%2 %1 %3 %4 %5";
+        const QString own = "%1..%2 %1 %3 %4 %5 %6 1";
         QCOMPARE(user.heard(),
-                 isRow ? own.arg(flag).arg(100 + flag).arg(50 + flag).arg(1 + flag).arg(2 + flag)
+                 isRow ? own.arg(flag)
+                             .arg(100 + flag)
+                             .arg(50 + flag)
+                             .arg(1 + flag)
+                             .arg(2 + flag)
+                             .arg(3 + flag)
                        : none.arg(flag));
     }
 }
@@ -210,6 +222,7 @@ template <typename F, typename T = typename F::Type> void addChecks()
     add(" value", "value=77", [](F &f, T t) { f.setValue(t, 77); });
     add(isRect<F> ? " value range" : " range", "range=-5..110",
         [](F &f, T t) { f.setRange(t, -5, 110); });
+    add(" default value", "reset=33 plus=34", [](F &f, T t) { f.setDefaultValue(t, 33); });
     add(" single step", "plus=23", [](F &f, T t) { f.setSingleStep(t, 3); });
     add(" page step", "pageStep=7", [](F &f, T t) { f.setPageStep(t, 7); });
     addAll(" spacing", "gap=17 gap=23 gap=23", [](F &f, T) { f.setHorizontalSpacing(17, 23); });

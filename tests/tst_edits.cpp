@@ -3,6 +3,7 @@
 #include "rgbeditframe.h"
 #include "rgbopacityeditframe.h"
 
+#include <QtGui/QAccessible>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QDialog>
 
@@ -18,6 +19,8 @@ private Q_SLOTS:
     void rows() { runTestCode(); }
     void composites_data();
     void composites() { runTestCode(); }
+    void resets_data();
+    void resets() { runTestCode(); }
 };
 
 namespace {
@@ -80,7 +83,7 @@ template <typename AnyUser> void repeat(AnyUser &user)
     user.frame->setAutoRepeatInterval(5);
     User::pressAt(user.row.plus, user.row.plus->rect().center());
     QCOMPARE(user.heard(), QString("start"));
-    QTRY_VERIFY(user.row.slider->value() >= 13);
+    QVERIFY(comesTrue([&user] { return user.row.slider->value() >= 13; }));
     QVERIFY(user.heard().startsWith("11 12 13"));
     User::releaseAt(user.row.plus, user.row.plus->rect().center());
     const QString heard = user.heard();
@@ -122,6 +125,46 @@ template <typename AnyUser> void nest(AnyUser &user, const QString &steps)
     const QStringList heard = user.heard().split(' ');
     QVERIFY2(heard.first() == "start" && heard.indexOf("end") == heard.size() - 1,
              qPrintable(heard.join(' ')));
+}
+
+// What a style sheet, the pointer and a screen reader find of a row.
+QStringList signsOf(const EditorRow &row)
+{
+    QAccessibleInterface *const interface = QAccessible::queryAccessibleInterface(row.frame);
+    QStringList signs = interface->actionInterface()->actionNames();
+    signs.removeAll(QAccessibleActionInterface::setFocusAction());
+    signs << row.label->toolTip() << (interface->role() == QAccessible::Border ? "border" : "")
+          << (row.label->cursor().shape() == Qt::PointingHandCursor ? "hand" : "")
+          << row.label->property("isResettable").toString();
+    return signs;
+}
+
+template <typename AnyUser> void findReset(AnyUser &user)
+{
+    QCOMPARE(signsOf(user.row), QStringList({"", "border", "", ""}));
+    QVERIFY(!user.frame->hasDefaultValue() && user.frame->defaultValue() == 0);
+    user.play("reset | resetValue | default 20 | default 30");
+    QVERIFY(user.frame->hasDefaultValue() && user.frame->defaultValue() == 30 * user.position);
+    QCOMPARE(signsOf(user.row),
+             QStringList({"Reset", "Double-click to reset", "border", "hand", "true"}));
+    user.perform("edits");
+    QAccessible::queryAccessibleInterface(user.frame)->actionInterface()->doAction("Reset");
+    QCOMPARE(user.heard(), QString("start 30 end"));
+}
+
+// Two taps of a finger on the label.
+template <typename AnyUser> void doubleTap(AnyUser &user)
+{
+    static auto *const device = QTest::createTouchDevice();
+    user.play("default 30 | edits");
+    user.frame->setLabelText("Gain");
+    QCoreApplication::processEvents();
+    const QPoint pos = user.row.label->mapTo(&user.page, user.row.label->rect().center());
+    for (int tap = 0; tap < 2; ++tap) {
+        QTest::touchEvent(&user.page, device).press(0, pos, &user.page);
+        QTest::touchEvent(&user.page, device).release(0, pos, &user.page);
+    }
+    QCOMPARE(user.heard(), QString("start 30 end"));
 }
 
 } // namespace
@@ -241,6 +284,53 @@ void tst_Edits::composites_data()
         user.perform("r hold 20");
         user.frame->blockSignals(false);
         user.play("r move 40: start (40,50,50,50) | r drop: end");
+    });
+}
+
+// A double click on the label goes back to the default, as the user's change.
+void tst_Edits::resets_data()
+{
+    QTest::addColumn<TestCode>("code");
+    const auto addInt = rowsAfter<SliderEditFrame>("default 30 | edits | ");
+    const auto addDouble = rowsAfter<SliderEditFrameDouble>("default 30 | edits | ");
+    const auto addBoth = [=](const QString &name, const QString &steps) {
+        addInt(name, steps);
+        addDouble(name, steps);
+    };
+    addForBoth("found", [](auto &user) { findReset(user); });
+    addForBoth("double tap", [](auto &user) { doubleTap(user); });
+    addBoth("once", "reset: start 30 end | shown: 30 | reset | elsewhere");
+    addBoth("by the program", "resetValue | shown: 30");
+    addBoth("in any mode",
+            "sampled | reset: start 30 end | released | value 9 | reset: start 30 end");
+    addBoth("beyond the range", "range 0 20 | reset: start 20 end | reset | click | shown: 20");
+    addBoth("beyond the range, by the program", "range 0 20 | resetValue | range 0 90 | shown: 20");
+    addInt("held on one side", "direction 4 20 | reset: start 20 end | reset: start 20 end");
+    addBoth("disabled", "disable | reset");
+    addInt("entry", "type 7: start | reset: finished 7 finished end start 30 end");
+    addDouble("between two positions", "default 30.4 | reset: start 30 end | reset | elsewhere");
+    addDouble("NaN", "default nan | reset: start 30 end");
+    const auto crop = rowsAfter<CropEditFrame>("area 100 100 | crop 1 2 40 20 | edits | ");
+    crop("locked position",
+         "lock position: positionLock(true) | x default 9 | x reset: start crop(9,10,40,20) x(9) "
+         "(9,10,40,20) end");
+    crop("held in the area",
+         "w default 100 | w reset: start crop(1,2,99,20) w(100) (1,2,100,20) end | shown: 1 2 99 "
+         "20");
+    crop("the last crop is the one that is shown",
+         "x default 9 | x resetValue | x value 1 | x plus: start crop(2,2,40,20) x(2) (2,2,40,20) "
+         "end | x resetValue | x minus: start crop(8,2,40,20) x(8) (8,2,40,20) end");
+    const auto mask = rowsAfter<MaskEditFrame>("area 100 100 | mask 0 0 80 10 | edits | ");
+    mask("held in the area",
+         "h default 50 | h resetValue | w plus: start mask(0,0,50,50) w(81) (0,0,81,50) end");
+    const auto opacity = rowsAfter<RGBOpacityEditFrame>("edits | ");
+    opacity("rows",
+            "g default 9 | opacity default 8 | g reset: start (50,9,50,100) end | "
+            "opacity reset: start (50,9,50,8) end | r reset");
+    addFor<RGBAllEditFrame>("all rows", [](auto &user) {
+        user.play("r default 1 | all default 4 | edits");
+        user.frame->resetValue();
+        user.play("shown: 1 50 50 4");
     });
 }
 

@@ -33,7 +33,7 @@ const QStringList gestures =
         "click | up | down | down | keys \n; groove before; groove after; wheel; hold | drop; "
         "hold | move # | move # | tick | drop; hold | move # | tick | move # | drop; "
         "hold | move # | dialog | drop; type #/1 | dialog; type # | minus; hold | move # | hide "
-        "| show; type # | disable | enable; space | type # | hold | drop")
+        "| show; type # | disable | enable; space | type # | hold | drop; reset")
         .split("; ");
 
 // What the user is in the middle of when the program deletes the editor.
@@ -208,19 +208,21 @@ template <typename Frame> void add(const QString &start, const QStringList &step
 void tst_RandomGestures::editors_data()
 {
     QTest::addColumn<TestCode>("code");
-    const QStringList steps =
-        QString("value ?; singleStep 1; singleStep 7; direction 2 ?; direction 4 ?; direction 6 ?")
-            .split("; ");
+    const QStringList steps = QString("value ?; default ?; singleStep 1; singleStep 7; direction 2 "
+                                      "?; direction 4 ?; direction 6 ?")
+                                  .split("; ");
     add<SliderEditFrame>("range -30 400", steps);
     add<SliderEditFrameDouble>("range -30 400", steps);
-    const QStringList colors {"r value ?", "g value ?", "b value ?"};
+    const QStringList colors {"r value ?", "g value ?", "b value ?", "g default ?"};
     add<RGBEditFrame>("g value 9", colors);
     add<RGBAllEditFrame>("all value 9", colors + QStringList {"all value ?"});
     add<RGBOpacityEditFrame>("opacity value 9", colors + QStringList {"opacity value 40"});
     add<RectEditFrame>("x range 0 640 | y range 0 360 | w range 0 640 | h range 0 360",
-                       {"set ? ? ? ?"});
-    add<CropEditFrame>("areaFrom 9 0 0 0 640 360", {"crop ? ? ? ?"});
-    add<MaskEditFrame>("area 640 360", {"mask ? ? ? ?"});
+                       {"set ? ? ? ?", "x default ?", "h default ?"});
+    add<CropEditFrame>("areaFrom 9 0 0 0 640 360",
+                       {"crop ? ? ? ?", "y default ?", "w default ?", "w resetValue"});
+    add<MaskEditFrame>("area 640 360",
+                       {"mask ? ? ? ?", "x default ?", "w default ?", "x resetValue"});
 }
 
 // Errors of rounding add up only over many edits.

@@ -127,12 +127,12 @@ void tst_Robustness::deletedInASignal_data()
 {
     QTest::addColumn<TestCode>("code");
     const QString gestures =
-        "plus; groove after; click | up; hold | drop | right; enter 5; type 5=\t; type 5\t; "
+        "reset; plus; groove after; click | up; hold | drop | right; enter 5; type 5=\t; type 5\t; "
         "hold | move 40 | drop; released | hold | move 40 | drop; sampled | hold | move 40 | drop; "
         "sampled | hold | move 40 | hide; sampled | hold | move 40 | disable";
     const QString safe = "space; sampled | hold | move 40 | tick";
-    addDeletions<SliderEditFrame>(gestures, safe);
-    addDeletions<SliderEditFrameDouble>(gestures, safe);
+    addDeletions<SliderEditFrame>(gestures, safe, "default 30 | ");
+    addDeletions<SliderEditFrameDouble>(gestures, safe, "default 30 | ");
     // Composite editors add what they do in their rows' reports.
     const QString some = "plus; hold | move 40 | drop; type 5\t";
     addDeletions<RGBEditFrame>(some, safe);

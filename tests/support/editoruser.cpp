@@ -148,6 +148,7 @@ void EditorUser::addGestures()
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(step.row.slider, &leave);
     });
+    on("reset", [](const Step &step) { QTest::mouseDClick(step.row.label, Qt::LeftButton); });
     on("tick", [](const Step &step) { tick(step.row.frame); });
     on("focus", [](const Step &step) { step.row.spinBox->setFocus(); });
     on("show hide", [](const Step &step) { step.row.frame->setVisible(step.verb == "show"); });
@@ -220,6 +221,8 @@ template <typename Frame> void EditorUser::add(Frame *frame)
     on("range", [=](const Step &step) { frame->setRange(value(step, 0), value(step, 1)); });
     on("direction",
        [=](const Step &step) { frame->setValueChangeDirection(step[0], int(value(step, 1))); });
+    on("default", [=](const Step &step) { frame->setDefaultValue(value(step, 0)); });
+    on("resetValue", [=](const Step &) { frame->resetValue(); });
     on("value minimum maximum singleStep",
        [=](const Step &step) { frame->setProperty(qPrintable(step.verb), value(step, 0)); });
     on("pageStep decimals",
@@ -254,6 +257,8 @@ template <typename Frame> void EditorUser::addComposite(Frame *frame)
     addModes(frame);
     on("value", [=](const Step &step) { frame->setValue(type(step), step[0]); });
     on("range", [=](const Step &step) { frame->setRange(type(step), step[0], step[1]); });
+    on("default", [=](const Step &step) { frame->setDefaultValue(type(step), step[0]); });
+    on("resetValue", [=](const Step &step) { frame->resetValue(type(step)); });
 }
 
 // The program around a rectangle editor.

@@ -90,9 +90,11 @@ private:
 //   up, down, right         presses an arrow key
 //   wheel                   turns it over the slider, then over the field
 //   leave                   moves the pointer off the slider
+//   reset                   double-clicks the label
 //   lock position, size     clicks a lock button
 // What the program does to any row:
-//   value, range, tick (of the sampling), focus, show, hide, disable, enable, delete;
+//   value, range, default, resetValue, tick (of the sampling), focus, show, hide, disable,
+//   enable, delete;
 //   dialog (shows a modal one and closes it)
 // to all rows: sampled, released, autoRepeat; the last two end by off
 // to a slider editor:

@@ -146,6 +146,21 @@ void CropEditFrame::setRange(Type type, int min, int max)
     RectEditFrame::setRange(type, min, max);
 }
 
+// What is shown then is the last crop, as with the other setters.
+void CropEditFrame::resetValue(Type type)
+{
+    RectEditFrame::resetValue(type);
+    const auto [x, y, w, h] = Internal::fieldValues(this);
+    setCropValue(x, y, w, h);
+}
+
+void CropEditFrame::resetValue()
+{
+    RectEditFrame::resetValue();
+    const auto [x, y, w, h] = Internal::fieldValues(this);
+    setCropValue(x, y, w, h);
+}
+
 // The three are private here, so that a host takes setCropValue(), which keeps
 // the crop as the last one.
 void CropEditFrame::setValue(Type type, int val)

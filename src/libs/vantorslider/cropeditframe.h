@@ -55,6 +55,13 @@ public:
     /*! As RectEditFrame::setRange(), for a field that is to differ from setCropRange(). */
     void setRange(Type type, int min, int max) override;
 
+    /*! As RectEditFrame::resetValue(), and as setCropValue(). \since 1.1 */
+    void resetValue(Type type);
+
+public Q_SLOTS:
+    /*! As RectEditFrame::resetValue(), and as setCropValue(). \since 1.1 */
+    void resetValue();
+
 Q_SIGNALS:
     /*! The user changed the crop. Not emitted where it is the one that was reported or set last. */
     void cropValueChanged(int x, int y, int w, int h);

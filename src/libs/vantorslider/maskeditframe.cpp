@@ -138,6 +138,21 @@ void MaskEditFrame::getMaskValue(QRect &maskRect)
     maskRect.setCoords(left, top, right, bottom);
 }
 
+// What is shown then is the last ones, as with the other setters.
+void MaskEditFrame::resetValue(Type type)
+{
+    RectEditFrame::resetValue(type);
+    const auto [top, bottom, left, right] = Internal::fieldValues(this);
+    setMaskValue(top, bottom, left, right);
+}
+
+void MaskEditFrame::resetValue()
+{
+    RectEditFrame::resetValue();
+    const auto [top, bottom, left, right] = Internal::fieldValues(this);
+    setMaskValue(top, bottom, left, right);
+}
+
 // The four are private here, so that a host takes setMaskValue(), which keeps
 // the margins as the last ones, and setMaskRange(), which keeps the limits.
 void MaskEditFrame::setValue(Type type, int val)

@@ -53,6 +53,13 @@ public:
     */
     void getMaskValue(QRect &maskRect);
 
+    /*! As RectEditFrame::resetValue(), and as setMaskValue(). \since 1.1 */
+    void resetValue(Type type);
+
+public Q_SLOTS:
+    /*! As RectEditFrame::resetValue(), and as setMaskValue(). \since 1.1 */
+    void resetValue();
+
 Q_SIGNALS:
     /*!
         The user changed the margins. Not emitted where they are those that were reported or set

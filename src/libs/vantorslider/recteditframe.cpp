@@ -203,6 +203,34 @@ void RectEditFrame::range(Type type, int &min, int &max)
     }
 }
 
+void RectEditFrame::setDefaultValue(Type type, int val)
+{
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect default value",
+                  &SliderEditFrame::setDefaultValue, val);
+}
+
+int RectEditFrame::defaultValue(Type type) const
+{
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect default value",
+                         &SliderEditFrame::defaultValue);
+}
+
+bool RectEditFrame::hasDefaultValue(Type type) const
+{
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect default value",
+                         &SliderEditFrame::hasDefaultValue);
+}
+
+void RectEditFrame::resetValue(Type type)
+{
+    d->rows().one(type, VANTORSLIDER_HERE, "Reset Rect value", &SliderEditFrame::resetValue);
+}
+
+void RectEditFrame::resetValue()
+{
+    d->rows().all(&SliderEditFrame::resetValue);
+}
+
 void RectEditFrame::setSingleStep(Type type, int val)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect single step", &SliderEditFrame::setSingleStep,

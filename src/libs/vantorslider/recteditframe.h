@@ -160,6 +160,18 @@ public:
     */
     void range(Type type, int &min, int &max);
 
+    /*! SliderEditFrame::setDefaultValue() of the field \a type. \since 1.1 */
+    void setDefaultValue(Type type, int val);
+
+    /*! The value that the field \a type goes back to; 0 where there is none. \since 1.1 */
+    int defaultValue(Type type) const;
+
+    /*! Whether the field \a type has a value to go back to. \since 1.1 */
+    bool hasDefaultValue(Type type) const;
+
+    /*! SliderEditFrame::resetValue() of the field \a type. Emits nothing. \since 1.1 */
+    void resetValue(Type type);
+
     /*! SliderEditFrame::setSingleStep() of the field \a type. */
     void setSingleStep(Type type, int val);
 
@@ -242,6 +254,10 @@ public:
         the lock is off, and where the height is 0. \since 1.1
     */
     qreal sizeLockRatio() const;
+
+public Q_SLOTS:
+    /*! SliderEditFrame::resetValue() of every field. Emits nothing. \since 1.1 */
+    void resetValue();
 
 Q_SIGNALS:
     /*! The user changed a field; emitted last, with all four values. */

@@ -256,6 +256,31 @@ void RGBAllEditFrame::range(Type type, int &min, int &max) const
     d->rows().range(type, min, max);
 }
 
+void RGBAllEditFrame::setDefaultValue(Type type, int val)
+{
+    d->rows().one(type, &SliderEditFrame::setDefaultValue, &RGBEditFrame::setDefaultValue, val);
+}
+
+int RGBAllEditFrame::defaultValue(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::defaultValue, &RGBEditFrame::defaultValue);
+}
+
+bool RGBAllEditFrame::hasDefaultValue(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::hasDefaultValue, &RGBEditFrame::hasDefaultValue);
+}
+
+void RGBAllEditFrame::resetValue(Type type)
+{
+    d->rows().one(type, &SliderEditFrame::resetValue, &RGBEditFrame::resetValue);
+}
+
+void RGBAllEditFrame::resetValue()
+{
+    d->rows().all(&SliderEditFrame::resetValue, QOverload<>::of(&RGBEditFrame::resetValue));
+}
+
 void RGBAllEditFrame::setSingleStep(Type type, int val)
 {
     d->rows().one(type, &SliderEditFrame::setSingleStep, &RGBEditFrame::setSingleStep, val);

@@ -267,6 +267,34 @@ void RGBEditFrame::range(Type type, int &min, int &max) const
     }
 }
 
+void RGBEditFrame::setDefaultValue(Type type, int val)
+{
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB default value",
+                  &SliderEditFrame::setDefaultValue, val);
+}
+
+int RGBEditFrame::defaultValue(Type type) const
+{
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB default value",
+                         &SliderEditFrame::defaultValue);
+}
+
+bool RGBEditFrame::hasDefaultValue(Type type) const
+{
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB default value",
+                         &SliderEditFrame::hasDefaultValue);
+}
+
+void RGBEditFrame::resetValue(Type type)
+{
+    d->rows().one(type, VANTORSLIDER_HERE, "Reset RGB value", &SliderEditFrame::resetValue);
+}
+
+void RGBEditFrame::resetValue()
+{
+    d->rows().all(&SliderEditFrame::resetValue);
+}
+
 void RGBEditFrame::setSingleStep(Type type, int val)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB single step", &SliderEditFrame::setSingleStep,

@@ -128,6 +128,18 @@ public:
     */
     void range(Type type, int &min, int &max) const;
 
+    /*! SliderEditFrame::setDefaultValue() of the row \a type. \since 1.1 */
+    void setDefaultValue(Type type, int val);
+
+    /*! The value that the row \a type goes back to; 0 where there is none. \since 1.1 */
+    int defaultValue(Type type) const;
+
+    /*! Whether the row \a type has a value to go back to. \since 1.1 */
+    bool hasDefaultValue(Type type) const;
+
+    /*! SliderEditFrame::resetValue() of the row \a type. Emits nothing. \since 1.1 */
+    void resetValue(Type type);
+
     /*! SliderEditFrame::setSingleStep() of the row \a type. */
     void setSingleStep(Type type, int val);
 
@@ -169,6 +181,10 @@ public:
 
     /*! The width in pixels of the widest label text, in the red row's font. */
     int labelMaxLength();
+
+public Q_SLOTS:
+    /*! SliderEditFrame::resetValue() of every row. Emits nothing. \since 1.1 */
+    void resetValue();
 
 Q_SIGNALS:
     /*! The user changed a channel; \a r, \a g and \a b are all three values now. */

@@ -260,6 +260,31 @@ void RGBOpacityEditFrame::range(Type type, int &min, int &max) const
     d->rows().range(type, min, max);
 }
 
+void RGBOpacityEditFrame::setDefaultValue(Type type, int val)
+{
+    d->rows().one(type, &SliderEditFrame::setDefaultValue, &RGBEditFrame::setDefaultValue, val);
+}
+
+int RGBOpacityEditFrame::defaultValue(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::defaultValue, &RGBEditFrame::defaultValue);
+}
+
+bool RGBOpacityEditFrame::hasDefaultValue(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::hasDefaultValue, &RGBEditFrame::hasDefaultValue);
+}
+
+void RGBOpacityEditFrame::resetValue(Type type)
+{
+    d->rows().one(type, &SliderEditFrame::resetValue, &RGBEditFrame::resetValue);
+}
+
+void RGBOpacityEditFrame::resetValue()
+{
+    d->rows().all(&SliderEditFrame::resetValue, QOverload<>::of(&RGBEditFrame::resetValue));
+}
+
 void RGBOpacityEditFrame::setSingleStep(Type type, int val)
 {
     d->rows().one(type, &SliderEditFrame::setSingleStep, &RGBEditFrame::setSingleStep, val);

@@ -27,6 +27,7 @@ public:
     SliderEditSpinBox *spinBox() const { return form()->spinBox; }
     static int toPosition(int val) { return val; }
     static int toValue(int position) { return position; }
+    static int rounded(int val) { return val; }
     bool isLastValue(int val) const { return val == lastValue(); }
     bool isNewAtRelease(int position) const { return !isLastValue(position); }
     static constexpr bool spinBoxFollowsInReleaseMode = false;
@@ -244,6 +245,26 @@ int SliderEditFrame::maximum() const
     return d->spinBox()->maximum();
 }
 
+void SliderEditFrame::setDefaultValue(int val)
+{
+    d->setDefaultValue(val);
+}
+
+int SliderEditFrame::defaultValue() const
+{
+    return d->defaultValue();
+}
+
+bool SliderEditFrame::hasDefaultValue() const
+{
+    return d->hasDefaultValue();
+}
+
+void SliderEditFrame::resetValue()
+{
+    d->reset();
+}
+
 void SliderEditFrame::setSingleStep(int val)
 {
     d->spinBox()->setSingleStep(val);
@@ -319,6 +340,10 @@ bool SliderEditFrame::isMousePressed() const
 
 bool SliderEditFrame::eventFilter(QObject *watched, QEvent *event)
 {
+    if (d->isResetClick(watched, event)) {
+        d->resetByUser();
+        return true;
+    }
     if (watched != d->spinBox()) {
         return QFrame::eventFilter(watched, event);
     }

@@ -36,6 +36,7 @@ class VANTORSLIDER_EXPORT SliderEditFrame : public QFrame
     Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
     Q_PROPERTY(int pageStep READ pageStep WRITE setPageStep)
     Q_PROPERTY(int value READ value WRITE setValue NOTIFY valueChanged USER true)
+    Q_PROPERTY(int defaultValue READ defaultValue WRITE setDefaultValue)
 
 public:
     /*! On which side of a reference value reported values are held. */
@@ -134,6 +135,21 @@ public:
     int maximum() const;
 
     /*!
+        Makes \a val the value that a double click or double tap on the label goes back to, as
+        an edit of the user: it is reported once, held in the range and on the allowed side. The
+        label carries the property "isResettable" from then on, a cursor and, unless the host
+        has set another, a tool tip; a screen reader finds the action "Reset" of the row.
+        There is none at first. Emits nothing. \since 1.1
+    */
+    void setDefaultValue(int val);
+
+    /*! The value to go back to; 0 where there is none. \since 1.1 */
+    int defaultValue() const;
+
+    /*! Whether there is a value to go back to. \since 1.1 */
+    bool hasDefaultValue() const;
+
+    /*!
         Sets the step of buttons, arrow keys and wheel to \a val. A negative one is ignored by
         the spin box; the slider's own step becomes its absolute value.
     */
@@ -190,6 +206,13 @@ public:
 
     /*! True while the pointer holds the slider; false as soon as it leaves it. */
     bool isMousePressed() const;
+
+public Q_SLOTS:
+    /*!
+        Shows the default value, held in the range; does nothing where there is none. Emits
+        nothing. \since 1.1
+    */
+    void resetValue();
 
 Q_SIGNALS:
     /*!

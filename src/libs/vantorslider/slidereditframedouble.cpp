@@ -27,6 +27,7 @@ public:
 
     SliderEditDoubleSpinBox *spinBox() const { return form()->doubleSpinBox; }
     int toPosition(double val) const { return saturatedInt(std::round(val * m_nMagnification)); }
+    double rounded(double val) const;
     double toValue(int position) const { return double(position) / m_nMagnification; }
     bool isLastValue(double val) const { return std::fabs(val - lastValue()) < minPrecision; }
     // Unlike the integer field this one follows the handle in release mode too, and
@@ -73,6 +74,12 @@ void SliderEditDoublePrivate::setPrecision(int decimals)
 {
     m_nPrecision = decimals;
     m_nMagnification = qMax(1, saturatedInt(std::pow(10.0, decimals)));
+}
+
+// As Qt's spin box rounds.
+double SliderEditDoublePrivate::rounded(double val) const
+{
+    return QString::number(val, 'f', spinBox()->decimals()).toDouble();
 }
 
 void SliderEditDoublePrivate::showInSpinBox(double val)
@@ -271,6 +278,28 @@ double SliderEditFrameDouble::maximum() const
     return d->spinBox()->maximum();
 }
 
+void SliderEditFrameDouble::setDefaultValue(double val)
+{
+    if (!std::isnan(val)) {
+        d->setDefaultValue(val);
+    }
+}
+
+double SliderEditFrameDouble::defaultValue() const
+{
+    return d->defaultValue();
+}
+
+bool SliderEditFrameDouble::hasDefaultValue() const
+{
+    return d->hasDefaultValue();
+}
+
+void SliderEditFrameDouble::resetValue()
+{
+    d->reset();
+}
+
 void SliderEditFrameDouble::setDecimals(int prec)
 {
     const QSignalBlocker spinBoxBlocker(d->spinBox());
@@ -371,6 +400,10 @@ bool SliderEditFrameDouble::isMousePressed() const
 
 bool SliderEditFrameDouble::eventFilter(QObject *watched, QEvent *event)
 {
+    if (d->isResetClick(watched, event)) {
+        d->resetByUser();
+        return true;
+    }
     if (watched != d->spinBox()) {
         return QFrame::eventFilter(watched, event);
     }

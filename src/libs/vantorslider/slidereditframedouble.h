@@ -37,6 +37,7 @@ class VANTORSLIDER_EXPORT SliderEditFrameDouble : public QFrame
     Q_PROPERTY(double singleStep READ singleStep WRITE setSingleStep)
     Q_PROPERTY(int pageStep READ pageStep WRITE setPageStep)
     Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged USER true)
+    Q_PROPERTY(double defaultValue READ defaultValue WRITE setDefaultValue)
 
 public:
     /*! On which side of a reference value reported values are held. */
@@ -137,6 +138,15 @@ public:
     /*! The number of decimals shown. */
     int decimals() const;
 
+    /*! As SliderEditFrame::setDefaultValue(); not a number is ignored. \since 1.1 */
+    void setDefaultValue(double val);
+
+    /*! The value to go back to; 0 where there is none. \since 1.1 */
+    double defaultValue() const;
+
+    /*! Whether there is a value to go back to. \since 1.1 */
+    bool hasDefaultValue() const;
+
     /*!
         Sets the step of buttons, arrow keys and wheel to \a val. The slider's own step, for its
         arrow keys, follows with the next call that sets decimals or a range: set the step
@@ -185,6 +195,13 @@ public:
 
     /*! True while the pointer holds the slider; false as soon as it leaves it. \since 1.1 */
     bool isMousePressed() const;
+
+public Q_SLOTS:
+    /*!
+        Shows the default value, held in the range; does nothing where there is none. Emits
+        nothing. \since 1.1
+    */
+    void resetValue();
 
 Q_SIGNALS:
     /*! The user changed the value to \a val. */

@@ -1,12 +1,16 @@
 #pragma once
 
 #include "editspan_p.h"
+#include "rowreset_p.h"
 #include "slidereditframe_p.h"
 #include "sliderrow_p.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QAbstractButton>
+
+#include <algorithm>
+#include <optional>
 
 namespace Vantor {
 namespace Widgets {
@@ -111,6 +115,35 @@ public:
     {
         m_valueChangeDirection = directions;
         m_readValue = reference;
+    }
+
+    bool hasDefaultValue() const { return m_defaultValue.has_value(); }
+    Value defaultValue() const { return m_defaultValue.value_or(0); }
+    void setDefaultValue(Value val)
+    {
+        m_defaultValue = val;
+        makeResettable(ui->labelName, m_pSliderEditer);
+    }
+
+    // Silent, as the host's other setters.
+    void reset()
+    {
+        if (hasDefaultValue()) {
+            apply(shownDefault());
+        }
+    }
+
+    // What is shown already is not reported again.
+    void resetByUser()
+    {
+        if (hasDefaultValue() && !engine().isLastValue(shownDefault())) {
+            report(shownDefault());
+        }
+    }
+
+    bool isResetClick(const QObject *watched, const QEvent *event) const
+    {
+        return Internal::isResetClick(ui->labelName, watched, event);
     }
 
     SliderEditSlider *slider() const { return ui->slider; }
@@ -283,6 +316,14 @@ private:
         QObject::connect(sender, signal, &engine(), slot);
     }
 
+    // As the spin box would hold it.
+    Value shownDefault() const
+    {
+        const auto *const spinBox = engine().spinBox();
+        return engine().rounded(
+            std::clamp(*m_defaultValue, spinBox->minimum(), spinBox->maximum()));
+    }
+
     int spinPosition() const { return engine().toPosition(spinValue()); }
 
     void startSamplingTimer()
@@ -316,6 +357,7 @@ private:
     int m_nSamplingTimer = -1;
     Value m_readValue = 0;
     int m_valueChangeDirection = Editor::AllowedToAny;
+    std::optional<Value> m_defaultValue;
     bool m_isSampleInDelivery = false;
     // The user moved the handle meanwhile: the next tick has something to report.
     bool m_isMovedInDelivery = false;
