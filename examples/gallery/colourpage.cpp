@@ -18,19 +18,10 @@ template <typename Editor> void setUpChannels(Editor *editor, int min, int max)
     editor->setLabelText(Editor::R, Page::tr("Red"));
     editor->setLabelText(Editor::G, Page::tr("Green"));
     editor->setLabelText(Editor::B, Page::tr("Blue"));
-    for (const auto type : {Editor::R, Editor::G, Editor::B}) {
-        editor->setRange(type, min, max);
-    }
+    editor->setRange(min, max);
     editor->setVerticalSpacing(0);
     editor->setAutoRepeat(true);
     editor->setLastVerticalSpacerExpanding(false);
-}
-
-template <typename Editor> void setChannels(Editor *editor, int r, int g, int b)
-{
-    editor->setValue(Editor::R, r);
-    editor->setValue(Editor::G, g);
-    editor->setValue(Editor::B, b);
 }
 
 } // namespace
@@ -60,7 +51,7 @@ void ColourPage::addGain()
     });
     connect(m_history, &EditHistory::restored, editor, [editor](const Edits &edits) {
         const auto &gain = edits.colours.gain;
-        setChannels(editor, gain[0], gain[1], gain[2]);
+        editor->setValue(gain[0], gain[1], gain[2]);
     });
 }
 
@@ -83,8 +74,7 @@ void ColourPage::addLift()
     });
     connect(m_history, &EditHistory::restored, editor, [editor](const Edits &edits) {
         const auto &lift = edits.colours.lift;
-        setChannels(editor, lift[0], lift[1], lift[2]);
-        editor->setValue(RGBAllEditFrame::ALL, edits.colours.liftMaster);
+        editor->setValue(lift[0], lift[1], lift[2], edits.colours.liftMaster);
     });
 }
 
@@ -114,7 +104,6 @@ void ColourPage::addWash()
             });
     connect(m_history, &EditHistory::restored, editor, [editor](const Edits &edits) {
         const QColor &wash = edits.colours.wash;
-        setChannels(editor, wash.red(), wash.green(), wash.blue());
-        editor->setValue(RGBOpacityEditFrame::Opacity, edits.colours.washOpacity);
+        editor->setValue(wash.red(), wash.green(), wash.blue(), edits.colours.washOpacity);
     });
 }

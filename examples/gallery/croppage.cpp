@@ -32,6 +32,7 @@ RectRules CropPage::rules(const QSize &picture) const
 void CropPage::startOn(const QSize &size)
 {
     const QSize least = size.boundedTo(QSize(16, 16));
+    m_editor->setPositionLock(false);
     m_editor->setSizeLock(false);
     m_editor->setCropMinSize(least.width(), least.height());
     m_editor->setCropRange(size.width(), size.height());

@@ -1,9 +1,5 @@
 #include "edithistory.h"
 
-#include <QtCore/QPointer>
-#include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QSlider>
-
 class EditHistory::Step : public QUndoCommand
 {
 public:
@@ -45,39 +41,7 @@ private:
     bool m_isShown;
 };
 
-EditHistory::EditHistory(QObject *parent) : QObject(parent)
-{
-    m_end.setSingleShot(true);
-}
-
-void EditHistory::watch(QWidget *page)
-{
-    // The sliders and buttons inside the editors: their signals are Qt's own.
-    const auto sliders = page->findChildren<QSlider *>();
-    for (QPointer<QSlider> slider : sliders) {
-        connect(slider, &QSlider::sliderPressed, this,
-                [this, slider] { begin([slider] { return slider && slider->isSliderDown(); }); });
-        connect(slider, &QSlider::sliderReleased, this, &EditHistory::end);
-    }
-
-    const auto buttons = page->findChildren<QAbstractButton *>();
-    for (QPointer<QAbstractButton> button : buttons) {
-        // A button that repeats says released, clicked and pressed at each
-        // repetition, but stays down.
-        connect(button, &QAbstractButton::released, this, [this, button] {
-            m_isRepeating = button->isDown();
-            if (!m_isRepeating) {
-                end();
-            }
-        });
-        connect(button, &QAbstractButton::pressed, this, [this, button] {
-            if (!m_isRepeating) {
-                begin([button] { return button && button->isDown(); });
-            }
-            m_isRepeating = false;
-        });
-    }
-}
+EditHistory::EditHistory(QObject *parent) : QObject(parent) { }
 
 void EditHistory::reset(const Edits &edits)
 {
@@ -91,8 +55,8 @@ void EditHistory::record(const QString &name, const Edits &edits)
     if (edits == m_edits) {
         return;
     }
-    if (!m_isHeld() && !m_end.isActive()) {
-        ++m_step; // an entry, a key, a turn of the wheel
+    if (m_open == 0) {
+        ++m_step; // of no editor
     }
     m_stack.push(new Step(this, name, edits, true));
 }
@@ -106,18 +70,15 @@ void EditHistory::change(const QString &name, const Edits &edits)
     m_stack.push(new Step(this, name, edits, false));
 }
 
-void EditHistory::begin(const std::function<bool()> &isHeld)
+void EditHistory::begin()
 {
     ++m_step;
-    m_isHeld = isHeld;
-    m_end.stop();
+    ++m_open;
 }
 
-// The last report follows the signal that tells of the release, before the event
-// loop comes round.
 void EditHistory::end()
 {
-    m_end.start(0);
+    --m_open;
 }
 
 void EditHistory::set(const Edits &edits)

@@ -58,6 +58,7 @@ MainWindow::MainWindow()
     panelLayout->addWidget(m_stack);
 
     connect(m_history, &EditHistory::changed, m_view, &PictureView::setEdits);
+    m_history->watch(m_view);
     connect(m_history->stack(), &QUndoStack::cleanChanged, this,
             [this](bool isClean) { setWindowModified(!isClean); });
     createPages();

@@ -55,7 +55,6 @@ void Page::finish()
 {
     m_layout->addStretch();
     alignLabels();
-    m_history->watch(this);
 }
 
 void Page::changeEvent(QEvent *event)

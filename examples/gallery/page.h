@@ -37,6 +37,7 @@ protected:
         auto *editor = new Editor;
         editor->setHorizontalSpacing(labelSpacing, controlSpacing);
         addWidget(editor);
+        m_history->watch(editor);
         return editor;
     }
     void addWidget(QWidget *widget);

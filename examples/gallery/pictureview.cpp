@@ -152,6 +152,7 @@ void PictureView::paintEvent(QPaintEvent * /*event*/)
 
 void PictureView::mousePressEvent(QMouseEvent *event)
 {
+    release(); // one button at a time
     if (event->button() == Qt::MiddleButton
         || (event->button() == Qt::LeftButton && !isRectAt(event->pos()))) {
         m_press = m_isFitted ? Press::None : Press::Picture;
@@ -159,7 +160,7 @@ void PictureView::mousePressEvent(QMouseEvent *event)
         m_press = Press::Rect;
         m_edges = edgesAt(event->pos(), rectInView(), m_rules);
         m_pressRect = rectOf(m_overlay);
-        Q_EMIT rectPressed();
+        Q_EMIT editStarted();
     } else {
         return;
     }
@@ -171,7 +172,7 @@ void PictureView::mousePressEvent(QMouseEvent *event)
 void PictureView::mouseMoveEvent(QMouseEvent *event)
 {
     if (!event->buttons()) {
-        m_press = Press::None; // whatever took the release
+        release(); // whatever took it
     }
     const QPointF by = QPointF(event->pos() - m_pressPos) * devicePixelRatioF() / scale();
     if (m_press == Press::Rect) {
@@ -189,7 +190,7 @@ void PictureView::mouseMoveEvent(QMouseEvent *event)
 
 void PictureView::mouseReleaseEvent(QMouseEvent *event)
 {
-    m_press = Press::None;
+    release();
     updateCursor(event->pos());
 }
 
@@ -251,6 +252,15 @@ QRectF PictureView::pictureArea() const
 bool PictureView::isRectAt(const QPoint &pos) const
 {
     return m_overlay != Overlay::None && isHeldAt(pos, rectInView(), m_rules);
+}
+
+void PictureView::release()
+{
+    const Press press = m_press;
+    m_press = Press::None;
+    if (press == Press::Rect) {
+        Q_EMIT editFinished();
+    }
 }
 
 void PictureView::moveRect(const QRect &from, const QPoint &by)

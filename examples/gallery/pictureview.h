@@ -26,7 +26,6 @@ public:
     void setEdits(const Edits &edits);
     void setOverlay(Overlay overlay, const RectRules &rules);
     Overlay overlay() const { return m_overlay; }
-    bool isRectPressed() const { return m_press == Press::Rect; }
 
     // Device pixels for one pixel of the picture.
     double scale() const;
@@ -42,8 +41,10 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    void rectPressed();
+    // As an editor does: what is dragged between the two is one edit.
+    void editStarted();
     void rectDragged(const QRect &rect);
+    void editFinished();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -59,6 +60,7 @@ private:
     double fittingScale() const;
     QRectF pictureArea() const;
     bool isRectAt(const QPoint &pos) const;
+    void release();
     void moveRect(const QRect &from, const QPoint &by);
     void updateCursor(const QPoint &pos);
     void paintPicture(QPainter &painter);

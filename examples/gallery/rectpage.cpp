@@ -2,32 +2,10 @@
 
 #include <slidereditframe.h>
 
-#include <QtCore/QSignalBlocker>
-#include <QtWidgets/QToolButton>
-
-namespace {
-
-const auto positionLock = QStringLiteral("toolButtonLockPosition");
-const auto sizeLock = QStringLiteral("toolButtonLockSize");
-
-// A lock goes by the rectangle at which it was switched on.
-void lockAnew(const QWidget &editor, const QString &lockName)
-{
-    auto *lock = editor.findChild<QToolButton *>(lockName);
-    if (lock->isChecked()) {
-        lock->setChecked(false);
-        lock->setChecked(true);
-    }
-}
-
-} // namespace
-
 RectPage::RectPage(const QString &title, PictureView::Overlay overlay, PictureView *view,
                    EditHistory *history, LogPane *log)
     : Page(title, history, log), m_overlay(overlay), m_view(view)
 {
-    connect(view, &PictureView::rectPressed, this,
-            [this, view] { m_history->begin([view] { return view->isRectPressed(); }); });
     connect(view, &PictureView::rectDragged, this, [this](const QRect &rect) {
         if (m_view->overlay() == m_overlay) {
             takeDragged(rect);
@@ -77,8 +55,8 @@ RectRules RectPage::rulesOf(Rect *editor, const QSize &area)
     editor->range(Rect::Height, rules.least.rheight(), rules.most.rheight());
     rules.area = area;
     rules.step = step;
-    rules.isPositionLocked = editor->findChild<QToolButton *>(positionLock)->isChecked();
-    rules.isSizeLocked = editor->findChild<QToolButton *>(sizeLock)->isChecked();
+    rules.isPositionLocked = editor->isPositionLocked();
+    rules.isSizeLocked = editor->isSizeLocked();
     return rules;
 }
 
@@ -92,11 +70,11 @@ void RectPage::showRect(Rect *editor, const std::function<void()> &set)
     for (const auto type : {Rect::X, Rect::Y, Rect::Width, Rect::Height}) {
         editor->setValueChangeDirection(type, Vantor::Widgets::SliderEditFrame::AllowedToAny, 0);
     }
-    const QSignalBlocker blocker(editor); // toggling a lock is reported
-    if (before.topLeft() != after.topLeft()) {
-        lockAnew(*editor, positionLock);
+    // A lock goes by the rectangle at which it was switched on.
+    if (before.topLeft() != after.topLeft() && editor->isPositionLocked()) {
+        editor->setPositionLock(true);
     }
-    if (before.size() != after.size()) {
-        lockAnew(*editor, sizeLock);
+    if (before.size() != after.size() && editor->isSizeLocked()) {
+        editor->setSizeLock(true);
     }
 }
