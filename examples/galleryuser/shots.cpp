@@ -38,12 +38,7 @@ public:
     {
         ScriptedUser user(m_window);
         for (const Page *page : m_window.pages()) {
-            user.showPage(page->title());
-            if (page->title() == QLatin1String("Mask")) {
-                for (const char *row : {"Top", "Bottom", "Left", "Right"}) {
-                    user.type(QLatin1String(row), QStringLiteral("120\n"));
-                }
-            }
+            open(user, page->title());
             QWidget *plus = page->findChild<QWidget *>(QStringLiteral("sliderEditPlus"));
             user.click(plus);
             user.click(page->findChild<QWidget *>(QStringLiteral("sliderEditSubtract")));
@@ -52,11 +47,7 @@ public:
             user.moveAway();
             QApplication::processEvents();
             save(m_window.grab(), page->title().toLower() + suffix);
-            // On the other pages the picture has neither mask nor layer.
-            if (page->title() == QLatin1String("Mask")
-                || page->title() == QLatin1String("Layout")) {
-                user.choose(QStringLiteral("Reset page"));
-            }
+            leave(user, page->title());
         }
     }
 
@@ -64,10 +55,10 @@ public:
     void shootEditors(const QString &suffix)
     {
         QStringList names;
-        for (int i = 0; i < m_window.pages().size(); ++i) {
-            m_window.showPage(i);
-            QApplication::processEvents();
-            Page *page = m_window.pages().at(i);
+        ScriptedUser user(m_window);
+        for (Page *page : m_window.pages()) {
+            open(user, page->title());
+            user.moveAway();
             const auto frames = page->findChildren<QFrame *>(QString(), Qt::FindDirectChildrenOnly);
             for (const QFrame *frame : frames) {
                 const QString name = editorName(*frame);
@@ -76,6 +67,7 @@ public:
                     save(page->grab(frame->geometry()), name + suffix);
                 }
             }
+            leave(user, page->title());
         }
         shootRectEditor(suffix);
     }
@@ -111,6 +103,25 @@ public:
     }
 
 private:
+    static void open(ScriptedUser &user, const QString &page)
+    {
+        user.showPage(page);
+        if (page == QLatin1String("Mask")) {
+            for (const char *row : {"Top", "Bottom", "Left", "Right"}) {
+                user.type(QLatin1String(row), QStringLiteral("120\n"));
+            }
+            user.view()->setFocus(); // and no row is drawn as the one that has it
+        }
+    }
+
+    // On the other pages the picture has neither mask nor layer.
+    static void leave(ScriptedUser &user, const QString &page)
+    {
+        if (page == QLatin1String("Mask") || page == QLatin1String("Layout")) {
+            user.choose(QStringLiteral("Reset page"));
+        }
+    }
+
     // The base class of three editors stands on no page.
     void shootRectEditor(const QString &suffix)
     {
