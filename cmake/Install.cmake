@@ -21,10 +21,8 @@ install(TARGETS vantorslider EXPORT ${package_name}Targets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         COMPONENT runtime NAMELINK_COMPONENT development
     PUBLIC_HEADER DESTINATION ${include_dir}/vantorslider COMPONENT development)
-if(EXISTS ${PROJECT_SOURCE_DIR}/styles)
-    install(DIRECTORY ${PROJECT_SOURCE_DIR}/styles DESTINATION ${data_dir} COMPONENT runtime
-        FILES_MATCHING PATTERN *.qss PATTERN *.svg)
-endif()
+install(DIRECTORY ${PROJECT_BINARY_DIR}/styles DESTINATION ${data_dir} COMPONENT runtime
+    FILES_MATCHING PATTERN *.qss PATTERN *.svg)
 
 install(EXPORT ${package_name}Targets NAMESPACE VantorSlider:: DESTINATION ${package_dir}
     COMPONENT development)

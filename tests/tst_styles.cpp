@@ -1,39 +1,49 @@
+#include "alignlabels.h"
 #include "editoruser.h"
 #include "recteditframe.h"
+#include "rgballeditframe.h"
 #include "rgbeditframe.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QMetaEnum>
+#include <QtWidgets/QSpinBox>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Vantor::Widgets;
 
-// The touch themes: readable, large enough for a finger, and states to be seen.
+// The style sheets: readable, large enough for a finger or a pointer, states to be seen,
+// and the same whatever comes first.
 class tst_Styles : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase_data();
+    void cleanup();
     void contrast();
     void glyphs();
     void largeFont();
     void edges();
+    void lockColumn();
+    void order();
+    void surroundings();
+
+private:
+    const QFont m_font = QApplication::font();
+    const QPalette m_palette = QApplication::palette();
 };
 
-// Every test runs with each theme.
-void tst_Styles::initTestCase_data()
-{
-    QDir::addSearchPath("vantorslider", STYLES_DIR);
-    QTest::addColumn<QString>("sheet");
-    for (const char *name : {"touch-dark", "touch-light"}) {
-        QFile file(STYLES_DIR "/" + QString(name) + ".qss");
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QTest::newRow(name) << QString::fromUtf8(file.readAll());
-    }
-}
-
 namespace {
+
+QPalette paletteOf(const QColor &window, const QColor &base, const QColor &text,
+                   const QColor &highlight)
+{
+    QPalette palette(text, window, window.lighter(), window.darker(), Qt::gray, text, base);
+    palette.setColor(QPalette::Highlight, highlight);
+    return palette;
+}
 
 // Relative luminance and contrast as the accessibility guidelines (WCAG 2) define them.
 double contrastOf(const QColor &a, const QColor &b)
@@ -49,34 +59,88 @@ double contrastOf(const QColor &a, const QColor &b)
     return qMax(ratio, 1 / ratio);
 }
 
-// The upper edge in the middle of a widget, from outside to the first row of its inside.
+// A piece of the upper edge, from outside to the first row of its inside. It is longer
+// than a dash and its gap.
 QImage upperEdge(QWidget *widget)
 {
-    const QPoint top = widget->mapTo(widget->window(), QPoint(widget->width() / 2, 0));
-    return widget->window()->grab(QRect(top, QSize(1, 8))).toImage();
+    const QPoint top = widget->mapTo(widget->window(), QPoint(6, 0));
+    return widget->window()->grab(QRect(top, QSize(6, 4))).toImage();
 }
 
 double contrastOfEdge(const QImage &edge)
 {
     double most = 0;
-    for (int y = 0; y < edge.height(); ++y)
-        most = qMax(most, contrastOf(edge.pixelColor(0, y), edge.pixelColor(0, 7)));
+    for (int i = 0; i < edge.width() * edge.height(); ++i) {
+        const QPoint pixel(i % edge.width(), i / edge.width());
+        most = qMax(most, contrastOf(edge.pixelColor(pixel), edge.pixelColor(pixel.x(), 3)));
+    }
     return most;
 }
 
+// "#0b5cad" or "palette(highlighted-text)"
+QColor colorOf(const QString &text, const QPalette &palette)
+{
+    const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
+    for (int i = 0; i < roles.keyCount(); ++i) {
+        const QString name = text.mid(8).remove(QRegularExpression("\\W"));
+        if (name.compare(roles.key(i), Qt::CaseInsensitive) == 0)
+            return palette.color(QPalette::ColorRole(roles.value(i)));
+    }
+    return QColor(text);
+}
+
+QImage picture(QWidget *widget)
+{
+    QCoreApplication::processEvents();
+    return widget->grab().toImage();
+}
+
 } // namespace
+
+// Every test runs with each sheet; that for the desktop in palettes of its host.
+void tst_Styles::initTestCase_data()
+{
+    QDir::addSearchPath("vantorslider", STYLES_DIR);
+    QTest::addColumn<QString>("sheet");
+    QTest::addColumn<QPalette>("palette");
+    QTest::addColumn<int>("target"); // the least side of what is clicked
+    QTest::addColumn<int>("slider"); // its least width
+    const auto add = [](const char *row, const QString &name, const QPalette &palette, int target,
+                        int slider) {
+        QFile file(STYLES_DIR "/" + name + ".qss");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QTest::newRow(row) << QString::fromUtf8(file.readAll()) << palette << target << slider;
+    };
+    add("touch-dark", "touch-dark", QPalette(), 48, 120);
+    add("touch-light", "touch-light", QPalette(), 48, 120);
+    add("desktop", "desktop", QPalette(), 15, 100);
+    add("desktop, dark", "desktop", paletteOf("#353535", "#232323", Qt::white, "#2a82da"), 15, 100);
+    add("desktop, high contrast", "desktop", paletteOf(Qt::black, Qt::black, Qt::white, Qt::cyan),
+        15, 100);
+}
+
+void tst_Styles::cleanup()
+{
+    QApplication::setFont(m_font);
+    QApplication::setPalette(m_palette);
+    qApp->setStyleSheet(QString());
+}
 
 // Behind each colour of a text stands that of its background.
 void tst_Styles::contrast()
 {
     QFETCH_GLOBAL(QString, sheet);
-    const QRegularExpression pattern("(?<![-\\w])((?:selection-)?)color: (#\\w+);"
-                                     "\\s+(?:\\1background-color: (#\\w+);)?");
+    QFETCH_GLOBAL(QPalette, palette);
+    const QString color = "(#\\w+|palette\\([\\w-]+\\));";
+    const QRegularExpression pattern("(?<![-\\w])((?:selection-)?)color: " + color
+                                     + "\\s+(?:\\1background-color: " + color + ")?");
     auto matches = pattern.globalMatch(sheet);
     QVERIFY(matches.hasNext());
     while (matches.hasNext()) {
         const QStringList texts = matches.next().capturedTexts();
-        QVERIFY2(texts.size() == 4 && contrastOf(texts[2], texts[3]) >= 4.5, qPrintable(texts[0]));
+        QVERIFY2(texts.size() == 4
+                     && contrastOf(colorOf(texts[2], palette), colorOf(texts[3], palette)) >= 4.5,
+                 qPrintable(texts[0]));
     }
 }
 
@@ -84,6 +148,8 @@ void tst_Styles::contrast()
 void tst_Styles::glyphs()
 {
     QFETCH_GLOBAL(QString, sheet);
+    if (!sheet.contains("image: "))
+        QSKIP("The sheet has no pictures.");
     for (QWidget *editor : QList<QWidget *> {new RectEditFrame, new RGBEditFrame}) {
         EditorUser user(editor);
         const QList<QWidget *> parts = editor->findChildren<QWidget *>(
@@ -106,30 +172,42 @@ void tst_Styles::glyphs()
 void tst_Styles::largeFont()
 {
     QFETCH_GLOBAL(QString, sheet);
-    EditorUser user(new RectEditFrame); // with its locks
-    QFont font = user.page.font();
+    QFETCH_GLOBAL(int, target);
+    QFETCH_GLOBAL(int, slider);
+    QFont font = m_font;
     font.setPointSizeF(font.pointSizeF() * 1.5);
-    user.page.setFont(font);
+    QApplication::setFont(font);
+    EditorUser user(new RectEditFrame); // with its locks
     user.page.setStyleSheet(sheet);
     for (const EditorRow &row : user.rows) {
         row.whole->setLabelText("Height");
         row.whole->setRange(-1920, 1920);
         row.whole->setValue(-1920);
     }
+    // From the rows up to the page.
+    for (int i = 0; i < 4; ++i)
+        QCoreApplication::processEvents();
     user.page.adjustSize();
 
-    const QSize finger(48, 48);
+    const QSize finger(target, target);
     const auto buttons = user.page.findChildren<QToolButton *>();
     QCOMPARE(buttons.size(), 10);
     for (const QToolButton *button : buttons)
         QCOMPARE(button->size().expandedTo(finger), button->size());
     for (const EditorRow &row : user.rows) {
+        QVERIFY(row.slider->width() >= slider);
         const QSize handle = User::handleRect(row.slider, row.slider->value()).size();
         QCOMPARE(handle.expandedTo(finger), handle);
         QCOMPARE(row.label->size().expandedTo(row.label->sizeHint()), row.label->size());
         const QRect text = row.field->fontMetrics().boundingRect(row.field->text());
         QCOMPARE(row.field->size().expandedTo(text.size()), row.field->size());
     }
+    alignLabels(&user.page);
+    QCoreApplication::processEvents();
+    const QLabel *const label = user.rows[0].label;
+    const int inside = label->contentsRect().width();
+    const int text = label->fontMetrics().boundingRect(label->text()).width();
+    QVERIFY(inside >= text && inside <= text + label->fontMetrics().height());
 }
 
 // Neither a row that takes the focus nor a field whose entry was refused moves
@@ -137,7 +215,9 @@ void tst_Styles::largeFont()
 void tst_Styles::edges()
 {
     QFETCH_GLOBAL(QString, sheet);
+    QFETCH_GLOBAL(QPalette, palette);
     for (QWidget *row : QList<QWidget *> {new SliderEditFrame, new SliderEditFrameDouble}) {
+        QApplication::setPalette(palette);
         EditorUser user(row);
         user.page.setStyleSheet(sheet);
         QWidget *const field = user.rows[0].spinBox;
@@ -156,6 +236,87 @@ void tst_Styles::edges()
         QCOMPARE(edgeAfter("keys 1"), focused);
         QCOMPARE(edgeAfter("keys \n"), plain);
     }
+}
+
+// A panel's lock takes no room while none shows, and while the other one shows as much as
+// that: the rows end in one line.
+void tst_Styles::lockColumn()
+{
+    QFETCH_GLOBAL(QString, sheet);
+    EditorUser user(new RectEditFrame);
+    user.page.setStyleSheet(sheet);
+    auto *const rect = user.page.findChild<RectEditFrame *>();
+    const auto widths = [&] {
+        for (int i = 0; i < 4; ++i) // from the lock up to the page, and down again
+            QCoreApplication::processEvents();
+        return QList<int>({user.rows[0].frame->width(), user.rows[2].frame->width()});
+    };
+    const int narrow = widths()[0];
+    QCOMPARE(widths(), QList<int>({narrow, narrow}));
+    rect->setSizeLockEnable(false, RectEditFrame::OffsetLock);
+    QCOMPARE(widths(), QList<int>({narrow, narrow}));
+    rect->setPositionLockEnable(false);
+    QVERIFY(widths()[0] > narrow && widths()[0] == widths()[1]);
+    rect->setSizeLockEnable(true, RectEditFrame::OffsetLock);
+    QCOMPARE(widths(), QList<int>({narrow, narrow}));
+}
+
+// The same picture in whatever order a host sets the sheet, widths and visibility, and
+// shows the window.
+void tst_Styles::order()
+{
+    QFETCH_GLOBAL(QString, sheet);
+    QImage first;
+    QVector<int> calls {0, 1, 2, 3};
+    do {
+        EventLog log;
+        QWidget window;
+        auto *const editor = new RGBAllEditFrame(&window);
+        (new QVBoxLayout(&window))->addWidget(editor);
+        for (const int call : calls) {
+            if (call == 0)
+                window.setStyleSheet(sheet);
+            if (call == 1) {
+                editor->setButtonFixedWidth(RGBAllEditFrame::R, 24);
+                editor->setButtonWidthRange(RGBAllEditFrame::G, 99, 80);
+                editor->setSpinBoxFixedWidth(RGBAllEditFrame::B, 50);
+                editor->setSpinBoxWidthRange(RGBAllEditFrame::ALL, 150, 120);
+                editor->setLabelFixedWidth(RGBAllEditFrame::ALL, 40);
+            }
+            if (call == 2) {
+                editor->setEditerVisible(RGBAllEditFrame::R);
+                editor->setEditerVisible(RGBAllEditFrame::ALLAndRgb);
+            }
+            if (call == 3)
+                QVERIFY(User::show(window));
+        }
+        window.setFocus();
+        window.resize(600, 400);
+        if (first.isNull())
+            first = picture(&window);
+        QCOMPARE(picture(&window), first);
+    } while (std::next_permutation(calls.begin(), calls.end()));
+}
+
+// What is not an editor stays as it is with a sheet that selects nothing: Qt gives some
+// widgets another pixel with any.
+void tst_Styles::surroundings()
+{
+    QFETCH_GLOBAL(QString, sheet);
+    QFETCH_GLOBAL(QPalette, palette);
+    QApplication::setPalette(palette);
+    QWidget host;
+    auto *const layout = new QVBoxLayout(&host);
+    layout->addWidget(new QSpinBox);
+    layout->addWidget(new QToolButton);
+    layout->addWidget(new QSlider);
+    layout->addWidget(new QLabel("Host"));
+    layout->addWidget(new QFrame);
+    qApp->setStyleSheet("#nobody { border: none; }");
+    QVERIFY(User::show(host));
+    const QImage plain = picture(&host);
+    qApp->setStyleSheet(sheet);
+    QCOMPARE(picture(&host), plain);
 }
 
 QTEST_MAIN(tst_Styles)

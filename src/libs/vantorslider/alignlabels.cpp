@@ -9,6 +9,7 @@
 #include <QtGui/QFontMetrics>
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QStyle>
 
 #include <vector>
 
@@ -42,6 +43,17 @@ int textWidthOf(const QLabel &label)
     return qCeil(document.idealWidth());
 }
 
+// What a label keeps its text off its edge by where nothing sets it: with a frame, or a
+// padding of a sheet, half the width of an x.
+int indentOf(const QLabel &label)
+{
+    if (label.indent() >= 0) {
+        return label.indent();
+    }
+    const int half = label.fontMetrics().size(Qt::TextSingleLine, QStringLiteral("x")).width() / 2;
+    return label.frameWidth() > 0 ? qMax(0, half - label.margin()) : 0;
+}
+
 // A label and what its text takes. The label's own hint does not serve: it is never
 // below the minimum width, which is that of the column.
 struct MeasuredLabel
@@ -60,7 +72,7 @@ struct MeasuredLabel
     {
         const QMargins margins = label->contentsMargins();
         return textWidth + margins.left() + margins.right() + 2 * label->margin()
-            + qMax(0, label->indent());
+            + indentOf(*label);
     }
 
     QLabel *label;
@@ -120,7 +132,10 @@ void LabelColumn::align()
     for (const MeasuredLabel &measured : m_labels) {
         measured.label->setFixedWidth(width);
         if (m_alignment != Qt::Alignment()) {
-            measured.label->setAlignment(m_alignment | Qt::AlignVCenter);
+            // Left to itself the label goes by the direction of its text.
+            measured.label->setAlignment(
+                QStyle::visualAlignment(measured.label->layoutDirection(), m_alignment)
+                | Qt::AlignVCenter);
         }
     }
 }

@@ -24,9 +24,8 @@ namespace Widgets {
     function belongs to that one's column; a row in a window of its own to none.
 
     \a alignment is where the texts stand in the column, Qt::AlignLeft or
-    Qt::AlignRight, which Qt mirrors in a layout from right to left. Without it they
-    stay as they are; an editor starts with Qt::AlignRight. A later call for the
-    same panel changes the alignment.
+    Qt::AlignRight, mirrored in a layout from right to left. Without it they stay as they are; an
+   editor starts with Qt::AlignRight. A later call for the same panel changes the alignment.
 
     Emits nothing. A null \a panel does nothing.
 

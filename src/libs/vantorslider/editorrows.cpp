@@ -1,5 +1,7 @@
 #include "editorrows_p.h"
 
+#include "childwidget_p.h"
+
 #include <QtCore/QDebug>
 #include <QtGui/QFontMetrics>
 #include <QtWidgets/QSpacerItem>
@@ -35,7 +37,7 @@ SliderEditFrame *EditorRows::findOrWarn(int type, const QMessageLogger &here,
 void EditorRows::setVisible(int types) const
 {
     for (const Row &row : m_rows) {
-        row.frame->setVisible((types & row.type) != 0);
+        setShown(row.frame, (types & row.type) != 0);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "recteditframe.h"
 
+#include "childwidget_p.h"
 #include "recteditframe_p.h"
 #include "saturation_p.h"
 
@@ -7,6 +8,21 @@
 
 namespace Vantor {
 namespace Widgets {
+
+namespace {
+
+// A sheet may take the room of a hidden lock away, unless the other panel's lock shows:
+// the rows of both panels then end in one line.
+void markBesideLock(QWidget *placeholder, bool isBesideLock)
+{
+    constexpr char property[] = "isBesideLock";
+    if (placeholder->property(property).toBool() != isBesideLock) {
+        placeholder->setProperty(property, isBesideLock);
+        Internal::applyStyleSheet(placeholder);
+    }
+}
+
+} // namespace
 
 RectEditFrame::RectEditFrame(QWidget *parent)
     : QFrame(parent), d(new Internal::RectEditFramePrivate(this))
@@ -39,7 +55,7 @@ void RectEditFrame::setEditerVisible(int types)
 {
     d->rows().setVisible(types);
     for (QWidget *panel : {d->ui->framePosition, d->ui->frameSize}) {
-        panel->setVisible((types & d->rows().typesIn(panel)) != 0);
+        Internal::setShown(panel, (types & d->rows().typesIn(panel)) != 0);
     }
 }
 
@@ -302,14 +318,16 @@ int RectEditFrame::labelMaxLength() const
 
 void RectEditFrame::setPositionLockEnable(bool b)
 {
-    d->ui->toolButtonLockPosition->setVisible(b);
-    d->ui->frameSpacerLockPosition->setVisible(!b);
+    Internal::setShown(d->ui->toolButtonLockPosition, b);
+    Internal::setShown(d->ui->frameSpacerLockPosition, !b);
+    markBesideLock(d->ui->frameSpacerLockSize, b);
 }
 
 void RectEditFrame::setSizeLockEnable(bool b, LockType type)
 {
-    d->ui->toolButtonLockSize->setVisible(b);
-    d->ui->frameSpacerLockSize->setVisible(!b);
+    Internal::setShown(d->ui->toolButtonLockSize, b);
+    Internal::setShown(d->ui->frameSpacerLockSize, !b);
+    markBesideLock(d->ui->frameSpacerLockPosition, b);
     d->m_sizeLockType = type;
 }
 

@@ -27,7 +27,8 @@ class RectEditFramePrivate;
     translated in the context Vantor::Widgets::RectEditFrame.
 
     Style sheets select on "isSliderFrame" of the editor, "lockoutstate" of both lock buttons,
-    "isLockPositionFrame" of the position's lock button and placeholder, and on the object names
+    "isLockPositionFrame" of the position's lock button and placeholder, "isBesideLock" (since 1.1)
+    of a placeholder while the other panel's lock shows, and on the object names
     "frameX", "frameY", "frameWidth", "frameHeight", "framePosition", "frameSize",
     "toolButtonLockPosition" and "toolButtonLockSize".
 */

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "childwidget_p.h"
 #include "editorrows_p.h"
 #include "rgbeditframe.h"
 
@@ -61,7 +62,7 @@ struct RGBAndRow
     {
         constexpr int channels = RGBEditFrame::R | RGBEditFrame::G | RGBEditFrame::B;
         row.setVisible(types);
-        block->setVisible((types & channels) != 0);
+        setShown(block, (types & channels) != 0);
         if ((types & channels) != 0) {
             block->setEditerVisible(types);
         }

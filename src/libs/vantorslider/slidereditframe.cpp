@@ -1,5 +1,6 @@
 #include "slidereditframe.h"
 
+#include "childwidget_p.h"
 #include "saturation_p.h"
 #include "sliderengine_p.h"
 #include "ui_slidereditframe.h"
@@ -157,7 +158,7 @@ void SliderEditFrame::setLabelWidthRange(int maxw, int minw)
 
 void SliderEditFrame::setLabelFixedWidth(int w)
 {
-    d->row().label->setFixedWidth(w);
+    Internal::setFixedWidth(d->row().label, w);
 }
 
 void SliderEditFrame::setButtonWidthRange(int maxw, int minw)
@@ -177,7 +178,7 @@ void SliderEditFrame::setSpinBoxWidthRange(int maxw, int minw)
 
 void SliderEditFrame::setSpinBoxFixedWidth(int w)
 {
-    d->spinBox()->setFixedWidth(w);
+    Internal::setFixedWidth(d->spinBox(), w);
 }
 
 void SliderEditFrame::setSpinBoxWheelEnable(bool b)

@@ -1,5 +1,6 @@
 #include "slidereditframedouble.h"
 
+#include "childwidget_p.h"
 #include "saturation_p.h"
 #include "sliderengine_p.h"
 #include "ui_slidereditframedouble.h"
@@ -158,7 +159,7 @@ void SliderEditFrameDouble::setLabelWidthRange(int maxw, int minw)
 
 void SliderEditFrameDouble::setLabelFixedWidth(int w)
 {
-    d->row().label->setFixedWidth(w);
+    Internal::setFixedWidth(d->row().label, w);
 }
 
 void SliderEditFrameDouble::setButtonWidthRange(int maxw, int minw)
@@ -178,7 +179,7 @@ void SliderEditFrameDouble::setSpinBoxWidthRange(int maxw, int minw)
 
 void SliderEditFrameDouble::setSpinBoxFixedWidth(int w)
 {
-    d->spinBox()->setFixedWidth(w);
+    Internal::setFixedWidth(d->spinBox(), w);
 }
 
 void SliderEditFrameDouble::setSpinBoxWheelEnable(bool b)

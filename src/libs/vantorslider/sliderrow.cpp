@@ -1,5 +1,6 @@
 #include "sliderrow_p.h"
 
+#include "childwidget_p.h"
 #include "qlineeditcal.h"
 #include "slidereditframe_p.h"
 
@@ -25,12 +26,6 @@ void setRightMargin(QLayout *layout, int right)
 }
 
 } // namespace
-
-void setWidthRange(QWidget *widget, int maximum, int minimum)
-{
-    widget->setMaximumWidth(maximum);
-    widget->setMinimumWidth(minimum);
-}
 
 void SliderRow::prepare(QWidget *frame) const
 {
@@ -74,27 +69,25 @@ void SliderRow::setSliderVisible(bool isVisible) const
     } else {
         lastSpacer->changeSize(20, 20, QSizePolicy::Expanding, QSizePolicy::Minimum);
     }
-    slider->setVisible(isVisible);
+    setShown(slider, isVisible);
 }
 
 void SliderRow::setButtonWidthRange(int maximum, int minimum) const
 {
-    plus->setMaximumWidth(maximum);
-    minus->setMaximumWidth(maximum);
-    plus->setMinimumWidth(minimum);
-    minus->setMinimumWidth(minimum);
+    setWidthRange(plus, maximum, minimum);
+    setWidthRange(minus, maximum, minimum);
 }
 
 void SliderRow::setButtonFixedWidth(int width) const
 {
-    plus->setFixedWidth(width);
-    minus->setFixedWidth(width);
+    setFixedWidth(plus, width);
+    setFixedWidth(minus, width);
 }
 
 void SliderRow::setButtonVisible(bool isVisible) const
 {
-    plus->setVisible(isVisible);
-    minus->setVisible(isVisible);
+    setShown(plus, isVisible);
+    setShown(minus, isVisible);
 }
 
 void SliderRow::setFieldFocus() const

@@ -63,8 +63,6 @@ struct SliderRow
     QSpacerItem *lastSpacer;
 };
 
-void setWidthRange(QWidget *widget, int maximum, int minimum);
-
 } // namespace Internal
 } // namespace Widgets
 } // namespace Vantor
