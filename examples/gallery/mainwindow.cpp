@@ -159,9 +159,10 @@ void MainWindow::createFileAndEditMenus()
 void MainWindow::createViewMenu(QWidget *panel)
 {
     QMenu *view = menuBar()->addMenu(tr("&View"));
-    view->addAction(tr("&Fit"), m_view, &PictureView::fit)->setShortcut(Qt::CTRL | Qt::Key_0);
+    view->addAction(tr("&Fit"), m_view, &PictureView::fit)
+        ->setShortcut(QKeySequence(QStringLiteral("Ctrl+0")));
     view->addAction(tr("&100 %"), this, [this] { m_view->setScale(1); })
-        ->setShortcut(Qt::CTRL | Qt::Key_1);
+        ->setShortcut(QKeySequence(QStringLiteral("Ctrl+1")));
     view->addAction(tr("Zoom &in"), this, [this] { m_view->setScale(m_view->scale() * 2); })
         ->setShortcut(QKeySequence::ZoomIn);
     view->addAction(tr("Zoom &out"), this, [this] { m_view->setScale(m_view->scale() / 2); })
