@@ -26,7 +26,9 @@ namespace {
 QStringList settingsOf(EditorUser &user, const EditorRow &row)
 {
     QStringList settings;
-    settings << "text=" + row.label->text() << "value=" + row.spinBox->text()
+    settings << "text=" + row.label->text()
+             << "value=" + row.spinBox->property("cleanText").toString()
+             << "unit=" + row.whole->prefix() + '#' + row.whole->suffix()
              << "label=" + limits(row.label->minimumWidth(), row.label->maximumWidth())
              << "button=" + limits(row.plus->minimumWidth(), row.plus->maximumWidth())
              << "box=" + limits(row.spinBox->minimumWidth(), row.spinBox->maximumWidth())
@@ -122,10 +124,11 @@ template <typename Frame> void checkReading()
 {
     UserOf<Frame> user;
     Frame &frame = *user.frame;
-    QString none = "warning: Get %1 %3range %2 warning: %4 %1 label text %2 warning: Get %1 value "
-                   "%2 warning: Get %1 single step %2 warning: Get %1 page step %2 warning: Get %1 "
-                   "default value %2 warning: Get %1 default value %2 warning: Reset %1 value %2 "
-                   "-7..-8  0 0 0 0 0";
+    QString none =
+        "warning: Get %1 %3range %2 warning: %4 %1 label text %2 warning: Get %1 prefix %2 "
+        "warning: Get %1 suffix %2 warning: Get %1 value %2 warning: Get %1 single step %2 "
+        "warning: Get %1 page step %2 warning: Get %1 default value %2 warning: Get %1 "
+        "default value %2 warning: Reset %1 value %2 -7..-8    0 0 0 0 0";
     none = none.arg(isRect<Frame> ? "Rect" : "RGB", "has failed. The type  %1  is invalid.",
                     isRect<Frame> ? "value " : "", isRect<Frame> ? "Set" : "Get");
     for (const int flag : {2, 4, 8, 16, 0, 6, 24, 30}) {
@@ -137,10 +140,13 @@ template <typename Frame> void checkReading()
         frame.setSingleStep(type, 1 + flag);
         frame.setPageStep(type, 2 + flag);
         frame.setDefaultValue(type, 3 + flag);
+        frame.setPrefix(type, "$");
+        frame.setSuffix(type, "px");
         user.heard(); // the warnings of the setters
         int min = -7, max = -8;
         frame.range(type, min, max);
-        QStringList found {limits(min, max), frame.labelText(type)};
+        QStringList found {limits(min, max), frame.labelText(type), frame.prefix(type),
+                           frame.suffix(type)};
         for (const int number : {frame.value(type), frame.singleStep(type), frame.pageStep(type),
                                  frame.defaultValue(type), int(frame.hasDefaultValue(type))})
             found.append(QString::number(number));
@@ -148,7 +154,7 @@ template <typename Frame> void checkReading()
         if (isRow)
             QCOMPARE(frame.value(type), 3 + flag);
         user.log.add(found.join(' '));
-        const QString own = "%1..%2 %1 %3 %4 %5 %6 1";
+        const QString own = "%1..%2 %1 $ px %3 %4 %5 %6 1";
         QCOMPARE(user.heard(),
                  isRow ? own.arg(flag)
                              .arg(100 + flag)
@@ -236,6 +242,10 @@ template <typename F, typename T = typename F::Type> void addChecks()
     add(" field focus", "", [](F &f, T t) { f.setFieldFocus(t); });
     add(" value change direction", "plus=20 hold 60=20 drop=20 click=20 wheel=20",
         [](F &f, T t) { f.setValueChangeDirection(t, SliderEditFrame::AllowedToSmaller, 20); });
+    add(" prefix", "unit=$#", [](F &f, T t) { f.setPrefix(t, "$"); });
+    add(" suffix", "unit=# px", [](F &f, T t) { f.setSuffix(t, " px"); });
+    addAll(" prefixes", "unit=$#", [](F &f, T) { f.setPrefix("$"); });
+    addAll(" suffixes", "unit=# px", [](F &f, T) { f.setSuffix(" px"); });
     addAll(" wheel", "wheel=61", [](F &f, T) { f.setSpinBoxWheelEnable(true); });
     addAll(" repeat", "autoRepeat=true/true", [](F &f, T) { f.setAutoRepeat(true); });
     addAll(" repeat delay", "autoRepeatDelay=321/321", [](F &f, T) { f.setAutoRepeatDelay(321); });

@@ -24,7 +24,7 @@ private Q_SLOTS:
 
 namespace {
 
-const QStringList editorsOfTheForm {"SliderEditFrame true Gain -20 200 5 10 120",
+const QStringList editorsOfTheForm {"SliderEditFrame true Gain -20 200 5 10 120  dB",
                                     "SliderEditFrameDouble true Gamma 1 0.5 2.5 0.1 10 1.2",
                                     "RGBEditFrame true",
                                     "RGBAllEditFrame true",

@@ -85,6 +85,12 @@ private:
         return isCrop ? min(row & 1) + max(row | 2) - value(row ^ 2) : max(row);
     }
 
+    // The numbers, without their units.
+    QString shown() const
+    {
+        return m_user.shown().remove(QRegularExpression("[$a-z]")).replace(' ', ',');
+    }
+
     // Nothing is heard of it.
     void playProgram(QString steps)
     {
@@ -92,7 +98,7 @@ private:
             steps.replace(steps.indexOf('?'), 1, QString::number(number(9, 180)));
         m_done.append(steps);
         m_user.play(steps);
-        m_reported = m_user.shown().replace(' ', ',');
+        m_reported = shown();
     }
 
     void playUser(int row, QString gesture)
@@ -128,7 +134,7 @@ private:
                 m_reported = match.captured(1);
         }
         QVERIFY(!m_isInEdit);
-        QCOMPARE(m_user.shown().replace(' ', ','), m_reported);
+        QCOMPARE(shown(), m_reported);
         for (const EditorRow &each : m_user.rows)
             QVERIFY(!each.whole || each.whole->value() == each.slider->value());
         if (isLock)
@@ -208,9 +214,10 @@ template <typename Frame> void add(const QString &start, const QStringList &step
 void tst_RandomGestures::editors_data()
 {
     QTest::addColumn<TestCode>("code");
-    const QStringList steps = QString("value ?; default ?; singleStep 1; singleStep 7; direction 2 "
-                                      "?; direction 4 ?; direction 6 ?")
-                                  .split("; ");
+    const QStringList steps =
+        QString("value ?; default ?; singleStep 1; singleStep 7; direction 2 "
+                "?; direction 4 ?; direction 6 ?; prefix $; suffix px; suffix ")
+            .split("; ");
     add<SliderEditFrame>("range -30 400", steps);
     add<SliderEditFrameDouble>("range -30 400", steps);
     const QStringList colors {"r value ?", "g value ?", "b value ?", "g default ?"};

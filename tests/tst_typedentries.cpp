@@ -74,6 +74,13 @@ void tst_TypedEntries::whole_data()
     row("0 100 50", "prefix $ | type 12*3\t: finished 36 finished", "$36");
     row("0 100 50", "prefix + | suffix /s | type 07a | up: 8 | hide: finished finished", "+8/s");
     row("0 9999999 1234567", "suffix  px | enter 1/0", "1234567 px");
+    // Another unit leaves the entry, and the cursor where it was.
+    row("0 100 50",
+        "prefix + | type 12*3 | suffix  px | prefix >> | shown: >>12*3 px/50 | keys 1\t: "
+        "finished 100 finished",
+        ">>100 px");
+    row("0 100 50", "enter 1/0 | suffix  px | refused: yes | prefix $", "$50 px");
+    row("0 100 50", "suffix  px | click | suffix  | keys 7\t: finished 7 finished", "7");
     // A comma groups no digits.
     row("0 9999 1234", "enter 1,234: 234", "234");
     row("0 9999 10", "type 1,234 | up: 235 | elsewhere: finished finished", "235");
@@ -140,6 +147,14 @@ void tst_TypedEntries::fraction_data()
     row("0 10 1", "prefix $ | enter 3/2: 1.5", "$1.50");
     row("0 100 0.1", "suffix mm | type 1/4=+1\n: 1.25", "1.25mm");
     row("0 100 0.1", "suffix mm | enter 1/0", "0.10mm");
+    // The unit that was set last returns, and none while the field is edited.
+    row("0 10 1", "click | suffix mm | shown: 1.00 | prefix $ | elsewhere", "$1.00mm");
+    row("0 10 1", "suffix mm | type 3/2 | suffix s | prefix $ | shown: $3/2/100 | elsewhere: 1.5",
+        "$1.50s");
+    row("0 10 1", "suffix mm | click | suffix  | keys 7 | elsewhere: 7 | suffix s", "7.00s");
+    row("0 10 1", "suffix mm | click | elsewhere | suffix s | hide", "1.00s");
+    row("0 10 1", "suffix mm | click | elsewhere | suffix  | hide", "1.00");
+    row("0 10 1", "suffix mm | type 3/2= | suffix s | shown: 1.50/100 | elsewhere: 1.5", "1.50s");
     // The calculator's text is clamped in float and has two decimals.
     row("0 999999.99 0.1", "enter 2000000: 999999.99", "999999.99");
     row("0 0.996 0.1 3", "enter 5: 0.996", "0.996");

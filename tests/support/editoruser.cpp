@@ -227,8 +227,10 @@ template <typename Frame> void EditorUser::add(Frame *frame)
        [=](const Step &step) { frame->setProperty(qPrintable(step.verb), value(step, 0)); });
     on("pageStep decimals",
        [=](const Step &step) { frame->setProperty(qPrintable(step.verb), step.text); });
-    on("suffix prefix specialValueText",
-       [](const Step &step) { step.row.spinBox->setProperty(qPrintable(step.verb), step.text); });
+    on("suffix prefix",
+       [=](const Step &step) { frame->setProperty(qPrintable(step.verb), step.text); });
+    on("specialValueText",
+       [](const Step &step) { step.row.spinBox->setProperty("specialValueText", step.text); });
     on("locale", [](const Step &step) { step.row.spinBox->setLocale(QLocale(step.text)); });
     on("hideSlider", [=](const Step &) { frame->setSliderVisible(false); });
     on("fieldFocus", [=](const Step &) { frame->setFieldFocus(); });

@@ -99,7 +99,7 @@ private:
 // to all rows: sampled, released, autoRepeat; the last two end by off
 // to a slider editor:
 //   minimum, maximum, singleStep, pageStep, decimals, direction (flags and value),
-//   wheelEnabled, hideSlider, fieldFocus; suffix, prefix, specialValueText and locale of the spin
+//   wheelEnabled, suffix, prefix, hideSlider, fieldFocus; specialValueText and locale of the spin
 //   box
 // to a rectangle, a crop or a mask:
 //   set, sizeLock and positionLock on or off, ratio; area, areaFrom, leastPosition,

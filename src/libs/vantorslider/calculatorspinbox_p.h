@@ -83,6 +83,22 @@ template <typename SpinBox> Entry pendingEntry(const SpinBox *spinBox, const QSt
     return spinBox->valueFromText(text) == spinBox->value() ? Entry::None : Entry::Number;
 }
 
+// Changes prefix and suffix. Qt writes the value then: an entry that is pending is put
+// back between the two.
+template <typename SpinBox, typename Change>
+void keepEntry(SpinBox *spinBox, QLineEdit *field, const QString &valueText, Change change)
+{
+    const bool isPending = pendingEntry(spinBox, valueText) != Entry::None;
+    const FieldText before(spinBox, spinBox->text());
+    const auto cursor = field->cursorPosition() - before.prefix.length();
+    change();
+    if (isPending) {
+        const QSignalBlocker blocker(field);
+        field->setText(spinBox->prefix() + before.entry + spinBox->suffix());
+        field->setCursorPosition(static_cast<int>(spinBox->prefix().length() + cursor));
+    }
+}
+
 // Whether the box is hidden or left since its window is destroyed: its pending entry
 // is dropped then.
 template <typename SpinBox> bool isDroppedWithWindow(SpinBox *spinBox, LineEditCal *calculator)

@@ -199,6 +199,36 @@ int RectEditFrame::value(Type type) const
     return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect value", &SliderEditFrame::value);
 }
 
+void RectEditFrame::setPrefix(Type type, const QString &text)
+{
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect prefix", &SliderEditFrame::setPrefix, text);
+}
+
+void RectEditFrame::setPrefix(const QString &text)
+{
+    d->rows().all(&SliderEditFrame::setPrefix, text);
+}
+
+QString RectEditFrame::prefix(Type type) const
+{
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect prefix", &SliderEditFrame::prefix);
+}
+
+void RectEditFrame::setSuffix(Type type, const QString &text)
+{
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect suffix", &SliderEditFrame::setSuffix, text);
+}
+
+void RectEditFrame::setSuffix(const QString &text)
+{
+    d->rows().all(&SliderEditFrame::setSuffix, text);
+}
+
+QString RectEditFrame::suffix(Type type) const
+{
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect suffix", &SliderEditFrame::suffix);
+}
+
 void RectEditFrame::value(QRect &rect)
 {
     rect = Internal::saturatedRect(d->ui->frameX->value(), d->ui->frameY->value(),

@@ -149,6 +149,24 @@ public:
     /*! The value of the field \a type; 0 where it names none. \since 1.1 */
     int value(Type type) const;
 
+    /*! SliderEditFrame::setPrefix() of the field \a type. \since 1.1 */
+    void setPrefix(Type type, const QString &text);
+
+    /*! setPrefix() of every field. \since 1.1 */
+    void setPrefix(const QString &text);
+
+    /*! The prefix of the field \a type; empty where it names none. \since 1.1 */
+    QString prefix(Type type) const;
+
+    /*! SliderEditFrame::setSuffix() of the field \a type. \since 1.1 */
+    void setSuffix(Type type, const QString &text);
+
+    /*! setSuffix() of every field. \since 1.1 */
+    void setSuffix(const QString &text);
+
+    /*! The suffix of the field \a type; empty where it names none. \since 1.1 */
+    QString suffix(Type type) const;
+
     /*! Writes the rectangle that the fields show to \a rect. */
     void value(QRect &rect);
 

@@ -240,6 +240,38 @@ int RGBAllEditFrame::value(Type type) const
                          QOverload<RGBEditFrame::Type>::of(&RGBEditFrame::value));
 }
 
+void RGBAllEditFrame::setPrefix(Type type, const QString &text)
+{
+    d->rows().one(type, &SliderEditFrame::setPrefix, &RGBEditFrame::setPrefix, text);
+}
+
+void RGBAllEditFrame::setPrefix(const QString &text)
+{
+    d->rows().all(&SliderEditFrame::setPrefix,
+                  QOverload<const QString &>::of(&RGBEditFrame::setPrefix), text);
+}
+
+QString RGBAllEditFrame::prefix(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::prefix, &RGBEditFrame::prefix);
+}
+
+void RGBAllEditFrame::setSuffix(Type type, const QString &text)
+{
+    d->rows().one(type, &SliderEditFrame::setSuffix, &RGBEditFrame::setSuffix, text);
+}
+
+void RGBAllEditFrame::setSuffix(const QString &text)
+{
+    d->rows().all(&SliderEditFrame::setSuffix,
+                  QOverload<const QString &>::of(&RGBEditFrame::setSuffix), text);
+}
+
+QString RGBAllEditFrame::suffix(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::suffix, &RGBEditFrame::suffix);
+}
+
 void RGBAllEditFrame::setRange(Type type, int min, int max)
 {
     d->rows().one(type, &SliderEditFrame::setRange, &RGBEditFrame::setRange, min, max);

@@ -119,6 +119,24 @@ public:
     /*! The value of the row \a type; 0 where it names none. \since 1.1 */
     int value(Type type) const;
 
+    /*! SliderEditFrame::setPrefix() of the row \a type. \since 1.1 */
+    void setPrefix(Type type, const QString &text);
+
+    /*! setPrefix() of every row. \since 1.1 */
+    void setPrefix(const QString &text);
+
+    /*! The prefix of the row \a type; empty where it names none. \since 1.1 */
+    QString prefix(Type type) const;
+
+    /*! SliderEditFrame::setSuffix() of the row \a type. \since 1.1 */
+    void setSuffix(Type type, const QString &text);
+
+    /*! setSuffix() of every row. \since 1.1 */
+    void setSuffix(const QString &text);
+
+    /*! The suffix of the row \a type; empty where it names none. \since 1.1 */
+    QString suffix(Type type) const;
+
     /*! SliderEditFrame::setRange() of the row \a type. Emits nothing. */
     void setRange(Type type, int min, int max);
 

@@ -249,6 +249,36 @@ int RGBEditFrame::value(Type type) const
     return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB value", &SliderEditFrame::value);
 }
 
+void RGBEditFrame::setPrefix(Type type, const QString &text)
+{
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB prefix", &SliderEditFrame::setPrefix, text);
+}
+
+void RGBEditFrame::setPrefix(const QString &text)
+{
+    d->rows().all(&SliderEditFrame::setPrefix, text);
+}
+
+QString RGBEditFrame::prefix(Type type) const
+{
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB prefix", &SliderEditFrame::prefix);
+}
+
+void RGBEditFrame::setSuffix(Type type, const QString &text)
+{
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB suffix", &SliderEditFrame::setSuffix, text);
+}
+
+void RGBEditFrame::setSuffix(const QString &text)
+{
+    d->rows().all(&SliderEditFrame::setSuffix, text);
+}
+
+QString RGBEditFrame::suffix(Type type) const
+{
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB suffix", &SliderEditFrame::suffix);
+}
+
 void RGBEditFrame::setRange(Type type, int min, int max)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB range", &SliderEditFrame::setRange, min, max);

@@ -245,6 +245,38 @@ int RGBOpacityEditFrame::value(Type type) const
                          QOverload<RGBEditFrame::Type>::of(&RGBEditFrame::value));
 }
 
+void RGBOpacityEditFrame::setPrefix(Type type, const QString &text)
+{
+    d->rows().one(type, &SliderEditFrame::setPrefix, &RGBEditFrame::setPrefix, text);
+}
+
+void RGBOpacityEditFrame::setPrefix(const QString &text)
+{
+    d->rows().all(&SliderEditFrame::setPrefix,
+                  QOverload<const QString &>::of(&RGBEditFrame::setPrefix), text);
+}
+
+QString RGBOpacityEditFrame::prefix(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::prefix, &RGBEditFrame::prefix);
+}
+
+void RGBOpacityEditFrame::setSuffix(Type type, const QString &text)
+{
+    d->rows().one(type, &SliderEditFrame::setSuffix, &RGBEditFrame::setSuffix, text);
+}
+
+void RGBOpacityEditFrame::setSuffix(const QString &text)
+{
+    d->rows().all(&SliderEditFrame::setSuffix,
+                  QOverload<const QString &>::of(&RGBEditFrame::setSuffix), text);
+}
+
+QString RGBOpacityEditFrame::suffix(Type type) const
+{
+    return d->rows().get(type, &SliderEditFrame::suffix, &RGBEditFrame::suffix);
+}
+
 void RGBOpacityEditFrame::setRange(Type type, int min, int max)
 {
     d->rows().one(type, &SliderEditFrame::setRange, &RGBEditFrame::setRange, min, max);

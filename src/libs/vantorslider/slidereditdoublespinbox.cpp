@@ -55,6 +55,22 @@ void SliderEditDoubleSpinBox::setWheelEnable(bool b)
     m_isWheelEnabled = b;
 }
 
+void SliderEditDoubleSpinBox::setUnit(const QString &prefix, const QString &suffix)
+{
+    const bool isEdited = hasFocus() || !m_btnFirstPress;
+    Internal::keepEntry(this, lineEdit(), textFromValue(value()), [&] {
+        setPrefix(prefix);
+        setSuffix(isEdited ? QString() : suffix);
+    });
+    m_strSuffix = suffix;
+    m_btnFirstPress = !isEdited || suffix.isEmpty();
+}
+
+QString SliderEditDoubleSpinBox::unitSuffix() const
+{
+    return m_btnFirstPress ? suffix() : m_strSuffix;
+}
+
 void SliderEditDoubleSpinBox::setSpinBoxCal(const float &result, const float &max, const float &min,
                                             const int &retainResult, const int &retainDecimal,
                                             const bool &bSuffix)

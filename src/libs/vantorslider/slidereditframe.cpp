@@ -216,6 +216,26 @@ int SliderEditFrame::value()
     return d->spinBox()->value();
 }
 
+void SliderEditFrame::setPrefix(const QString &text)
+{
+    d->spinBox()->setUnit(text, suffix());
+}
+
+QString SliderEditFrame::prefix() const
+{
+    return d->spinBox()->prefix();
+}
+
+void SliderEditFrame::setSuffix(const QString &text)
+{
+    d->spinBox()->setUnit(prefix(), text);
+}
+
+QString SliderEditFrame::suffix() const
+{
+    return d->spinBox()->suffix();
+}
+
 void SliderEditFrame::setRange(int min, int max)
 {
     {

@@ -37,6 +37,8 @@ class VANTORSLIDER_EXPORT SliderEditFrame : public QFrame
     Q_PROPERTY(int pageStep READ pageStep WRITE setPageStep)
     Q_PROPERTY(int value READ value WRITE setValue NOTIFY valueChanged USER true)
     Q_PROPERTY(int defaultValue READ defaultValue WRITE setDefaultValue)
+    Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
+    Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
 
 public:
     /*! On which side of a reference value reported values are held. */
@@ -113,6 +115,24 @@ public:
 
     /*! The value that the spin box holds. */
     int value();
+
+    /*!
+        Shows \a text in front of the number in the spin box; empty at first. An entry that is
+        pending stays. Emits nothing. \since 1.1
+    */
+    void setPrefix(const QString &text);
+
+    /*! The text in front of the number. \since 1.1 */
+    QString prefix() const;
+
+    /*!
+        Shows \a text behind the number in the spin box; empty at first. An entry that is
+        pending stays. Emits nothing. \since 1.1
+    */
+    void setSuffix(const QString &text);
+
+    /*! The text behind the number. \since 1.1 */
+    QString suffix() const;
 
     /*!
         Sets the range of slider and spin box to \a min up to \a max; an inverted range becomes

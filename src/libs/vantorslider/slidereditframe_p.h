@@ -101,6 +101,12 @@ public:
     void setWheelEnable(bool b);
 
     /*!
+        Shows \a prefix and \a suffix around the number. An entry that is pending stays, where
+        setPrefix() and setSuffix() drop it. \since 1.1
+    */
+    void setUnit(const QString &prefix, const QString &suffix);
+
+    /*!
         Hands the calculator its settings: \a result, shown when an evaluation
         fails, the range \a min to \a max that results are clamped to,
         \a retainResult decimals of a shown result, and \a retainDecimal decimals of a
@@ -183,6 +189,16 @@ public:
         first: the wheel goes to the page around the field.
     */
     void setWheelEnable(bool b);
+
+    /*!
+        Shows \a prefix and \a suffix around the number, the suffix while the field is not
+        edited. An entry that is pending stays, where setPrefix() and setSuffix() drop it.
+        \since 1.1
+    */
+    void setUnit(const QString &prefix, const QString &suffix);
+
+    /*! The suffix that is shown while the field is not edited. \since 1.1 */
+    QString unitSuffix() const;
 
     /*!
         Hands the calculator its settings: \a result, shown when an evaluation

@@ -219,6 +219,26 @@ double SliderEditFrameDouble::value()
     return d->spinBox()->value();
 }
 
+void SliderEditFrameDouble::setPrefix(const QString &text)
+{
+    d->spinBox()->setUnit(text, suffix());
+}
+
+QString SliderEditFrameDouble::prefix() const
+{
+    return d->spinBox()->prefix();
+}
+
+void SliderEditFrameDouble::setSuffix(const QString &text)
+{
+    d->spinBox()->setUnit(prefix(), text);
+}
+
+QString SliderEditFrameDouble::suffix() const
+{
+    return d->spinBox()->unitSuffix();
+}
+
 void SliderEditFrameDouble::setRange(double min, double max)
 {
     if (std::isnan(min) || std::isnan(max)) {

@@ -38,6 +38,8 @@ class VANTORSLIDER_EXPORT SliderEditFrameDouble : public QFrame
     Q_PROPERTY(int pageStep READ pageStep WRITE setPageStep)
     Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged USER true)
     Q_PROPERTY(double defaultValue READ defaultValue WRITE setDefaultValue)
+    Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
+    Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
 
 public:
     /*! On which side of a reference value reported values are held. */
@@ -108,6 +110,25 @@ public:
 
     /*! The value that the spin box holds. */
     double value();
+
+    /*!
+        Shows \a text in front of the number in the spin box; empty at first. An entry that is
+        pending stays. Emits nothing. \since 1.1
+    */
+    void setPrefix(const QString &text);
+
+    /*! The text in front of the number. \since 1.1 */
+    QString prefix() const;
+
+    /*!
+        Shows \a text behind the number in the spin box; empty at first. It is away while the field
+       has the focus, so that a bare number is edited. An entry that is pending stays. Emits
+       nothing. \since 1.1
+    */
+    void setSuffix(const QString &text);
+
+    /*! The text behind the number, also while it is away. \since 1.1 */
+    QString suffix() const;
 
     /*!
         Sets the range to \a min up to \a max, each rounded to the decimals. A value outside is

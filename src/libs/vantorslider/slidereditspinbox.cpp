@@ -52,6 +52,14 @@ void SliderEditSpinBox::setWheelEnable(bool b)
     m_isWheelEnabled = b;
 }
 
+void SliderEditSpinBox::setUnit(const QString &prefix, const QString &suffix)
+{
+    Internal::keepEntry(this, lineEdit(), textFromValue(value()), [&] {
+        setPrefix(prefix);
+        setSuffix(suffix);
+    });
+}
+
 void SliderEditSpinBox::setSpinBoxCal(const int &result, const int &max, const int &min,
                                       const int &retainResult, const int &retainDecimal)
 {
