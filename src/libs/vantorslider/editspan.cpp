@@ -21,10 +21,17 @@ EditSpan::~EditSpan()
     leaveOuter();
 }
 
-template <typename Editor> EditSpan *EditSpan::find(const QWidget *widget)
+// That of an editor of one of these classes, or null.
+template <typename... Editors> EditSpan *EditSpan::find(const QWidget *widget)
 {
-    const auto *const editor = qobject_cast<const Editor *>(widget);
-    return editor != nullptr ? of(*editor) : nullptr;
+    EditSpan *span = nullptr;
+    const auto isOf = [widget, &span](const auto *editor) {
+        editor = qobject_cast<decltype(editor)>(widget);
+        span = editor != nullptr ? of(*editor) : nullptr;
+        return editor != nullptr;
+    };
+    static_cast<void>((isOf(static_cast<const Editors *>(nullptr)) || ...));
+    return span;
 }
 
 // A widget that is being destroyed is of none of these classes any more.
@@ -33,18 +40,15 @@ EditSpan *EditSpan::around(const QWidget *widget)
     EditSpan *span = nullptr;
     while (span == nullptr && !widget->isWindow() && widget->parentWidget() != nullptr) {
         widget = widget->parentWidget();
-        for (const auto findOf :
-             {find<SliderEditFrame>, find<SliderEditFrameDouble>, find<RectEditFrame>,
-              find<RGBEditFrame>, find<RGBAllEditFrame>, find<RGBOpacityEditFrame>}) {
-            span = span != nullptr ? span : findOf(widget);
-        }
+        span = find<SliderEditFrame, SliderEditFrameDouble, RectEditFrame, RGBEditFrame,
+                    RGBAllEditFrame, RGBOpacityEditFrame>(widget);
     }
     return span;
 }
 
 void EditSpan::begin()
 {
-    if (m_isOpen && m_isTold && !m_isCounted) {
+    if (isTold()) {
         return;
     }
     const Scope scope(this);
@@ -53,9 +57,14 @@ void EditSpan::begin()
     if (outer != nullptr) {
         if (!m_isCounted) {
             m_isCounted = true;
+            m_isOuterTold = false;
             ++outer->m_openRows;
         }
+        const Scope outerScope(outer);
         outer->begin();
+        if (scope && outerScope) {
+            m_isOuterTold = outer->isTold();
+        }
     }
     if (scope && !m_isTold && !m_editor->signalsBlocked()) {
         m_isTold = true;

@@ -59,7 +59,7 @@ private:
         Q_EMIT(isStart ? sender->editStarted() : sender->editFinished());
     }
 
-    template <typename Editor> static EditSpan *find(const QWidget *widget);
+    template <typename... Editors> static EditSpan *find(const QWidget *widget);
 
     // Each is defined beside its editor's private object.
     static EditSpan *of(const RectEditFrame &editor);
@@ -68,6 +68,9 @@ private:
     static EditSpan *of(const RGBOpacityEditFrame &editor);
     static EditSpan *of(const SliderEditFrame &editor);
     static EditSpan *of(const SliderEditFrameDouble &editor);
+
+    // Whether the host knows of it, by the composite editor around it, too.
+    bool isTold() const { return m_isOpen && m_isTold && (!m_isCounted || m_isOuterTold); }
 
     void begin();
     void endUnlessHeld();
@@ -85,6 +88,7 @@ private:
     bool m_isTold = false;
     // It counts among the open rows of the composite editor around it.
     bool m_isCounted = false;
+    bool m_isOuterTold = false;
 };
 
 // While one lives, the edit of its editor does not end. It outlives the editor.
