@@ -69,6 +69,7 @@ template <typename Row, typename Value>
 void AdjustPage::connectRow(Row *row, const QString &label, Value Tone::*field)
 {
     row->setLabelText(label);
+    row->setDefaultValue(Tone().*field);
     row->setAutoRepeat(true);
     // The two kinds of row stand in one column without a theme, too.
     row->setButtonFixedWidth(51);

@@ -13,12 +13,16 @@ using Vantor::Widgets::RGBOpacityEditFrame;
 namespace {
 
 // The settings that the channels of all three editors have in common.
-template <typename Editor> void setUpChannels(Editor *editor, int min, int max)
+template <typename Editor>
+void setUpChannels(Editor *editor, int min, int max, const std::array<int, 3> &defaults)
 {
     editor->setLabelText(Editor::R, Page::tr("Red"));
     editor->setLabelText(Editor::G, Page::tr("Green"));
     editor->setLabelText(Editor::B, Page::tr("Blue"));
     editor->setRange(min, max);
+    editor->setDefaultValue(Editor::R, defaults[0]);
+    editor->setDefaultValue(Editor::G, defaults[1]);
+    editor->setDefaultValue(Editor::B, defaults[2]);
     editor->setVerticalSpacing(0);
     editor->setAutoRepeat(true);
     editor->setLastVerticalSpacerExpanding(false);
@@ -43,7 +47,7 @@ void ColourPage::addGain()
 {
     addHeading(tr("Gain"), tr("Percent of each channel."));
     auto *editor = addEditor<RGBEditFrame>();
-    setUpChannels(editor, 0, 200);
+    setUpChannels(editor, 0, 200, Colours().gain);
     connect(editor, &RGBEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Gain"), QStringLiteral("valueChanged")));
     connect(editor, &RGBEditFrame::valueChanged, this, [this](int r, int g, int b) {
@@ -61,9 +65,10 @@ void ColourPage::addLift()
     auto *editor = addEditor<RGBAllEditFrame>();
     // The channels are an editor of their own with an end of its own.
     editor->findChild<RGBEditFrame *>()->setLastVerticalSpacerExpanding(false);
-    setUpChannels(editor, -100, 100);
+    setUpChannels(editor, -100, 100, Colours().lift);
     editor->setLabelText(RGBAllEditFrame::ALL, tr("Master"));
     editor->setRange(RGBAllEditFrame::ALL, 0, 100);
+    editor->setDefaultValue(RGBAllEditFrame::ALL, Colours().liftMaster);
     connect(editor, &RGBAllEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Lift"), QStringLiteral("valueChanged")));
     connect(editor, &RGBAllEditFrame::valueChanged, this, [this](int r, int g, int b, int all) {
@@ -91,8 +96,10 @@ void ColourPage::addWash()
     });
     addHeading(tr("Wash"), tr("A colour laid over the picture."), swatch);
     auto *editor = addEditor<RGBOpacityEditFrame>();
-    setUpChannels(editor, 0, 255);
+    const QColor wash = Colours().wash;
+    setUpChannels(editor, 0, 255, {wash.red(), wash.green(), wash.blue()});
     editor->setLabelText(RGBOpacityEditFrame::Opacity, tr("Opacity"));
+    editor->setDefaultValue(RGBOpacityEditFrame::Opacity, Colours().washOpacity);
     connect(editor, &RGBOpacityEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Wash"), QStringLiteral("valueChanged")));
     connect(editor, &RGBOpacityEditFrame::valueChanged, this,

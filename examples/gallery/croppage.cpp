@@ -36,6 +36,7 @@ void CropPage::startOn(const QSize &size)
     m_editor->setSizeLock(false);
     m_editor->setCropMinSize(least.width(), least.height());
     m_editor->setCropRange(size.width(), size.height());
+    setDefaults(m_editor, 0, 0, size.width(), size.height());
 }
 
 void CropPage::clear(Edits &edits, const QSize &size) const

@@ -41,6 +41,10 @@ void LayoutPage::startOn(const QSize &size)
     m_editor->setRange(LayoutEditFrame::Y, 0, size.height());
     m_editor->setRange(LayoutEditFrame::Width, 1, size.width());
     m_editor->setRange(LayoutEditFrame::Height, 1, size.height());
+    Edits neutral;
+    clear(neutral, size);
+    const QRect &layer = neutral.layer;
+    setDefaults(m_editor, layer.x(), layer.y(), layer.width(), layer.height());
 }
 
 void LayoutPage::clear(Edits &edits, const QSize &size) const

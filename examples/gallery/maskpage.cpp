@@ -37,6 +37,7 @@ void MaskPage::startOn(const QSize &size)
 {
     m_picture = size;
     m_editor->setMaskRange(size.width(), size.height());
+    setDefaults(m_editor, 0, 0, 0, 0);
 }
 
 void MaskPage::clear(Edits &edits, const QSize & /*size*/) const

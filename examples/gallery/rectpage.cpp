@@ -45,6 +45,14 @@ void RectPage::setUp(Rect *editor, const QString &name, const QStringList &label
     connect(editor, &Rect::PositionLockChanged, this, followLock);
 }
 
+void RectPage::setDefaults(Rect *editor, int x, int y, int width, int height)
+{
+    editor->setDefaultValue(Rect::X, x);
+    editor->setDefaultValue(Rect::Y, y);
+    editor->setDefaultValue(Rect::Width, width);
+    editor->setDefaultValue(Rect::Height, height);
+}
+
 RectRules RectPage::rulesOf(Rect *editor, const QSize &area)
 {
     RectRules rules;

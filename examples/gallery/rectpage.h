@@ -28,6 +28,9 @@ protected:
     // The labels are those of x, y, width and height, in this order.
     void setUp(Rect *editor, const QString &name, const QStringList &labels);
 
+    // What a double click on the label of a field goes back to.
+    static void setDefaults(Rect *editor, int x, int y, int width, int height);
+
     // Those of an editor whose fields are the position and the size of the rectangle.
     static RectRules rulesOf(Rect *editor, const QSize &area);
 

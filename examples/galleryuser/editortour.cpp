@@ -98,6 +98,9 @@ void playUndo(ScriptedUser &user)
     user.undoAndRedo(contrast, [&] { user.type(contrast, QStringLiteral("10+5\n")); });
     user.undoAndRedo(gamma, [&] { user.hold(gamma, "sliderEditPlus"); });
     user.undoAndRedo(gamma, [&] { user.drag(gamma, 300); });
+    user.undoAndRedo(gamma, [&] { user.doubleClickLabel(gamma); });
+    ScriptedUser::expect(user.fieldText(gamma) == QLatin1String("1.00"),
+                         "a double click on the label goes back to the default");
 
     const QString x = QStringLiteral("X");
     user.showPage(QStringLiteral("Crop"));

@@ -145,6 +145,14 @@ void ScriptedUser::click(const QString &row, const char *button)
     click(this->row(row)->findChild<QWidget *>(QLatin1String(button)));
 }
 
+void ScriptedUser::doubleClickLabel(const QString &row)
+{
+    say(QStringLiteral("clicks the label of %1 twice").arg(row));
+    QTest::mouseDClick(this->row(row)->findChild<QWidget *>(QStringLiteral("labelName")),
+                       Qt::LeftButton);
+    QApplication::processEvents();
+}
+
 void ScriptedUser::clickInto(const QString &row)
 {
     click(this->row(row)->findChild<QAbstractSpinBox *>());

@@ -37,6 +37,7 @@ public:
     void click(const char *lockButton);
     void click(QWidget *widget);
     void hold(const QString &row, const char *button);
+    void doubleClickLabel(const QString &row);
     void clickInto(const QString &row);
     void type(const QString &row, const QString &text);
     void turnWheelOver(const QString &row);
