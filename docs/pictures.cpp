@@ -51,7 +51,6 @@ int main(int argc, char *argv[])
     if (!QTest::qWaitForWindowActive(&window))
         return 1;
     window.setFocus();
-    save(window, "rows-unthemed");
 
     // In one column as the guide says how.
     const auto align = [](auto &row) {

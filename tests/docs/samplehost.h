@@ -2,6 +2,7 @@
 
 // What the guide's samples take for granted: the headers, and a host with editors
 // of the names that the samples use.
+#include <alignlabels.h>
 #include <cropeditframe.h>
 #include <layouteditframe.h>
 #include <maskeditframe.h>
