@@ -212,6 +212,11 @@ void tst_Edits::rows_data()
     addDouble("entry, =", "type 1/5: start | keys = | elsewhere: 20 end");
     addInt("refused, =", "type 5*: start | keys =: finished finished left end");
     addDouble("refused, =", "type 5*: start | keys =: end | elsewhere");
+    addInt("entry, stays",
+           "options stays | type 5*4: start | keys \n: finished 20 end | keys 7=: start 7 end");
+    addDouble("entry, stays",
+              "options stays | type 1/5: start | keys =: 20 end | keys 1\n: start 100 end");
+    addBoth("entry, restored", "options escape | type 7: start | escape: end | escape: key");
     addInt("taken back", "type 10: start | elsewhere: finished finished end");
     addDouble("taken back", "type .10: start | elsewhere: end");
     addInt("refused", "type 1/0: start | hide: end finished finished");
@@ -322,7 +327,7 @@ void tst_Edits::resets_data()
          "end | x resetValue | x minus: start crop(8,2,40,20) x(8) (8,2,40,20) end");
     const auto mask = rowsAfter<MaskEditFrame>("area 100 100 | mask 0 0 80 10 | edits | ");
     mask("held in the area",
-         "h default 50 | h resetValue | w plus: start mask(0,0,50,50) w(81) (0,0,81,50) end");
+         "h default 50 | h resetValue | w plus: start mask(0,0,50,50) w(80) (0,0,80,50) end");
     const auto opacity = rowsAfter<RGBOpacityEditFrame>("edits | ");
     opacity("rows",
             "g default 9 | opacity default 8 | g reset: start (50,9,50,100) end | "

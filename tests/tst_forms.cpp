@@ -24,13 +24,13 @@ private Q_SLOTS:
 
 namespace {
 
-const QStringList editorsOfTheForm {"SliderEditFrame true Gain -20 200 5 10 120  dB",
+const QStringList editorsOfTheForm {"SliderEditFrame true Gain -20 200 5 10 120  dB options5",
                                     "SliderEditFrameDouble true Gamma 1 0.5 2.5 0.1 10 1.2",
                                     "RGBEditFrame true",
                                     "RGBAllEditFrame true",
                                     "RGBOpacityEditFrame true",
                                     "RectEditFrame false",
-                                    "CropEditFrame true",
+                                    "CropEditFrame true options10",
                                     "MaskEditFrame true",
                                     "LayoutEditFrame true",
                                     "SliderEditSpinBox true 0 4000 1 1080",
@@ -45,6 +45,8 @@ QStringList describe(const QWidget &form)
         for (const char *name : {"enabled", "labelText", "decimals", "minimum", "maximum",
                                  "singleStep", "pageStep", "value", "suffix"})
             texts.append(editor->property(name).toString());
+        if (const int options = editor->property("entryOptions").toInt())
+            texts.append("options" + QString::number(options));
         texts.removeAll(QString());
         lines.append(texts.join(' '));
     }

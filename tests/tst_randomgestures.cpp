@@ -29,7 +29,8 @@ namespace {
 // What the user does with a row. "#" is a position, at times beyond the range.
 const QStringList gestures =
     QString(
-        "plus; minus; enter (#+7-7)/1; type (#+7-7)/1\t; "
+        "plus; minus; enter (#+7-7)/1; type (#+7-7)/1\t; enter #,5; type #*1=+ | keys \t; "
+        "type 7 | escape | keys \t; enter 1/0; "
         "click | up | down | down | keys \n; groove before; groove after; wheel; hold | drop; "
         "hold | move # | move # | tick | drop; hold | move # | tick | move # | drop; "
         "hold | move # | dialog | drop; type #/1 | dialog; type # | minus; hold | move # | hide "
@@ -49,7 +50,9 @@ public:
     Session(const QString &start, const QStringList &steps, std::mt19937 &random)
         : m_programSteps(steps), m_random(random)
     {
-        playProgram("edits | " + start + any({"", " | released", " | sampled"}) + " | " + steps[0]);
+        playProgram("edits | " + start + any({"", " | released", " | sampled"}) + " | options "
+                    + any({"", "exact"}) + any({"", " comma"}) + any({"", " escape"})
+                    + any({"", " stays"}) + " | " + steps[0]);
     }
 
     // What was done, as a row for a table.

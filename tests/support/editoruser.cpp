@@ -124,6 +124,7 @@ void EditorUser::addGestures()
                                 step.row.spinBox->mapToGlobal(center));
         QApplication::sendEvent(step.row.spinBox, &event);
     });
+    on("escape", [](const Step &) { User::press(Qt::Key_Escape); });
     on("pageMenu", [this](const Step &) {
         QMenu menu(&page);
         menu.addAction("Save");
@@ -198,6 +199,14 @@ template <typename Frame> void EditorUser::addModes(Frame *frame)
 {
     on("released", [=](const Step &step) { frame->setReleaseMode(step.text != "off"); });
     on("autoRepeat", [=](const Step &step) { frame->setAutoRepeat(step.text != "off"); });
+    on("options", [=](const Step &step) {
+        EntryOptions options;
+        options.setFlag(ExactEntry, step.text.contains("exact"));
+        options.setFlag(DecimalComma, step.text.contains("comma"));
+        options.setFlag(EscapeRestores, step.text.contains("escape"));
+        options.setFlag(EnterStays, step.text.contains("stays"));
+        frame->setEntryOptions(options);
+    });
     // Long enough for the ticks to come by hand.
     on("sampled", [=](const Step &) { frame->setTimeSamplingRate(60000); });
     on("edits", [=](const Step &) {
@@ -294,6 +303,8 @@ void EditorUser::addRect(RectEditFrame *rect)
 void EditorUser::addCrop(CropEditFrame *crop)
 {
     log.watch(crop, &CropEditFrame::cropValueChanged, "crop");
+    on("resetValue",
+       [=](const Step &step) { crop->resetValue(RectEditFrame::Type(2 << step.index)); });
     on("area", [=](const Step &step) { crop->setCropRange(step[0], step[1]); });
     on("areaFrom", [=](const Step &step) {
         crop->setCropRange(step[0], step[1], step[2], step[3], step[4], step[5]);
@@ -308,6 +319,8 @@ void EditorUser::addCrop(CropEditFrame *crop)
 void EditorUser::addMask(MaskEditFrame *mask)
 {
     log.watch(mask, &MaskEditFrame::maskValueChanged, "mask");
+    on("resetValue",
+       [=](const Step &step) { mask->resetValue(RectEditFrame::Type(2 << step.index)); });
     on("area", [=](const Step &step) { mask->setMaskRange(step[0], step[1]); });
     on("leastSize", [=](const Step &step) { mask->setMaskMinSize(step[0], step[1]); });
     on("mask", [=](const Step &step) { mask->setMaskValue(step[0], step[1], step[2], step[3]); });

@@ -87,7 +87,7 @@ private:
 //   enter 12*3              types and presses Enter; its messages go without saying
 //   menu 07                 pastes by the field's own menu; pageMenu: opens one of the page
 //   undo, redo              presses their keys
-//   up, down, right         presses an arrow key
+//   up, down, right, escape presses that key
 //   wheel                   turns it over the slider, then over the field
 //   leave                   moves the pointer off the slider
 //   reset                   double-clicks the label
@@ -96,7 +96,8 @@ private:
 //   value, range, default, resetValue, tick (of the sampling), focus, show, hide, disable,
 //   enable, delete;
 //   dialog (shows a modal one and closes it)
-// to all rows: sampled, released, autoRepeat; the last two end by off
+// to all rows: sampled, released, autoRepeat; the last two end by off; options, those of
+//   exact, comma, escape and stays
 // to a slider editor:
 //   minimum, maximum, singleStep, pageStep, decimals, direction (flags and value),
 //   wheelEnabled, suffix, prefix, hideSlider, fieldFocus; specialValueText and locale of the spin

@@ -1,8 +1,9 @@
 #include "arithmetic_p.h"
 
-#include <QtCore/QSet>
+#include <QtCore/QStringList>
 
 #include <algorithm>
+#include <vector>
 
 namespace Vantor {
 namespace Widgets {
@@ -100,21 +101,20 @@ Token stringLiteral(const QChar *begin, const QChar *end)
     return {isClosed ? Token::Text : Token::Unknown, begin, isClosed ? last + 1 : last};
 }
 
+QStringList words(const char *list)
+{
+    return QString::fromLatin1(list).split(QLatin1Char(' '));
+}
+
 Token word(const QChar *begin, const QChar *end)
 {
-    static const QSet<QString> functions {
-        QStringLiteral("Math.abs"),  QStringLiteral("Math.acos"),   QStringLiteral("Math.asin"),
-        QStringLiteral("Math.atan"), QStringLiteral("Math.atan2"),  QStringLiteral("Math.ceil"),
-        QStringLiteral("Math.cos"),  QStringLiteral("Math.exp"),    QStringLiteral("Math.floor"),
-        QStringLiteral("Math.log"),  QStringLiteral("Math.max"),    QStringLiteral("Math.min"),
-        QStringLiteral("Math.pow"),  QStringLiteral("Math.random"), QStringLiteral("Math.round"),
-        QStringLiteral("Math.sin"),  QStringLiteral("Math.sqrt"),   QStringLiteral("Math.tan")};
-    static const QSet<QString> constants {
-        QStringLiteral("Math.E"),       QStringLiteral("Math.LN2"),    QStringLiteral("Math.LN10"),
-        QStringLiteral("Math.LOG2E"),   QStringLiteral("Math.LOG10E"), QStringLiteral("Math.PI"),
-        QStringLiteral("Math.SQRT1_2"), QStringLiteral("Math.SQRT2"),  QStringLiteral("true"),
-        QStringLiteral("false"),        QStringLiteral("null"),        QStringLiteral("undefined"),
-        QStringLiteral("NaN"),          QStringLiteral("Infinity")};
+    static const QStringList functions =
+        words("Math.abs Math.acos Math.asin Math.atan Math.atan2 Math.ceil Math.cos Math.exp "
+              "Math.floor Math.log Math.max Math.min Math.pow Math.random Math.round Math.sin "
+              "Math.sqrt Math.tan");
+    static const QStringList constants =
+        words("Math.E Math.LN2 Math.LN10 Math.LOG2E Math.LOG10E Math.PI Math.SQRT1_2 Math.SQRT2 "
+              "true false null undefined NaN Infinity");
     const QChar *last = skip(begin, end, isOfWord);
     if (startsWith(begin, end, "Math.")) {
         last = skip(last + 1, end, isOfWord);
@@ -130,36 +130,31 @@ Token word(const QChar *begin, const QChar *end)
     return {isName ? Token::Name : Token::Unknown, begin, last};
 }
 
+// By the longest that fits; the first ones begin a comment.
 Token sign(const QChar *begin, const QChar *end)
 {
-    struct
+    struct Group
     {
-        const char *text;
-        int length;
         Token::Kind kind;
-    } static const signs[] = {{"<!--", 4, Token::Unknown},  {"//", 2, Token::Unknown},
-                              {"/*", 2, Token::Unknown}, // comments
-                              {"===", 3, Token::Operator},  {"!==", 3, Token::Operator},
-                              {">>>", 3, Token::Operator},  {"==", 2, Token::Operator},
-                              {"!=", 2, Token::Operator},   {"<=", 2, Token::Operator},
-                              {">=", 2, Token::Operator},   {"<<", 2, Token::Operator},
-                              {">>", 2, Token::Operator},   {"&&", 2, Token::Operator},
-                              {"||", 2, Token::Operator},   {"++", 2, Token::Step},
-                              {"--", 2, Token::Step},       {"+=", 2, Token::Assignment},
-                              {"-=", 2, Token::Assignment}, {"*=", 2, Token::Assignment},
-                              {"/=", 2, Token::Assignment}, {"=", 1, Token::Assignment},
-                              {"+", 1, Token::Sign},        {"-", 1, Token::Sign},
-                              {"~", 1, Token::Sign},        {"!", 1, Token::Sign},
-                              {"*", 1, Token::Operator},    {"/", 1, Token::Operator},
-                              {"%", 1, Token::Operator},    {"&", 1, Token::Operator},
-                              {"|", 1, Token::Operator},    {"^", 1, Token::Operator},
-                              {"<", 1, Token::Operator},    {">", 1, Token::Operator},
-                              {"?", 1, Token::Operator},    {":", 1, Token::Operator},
-                              {",", 1, Token::Operator},    {";", 1, Token::Semicolon},
-                              {"(", 1, Token::Opening},     {")", 1, Token::Closing}};
-    for (const auto &known : signs) {
-        if (startsWith(begin, end, known.text)) {
-            return {known.kind, begin, begin + known.length};
+        QStringList signs;
+    };
+    static const std::vector<Group> groups {
+        {Token::Unknown, words("<!-- // /*")},
+        {Token::Operator, words("=== !== >>> == != <= >= << >> && ||")},
+        {Token::Step, words("++ --")},
+        {Token::Assignment, words("+= -= *= /= =")},
+        {Token::Sign, words("+ - ~ !")},
+        {Token::Operator, words("* / % & | ^ < > ? : ,")},
+        {Token::Semicolon, words(";")},
+        {Token::Opening, words("(")},
+        {Token::Closing, words(")")}};
+    for (const Group &group : groups) {
+        for (const QString &known : group.signs) {
+            const auto length = known.size();
+            if (known.at(0) == *begin && end - begin >= length
+                && std::equal(known.cbegin(), known.cend(), begin)) {
+                return {group.kind, begin, begin + length};
+            }
         }
     }
     return {Token::Unknown, begin, begin + 1};
@@ -240,6 +235,27 @@ bool isArithmetic(const QString &text)
         isInNewLine = false;
     }
     return !(hasText && assigns);
+}
+
+QString withDecimalPoints(const QString &text)
+{
+    QString result = text;
+    std::vector<bool> isCall; // of each bracket that is open
+    bool isFunction = false;
+    const QChar *const end = text.constData() + text.size();
+    for (const QChar *at = text.constData(); at != end;) {
+        const Token token = Token::at(at, end);
+        if (token.kind == Token::Opening) {
+            isCall.push_back(isFunction);
+        } else if (token.kind == Token::Closing && !isCall.empty()) {
+            isCall.pop_back();
+        } else if (*at == QLatin1Char(',') && (isCall.empty() || !isCall.back())) {
+            result[static_cast<int>(at - text.constData())] = QLatin1Char('.');
+        }
+        isFunction = token.kind == Token::Function;
+        at = token.end;
+    }
+    return result;
 }
 
 } // namespace Internal

@@ -39,6 +39,9 @@ struct ArithmeticToken
 // Its syntax is left to the engine. Linear in the length of the text.
 bool isArithmetic(const QString &text);
 
+// The text with a point for each comma but those between the arguments of a function.
+QString withDecimalPoints(const QString &text);
+
 } // namespace Internal
 } // namespace Widgets
 } // namespace Vantor

@@ -54,6 +54,11 @@ bool isFinishingKey(const QKeyEvent *event)
     return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
 }
 
+bool isEscape(const QEvent *keyEvent)
+{
+    return static_cast<const QKeyEvent *>(keyEvent)->matches(QKeySequence::Cancel);
+}
+
 void keepDecimalPoint(QAbstractSpinBox *spinBox, const QEvent *event)
 {
     if (event->type() == QEvent::LocaleChange && spinBox->locale() != QLocale::c()) {

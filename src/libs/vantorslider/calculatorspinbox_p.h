@@ -5,7 +5,9 @@
 #include "saturation_p.h"
 
 #include <QtCore/QLocale>
+#include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
+#include <QtGui/QKeyEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -14,7 +16,6 @@
 QT_BEGIN_NAMESPACE
 class QAbstractSpinBox;
 class QEvent;
-class QKeyEvent;
 QT_END_NAMESPACE
 
 namespace Vantor {
@@ -30,6 +31,8 @@ void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard);
 void markRefusedEntries(QAbstractSpinBox *spinBox, LineEditCal *calculator);
 
 bool isFinishingKey(const QKeyEvent *event);
+// Of a press of the key, or of the question whether it is a shortcut.
+bool isEscape(const QEvent *keyEvent);
 
 // Undoes a host's change of locale: the calculator writes a decimal point in every
 // country, and a spin box that read it by a German locale would take 0.25 for 25.
@@ -53,7 +56,8 @@ inline std::optional<double> numberIn(const QString &text)
 template <typename SpinBox>
 double numberFromText(const SpinBox *spinBox, const LineEditCal *calculator, const QString &text)
 {
-    const QString bare = FieldText(spinBox, text).entry;
+    QString bare = FieldText(spinBox, text).entry;
+    bare = calculator != nullptr ? calculator->pointed(bare) : bare;
     const std::optional<double> number = numberIn(bare);
     const double value = spinBox->value();
     const bool isRefused = calculator != nullptr && calculator->isEntryRefused();
@@ -66,17 +70,25 @@ double numberFromText(const SpinBox *spinBox, const LineEditCal *calculator, con
 // What the user has entered and the value does not say yet.
 enum class Entry { None, Number, Expression };
 
-// valueText: the value as the box writes it, without prefix and suffix.
-template <typename SpinBox> Entry pendingEntry(const SpinBox *spinBox, const QString &valueText)
+// As the box writes it or as another text of the same number; a number out of range is
+// none. valueText: the value as the box writes it, without prefix and suffix.
+template <typename SpinBox> bool showsValue(const SpinBox *spinBox, const QString &valueText)
 {
     const bool isSpecial =
         !spinBox->specialValueText().isEmpty() && spinBox->value() == spinBox->minimum();
     const QString text = spinBox->text();
-    if (text
+    return text
         == (isSpecial ? spinBox->specialValueText()
-                      : spinBox->prefix() + valueText + spinBox->suffix())) {
+                      : spinBox->prefix() + valueText + spinBox->suffix())
+        || numberIn(FieldText(spinBox, text).entry) == double(spinBox->value());
+}
+
+template <typename SpinBox> Entry pendingEntry(const SpinBox *spinBox, const QString &valueText)
+{
+    if (showsValue(spinBox, valueText)) {
         return Entry::None;
     }
+    const QString text = spinBox->text();
     if (!numberIn(FieldText(spinBox, text).entry)) {
         return Entry::Expression;
     }
@@ -96,6 +108,49 @@ void keepEntry(SpinBox *spinBox, QLineEdit *field, const QString &valueText, Cha
         const QSignalBlocker blocker(field);
         field->setText(spinBox->prefix() + before.entry + spinBox->suffix());
         field->setCursorPosition(static_cast<int>(spinBox->prefix().length() + cursor));
+    }
+}
+
+// Whether Escape is to show the value again. A refused entry is gone, but its mark and
+// the result that is shown instead are not.
+template <typename SpinBox>
+bool isRestorable(const SpinBox *spinBox, const LineEditCal *calculator, const QString &valueText)
+{
+    return calculator != nullptr && calculator->has(EscapeRestores)
+        && (calculator->isEntryRefused() || !showsValue(spinBox, valueText));
+}
+
+template <typename SpinBox> void restoreValue(SpinBox *spinBox, LineEditCal *calculator)
+{
+    const QSignalBlocker blocker(spinBox);
+    spinBox->setValue(spinBox->value());
+    // A result that was accepted before goes, too.
+    calculator->setInitialResult(saturatedFloat(spinBox->value()));
+    spinBox->selectAll();
+}
+
+// Enter in a field that keeps the focus. Each receiver may delete the box.
+template <typename SpinBox>
+void finishAndStay(SpinBox *spinBox, QKeyEvent *event, const QString &valueText)
+{
+    if (showsValue(spinBox, valueText)) {
+        // To a default button; but a key that is held down is pressed once.
+        event->setAccepted(event->isAutoRepeat());
+        return;
+    }
+    const QPointer<SpinBox> self(spinBox);
+    Q_EMIT spinBox->editingFinished();
+    if (self) {
+        spinBox->setSlotEditingFinished();
+    }
+    if (self) {
+        spinBox->interpretText();
+    }
+    if (self) {
+        Q_EMIT spinBox->enterFinished();
+    }
+    if (self) {
+        spinBox->selectAll();
     }
 }
 

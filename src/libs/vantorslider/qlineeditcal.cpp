@@ -1,9 +1,11 @@
 #include "qlineeditcal.h"
 
+#include "arithmetic_p.h"
 #include "calculatorpatterns_p.h"
 #include "editspan_p.h"
 #include "expressionevaluation_p.h"
 #include "fieldtext_p.h"
+#include "saturation_p.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
@@ -11,6 +13,7 @@
 #include <QtWidgets/QApplication>
 
 #include <algorithm>
+#include <cfloat>
 #include <cmath>
 
 namespace Vantor {
@@ -59,10 +62,41 @@ void LineEditCal::setInitialResult(const float &result)
 const QString &LineEditCal::beforeResult()
 {
     if (m_isInitialResultPending) {
-        m_beforeResult = QString::number(static_cast<double>(m_initialResult), 'g', 6);
+        m_beforeResult = initialResultText();
         m_isInitialResultPending = false;
     }
     return m_beforeResult;
+}
+
+QString LineEditCal::initialResultText() const
+{
+    const double given = static_cast<double>(m_initialResult);
+    if (!has(ExactEntry)) {
+        return QString::number(given, 'g', 6);
+    }
+    // What was handed over has lost digits of the value on its way through float.
+    const double value = ofSpinBox("value", given);
+    const bool isOfValue = Internal::saturatedFloat(value) == m_initialResult;
+    return QString::number(isOfValue ? value : given, 'f', shownDecimals());
+}
+
+// A number that the spin box around the field has for a property.
+double LineEditCal::ofSpinBox(const char *property, double otherwise) const
+{
+    const QVariant number = parent() != nullptr ? parent()->property(property) : QVariant();
+    return number.isValid() ? number.toDouble() : otherwise;
+}
+
+// A spin box for whole numbers has no such property.
+int LineEditCal::shownDecimals() const
+{
+    return has(ExactEntry) ? static_cast<int>(ofSpinBox("decimals", 0)) : m_remainSeveral;
+}
+
+QString LineEditCal::pointed(const QString &entry) const
+{
+    const bool isChanged = has(DecimalComma) && entry.contains(QLatin1Char(','));
+    return isChanged ? Internal::withDecimalPoints(entry) : entry;
 }
 
 /*! Sets the number of decimals of a shown result to \a remainSeveral. */
@@ -96,7 +130,7 @@ void LineEditCal::setSuffix(bool bSuffix)
 */
 void LineEditCal::setSlotEditingFinished()
 {
-    const QString entry = FieldText(parent(), text()).entry;
+    const QString entry = pointed(FieldText(parent(), text()).entry);
     if (entry != beforeResult()) {
         setShowResult(entry);
     }
@@ -144,11 +178,17 @@ bool LineEditCal::event(QEvent *event)
 */
 void LineEditCal::onSlotTextChanged(QString text)
 {
-    const FieldText shown(parent(), text);
+    FieldText shown(parent(), text);
     Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     if (isModified()) {
         setEntryRefused(false); // the user may type the shown result once more
         edit.begin(Internal::EditSpan::Entry);
+    }
+    const QString entry = pointed(shown.entry);
+    if (entry != shown.entry) {
+        const QSignalBlocker blocker(this);
+        setEntryText(entry, cursorPosition() - static_cast<int>(shown.prefix.length()));
+        shown.entry = entry;
     }
     if (shown.entry == beforeResult()) {
         return;
@@ -278,7 +318,7 @@ bool LineEditCal::setRadixPointSeveral(QString &strText, const int &index)
     const auto point = strText.indexOf(QLatin1Char('.'));
     const auto decimals = point < 0 ? 0 : strText.length() - point - 1;
     const bool isSecondPoint = strText.count(QLatin1Char('.')) > 1;
-    if (!isSecondPoint && decimals <= m_inputSeveral) {
+    if (!isSecondPoint && decimals <= typedDecimals()) {
         return false;
     }
     strText = m_vecStringResults[static_cast<std::size_t>(index)];
@@ -295,15 +335,20 @@ void LineEditCal::setShowResult(const QString &strText)
     }
     // A text that is no number counts as 0, also where Qt reads a number that is not
     // finite. NaN passes both comparisons.
-    const bool isNumber = std::isfinite(result->toDouble()) || *result == QLatin1String("NaN");
-    float value = isNumber ? result->toFloat() : 0.0F;
-    if (value > m_maxNum) {
-        value = m_maxNum;
+    const double exact = result->toDouble();
+    const bool isNumber = std::isfinite(exact) || *result == QLatin1String("NaN");
+    const bool isExact = has(ExactEntry);
+    double value = isExact ? exact : static_cast<double>(result->toFloat());
+    value = isNumber ? value : 0;
+    const double max = isExact ? ofSpinBox("maximum", DBL_MAX) : static_cast<double>(m_maxNum);
+    const double min = isExact ? ofSpinBox("minimum", -DBL_MAX) : static_cast<double>(m_minNum);
+    if (value > max) {
+        value = max;
     }
-    if (value < m_minNum) {
-        value = m_minNum;
+    if (value < min) {
+        value = min;
     }
-    m_beforeText = QString::number(static_cast<double>(value), 'f', m_remainSeveral);
+    m_beforeText = QString::number(value, 'f', shownDecimals());
     m_beforeResult = m_beforeText;
     m_isInitialResultPending = false;
     setEntryRefused(std::isnan(value));

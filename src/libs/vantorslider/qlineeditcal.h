@@ -1,5 +1,6 @@
 #pragma once
 
+#include "entryoptions.h"
 #include "hostwindow_p.h"
 
 #include <QtWidgets/QLineEdit>
@@ -30,6 +31,11 @@ public:
     bool isLeftForOwnPopup(const QFocusEvent *event);
     bool isInOwnPopup() const { return m_isInOwnPopup; }
     bool event(QEvent *event) override;
+    void setEntryOptions(EntryOptions options) { m_entryOptions = options; }
+    EntryOptions entryOptions() const { return m_entryOptions; }
+    bool has(EntryOption option) const { return m_entryOptions.testFlag(option); }
+    // The entry with points where commas stand for them.
+    QString pointed(const QString &entry) const;
     Internal::HostWindow &hostWindow() { return m_hostWindow; }
 
 Q_SIGNALS:
@@ -52,6 +58,10 @@ private:
     void setEntryText(const QString &entry, int cursorPosition);
     void setResultText(QString text);
     const QString &beforeResult();
+    double ofSpinBox(const char *property, double otherwise) const;
+    int shownDecimals() const;
+    int typedDecimals() const { return has(ExactEntry) ? shownDecimals() : m_inputSeveral; }
+    QString initialResultText() const;
 
     int m_cursorPosition = 0;
     std::vector<QString> m_vecStringResults;
@@ -73,6 +83,7 @@ private:
     bool m_isInitialResultPending = false;
     bool m_isEntryRefused = false;
     bool m_isInOwnPopup = false;
+    EntryOptions m_entryOptions;
     Internal::HostWindow m_hostWindow {this};
 };
 

@@ -306,6 +306,16 @@ void RectEditFrame::setValueChangeDirection(Type type, int directions, int val)
                   &SliderEditFrame::setValueChangeDirection, directions, val);
 }
 
+void RectEditFrame::setEntryOptions(EntryOptions options)
+{
+    d->rows().all(&SliderEditFrame::setEntryOptions, options);
+}
+
+EntryOptions RectEditFrame::entryOptions() const
+{
+    return d->ui->frameX->entryOptions();
+}
+
 void RectEditFrame::setAutoRepeat(bool b)
 {
     d->rows().all(&SliderEditFrame::setAutoRepeat, b);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "entryoptions.h"
 #include "vantorslider_global.h"
 
 #include <QtWidgets/QFrame>
@@ -35,6 +36,7 @@ class RectEditFramePrivate;
 class VANTORSLIDER_EXPORT RectEditFrame : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
 
 public:
     /*! The fields, as single bits, and their combinations for setEditerVisible(). */
@@ -133,6 +135,12 @@ public:
 
     /*! SliderEditFrame::setFieldFocus() of the field \a type. \since 1.1 */
     void setFieldFocus(Type type);
+
+    /*! SliderEditFrame::setEntryOptions() of every field. \since 1.1 */
+    void setEntryOptions(EntryOptions options);
+
+    /*! The options that are on in the first field. \since 1.1 */
+    EntryOptions entryOptions() const;
 
     /*! Shows \a val in the field \a type, clamped to its range. Emits nothing. */
     virtual void setValue(Type type, int val);

@@ -339,6 +339,16 @@ void RGBAllEditFrame::setValueChangeDirection(Type type, int directions, int val
                   &RGBEditFrame::setValueChangeDirection, directions, val);
 }
 
+void RGBAllEditFrame::setEntryOptions(EntryOptions options)
+{
+    d->rows().all(&SliderEditFrame::setEntryOptions, &RGBEditFrame::setEntryOptions, options);
+}
+
+EntryOptions RGBAllEditFrame::entryOptions() const
+{
+    return d->ui->frameAll->entryOptions();
+}
+
 void RGBAllEditFrame::setAutoRepeat(bool b)
 {
     d->rows().all(&SliderEditFrame::setAutoRepeat, &RGBEditFrame::setAutoRepeat, b);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "entryoptions.h"
 #include "vantorslider_global.h"
 
 #include <QtWidgets/QFrame>
@@ -25,6 +26,7 @@ class RGBAllEditFramePrivate;
 class VANTORSLIDER_EXPORT RGBAllEditFrame : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
 
 public:
     /*! The values, as single bits. */
@@ -105,6 +107,12 @@ public:
 
     /*! SliderEditFrame::setFieldFocus() of the row \a type. \since 1.1 */
     void setFieldFocus(Type type);
+
+    /*! SliderEditFrame::setEntryOptions() of every row. \since 1.1 */
+    void setEntryOptions(EntryOptions options);
+
+    /*! The options that are on in the first row. \since 1.1 */
+    EntryOptions entryOptions() const;
 
     /*! SliderEditFrame::setValue() of the row \a type. Emits nothing. */
     void setValue(Type type, int val);

@@ -353,6 +353,16 @@ void RGBEditFrame::setValueChangeDirection(Type type, int directions, int val)
                   &SliderEditFrame::setValueChangeDirection, directions, val);
 }
 
+void RGBEditFrame::setEntryOptions(EntryOptions options)
+{
+    d->rows().all(&SliderEditFrame::setEntryOptions, options);
+}
+
+EntryOptions RGBEditFrame::entryOptions() const
+{
+    return d->ui->frameR->entryOptions();
+}
+
 void RGBEditFrame::setAutoRepeat(bool b)
 {
     d->rows().all(&SliderEditFrame::setAutoRepeat, b);

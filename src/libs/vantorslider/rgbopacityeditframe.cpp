@@ -343,6 +343,16 @@ void RGBOpacityEditFrame::setValueChangeDirection(Type type, int directions, int
                   &RGBEditFrame::setValueChangeDirection, directions, val);
 }
 
+void RGBOpacityEditFrame::setEntryOptions(EntryOptions options)
+{
+    d->rows().all(&SliderEditFrame::setEntryOptions, &RGBEditFrame::setEntryOptions, options);
+}
+
+EntryOptions RGBOpacityEditFrame::entryOptions() const
+{
+    return d->ui->frameOpacity->entryOptions();
+}
+
 void RGBOpacityEditFrame::setAutoRepeat(bool b)
 {
     d->rows().all(&SliderEditFrame::setAutoRepeat, &RGBEditFrame::setAutoRepeat, b);

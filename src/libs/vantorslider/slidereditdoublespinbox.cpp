@@ -50,6 +50,18 @@ void SliderEditDoubleSpinBox::stepBy(int steps)
     edit.release(EditSpan::Entry);
 }
 
+void SliderEditDoubleSpinBox::setEntryOptions(EntryOptions options)
+{
+    if (m_pLineEditCal != nullptr) {
+        m_pLineEditCal->setEntryOptions(options);
+    }
+}
+
+EntryOptions SliderEditDoubleSpinBox::entryOptions() const
+{
+    return m_pLineEditCal != nullptr ? m_pLineEditCal->entryOptions() : EntryOptions();
+}
+
 void SliderEditDoubleSpinBox::setWheelEnable(bool b)
 {
     m_isWheelEnabled = b;
@@ -122,9 +134,17 @@ void SliderEditDoubleSpinBox::setSuffixShow()
 void SliderEditDoubleSpinBox::onSlotResultFinished()
 {
     EditSpan::Scope edit(EditSpan::around(this));
+    const QPointer<SliderEditDoubleSpinBox> self(this);
     Q_EMIT editingFinished();
+    // Typed over, it would never be reported.
+    if (self && entryOptions().testFlag(EnterStays)) {
+        interpretText();
+        if (self) {
+            selectAll();
+        }
+    }
     // Where the value is another, the entry is pending until the field is left.
-    if (edit && Internal::pendingEntry(this, textFromValue(value())) == Internal::Entry::None) {
+    if (self && Internal::pendingEntry(this, textFromValue(value())) == Internal::Entry::None) {
         edit.release(EditSpan::Entry);
     }
 }
@@ -144,13 +164,36 @@ void SliderEditDoubleSpinBox::wheelEvent(QWheelEvent *event)
     QDoubleSpinBox::wheelEvent(event);
 }
 
+// Before a shortcut of the host's on the key that restores the value.
+bool SliderEditDoubleSpinBox::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && Internal::isEscape(event)
+        && Internal::isRestorable(this, m_pLineEditCal, textFromValue(value()))) {
+        event->accept();
+        return true;
+    }
+    return QDoubleSpinBox::event(event);
+}
+
 void SliderEditDoubleSpinBox::keyPressEvent(QKeyEvent *event)
 {
+    if (Internal::isEscape(event)
+        && Internal::isRestorable(this, m_pLineEditCal, textFromValue(value()))) {
+        EditSpan::Scope edit(EditSpan::around(this));
+        Internal::restoreValue(this, m_pLineEditCal);
+        edit.release(EditSpan::Entry);
+        return;
+    }
     if (!Internal::isFinishingKey(event)) {
         QDoubleSpinBox::keyPressEvent(event);
         return;
     }
-    const EditSpan::Scope edit(EditSpan::around(this));
+    EditSpan::Scope edit(EditSpan::around(this));
+    if (entryOptions().testFlag(EnterStays)) {
+        Internal::finishAndStay(this, event, textFromValue(value()));
+        edit.release(EditSpan::Entry);
+        return;
+    }
     const QPointer<SliderEditDoubleSpinBox> self(this);
     Q_EMIT editingFinished();
     if (self) {
@@ -169,8 +212,10 @@ void SliderEditDoubleSpinBox::focusInEvent(QFocusEvent *event)
         setSuffix(QString());
         m_btnFirstPress = false;
         if (isNumber) {
-            setValue(static_cast<double>(
-                Internal::saturatedFloat(Internal::numberIn(number).value_or(0))));
+            const double exact = Internal::numberIn(number).value_or(0);
+            setValue(entryOptions().testFlag(ExactEntry)
+                         ? exact
+                         : static_cast<double>(Internal::saturatedFloat(exact)));
         }
     }
     if (!self) {

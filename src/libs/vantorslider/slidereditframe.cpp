@@ -93,8 +93,11 @@ void SliderEditPrivate::slotSpinBoxEditingFinished()
 
 void SliderEditPrivate::slotSpinBoxEnterFinished()
 {
+    const bool losesFocus = !staysInField();
     enterFinished();
-    qDebug("SpinBox lose focus.");
+    if (losesFocus) {
+        qDebug("SpinBox lose focus.");
+    }
 }
 
 void SliderEditPrivate::slotButtonSubtractClicked()
@@ -184,6 +187,16 @@ void SliderEditFrame::setSpinBoxFixedWidth(int w)
 void SliderEditFrame::setSpinBoxWheelEnable(bool b)
 {
     d->spinBox()->setWheelEnable(b);
+}
+
+void SliderEditFrame::setEntryOptions(EntryOptions options)
+{
+    d->spinBox()->setEntryOptions(options);
+}
+
+EntryOptions SliderEditFrame::entryOptions() const
+{
+    return d->spinBox()->entryOptions();
 }
 
 void SliderEditFrame::setSliderVisible(bool b)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "entryoptions.h"
 #include "vantorslider_global.h"
 
 #include <QtWidgets/QFrame>
@@ -39,6 +40,7 @@ class VANTORSLIDER_EXPORT SliderEditFrame : public QFrame
     Q_PROPERTY(int defaultValue READ defaultValue WRITE setDefaultValue)
     Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
     Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
+    Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
 
 public:
     /*! On which side of a reference value reported values are held. */
@@ -88,6 +90,12 @@ public:
 
     /*! Lets the wheel step the spin box while it has the focus, if \a b is true; off at first. */
     void setSpinBoxWheelEnable(bool b);
+
+    /*! What the field does otherwise with what the user enters, all off at first. \since 1.1 */
+    void setEntryOptions(EntryOptions options);
+
+    /*! The options that are on. \since 1.1 */
+    EntryOptions entryOptions() const;
 
     /*!
         Shows or hides the slider; without it the other children stay packed beside the label.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "entryoptions.h"
 #include "vantorslider_global.h"
 
 #include <QtWidgets/QDoubleSpinBox>
@@ -74,6 +75,7 @@ private:
 class VANTORSLIDER_EXPORT SliderEditSpinBox : public QSpinBox
 {
     Q_OBJECT
+    Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
 
 public:
     explicit SliderEditSpinBox(QWidget *parent = nullptr);
@@ -99,6 +101,12 @@ public:
         first: the wheel goes to the page around the field.
     */
     void setWheelEnable(bool b);
+
+    /*! What the field does otherwise with what the user enters, all off at first. \since 1.1 */
+    void setEntryOptions(EntryOptions options);
+
+    /*! The options that are on. \since 1.1 */
+    EntryOptions entryOptions() const;
 
     /*!
         Shows \a prefix and \a suffix around the number. An entry that is pending stays, where
@@ -133,6 +141,7 @@ protected Q_SLOTS:
     void onSlotResultFinished();
 
 protected:
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -164,6 +173,7 @@ private:
 class VANTORSLIDER_EXPORT SliderEditDoubleSpinBox : public QDoubleSpinBox
 {
     Q_OBJECT
+    Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
 
 public:
     explicit SliderEditDoubleSpinBox(QWidget *parent = nullptr);
@@ -189,6 +199,12 @@ public:
         first: the wheel goes to the page around the field.
     */
     void setWheelEnable(bool b);
+
+    /*! What the field does otherwise with what the user enters, all off at first. \since 1.1 */
+    void setEntryOptions(EntryOptions options);
+
+    /*! The options that are on. \since 1.1 */
+    EntryOptions entryOptions() const;
 
     /*!
         Shows \a prefix and \a suffix around the number, the suffix while the field is not
@@ -230,6 +246,7 @@ protected Q_SLOTS:
     void onSlotResultFinished();
 
 protected:
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;

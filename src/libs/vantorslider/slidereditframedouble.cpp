@@ -187,6 +187,16 @@ void SliderEditFrameDouble::setSpinBoxWheelEnable(bool b)
     d->spinBox()->setWheelEnable(b);
 }
 
+void SliderEditFrameDouble::setEntryOptions(EntryOptions options)
+{
+    d->spinBox()->setEntryOptions(options);
+}
+
+EntryOptions SliderEditFrameDouble::entryOptions() const
+{
+    return d->spinBox()->entryOptions();
+}
+
 void SliderEditFrameDouble::setSliderVisible(bool b)
 {
     d->row().setSliderVisible(b);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "entryoptions.h"
 #include "vantorslider_global.h"
 
 #include <QtWidgets/QFrame>
@@ -40,6 +41,7 @@ class VANTORSLIDER_EXPORT SliderEditFrameDouble : public QFrame
     Q_PROPERTY(double defaultValue READ defaultValue WRITE setDefaultValue)
     Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
     Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
+    Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
 
 public:
     /*! On which side of a reference value reported values are held. */
@@ -86,6 +88,12 @@ public:
 
     /*! As SliderEditFrame::setSpinBoxWheelEnable(). */
     void setSpinBoxWheelEnable(bool b);
+
+    /*! What the field does otherwise with what the user enters, all off at first. \since 1.1 */
+    void setEntryOptions(EntryOptions options);
+
+    /*! The options that are on. \since 1.1 */
+    EntryOptions entryOptions() const;
 
     /*! As SliderEditFrame::setSliderVisible(). */
     void setSliderVisible(bool b);

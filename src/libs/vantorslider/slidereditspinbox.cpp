@@ -47,6 +47,18 @@ void SliderEditSpinBox::stepBy(int steps)
     edit.release(EditSpan::Entry);
 }
 
+void SliderEditSpinBox::setEntryOptions(EntryOptions options)
+{
+    if (m_pLineEditCal != nullptr) {
+        m_pLineEditCal->setEntryOptions(options);
+    }
+}
+
+EntryOptions SliderEditSpinBox::entryOptions() const
+{
+    return m_pLineEditCal != nullptr ? m_pLineEditCal->entryOptions() : EntryOptions();
+}
+
 void SliderEditSpinBox::setWheelEnable(bool b)
 {
     m_isWheelEnabled = b;
@@ -82,7 +94,19 @@ void SliderEditSpinBox::setSlotEditingFinished()
 
 void SliderEditSpinBox::onSlotResultFinished()
 {
-    Q_EMIT enterFinished();
+    if (!entryOptions().testFlag(EnterStays)) {
+        Q_EMIT enterFinished();
+        return;
+    }
+    const EditSpan::Scope edit(EditSpan::around(this));
+    const QPointer<SliderEditSpinBox> self(this);
+    interpretText();
+    if (self) {
+        Q_EMIT enterFinished();
+    }
+    if (self) {
+        selectAll();
+    }
 }
 
 // Part of the interface, for what a later version may do there.
@@ -100,13 +124,36 @@ void SliderEditSpinBox::wheelEvent(QWheelEvent *event)
     QSpinBox::wheelEvent(event);
 }
 
+// Before a shortcut of the host's on the key that restores the value.
+bool SliderEditSpinBox::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && Internal::isEscape(event)
+        && Internal::isRestorable(this, m_pLineEditCal, textFromValue(value()))) {
+        event->accept();
+        return true;
+    }
+    return QSpinBox::event(event);
+}
+
 void SliderEditSpinBox::keyPressEvent(QKeyEvent *event)
 {
+    if (Internal::isEscape(event)
+        && Internal::isRestorable(this, m_pLineEditCal, textFromValue(value()))) {
+        EditSpan::Scope edit(EditSpan::around(this));
+        Internal::restoreValue(this, m_pLineEditCal);
+        edit.release(EditSpan::Entry);
+        return;
+    }
     if (!Internal::isFinishingKey(event)) {
         QSpinBox::keyPressEvent(event);
         return;
     }
-    const EditSpan::Scope edit(EditSpan::around(this));
+    EditSpan::Scope edit(EditSpan::around(this));
+    if (entryOptions().testFlag(EnterStays)) {
+        Internal::finishAndStay(this, event, textFromValue(value()));
+        edit.release(EditSpan::Entry);
+        return;
+    }
     const QPointer<SliderEditSpinBox> self(this);
     Q_EMIT editingFinished();
     if (self) {

@@ -199,15 +199,19 @@ protected:
         }
     }
 
+    bool staysInField() const { return engine().spinBox()->entryOptions().testFlag(EnterStays); }
+
     // Keyboard tracking is off: losing the focus is what makes the spin box
     // interpret its text and report the new value. It keeps the focus where a host
-    // has made it the frame's proxy.
+    // has made it the frame's proxy, and where it stays it has interpreted it.
     void enterFinished()
     {
         EditSpan::Scope edit(&m_edits);
-        m_pSliderEditer->setFocus(Qt::OtherFocusReason);
-        if (edit && engine().spinBox()->hasFocus()) {
-            engine().spinBox()->interpretText();
+        if (!staysInField()) {
+            m_pSliderEditer->setFocus(Qt::OtherFocusReason);
+            if (edit && engine().spinBox()->hasFocus()) {
+                engine().spinBox()->interpretText();
+            }
         }
         edit.release(EditSpan::Entry);
     }
