@@ -26,9 +26,6 @@ public:
     // Takes back what the page's editors say: the picture of this size is as it was.
     virtual void clear(Edits &edits, const QSize &size) const = 0;
 
-    // Gives the labels of all rows the width of the widest text.
-    void alignLabels();
-
 protected:
     void addHeading(const QString &title, const QString &caption, QWidget *beside = nullptr);
 
@@ -53,8 +50,6 @@ protected:
 
     // Called when all editors are added.
     void finish();
-
-    void changeEvent(QEvent *event) override;
 
     static constexpr int labelSpacing = 12;
     static constexpr int controlSpacing = 8;
