@@ -139,7 +139,8 @@ private:
         QVERIFY(!m_isInEdit);
         QCOMPARE(shown(), m_reported);
         for (const EditorRow &each : m_user.rows)
-            QVERIFY(!each.whole || each.whole->value() == each.slider->value());
+            QVERIFY(!each.whole || each.whole->sliderScale() != SliderEditFrame::LinearScale
+                    || each.whole->value() == each.slider->value());
         if (isLock)
             lock = lock.isEmpty() ? QVector<int> {value(row & 2), value(row | 1)} : QVector<int>();
         else if (!changed.isEmpty())
@@ -198,9 +199,10 @@ private:
     bool m_isInEdit = false;
 };
 
-template <typename Frame> void add(const QString &start, const QStringList &steps)
+template <typename Frame>
+void add(const QString &start, const QStringList &steps, const QString &name = {})
 {
-    QTest::newRow(Frame::staticMetaObject.className()) << TestCode([=] {
+    QTest::addRow("%s%s", Frame::staticMetaObject.className(), qPrintable(name)) << TestCode([=] {
         std::mt19937 random(unsigned(qEnvironmentVariableIntValue("VANTORSLIDER_SEED")));
         const int set = qEnvironmentVariableIntValue("VANTORSLIDER_GESTURES");
         for (int left = set > 0 ? set : 1000; left > 0 && !QTest::currentTestFailed(); left -= 50) {
@@ -223,6 +225,11 @@ void tst_RandomGestures::editors_data()
             .split("; ");
     add<SliderEditFrame>("range -30 400", steps);
     add<SliderEditFrameDouble>("range -30 400", steps);
+    const QString scale = "range 1 4000 | scale logarithmic";
+    add<SliderEditFrame>(scale, steps, ", logarithmic");
+    // Its reference is a whole number, which is out of this range.
+    add<SliderEditFrameDouble>(scale, steps.filter(QRegularExpression("^(?!direction)")),
+                               ", logarithmic");
     const QStringList colors {"r value ?", "g value ?", "b value ?", "g default ?"};
     add<RGBEditFrame>("g value 9", colors);
     add<RGBAllEditFrame>("all value 9", colors + QStringList {"all value ?"});

@@ -178,6 +178,50 @@ void tst_SliderEditFrame::sequences_data()
     addBoth("wheel, disabled", "focus | wheel: page page");
     addBoth("wheel", "wheel: page page | wheelEnabled | wheel: page page | focus | wheel: page 11");
 
+    // Positions are factors: 500 of 1,000 are the root of 100,000. The handle finds each
+    // where the slider has as many pixels.
+    const QString scale = "width 3000 | range 1 100000 | scale logarithmic | ";
+    addBoth("logarithmic scale",
+            scale
+                + "ranges: 0..1000 | value 100000 | handle: 1000 | value 316 | handle: 500 | "
+                  "value 1 | handle: 0 | hold 500 1000 0: 316 100000 1 | drop | shown: 1");
+    addBoth("logarithmic: keys and groove move by positions",
+            scale
+                + "singleStep 7 | pageStep 100 | value 100 | groove after: 316 | right: 320 | "
+                  "groove before: 101 | plus: 108 | minus: 101 | scale linear | "
+                  "ranges: 1..100000 | handle: 101 | groove after: 201 | right: 208");
+    // Below 1.5 all positions are 1.
+    addBoth("logarithmic: many positions of one value",
+            scale
+                + "value 1 | hold 10 20 36: 2 | move 50 | drop | handle: 50 | shown: 2 | "
+                  "hold | drop | shown: 2");
+    for (const QString mode : {"", "released | ", "sampled | "}) {
+        const bool isAtOnce = mode.isEmpty();
+        addBoth("logarithmic: " + mode + "a value between two positions",
+                scale + mode + "value 12345 | handle: 818 | hold | drop | shown: 12345 | "
+                    + (isAtOnce ? "hold 819 818: 12445 12345" : "hold 819 818")
+                    + " | drop | shown: 12345 | plus: 12346 | minus: 12345");
+    }
+    addBoth("logarithmic, released", scale + "released | hold 500 600 | drop: 1000 | shown: 1000");
+    addBoth("logarithmic, sampled",
+            scale
+                + "sampled | value 12345 | hold 500 600 | tick: 1000 | tick | move 818 | "
+                  "drop: 12345 | shown: 12345");
+    addBoth("logarithmic, allowed to smaller",
+            scale + "direction 4 500 | hold 600 700 400: 500 500 100 | drop | shown: 100");
+    addBoth("logarithmic: later ranges",
+            scale
+                + "value 100 | range 100 10000 | ranges: 0..1000 | handle: 0 | hold 500: 1000 | "
+                  "drop | maximum 1000 | handle: 1000 | minimum 10 | handle: 1000 | "
+                  "range 500 500 | ranges: 0..0 | shown: 500");
+    const QString refused =
+        ": warning: Set SliderEdit slider scale has failed. The minimum  0  is invalid. | ";
+    addBoth("logarithmic: no range above 0",
+            "scale logarithmic" + refused + "hold 60: 60 | drop | " + scale + "singleStep 7 | "
+                + "range 0 200" + refused + "ranges: 0..200 | range 1 100 | ranges: 1..100 | "
+                + "groove after: 70 | right: 77 | shown: 77");
+    addDouble("logarithmic: later decimals",
+              scale + "value 316 | decimals 3 | ranges: 0..1000 | handle: 500 | plus: 317");
     addInt("sampled without release mode",
            "sampled | released | hold 20 40 | tick | shown: 10 | drop: 40");
     for (const QString end : {"drop", "focus", "hideSlider", "disable", "leave"})

@@ -64,6 +64,20 @@ static double scaleOf(const EditorRow &row)
     return std::pow(10.0, row.frame->property("decimals").toInt());
 }
 
+// Whether the handle stands where the value belongs: on a logarithmic scale where the
+// value puts it, or where any that is rounded to the value does.
+static bool isHandleAt(const EditorRow &row, double value)
+{
+    const int position = row.slider->value();
+    const double shown = std::round(value * scaleOf(row));
+    if (row.frame->property("sliderScale").toInt() == SliderEditFrame::LinearScale)
+        return position == shown;
+    const double least = row.frame->property("minimum").toDouble();
+    const double factor = row.frame->property("maximum").toDouble() / least;
+    return position == std::round(1000 * std::log(value / least) / std::log(factor))
+        || shown == std::round(least * std::pow(factor, position / 1000.0) * scaleOf(row));
+}
+
 template <typename Frame> void EditorUser::addIf(QWidget *editor, void (EditorUser::*add)(Frame *))
 {
     if (auto *const frame = qobject_cast<Frame *>(editor))
@@ -175,6 +189,11 @@ void EditorUser::addSights()
         for (const EditorRow &row : rows)
             log.add(limits(row.slider->minimum(), row.slider->maximum()));
     });
+    on("width", [this](const Step &step) {
+        page.resize(step[0], page.height());
+        QCoreApplication::processEvents();
+    });
+    on("handle", [this](const Step &step) { log.add(QString::number(step.row.slider->value())); });
     on("selected", [this](const Step &step) {
         QCoreApplication::processEvents();
         const QString text = step.row.field->selectedText();
@@ -242,6 +261,9 @@ template <typename Frame> void EditorUser::add(Frame *frame)
        [](const Step &step) { step.row.spinBox->setProperty("specialValueText", step.text); });
     on("locale", [](const Step &step) { step.row.spinBox->setLocale(QLocale(step.text)); });
     on("hideSlider", [=](const Step &) { frame->setSliderVisible(false); });
+    on("scale", [=](const Step &step) {
+        frame->setSliderScale(step.text == "linear" ? Frame::LinearScale : Frame::LogarithmicScale);
+    });
     on("fieldFocus", [=](const Step &) { frame->setFieldFocus(); });
     on("pressed", [=](const Step &) { log.add(frame->isMousePressed() ? "yes" : "no"); });
     on("wheelEnabled", [=](const Step &) { frame->setSpinBoxWheelEnable(true); });
@@ -255,7 +277,7 @@ template <typename Frame> void EditorUser::add(Frame *frame)
     frame->setValue(10 * position);
     QObject::connect(frame, &Frame::valueChanged, &page, [=](Value reported) {
         log.add(inUnits(reported));
-        if (row.slider->value() != std::round(reported * scaleOf(row)))
+        if (!isHandleAt(row, reported))
             log.add("too early"); // a receiver finds the children updated
     });
 }
@@ -385,10 +407,9 @@ QString EditorUser::shown() const
     QStringList texts;
     for (const EditorRow &row : rows) {
         const double value = row.spinBox->property("cleanText").toDouble();
-        const int position = row.slider->value();
         texts.append(m_unit == 1 ? row.spinBox->text() : inUnits(value));
-        if (position != std::round(value * scaleOf(row)))
-            texts.last() += '/' + QString::number(position);
+        if (!isHandleAt(row, value))
+            texts.last() += '/' + QString::number(row.slider->value());
     }
     return texts.join(' ');
 }

@@ -100,14 +100,15 @@ private:
 //   exact, comma, escape and stays
 // to a slider editor:
 //   minimum, maximum, singleStep, pageStep, decimals, direction (flags and value),
-//   wheelEnabled, suffix, prefix, hideSlider, fieldFocus; specialValueText and locale of the spin
-//   box
+//   wheelEnabled, suffix, prefix, scale, hideSlider, fieldFocus; specialValueText and
+//   locale of the spin box
 // to a rectangle, a crop or a mask:
 //   set, sizeLock and positionLock on or off, ratio; area, areaFrom, leastPosition,
 //   leastSize, crop, rect; area, leastSize, mask
 // What both find:
 //   shown      what the fields hold, each with the slider's position behind a slash where
 //              that is another
+//   handle     the slider's position
 //   ranges     of the sliders of all rows; bounds: of a slider editor's values
 //   timer      whether the sampling "runs" or "stands"
 //   focused    "editor" where the row has the focus, or "other"

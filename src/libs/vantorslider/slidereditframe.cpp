@@ -28,9 +28,10 @@ public:
     SliderEditSpinBox *spinBox() const { return form()->spinBox; }
     static int toPosition(int val) { return val; }
     static int toValue(int position) { return position; }
-    static int rounded(int val) { return val; }
+    static int rounded(double val) { return saturatedInt(std::round(val)); }
+    int sliderStep() const { return spinBox()->singleStep(); }
     bool isLastValue(int val) const { return val == lastValue(); }
-    bool isNewAtRelease(int position) const { return !isLastValue(position); }
+    bool isNewAtRelease(int position) const { return !isLastValue(valueAt(position)); }
     static constexpr bool spinBoxFollowsInReleaseMode = false;
     void showInSpinBox(int val);
     void handToCalculator(int val);
@@ -255,8 +256,7 @@ void SliderEditFrame::setRange(int min, int max)
         const QSignalBlocker blocker(d->spinBox());
         d->spinBox()->setRange(min, max);
     }
-    const QSignalBlocker blocker(d->slider());
-    d->slider()->setScale(min, max);
+    d->setScale(min, max);
 }
 
 void SliderEditFrame::setMinimum(int min)
@@ -299,10 +299,22 @@ void SliderEditFrame::resetValue()
     d->reset();
 }
 
+void SliderEditFrame::setSliderScale(SliderScale scale)
+{
+    d->setLogarithmic(scale == LogarithmicScale);
+}
+
+SliderEditFrame::SliderScale SliderEditFrame::sliderScale() const
+{
+    return d->isLogarithmic() ? LogarithmicScale : LinearScale;
+}
+
 void SliderEditFrame::setSingleStep(int val)
 {
     d->spinBox()->setSingleStep(val);
-    d->slider()->setSingleStep(val);
+    if (!d->isLogarithmic()) {
+        d->slider()->setSingleStep(val);
+    }
 }
 
 int SliderEditFrame::singleStep()

@@ -41,6 +41,7 @@ class VANTORSLIDER_EXPORT SliderEditFrame : public QFrame
     Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
     Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
+    Q_PROPERTY(SliderScale sliderScale READ sliderScale WRITE setSliderScale)
 
 public:
     /*! On which side of a reference value reported values are held. */
@@ -49,6 +50,13 @@ public:
         AllowedToSmaller = 4, //!< Values may not rise above the reference.
         AllowedToAny = AllowedToBigger | AllowedToSmaller, //!< No restriction; the default.
     };
+
+    /*! How the slider's positions follow the values. \since 1.1 */
+    enum SliderScale : int {
+        LinearScale, //!< Each position is the same distance; the default.
+        LogarithmicScale, //!< Each position is the same factor, for ranges of several decades.
+    };
+    Q_ENUM(SliderScale)
 
     /*! Builds a row with Qt's default range of a spin box, 0 to 99. Emits nothing. */
     explicit SliderEditFrame(QWidget *parent = nullptr);
@@ -176,6 +184,20 @@ public:
 
     /*! Whether there is a value to go back to. \since 1.1 */
     bool hasDefaultValue() const;
+
+    /*!
+        Makes the slider's scale \a scale, LinearScale at first. A logarithmic one has the
+        positions 0 to 1,000: handle, groove and arrow keys of the slider move by them, an arrow
+        key by one. Buttons and entries reach every value as before. Emits nothing.
+
+        Set the range first. One that is not above 0 has no logarithm: it is reported by a
+        warning in Qt's log, and the scale stays or becomes linear. Later ranges and decimals
+        keep the scale. \since 1.1
+    */
+    void setSliderScale(SliderScale scale);
+
+    /*! The slider's scale. \since 1.1 */
+    SliderScale sliderScale() const;
 
     /*!
         Sets the step of buttons, arrow keys and wheel to \a val. A negative one is ignored by

@@ -1,9 +1,7 @@
 #include "slidereditframedouble.h"
 
 #include "childwidget_p.h"
-#include "saturation_p.h"
-#include "sliderengine_p.h"
-#include "ui_slidereditframedouble.h"
+#include "slidereditframedouble_p.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtCore/QTimerEvent>
@@ -14,62 +12,6 @@ namespace Vantor {
 namespace Widgets {
 
 namespace Internal {
-
-// The slider's positions are the value times the magnification.
-class SliderEditDoublePrivate : public SliderEngine<SliderEditDoublePrivate, SliderEditFrameDouble,
-                                                    Ui::SliderEditFrameDouble, double>
-{
-    Q_OBJECT
-
-public:
-    using SliderEngine::SliderEngine;
-
-    void createConnects() { connectRow(QOverload<double>::of(&QDoubleSpinBox::valueChanged)); }
-
-    SliderEditDoubleSpinBox *spinBox() const { return form()->doubleSpinBox; }
-    int toPosition(double val) const { return saturatedInt(std::round(val * m_nMagnification)); }
-    double rounded(double val) const;
-    double toValue(int position) const { return double(position) / m_nMagnification; }
-    bool isLastValue(double val) const { return std::fabs(val - lastValue()) < minPrecision; }
-    // Unlike the integer field this one follows the handle in release mode too, and
-    // so has the slider's value: no valueChanged() of the slider comes at release.
-    static constexpr bool spinBoxFollowsInReleaseMode = true;
-    bool isNewAtRelease(int pos) const { return isReleaseMode() && pos != lastPressedPosition(); }
-    void showInSpinBox(double val);
-    void handToCalculator(double val);
-
-    int precision() const { return m_nPrecision; }
-    void setPrecision(int decimals);
-    double singleStep() const { return m_dSingleStep; }
-    void setSingleStep(double step) { m_dSingleStep = step; }
-
-    // Values closer than this are equal; bounds are nudged up by it.
-    static constexpr double minPrecision = 1e-8;
-
-private Q_SLOTS:
-    // The interface fixes all thirteen.
-    void slotSpinBoxEditingFinished() { editingFinished(); }
-    void slotSpinBoxEnterFinished() { enterFinished(); }
-    void slotButtonSubtractClicked();
-    void slotButtonSubtractPressed() { buttonPressed(); }
-    void slotButtonSubtractReleased() { buttonReleased(); }
-    void slotButtonPlusClicked();
-    void slotButtonPlusPressed() { buttonPressed(); }
-    void slotButtonPlusReleased() { buttonReleased(); }
-    void slotSpinBoxValueChanged(double val) { spinBoxValueChanged(val); }
-    void slotSliderMoved(int pos) { sliderMoved(pos); }
-    void slotSliderValueChanged(int pos) { sliderValueChanged(pos); }
-    void slotSliderReleased() { sliderReleased(); }
-    void slotSliderPressed() { sliderPressed(); }
-
-private:
-    friend SliderEngine; // connects the slots
-
-    int m_nPrecision = 2;
-    double m_dSingleStep = 0.01;
-    // 10 to the power of the precision only once that was set.
-    int m_nMagnification = 1;
-};
 
 void SliderEditDoublePrivate::setPrecision(int decimals)
 {
@@ -271,8 +213,7 @@ void SliderEditFrameDouble::setMinimum(double min)
     setDecimals(d->precision());
     // Without decimals the slider stands at the spin box's rounded bound already.
     if (decimals() != 0) {
-        const QSignalBlocker blocker(d->slider());
-        d->slider()->setScale(d->toPosition(min), d->slider()->maximum());
+        d->setScale(d->toPosition(min), d->slider()->maximum());
     }
 }
 
@@ -293,9 +234,8 @@ void SliderEditFrameDouble::setMaximum(double max)
     }
     setDecimals(d->precision());
     if (decimals() != 0) {
-        const QSignalBlocker blocker(d->slider());
         const int highest = d->toPosition(max);
-        d->slider()->setScale(qMin(d->slider()->minimum(), highest), highest);
+        d->setScale(qMin(d->slider()->minimum(), highest), highest);
     }
 }
 
@@ -341,9 +281,9 @@ void SliderEditFrameDouble::setDecimals(int prec)
     const int highest = d->toPosition(maximum());
     d->spinBox()->setRange(d->toValue(lowest), d->toValue(highest));
 
-    const QSignalBlocker sliderBlocker(d->slider());
-    d->slider()->setScale(lowest, highest);
-    if (d->singleStep() > d->minPrecision) {
+    d->setScale(lowest, highest);
+    if (d->singleStep() > d->minPrecision && !d->isLogarithmic()) {
+        const QSignalBlocker sliderBlocker(d->slider());
         d->slider()->setSingleStep(d->toPosition(d->singleStep()));
     }
 }
@@ -351,6 +291,16 @@ void SliderEditFrameDouble::setDecimals(int prec)
 int SliderEditFrameDouble::decimals() const
 {
     return d->spinBox()->decimals();
+}
+
+void SliderEditFrameDouble::setSliderScale(SliderScale scale)
+{
+    d->setLogarithmic(scale == LogarithmicScale);
+}
+
+SliderEditFrameDouble::SliderScale SliderEditFrameDouble::sliderScale() const
+{
+    return d->isLogarithmic() ? LogarithmicScale : LinearScale;
 }
 
 void SliderEditFrameDouble::setSingleStep(double val)
@@ -470,5 +420,3 @@ int SliderEditFrameDouble::getMagnification(float num)
 
 } // namespace Widgets
 } // namespace Vantor
-
-#include "slidereditframedouble.moc"

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "editspan_p.h"
+#include "logscale_p.h"
 #include "rowreset_p.h"
 #include "slidereditframe_p.h"
 #include "sliderrow_p.h"
 
+#include <QtCore/QDebug>
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QAbstractButton>
@@ -72,7 +74,7 @@ public:
         engine().showInSpinBox(val);
         {
             const QSignalBlocker blocker(ui->slider);
-            ui->slider->setValue(engine().toPosition(val));
+            ui->slider->setValue(positionOf(val));
         }
         engine().handToCalculator(val);
     }
@@ -146,6 +148,38 @@ public:
         return Internal::isResetClick(ui->labelName, watched, event);
     }
 
+    bool isLogarithmic() const { return m_isLogarithmic; }
+
+    // Nothing changes, but for a warning, where the range is not above 0.
+    void setLogarithmic(bool isOn)
+    {
+        if (isOn == m_isLogarithmic || (isOn && !isAboveZero())) {
+            return;
+        }
+        m_isLogarithmic = isOn;
+        setScale(engine().toPosition(least()), engine().toPosition(greatest()));
+        if (!isOn) {
+            leaveLogarithm();
+        }
+    }
+
+    // The ends of a linear scale. A logarithmic one has ends of its own, and becomes a
+    // linear one where the range is no longer above 0. Silent.
+    void setScale(int lowest, int highest)
+    {
+        const QSignalBlocker blocker(ui->slider);
+        if (m_isLogarithmic && isAboveZero()) {
+            ui->slider->setRange(0, least() < greatest() ? lastLogPosition : 0);
+            ui->slider->setSingleStep(1);
+            ui->slider->setValue(spinPosition());
+            return;
+        }
+        ui->slider->setScale(lowest, highest);
+        if (m_isLogarithmic) {
+            leaveLogarithm();
+        }
+    }
+
     SliderEditSlider *slider() const { return ui->slider; }
     EditSpan *edits() { return &m_edits; }
 
@@ -153,6 +187,24 @@ protected:
     Form *form() const { return ui; }
     Value lastValue() const { return m_nLastValue; }
     int lastPressedPosition() const { return m_nLastPressedValue; }
+    Value lastPressedValue() const { return m_valueAtPress; }
+
+    // What the handle stands for. On a logarithmic scale many values share a position:
+    // the one that was set keeps its own, and a handle that returns to where it was
+    // taken brings back what was shown there.
+    Value valueAt(int position) const
+    {
+        if (!m_isLogarithmic) {
+            return engine().toValue(position);
+        }
+        if (position == positionOf(m_nLastValue)) {
+            return m_nLastValue;
+        }
+        if (position == m_nLastPressedValue && ui->slider->isSliderDown()) {
+            return m_valueAtPress;
+        }
+        return engine().rounded(logValue(position, least(), greatest()));
+    }
     Value spinValue() const { return engine().spinBox()->value(); }
 
     // The direction filter: without AllowedToBigger only smaller values are allowed,
@@ -248,11 +300,12 @@ protected:
             startSamplingTimer();
         }
         m_nLastPressedValue = ui->slider->value();
+        m_valueAtPress = m_nLastValue;
     }
 
     void sliderMoved(int position)
     {
-        const Value val = engine().toValue(position);
+        const Value val = valueAt(position);
         if (engine().isLastValue(val)
             || (m_isReleaseMode && !Engine::spinBoxFollowsInReleaseMode)) {
             return;
@@ -278,7 +331,7 @@ protected:
     // mode nor sampling delays it.
     void sliderValueChanged(int position)
     {
-        const Value val = engine().toValue(position);
+        const Value val = valueAt(position);
         if (engine().isLastValue(val)) {
             return;
         }
@@ -296,7 +349,7 @@ protected:
         const int position = ui->slider->value();
         if (!m_isTimeSampling) {
             if (engine().isNewAtRelease(position)) {
-                report(engine().toValue(position));
+                report(valueAt(position));
             }
             return;
         }
@@ -304,7 +357,7 @@ protected:
         if (position == m_nLastTimerValue) {
             return;
         }
-        apply(engine().toValue(position));
+        apply(valueAt(position));
         if (m_isTimeSamplingValueChanged) {
             emitValueChanged(spinValue());
         }
@@ -328,7 +381,31 @@ private:
             std::clamp(*m_defaultValue, spinBox->minimum(), spinBox->maximum()));
     }
 
-    int spinPosition() const { return engine().toPosition(spinValue()); }
+    Value least() const { return engine().spinBox()->minimum(); }
+    Value greatest() const { return engine().spinBox()->maximum(); }
+
+    int positionOf(Value val) const
+    {
+        return m_isLogarithmic ? logPosition(val, least(), greatest()) : engine().toPosition(val);
+    }
+    int spinPosition() const { return positionOf(spinValue()); }
+
+    bool isAboveZero() const
+    {
+        if (least() <= 0) {
+            qWarning() << "Set SliderEdit slider scale has failed. The minimum " << least()
+                       << " is invalid.";
+        }
+        return least() > 0;
+    }
+
+    void leaveLogarithm()
+    {
+        m_isLogarithmic = false;
+        const QSignalBlocker blocker(ui->slider);
+        ui->slider->setSingleStep(engine().sliderStep());
+        ui->slider->setValue(spinPosition());
+    }
 
     void startSamplingTimer()
     {
@@ -354,6 +431,8 @@ private:
     // Slider positions: at the last press; at the start of sampling or the last tick.
     int m_nLastPressedValue = -1;
     int m_nLastTimerValue = -1;
+    Value m_valueAtPress = 0;
+    bool m_isLogarithmic = false;
     bool m_isReleaseMode = false;
     bool m_isTimeSampling = false;
     bool m_isTimeSamplingValueChanged = false;
