@@ -150,7 +150,6 @@ public:
 
     bool isLogarithmic() const { return m_isLogarithmic; }
 
-    // Nothing changes, but for a warning, where the range is not above 0.
     void setLogarithmic(bool isOn)
     {
         if (isOn == m_isLogarithmic || (isOn && !isAboveZero())) {
@@ -163,8 +162,7 @@ public:
         }
     }
 
-    // The ends of a linear scale. A logarithmic one has ends of its own, and becomes a
-    // linear one where the range is no longer above 0. Silent.
+    // The ends of a linear scale, which a logarithmic one becomes at a range down to 0.
     void setScale(int lowest, int highest)
     {
         const QSignalBlocker blocker(ui->slider);
@@ -189,9 +187,8 @@ protected:
     int lastPressedPosition() const { return m_nLastPressedValue; }
     Value lastPressedValue() const { return m_valueAtPress; }
 
-    // What the handle stands for. On a logarithmic scale many values share a position:
-    // the one that was set keeps its own, and a handle that returns to where it was
-    // taken brings back what was shown there.
+    // What the handle stands for. Values share a position of a logarithmic scale: the one
+    // that was set keeps it, and a handle that returns brings back the one at the press.
     Value valueAt(int position) const
     {
         if (!m_isLogarithmic) {
@@ -383,7 +380,6 @@ private:
 
     Value least() const { return engine().spinBox()->minimum(); }
     Value greatest() const { return engine().spinBox()->maximum(); }
-
     int positionOf(Value val) const
     {
         return m_isLogarithmic ? logPosition(val, least(), greatest()) : engine().toPosition(val);
