@@ -203,6 +203,10 @@ void tst_SliderEditFrame::sequences_data()
                     + " | drop | shown: 12345 | plus: 12346 | minus: 12345");
     }
     addBoth("logarithmic, released", scale + "released | hold 500 600 | drop: 1000 | shown: 1000");
+    addBoth("logarithmic, released where it was taken",
+            scale
+                + "released | value 1 | pageStep 20 | groove after | handle: 20 | hold 500 20 | "
+                  "drop | shown: 1");
     addBoth("logarithmic, sampled",
             scale
                 + "sampled | value 12345 | hold 500 600 | tick: 1000 | tick | move 818 | "
