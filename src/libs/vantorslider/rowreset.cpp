@@ -16,7 +16,7 @@ namespace Internal {
 
 namespace {
 
-constexpr const char resettable[] = "isResettable";
+constexpr const char *resettable = "isResettable";
 
 QLabel *resettableLabel(const QObject *row)
 {

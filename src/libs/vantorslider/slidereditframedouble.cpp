@@ -197,7 +197,7 @@ void SliderEditFrameDouble::setRange(double min, double max)
         return;
     }
     const QSignalBlocker blocker(d->spinBox());
-    d->spinBox()->setRange(min + d->minPrecision, max + d->minPrecision);
+    d->spinBox()->setRange(min + Internal::minPrecision, max + Internal::minPrecision);
     setDecimals(d->precision());
 }
 
@@ -208,7 +208,7 @@ void SliderEditFrameDouble::setMinimum(double min)
     }
     {
         const QSignalBlocker blocker(d->spinBox());
-        d->spinBox()->setMinimum(min + d->minPrecision);
+        d->spinBox()->setMinimum(min + Internal::minPrecision);
     }
     setDecimals(d->precision());
     // Without decimals the slider stands at the spin box's rounded bound already.
@@ -224,7 +224,7 @@ void SliderEditFrameDouble::setMaximum(double max)
     }
     {
         const QSignalBlocker blocker(d->spinBox());
-        const double bound = max + d->minPrecision;
+        const double bound = max + Internal::minPrecision;
         if (bound < minimum()) {
             // Qt moves the other end along too, but forgets it at the next change
             // of decimals.
@@ -282,7 +282,7 @@ void SliderEditFrameDouble::setDecimals(int prec)
     d->spinBox()->setRange(d->toValue(lowest), d->toValue(highest));
 
     d->setScale(lowest, highest);
-    if (d->singleStep() > d->minPrecision && !d->isLogarithmic()) {
+    if (d->singleStep() > Internal::minPrecision && !d->isLogarithmic()) {
         const QSignalBlocker sliderBlocker(d->slider());
         d->slider()->setSingleStep(d->toPosition(d->singleStep()));
     }

@@ -11,6 +11,9 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
+// Values closer than this are equal; bounds are nudged up by it.
+constexpr double minPrecision = 1e-8;
+
 // The slider's positions are the value times the magnification.
 class SliderEditDoublePrivate : public SliderEngine<SliderEditDoublePrivate, SliderEditFrameDouble,
                                                     Ui::SliderEditFrameDouble, double>
@@ -44,9 +47,6 @@ public:
     // Of the slider, in positions of a linear scale.
     int sliderStep() const { return qMax(1, toPosition(m_dSingleStep)); }
     void setSingleStep(double step) { m_dSingleStep = step; }
-
-    // Values closer than this are equal; bounds are nudged up by it.
-    static constexpr double minPrecision = 1e-8;
 
 private Q_SLOTS:
     // The interface fixes all thirteen.
