@@ -15,17 +15,28 @@ class SliderEditPrivate;
 
 /*!
     \class SliderEditFrame slidereditframe.h vantorslider/slidereditframe.h
-    \brief A labelled editor for an integer parameter: name, slider, spin box, minus and
-    plus button in one row.
+    \brief A labelled editor for an \c int parameter: label, slider, spin box, minus and plus
+    button in one row.
 
-    The spin box takes a typed arithmetic expression. valueChanged() reports what the user did
-    through the row's children, never what the setters did: no setter emits anything, even where
-    it clamps the value. Hiding or disabling the slider ends a drag, whose last value is
-    reported then.
+    Use it where an operator both drags a value and types it, by mouse, touch or keyboard. For
+    \c double values there is SliderEditFrameDouble. Set the range before the value:
+
+    \code
+    auto *gain = new SliderEditFrame(this);
+    gain->setLabelText(tr("Gain"));
+    gain->setRange(0, 255);
+    gain->setValue(40);
+    connect(gain, &SliderEditFrame::valueChanged, mixer, &Mixer::setGain);
+    \endcode
+
+    The spin box accepts a typed arithmetic expression. valueChanged() reports changes by the
+    user only: no setter emits a signal, even where it clamps the value. Hiding or disabling the
+    slider ends a drag and reports its last value.
 
     Style sheets select on the dynamic properties "isSliderFrame" of the frame,
     "isSliderEditSubtract" and "isSliderEditPlus" of the buttons, and on the children's object
-    names "labelName", "slider", "spinBox", "sliderEditSubtract" and "sliderEditPlus".
+    names "labelName", "slider", "spinBox", "sliderEditSubtract" and "sliderEditPlus". A width
+    that a style sheet gives a child takes precedence over one that the host sets.
 */
 class VANTORSLIDER_EXPORT SliderEditFrame : public QFrame
 {
@@ -44,222 +55,240 @@ class VANTORSLIDER_EXPORT SliderEditFrame : public QFrame
     Q_PROPERTY(SliderScale sliderScale READ sliderScale WRITE setSliderScale)
 
 public:
-    /*! On which side of a reference value reported values are held. */
+    /*! The side of a reference value on which reported values stay; can be combined. */
     enum ValueChangeDirection : int {
         AllowedToBigger = 2, //!< Values may not fall below the reference.
         AllowedToSmaller = 4, //!< Values may not rise above the reference.
         AllowedToAny = AllowedToBigger | AllowedToSmaller, //!< No restriction; the default.
     };
 
-    /*! How the slider's positions follow the values. \since 1.1 */
+    /*! How the slider maps values to positions. \since 1.1 */
     enum SliderScale : int {
-        LinearScale, //!< Each position is the same distance; the default.
-        LogarithmicScale, //!< Each position is the same factor, for ranges of several decades.
+        LinearScale, //!< Each position adds the same amount; the default.
+        LogarithmicScale, //!< Each position multiplies by the same factor, for several decades.
     };
     Q_ENUM(SliderScale)
 
-    /*! Builds a row with Qt's default range of a spin box, 0 to 99. Emits nothing. */
+    /*!
+        Creates a row with the range 0 to 99, value 0, single step 1, page step 10, an empty
+        label, the wheel and auto-repeat off, a linear scale and continuous reporting.
+    */
     explicit SliderEditFrame(QWidget *parent = nullptr);
     ~SliderEditFrame() override;
 
     /*!
-        Sets the distance between label and slider to \a nLabelSlider and the
-        distances from the slider to the spin box and on to the buttons to
-        \a nSliderButton, in pixels.
+        Sets the gap between label and slider to \a nLabelSlider, and the gaps between slider
+        and spin box and between spin box and buttons to \a nSliderButton, in pixels.
     */
     void setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton);
 
     /*!
-        Shows \a text as the row's name. It also becomes the accessible name of the row, its
-        slider and its spin box, and with a minus or plus sign that of the buttons.
+        Shows \a text in the label; empty by default. It also becomes the accessible name of the
+        row, the slider and the spin box, and, followed by a minus or plus sign, of the buttons.
     */
     void setLabelText(const QString &text);
 
-    /*! The text shown as the row's name. */
+    /*! Returns the label's text. */
     QString labelText() const;
 
-    /*! Limits the label's width to \a maxw at most and \a minw at least, in pixels. */
+    /*! Sets the label's maximum width to \a maxw and its minimum width to \a minw pixels. */
     void setLabelWidthRange(int maxw, int minw);
 
-    /*! Makes the label \a w pixels wide. */
+    /*! Makes the label \a w pixels wide; by default it is as wide as its text. */
     void setLabelFixedWidth(int w);
 
-    /*! Limits each button's width to \a maxw at most and \a minw at least, in pixels. */
+    /*! Sets each button's maximum width to \a maxw and its minimum width to \a minw pixels. */
     void setButtonWidthRange(int maxw, int minw);
 
-    /*! Makes each button \a w pixels wide. */
+    /*! Makes each button \a w pixels wide; 49 by default. */
     void setButtonFixedWidth(int w);
 
-    /*! Limits the spin box's width to \a maxw at most and \a minw at least, in pixels. */
+    /*! Sets the spin box's maximum width to \a maxw and its minimum width to \a minw pixels. */
     void setSpinBoxWidthRange(int maxw, int minw);
 
-    /*! Makes the spin box \a w pixels wide. */
+    /*! Makes the spin box \a w pixels wide; 65 by default. */
     void setSpinBoxFixedWidth(int w);
 
-    /*! Lets the wheel step the spin box while it has the focus, if \a b is true; off at first. */
+    /*!
+        Lets the wheel step the spin box while it has the focus, if \a b is true; false by
+        default. A wheel event that is not used goes to the parent widget. The slider never
+        uses it.
+    */
     void setSpinBoxWheelEnable(bool b);
 
-    /*! What the field does otherwise with what the user enters, all off at first. \since 1.1 */
+    /*! Sets how the spin box handles what the user types; none by default. \since 1.1 */
     void setEntryOptions(EntryOptions options);
 
-    /*! The options that are on. \since 1.1 */
+    /*! Returns the options that are set. \since 1.1 */
     EntryOptions entryOptions() const;
 
     /*!
-        Shows or hides the slider; without it the other children stay packed beside the label.
-        Hiding it ends a drag, whose last value is reported then.
+        Shows or hides the slider; without it the other children stay beside the label. Hiding
+        it ends a drag and reports its last value.
     */
     void setSliderVisible(bool b);
 
-    /*! Shows or hides both buttons. */
+    /*! Shows or hides both buttons; they are visible by default. */
     void setButtonVisible(bool b);
 
-    /*! Sets the slider's property \a name to \a value, for style sheets that select on it. */
+    /*! Sets the slider's dynamic property \a name to \a value, for style sheets. */
     void setSliderProperty(const char *name, const QVariant &value);
 
     /*!
-        Gives the keyboard focus to the spin box and selects its text, as if the user had
-        clicked into it. \since 1.1
+        Gives the keyboard focus to the spin box and selects its text. \since 1.1
     */
     void setFieldFocus();
 
     /*!
-        Shows \a val on slider and spin box, clamped to their range, and hands the range to the
-        spin box's calculator. Emits nothing.
+        Shows \a val on slider and spin box, clamped to their range. From now on the results of
+        typed expressions are clamped to that range. Emits nothing.
     */
     void setValue(int val);
 
-    /*! The value that the spin box holds. */
+    /*! Returns the current value, which the spin box holds. */
     int value();
 
     /*!
-        Shows \a text in front of the number in the spin box; empty at first. An entry that is
-        pending stays. Emits nothing. \since 1.1
+        Shows \a text before the number in the spin box; empty by default. Text that the user is
+        typing stays. Emits nothing. \since 1.1
     */
     void setPrefix(const QString &text);
 
-    /*! The text in front of the number. \since 1.1 */
+    /*! Returns the text before the number. \since 1.1 */
     QString prefix() const;
 
     /*!
-        Shows \a text behind the number in the spin box; empty at first. An entry that is
-        pending stays. Emits nothing. \since 1.1
+        Shows \a text, such as a unit, after the number in the spin box; empty by default. Text
+        that the user is typing stays. Emits nothing. \since 1.1
     */
     void setSuffix(const QString &text);
 
-    /*! The text behind the number. \since 1.1 */
+    /*! Returns the text after the number. \since 1.1 */
     QString suffix() const;
 
     /*!
-        Sets the range of slider and spin box to \a min up to \a max; an inverted range becomes
-        \a min alone. A value outside is clamped. Emits nothing. The calculator learns the new
-        range from the next setValue(). The handle of a range of exactly 2 to the 31st steps
-        begins one above \a min.
+        Sets the range of slider and spin box to \a min to \a max, 0 to 99 by default. If
+        \a max is below \a min, \a min is the only value. A value outside the range is clamped.
+        Emits nothing.
+
+        Call setValue() afterwards: until then results of typed expressions are clamped to the
+        previous range, too. In a range of exactly 2^31 steps the slider starts at \a min + 1.
     */
     void setRange(int min, int max);
 
-    /*! Sets the lower end of the range to \a min, raising the upper one to it; as setRange(). */
+    /*! Sets the minimum to \a min and raises the maximum to it if it is below; see setRange(). */
     void setMinimum(int min);
 
-    /*! Sets the upper end of the range to \a max, lowering the lower one to it; as setRange(). */
+    /*! Sets the maximum to \a max and lowers the minimum to it if it is above; see setRange(). */
     void setMaximum(int max);
 
-    /*! The lower end of the range. */
+    /*! Returns the minimum of the range. */
     int minimum() const;
 
-    /*! The upper end of the range. */
+    /*! Returns the maximum of the range. */
     int maximum() const;
 
     /*!
-        Makes \a val the value that a double click or double tap on the label goes back to, as
-        an edit of the user: it is reported once, held in the range and on the allowed side. The
-        label carries the property "isResettable" from then on, a cursor and, unless the host
-        has set another, a tool tip; a screen reader finds the action "Reset" of the row.
-        There is none at first. Emits nothing. \since 1.1
+        Sets the default value to \a val; there is none by default. Emits nothing.
+
+        A double click or double tap on the label then resets the value. That is an edit by the
+        user: valueChanged() reports it once, clamped to the range and the allowed direction,
+        unless the value is shown already. The label gets the dynamic property "isResettable", a
+        cursor and, unless the host has set one, a tool tip. Assistive technology finds the
+        action "Reset" on the row. \since 1.1
     */
     void setDefaultValue(int val);
 
-    /*! The value to go back to; 0 where there is none. \since 1.1 */
+    /*! Returns the default value, or 0 if there is none. \since 1.1 */
     int defaultValue() const;
 
-    /*! Whether there is a value to go back to. \since 1.1 */
+    /*! Returns whether there is a default value. \since 1.1 */
     bool hasDefaultValue() const;
 
     /*!
-        Makes the slider's scale \a scale, LinearScale at first. A logarithmic one has the
-        positions 0 to 1,000: handle, groove and arrow keys of the slider move by them, an arrow
-        key by one. Buttons and entries reach every value as before. Emits nothing.
+        Sets the slider's scale to \a scale, LinearScale by default. A logarithmic scale has the
+        positions 0 to 1,000; the page step counts them, and an arrow key on the slider moves by
+        one. Buttons and typed values still reach every value. Emits nothing.
 
-        Set the range first. One that is not above 0 has no logarithm: it is reported by a
-        warning in Qt's log, and the scale stays or becomes linear. Later ranges and decimals
-        keep the scale. \since 1.1
+        Set the range first; later ranges keep the scale. If the minimum is 0 or less, now or
+        later, a warning is logged and the scale stays or becomes linear. \since 1.1
     */
     void setSliderScale(SliderScale scale);
 
-    /*! The slider's scale. \since 1.1 */
+    /*! Returns the slider's scale. \since 1.1 */
     SliderScale sliderScale() const;
 
     /*!
-        Sets the step of buttons, arrow keys and wheel to \a val. A negative one is ignored by
-        the spin box; the slider's own step becomes its absolute value.
+        Sets the step of buttons, arrow keys and wheel to \a val, 1 by default. The buttons and
+        the spin box ignore a negative step; the slider takes its absolute value.
     */
     void setSingleStep(int val);
 
-    /*! The step of the buttons. */
+    /*! Returns the step of the buttons and the spin box. */
     int singleStep();
 
-    /*! Sets the step of a click on the slider's groove to \a val. */
+    /*! Sets the step of a click on the slider's groove to \a val, 10 by default. */
     void setPageStep(int val);
 
-    /*! The step of a click on the slider's groove. */
+    /*! Returns the step of a click on the slider's groove. */
     int pageStep() const;
 
-    /*! Lets a held button repeat its step, if \a b is true. Each repetition is reported. */
+    /*!
+        Lets a button that is held down repeat its step, if \a b is true; false by default. Each
+        repetition emits valueChanged().
+    */
     void setAutoRepeat(bool b);
 
     /*!
-        Whether a held button repeats its step; setReleaseMode() and setTimeSamplingRate() switch
-        it, too. \since 1.1
+        Returns whether a button that is held down repeats its step. setReleaseMode() and
+        setTimeSamplingRate() change it, too. \since 1.1
     */
     bool autoRepeat() const;
 
-    /*! Sets the time before a held button repeats to \a val milliseconds. */
+    /*! Sets the time until a held button first repeats to \a val ms; Qt's 300 by default. */
     void setAutoRepeatDelay(int val);
 
-    /*! Sets the time between a held button's repetitions to \a val milliseconds. */
+    /*! Sets the time between a held button's repetitions to \a val ms; Qt's 100 by default. */
     void setAutoRepeatInterval(int val);
 
     /*!
-        Reports a drag once, when the handle is let go, if \a b is true. Release mode switches
-        the buttons' auto-repeat off, leaving it switches it on.
+        Reports a drag once, when the handle is released, if \a b is true; false by default.
+        Until then the spin box keeps the old value. Also turns the buttons' auto-repeat off if
+        \a b is true, and on if it is false.
     */
     void setReleaseMode(bool b);
 
-    /*! True in release mode; false at first. \since 1.1 */
+    /*! Returns whether release mode is on. \since 1.1 */
     bool isReleaseMode() const;
 
     /*!
-        Reports a drag at most once every \a val milliseconds and at its end. Leaves release
-        mode, which switches the buttons' auto-repeat on. Nothing switches sampling off again.
+        Reports a drag at most once every \a val milliseconds and at its end; off by default.
+        Turns release mode off and the buttons' auto-repeat on. Sampling can't be turned off
+        again. With 0 each pass of the event loop may report. A negative rate is invalid: Qt logs
+        a warning at each press of the handle, and only the end of the drag is sure to be
+        reported.
     */
     void setTimeSamplingRate(int val);
 
-    /*! The milliseconds of time sampling; 0 while it is off, as at first. \since 1.1 */
+    /*! Returns the sampling rate in milliseconds, or 0 while sampling is off. \since 1.1 */
     int timeSamplingRate() const;
 
     /*!
-        Holds every reported value on one side of \a val. \a directions is a combination of
-        ValueChangeDirection; anything without AllowedToBigger means AllowedToSmaller. The value
-        shown now does not change.
+        Keeps every value that the user sets on one side of \a val. \a directions combines flags
+        of ValueChangeDirection, AllowedToAny by default; any value without AllowedToBigger acts
+        as AllowedToSmaller. The current value does not change. Emits nothing.
     */
     void setValueChangeDirection(int directions, int val);
 
-    /*! True while the pointer holds the slider; false as soon as it leaves it. */
+    /*!
+        Returns whether a mouse button is down on the slider; false as soon as the pointer
+        leaves it.
+    */
     bool isMousePressed() const;
 
 public Q_SLOTS:
     /*!
-        Shows the default value, held in the range; does nothing where there is none. Emits
+        Shows the default value, clamped to the range; does nothing if there is none. Emits
         nothing. \since 1.1
     */
     void resetValue();
@@ -268,40 +297,39 @@ Q_SIGNALS:
     /*!
         The user changed the value to \a val.
 
-        When it is emitted during a drag is decided by setReleaseMode() and
-        setTimeSamplingRate(). A value held at the reference of setValueChangeDirection() is
-        emitted on every attempt to pass it.
+        setReleaseMode() and setTimeSamplingRate() decide when it is emitted during a drag. Each
+        attempt to pass the reference of setValueChangeDirection() emits the reference.
 
-        A receiver that does away with the editor calls deleteLater(): above the signal may
-        stand functions of QSlider or QSpinBox that go on with it.
+        To delete the editor from a receiver, call deleteLater(): functions of QSlider or
+        QSpinBox on the call stack still use their object after the signal.
     */
     void valueChanged(int val);
 
     /*!
-        The user begins an edit: what is done in one go, such as a drag from press to release, a
-        held button with all its repetitions, an entry from its first key to its end, or one
-        click, key or wheel step. value() is still the one of before.
+        The user starts an edit: a drag from press to release, a held button with all its
+        repetitions, typing from the first key to its end, or one click, key or wheel step.
+        value() still returns the old value. Use it to open one undo command for each edit.
 
-        The two signals come strictly in pairs, never nested, and valueChanged() between them
-        only; an edit may end without one. Nothing that the program does begins an edit.
+        The two signals are always paired and never nested. valueChanged() comes only between
+        them; an edit may end without it. Calls by the program never start an edit.
 
         \since 1.1
     */
     void editStarted();
 
     /*!
-        The edit is over; its last valueChanged() has come. Hiding or disabling the row, or a
-        dialog that blocks it, ends an edit, too.
+        The edit has ended, after its last valueChanged(). Hiding or disabling the row, or a
+        modal dialog that blocks it, also ends an edit.
 
         \since 1.1
     */
     void editFinished();
 
 protected:
-    /*! Selects the spin box's text when the user enters it. */
+    /*! Selects the text of an entered spin box; resets on a double click on the label. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    /*! The sampling tick. */
+    /*! Reports a drag at each tick of time sampling. */
     void timerEvent(QTimerEvent *event) override;
 
 private:

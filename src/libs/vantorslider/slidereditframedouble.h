@@ -15,16 +15,28 @@ class SliderEditDoublePrivate;
 
 /*!
     \class SliderEditFrameDouble slidereditframedouble.h vantorslider/slidereditframedouble.h
-    \brief A labelled editor for a floating-point parameter: the twin of SliderEditFrame
-    for \c double values with a given number of decimals.
+    \brief A labelled editor for a \c double parameter: label, slider, spin box, minus and plus
+    button in one row.
 
-    The slider works in whole positions: the value times 10 to the power of the decimals. Values
-    that would leave \c int there stop at its ends, so the range times that power should stay
-    within \c int. Values that are not a number are ignored by every setter.
+    Use it like SliderEditFrame, for values with a fixed number of decimals. Set decimals and
+    step before the range, and the range before the value:
 
-    valueChanged() reports what the user did, never what the setters did. The dynamic properties
-    and object names are those of SliderEditFrame, except that the spin box is named
-    "doubleSpinBox".
+    \code
+    auto *gain = new SliderEditFrameDouble(this);
+    gain->setLabelText(tr("Gain"));
+    gain->setDecimals(1);
+    gain->setSingleStep(0.5);
+    gain->setRange(-60.0, 12.0);
+    gain->setValue(0.0);
+    connect(gain, &SliderEditFrameDouble::valueChanged, channel, &Channel::setGain);
+    \endcode
+
+    A slider position is the value times 10 to the power of the decimals, clamped to the range
+    of \c int. valueChanged() reports changes by the user only: no setter emits a signal. Every
+    setter ignores NaN.
+
+    Style sheets select on the dynamic properties and object names of SliderEditFrame; the spin
+    box is named "doubleSpinBox".
 */
 class VANTORSLIDER_EXPORT SliderEditFrameDouble : public QFrame
 {
@@ -45,237 +57,250 @@ class VANTORSLIDER_EXPORT SliderEditFrameDouble : public QFrame
     Q_PROPERTY(SliderScale sliderScale READ sliderScale WRITE setSliderScale)
 
 public:
-    /*! On which side of a reference value reported values are held. */
+    /*! The side of a reference value on which reported values stay; can be combined. */
     enum ValueChangeDirection : int {
         AllowedToBigger = 2, //!< Values may not fall below the reference.
         AllowedToSmaller = 4, //!< Values may not rise above the reference.
         AllowedToAny = AllowedToBigger | AllowedToSmaller, //!< No restriction; the default.
     };
 
-    /*! How the slider's positions follow the values. \since 1.1 */
+    /*! How the slider maps values to positions. \since 1.1 */
     enum SliderScale : int {
-        LinearScale, //!< Each position is the same distance; the default.
-        LogarithmicScale, //!< Each position is the same factor, for ranges of several decades.
+        LinearScale, //!< Each position adds the same amount; the default.
+        LogarithmicScale, //!< Each position multiplies by the same factor, for several decades.
     };
     Q_ENUM(SliderScale)
 
     /*!
-        Builds a row with two decimals and Qt's default range of a spin box, 0 to 99.99. Until
-        the first call that sets decimals or a range, a slider position is the value rounded to
-        a whole number.
+        Creates a row with 2 decimals, the range 0 to 99.99, value 0, single step 1, page step
+        10, an empty label, the wheel and auto-repeat off, a linear scale and continuous
+        reporting. Until the first call that sets decimals or a range, a slider position is the
+        value rounded to a whole number, 0 to 99.
     */
     explicit SliderEditFrameDouble(QWidget *parent = nullptr);
     ~SliderEditFrameDouble() override;
 
-    /*! As SliderEditFrame::setHorizontalSpacing(). */
+    /*! See SliderEditFrame::setHorizontalSpacing(); in pixels. */
     void setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton);
 
-    /*! As SliderEditFrame::setLabelText(). */
+    /*! Shows \a text in the label, see SliderEditFrame::setLabelText(). */
     void setLabelText(const QString &text);
 
-    /*! The text shown as the row's name. */
+    /*! Returns the label's text. */
     QString labelText() const;
 
-    /*! Limits the label's width to \a maxw at most and \a minw at least, in pixels. */
+    /*! Sets the label's maximum width to \a maxw and its minimum width to \a minw pixels. */
     void setLabelWidthRange(int maxw, int minw);
 
-    /*! Makes the label \a w pixels wide; 80 at first. */
+    /*! Makes the label \a w pixels wide; 80 by default. */
     void setLabelFixedWidth(int w);
 
-    /*! Limits each button's width to \a maxw at most and \a minw at least, in pixels. */
+    /*! Sets each button's maximum width to \a maxw and its minimum width to \a minw pixels. */
     void setButtonWidthRange(int maxw, int minw);
 
-    /*! Makes each button \a w pixels wide. */
+    /*! Makes each button \a w pixels wide; 51 by default. */
     void setButtonFixedWidth(int w);
 
-    /*! Limits the spin box's width to \a maxw at most and \a minw at least, in pixels. */
+    /*! Sets the spin box's maximum width to \a maxw and its minimum width to \a minw pixels. */
     void setSpinBoxWidthRange(int maxw, int minw);
 
-    /*! Makes the spin box \a w pixels wide. */
+    /*! Makes the spin box \a w pixels wide; 65 by default. */
     void setSpinBoxFixedWidth(int w);
 
-    /*! As SliderEditFrame::setSpinBoxWheelEnable(). */
+    /*! Lets the wheel step the spin box, see SliderEditFrame::setSpinBoxWheelEnable(). */
     void setSpinBoxWheelEnable(bool b);
 
-    /*! What the field does otherwise with what the user enters, all off at first. \since 1.1 */
+    /*! Sets how the spin box handles what the user types; none by default. \since 1.1 */
     void setEntryOptions(EntryOptions options);
 
-    /*! The options that are on. \since 1.1 */
+    /*! Returns the options that are set. \since 1.1 */
     EntryOptions entryOptions() const;
 
-    /*! As SliderEditFrame::setSliderVisible(). */
+    /*! Shows or hides the slider, see SliderEditFrame::setSliderVisible(). */
     void setSliderVisible(bool b);
 
-    /*! Shows or hides both buttons. \since 1.1 */
+    /*! Shows or hides both buttons; they are visible by default. \since 1.1 */
     void setButtonVisible(bool b);
 
-    /*! Sets the slider's property \a name to \a value, for style sheets that select on it. */
+    /*! Sets the slider's dynamic property \a name to \a value, for style sheets. */
     void setSliderProperty(const char *name, const QVariant &value);
 
     /*!
-        Gives the keyboard focus to the spin box and selects its text, as if the user had
-        clicked into it. \since 1.1
+        Gives the keyboard focus to the spin box and selects its text. \since 1.1
     */
     void setFieldFocus();
 
     /*!
-        Shows \a val, rounded to the decimals and clamped to the range, and hands the range to
-        the spin box's calculator. Emits nothing; not a number is ignored.
+        Shows \a val, rounded to the decimals and clamped to the range. From now on the results
+        of typed expressions are clamped to that range. NaN is ignored. Emits nothing.
     */
     void setValue(double val);
 
-    /*! The value that the spin box holds. */
+    /*! Returns the current value, which the spin box holds. */
     double value();
 
     /*!
-        Shows \a text in front of the number in the spin box; empty at first. An entry that is
-        pending stays. Emits nothing. \since 1.1
+        Shows \a text before the number in the spin box; empty by default. Text that the user is
+        typing stays. Emits nothing. \since 1.1
     */
     void setPrefix(const QString &text);
 
-    /*! The text in front of the number. \since 1.1 */
+    /*! Returns the text before the number. \since 1.1 */
     QString prefix() const;
 
     /*!
-        Shows \a text behind the number in the spin box; empty at first. It is away while the field
-       has the focus, so that a bare number is edited. An entry that is pending stays. Emits
-       nothing. \since 1.1
+        Shows \a text, such as a unit, after the number in the spin box; empty by default. It is
+        hidden while the spin box has the focus. Text that the user is typing stays. Emits
+        nothing. \since 1.1
     */
     void setSuffix(const QString &text);
 
-    /*! The text behind the number, also while it is away. \since 1.1 */
+    /*! Returns the text after the number, also while it is hidden. \since 1.1 */
     QString suffix() const;
 
     /*!
-        Sets the range to \a min up to \a max, each rounded to the decimals. A value outside is
-        clamped. Emits nothing. The calculator learns the new range from the next setValue(),
-        the handle its new place.
+        Sets the range to \a min to \a max, each rounded to the decimals; 0 to 99.99 by default.
+        If \a max is below \a min, \a min is the only value. A value outside the range is clamped.
+        The call is ignored if either is NaN. Emits nothing.
+
+        Call setValue() afterwards: until then the handle keeps its position, and results of
+        typed expressions are clamped to the previous range, too.
     */
     void setRange(double min, double max);
 
-    /*! Sets the lower end of the range to \a min; otherwise as setRange(). */
+    /*! Sets the minimum to \a min and raises the maximum to it if it is below; see setRange(). */
     void setMinimum(double min);
 
-    /*! Sets the upper end of the range to \a max; otherwise as setRange(). */
+    /*! Sets the maximum to \a max and lowers the minimum to it if it is above; see setRange(). */
     void setMaximum(double max);
 
-    /*! The lower end of the range. */
+    /*! Returns the minimum of the range. */
     double minimum() const;
 
-    /*! The upper end of the range. */
+    /*! Returns the maximum of the range. */
     double maximum() const;
 
     /*!
-        Shows \a prec decimals, none where it is negative, and scales slider range and step by
-        10 to the power of \a prec. Range and value are rounded to the new decimals. The handle
-        keeps its position until the next setValue(). Emits nothing.
+        Sets the number of decimals to \a prec, 2 by default; a negative one acts as 0. Slider
+        range and step are scaled by 10 to the power of \a prec. Range and value are rounded to
+        the new decimals. The handle keeps its position until the next setValue(). Emits
+        nothing.
     */
     void setDecimals(int prec);
 
-    /*! The number of decimals shown. */
+    /*! Returns the number of decimals. */
     int decimals() const;
 
-    /*! As SliderEditFrame::setDefaultValue(); not a number is ignored. \since 1.1 */
+    /*! Sets the default value, see SliderEditFrame::setDefaultValue(). Ignores NaN. \since 1.1 */
     void setDefaultValue(double val);
 
-    /*! The value to go back to; 0 where there is none. \since 1.1 */
+    /*! Returns the default value, or 0 if there is none. \since 1.1 */
     double defaultValue() const;
 
-    /*! Whether there is a value to go back to. \since 1.1 */
+    /*! Returns whether there is a default value. \since 1.1 */
     bool hasDefaultValue() const;
 
     /*!
-        Makes the slider's scale \a scale, LinearScale at first. A logarithmic one has the
-        positions 0 to 1,000: handle, groove and arrow keys of the slider move by them, an arrow
-        key by one. Buttons and entries reach every value as before. Emits nothing.
+        Sets the slider's scale to \a scale, LinearScale by default. A logarithmic scale has the
+        positions 0 to 1,000; the page step counts them, and an arrow key on the slider moves by
+        one. Buttons and typed values still reach every value. Emits nothing.
 
-        Set the range first. One that is not above 0 has no logarithm: it is reported by a
-        warning in Qt's log, and the scale stays or becomes linear. Later ranges and decimals
-        keep the scale. \since 1.1
+        Set the range first; later ranges and decimals keep the scale. If the minimum is 0 or
+        less, now or later, a warning is logged and the scale stays or becomes linear.
+        \since 1.1
     */
     void setSliderScale(SliderScale scale);
 
-    /*! The slider's scale. \since 1.1 */
+    /*! Returns the slider's scale. \since 1.1 */
     SliderScale sliderScale() const;
 
     /*!
-        Sets the step of buttons, arrow keys and wheel to \a val. The slider's own step, for its
-        arrow keys, follows with the next call that sets decimals or a range: set the step
-        before them.
+        Sets the step of buttons, arrow keys and wheel to \a val, 1 by default. The buttons and
+        the spin box ignore a negative step. NaN is ignored. Set the step before decimals and
+        range: the slider's arrow keys take it over with the next call that sets those.
     */
     void setSingleStep(double val);
 
-    /*! The step of the buttons. */
+    /*! Returns the step of the buttons and the spin box. */
     double singleStep() const;
 
-    /*! Sets the step of a click on the slider's groove to \a val slider positions. */
+    /*! Sets the step of a click on the groove to \a val slider positions, 10 by default. */
     void setPageStep(int val);
 
-    /*! The step of a click on the slider's groove, in slider positions. */
+    /*! Returns the step of a click on the groove, in slider positions. */
     int pageStep() const;
 
-    /*! As SliderEditFrame::setAutoRepeat(). */
+    /*! Lets a held button repeat its step, see SliderEditFrame::setAutoRepeat(). */
     void setAutoRepeat(bool b);
 
     /*!
-        Whether a held button repeats its step; setReleaseMode() and setTimeSamplingRate() switch
-        it, too. \since 1.1
+        Returns whether a button that is held down repeats its step. setReleaseMode() and
+        setTimeSamplingRate() change it, too. \since 1.1
     */
     bool autoRepeat() const;
 
-    /*! As SliderEditFrame::setAutoRepeatDelay(). */
+    /*! Sets the time until a held button first repeats to \a val ms; Qt's 300 by default. */
     void setAutoRepeatDelay(int val);
 
-    /*! As SliderEditFrame::setAutoRepeatInterval(). */
+    /*! Sets the time between a held button's repetitions to \a val ms; Qt's 100 by default. */
     void setAutoRepeatInterval(int val);
 
-    /*! As SliderEditFrame::setReleaseMode(); the spin box follows the handle meanwhile. */
+    /*!
+        Reports a drag once, when the handle is released, see SliderEditFrame::setReleaseMode().
+        Here the spin box follows the handle during the drag.
+    */
     void setReleaseMode(bool b);
 
-    /*! True in release mode; false at first. \since 1.1 */
+    /*! Returns whether release mode is on. \since 1.1 */
     bool isReleaseMode() const;
 
-    /*! As SliderEditFrame::setTimeSamplingRate(). */
+    /*! Reports a drag every \a val ms at most, see SliderEditFrame::setTimeSamplingRate(). */
     void setTimeSamplingRate(int val);
 
-    /*! The milliseconds of time sampling; 0 while it is off, as at first. \since 1.1 */
+    /*! Returns the sampling rate in milliseconds, or 0 while sampling is off. \since 1.1 */
     int timeSamplingRate() const;
 
-    /*! As SliderEditFrame::setValueChangeDirection(); the reference \a val is a whole number. */
+    /*!
+        Keeps every value that the user sets on one side of the whole number \a val, see
+        SliderEditFrame::setValueChangeDirection().
+    */
     void setValueChangeDirection(int directions, int val);
 
-    /*! True while the pointer holds the slider; false as soon as it leaves it. \since 1.1 */
+    /*!
+        Returns whether a mouse button is down on the slider; false as soon as the pointer
+        leaves it. \since 1.1
+    */
     bool isMousePressed() const;
 
 public Q_SLOTS:
     /*!
-        Shows the default value, held in the range; does nothing where there is none. Emits
+        Shows the default value, clamped to the range; does nothing if there is none. Emits
         nothing. \since 1.1
     */
     void resetValue();
 
 Q_SIGNALS:
-    /*! The user changed the value to \a val. */
+    /*! The user changed the value to \a val, see SliderEditFrame::valueChanged(). */
     void valueChanged(double val);
 
-    /*! As SliderEditFrame::editStarted(). \since 1.1 */
+    /*! The user starts an edit, see SliderEditFrame::editStarted(). \since 1.1 */
     void editStarted();
 
-    /*! As SliderEditFrame::editFinished(). \since 1.1 */
+    /*! The edit has ended, see SliderEditFrame::editFinished(). \since 1.1 */
     void editFinished();
 
 protected:
-    /*! Selects the spin box's text when the user enters it. */
+    /*! Selects the text of an entered spin box; resets on a double click on the label. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    /*! The sampling tick. */
+    /*! Reports a drag at each tick of time sampling. */
     void timerEvent(QTimerEvent *event) override;
 
 private:
-    /*! The number of decimals of \a num: 1 for a whole number, 0 where it has more than 10. */
+    /*! Returns the number of decimals of \a num: 1 for a whole number, 0 for more than 10. */
     int getPrecision(float num);
 
-    /*! The power of ten that makes \a num whole, 10 at least and 1 000 000 000 at most. */
+    /*! Returns the power of ten that makes \a num whole, from 10 to 1 000 000 000. */
     int getMagnification(float num);
 
     friend class Internal::EditSpan;
