@@ -12,20 +12,19 @@ namespace Vantor {
 namespace Widgets {
 
 /*!
-    Gives the labels of all visible rows below \a panel one width: what the widest
-    of them needs for its text in its font. The sliders of one panel then begin in
-    one column, whatever editors their rows belong to.
+    Gives the labels of all visible rows in \a panel the width that the widest label text
+    needs. The sliders of the panel then line up in one column, whatever editors their rows
+    belong to. Call it once, before or after adding the editors.
 
-    The width follows when a row's text or font changes, and when a row is shown,
-    hidden, added or deleted, until \a panel is deleted. It replaces what
-    setLabelFixedWidth() and setLabelWidthRange() have set, and what a style sheet
-    says of the label's width; the gap to the slider stays that of
-    setHorizontalSpacing(). A row below a nearer panel that was passed to this
-    function belongs to that one's column; a row in a window of its own to none.
+    The width is updated when a row's text or font changes and when a row is shown, hidden,
+    added or deleted, until \a panel is deleted. It replaces the widths of setLabelFixedWidth(),
+    setLabelWidthRange() and a style sheet; setHorizontalSpacing() still sets the gap to the
+    slider. If panels are nested, a row belongs to the nearest ancestor that was passed to this
+    function. Rows in a separate window are not aligned.
 
-    \a alignment is where the texts stand in the column, Qt::AlignLeft or
-    Qt::AlignRight, mirrored in a layout from right to left. Without it they stay as they are; an
-   editor starts with Qt::AlignRight. A later call for the same panel changes the alignment.
+    \a alignment aligns the texts, Qt::AlignLeft or Qt::AlignRight, and is mirrored in a
+    right-to-left layout. Without it each label keeps its alignment, which is Qt::AlignRight by
+    default. A later call for the same panel changes the alignment.
 
     Emits nothing. A null \a panel does nothing.
 

@@ -8,36 +8,36 @@
 namespace Vantor {
 namespace Widgets {
 
-// Q_NAMESPACE declares it once more; a host that reads the enumeration's names needs it.
+// Exported: a host needs it to read the names of the enumeration. Q_NAMESPACE redeclares it.
 extern VANTORSLIDER_EXPORT const QMetaObject staticMetaObject;
 Q_NAMESPACE
 
 /*!
-    \brief What a number field does otherwise with what the user enters. Each is off until the
-    host asks for it.
+    \brief Options for how a spin box handles what the user types. All are off by default.
+
+    Every editor and both spin boxes have setEntryOptions().
     \since 1.1
 */
 enum EntryOption {
     /*!
-        As many decimals can be typed and are shown as the editor has, and a result is a
-        \c double: an \c int is exact over its whole range, a floating-point editor gets the value
-        of its decimals that is nearest to the result. It is clamped to the range that holds
-        when it is written.
+        The user can type as many decimals as the editor has, instead of 2. Results are computed
+        as \c double, instead of \c float: exact for each \c int, rounded to the decimals of a
+        floating-point editor. They are clamped to the current range.
     */
     ExactEntry = 1,
     /*!
-        A comma is a decimal point, which takes its place as it is typed or pasted. Between the
-        arguments of a function, as in a pasted Math.max(3,7), it stays.
+        A comma that is typed or pasted is replaced by a decimal point. A comma between the
+        arguments of a function stays, as in a pasted Math.max(3,7).
     */
     DecimalComma = 2,
     /*!
-        Escape over a pending or a refused entry shows the value again, all selected, and
-        reports nothing. With nothing pending it goes on to the parent.
+        Escape discards what was typed, or a failed expression, shows the value again with its
+        text selected, and emits no valueChanged(). Otherwise Escape goes to the parent widget.
     */
     EscapeRestores = 4,
     /*!
-        Enter and "=" evaluate and report the entry and leave the focus in the field, with its
-        text selected. With nothing pending Enter goes on to the parent.
+        Enter and "=" evaluate and report what was typed and keep the focus in the spin box,
+        with its text selected. If nothing was typed, Enter goes to the parent widget.
     */
     EnterStays = 8
 };
