@@ -4,7 +4,7 @@
 
 #include <QtWidgets/QFrame>
 
-// The row of a slider editor with Qt's own slider and spin box in it.
+// The row of a slider editor with Qt's own slider and spin box.
 class BareRow : public QFrame
 {
 public:
@@ -31,8 +31,8 @@ public:
     explicit BarePanels(QWidget *parent = nullptr);
 };
 
-// A spin box whose line edit writes its text again at every change, as every
-// field does that corrects what is typed.
+// A spin box whose line edit rewrites its text at every change, like any field that
+// corrects the typed text.
 class RewritingSpinBox : public QSpinBox
 {
 public:

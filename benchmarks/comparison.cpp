@@ -28,8 +28,8 @@ Comparison compare(int rounds, const Sample &ours, const Sample &bare)
     std::vector<double> bareTaken;
     std::vector<double> ratios;
     for (int round = 0; round < rounds; ++round) {
-        // Which of the two comes first changes, for the second finds the
-        // caches and the heap as the first leaves them.
+        // The order alternates: the first sample changes the caches and the heap for the
+        // second.
         const bool oursFirst = round % 2 == 0;
         const Nanoseconds first = oursFirst ? ours() : bare();
         const Nanoseconds second = oursFirst ? bare() : ours();

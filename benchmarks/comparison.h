@@ -6,8 +6,8 @@
 #include <functional>
 #include <vector>
 
-// The processor time of the calling thread: what other programs do meanwhile
-// does not count.
+// The processor time of the calling thread: the time of other programs does not
+// count.
 struct ThreadClock
 {
     using duration = std::chrono::nanoseconds;
@@ -21,8 +21,8 @@ struct ThreadClock
 
 using Nanoseconds = std::chrono::duration<double, std::nano>;
 
-// Does a piece of work once and says what it took; what it prepares and cleans
-// up is not part of that.
+// Does a piece of work once and returns its duration, without preparation and
+// cleanup.
 using Sample = std::function<Nanoseconds()>;
 
 // Times one call of work divided by the number of operations in it.
@@ -41,7 +41,7 @@ struct Comparison
     double ratio;
 };
 
-// Takes the two samples in turns, rounds times, after one of each that warms up.
+// Alternates the two samples, rounds times, after one warm-up of each.
 Comparison compare(int rounds, const Sample &ours, const Sample &bare);
 
 double median(std::vector<double> values);

@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <malloc.h>
 
-// The C library's functions under the names by which they stay reachable.
+// The C library's functions under their internal names, which remain callable.
 extern "C" {
 void *__libc_malloc(std::size_t size);
 void *__libc_calloc(std::size_t count, std::size_t size);
@@ -42,8 +42,8 @@ HeapCount heapCount()
     return {s_bytesHeld.load(), s_allocations.load()};
 }
 
-// Parameters are named as in the C library. operator new, libstdc++'s and Qt's alike, comes here as
-// well.
+// Parameters are named as in the C library. operator new of libstdc++ and of Qt calls these
+// functions, too.
 extern "C" {
 
 void *malloc(std::size_t size)

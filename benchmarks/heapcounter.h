@@ -2,8 +2,8 @@
 
 #include <cstddef>
 
-// What the whole process holds and has asked for: the program's own allocation
-// functions replace the C library's, for Qt too.
+// The heap in use and the number of allocations of the whole process: the program's own
+// allocation functions replace the C library's, for Qt too.
 struct HeapCount
 {
     std::size_t bytesHeld;

@@ -1,6 +1,6 @@
-// Measures the library's editors against the same work done with bare Qt
-// widgets and prints one table. A figure is a ratio within one run, so it
-// depends little on the machine.
+// Compares the library's editors with the same work done by bare Qt widgets
+// and prints one table. A figure is a ratio within one run, so it depends
+// little on the machine.
 
 #include "bareeditors.h"
 #include "comparison.h"
@@ -33,7 +33,7 @@ using namespace Vantor::Widgets;
 namespace {
 
 // Editors built in one sample, moves of one drag, keys in one sample and so on:
-// enough that the clock's own time does not show.
+// enough that the overhead of the clock is negligible.
 constexpr int batch = 50;
 constexpr int rounds = 41;
 
@@ -58,8 +58,8 @@ template <typename Editor> Nanoseconds buildAndDelete()
     });
 }
 
-// What one of many editors takes. As many before them leave free blocks of the
-// right sizes behind: a block that was part of a larger one counts for more.
+// The heap of one of many editors. As many editors, deleted before, leave free blocks of
+// the right sizes: a block that was split off a larger one counts for more.
 template <typename Editor> HeapCount heapOf()
 {
     std::vector<std::unique_ptr<QWidget>> editors(batch);
@@ -109,7 +109,7 @@ template <typename Editor> struct Shown
         layout->addWidget(editor);
         window.show();
         if (!QTest::qWaitForWindowExposed(&window)) {
-            qFatal("The window does not show.");
+            qFatal("The window is not shown.");
         }
     }
 
@@ -117,7 +117,7 @@ template <typename Editor> struct Shown
     Editor *editor = new Editor;
 };
 
-// Before every sample: some of Qt's work takes longer in a window in the background.
+// Before every sample: some of Qt's work takes longer in a background window.
 void activate(const QWidget *widget)
 {
     QWidget *window = widget->window();
@@ -162,7 +162,7 @@ Figure compareSetValue()
 
 // Keys
 
-// A digit at the end of the text and away again.
+// Types a digit at the end of the text and deletes it again.
 Sample typing(QSpinBox *spinBox, const QString &text)
 {
     return [spinBox, text] {
@@ -246,8 +246,8 @@ Figure compareEnter()
 
 // Drags
 
-// Drags the handle forth and back, two pixels a move; reports counts what has
-// arrived at the host.
+// Drags the handle back and forth, two pixels per move; reports counts the signals
+// that the host has received.
 Sample dragging(QSlider *slider, const int *reports)
 {
     return [slider, reports] {
@@ -264,15 +264,15 @@ Sample dragging(QSlider *slider, const int *reports)
             }
         });
         if (*reports != before + 2 * batch) {
-            qFatal("%d moves brought %d reports.", 2 * batch, *reports - before);
+            qFatal("%d moves caused %d reports.", 2 * batch, *reports - before);
         }
         User::releaseAt(slider, start);
         return taken;
     };
 }
 
-// The bare slider stands as deep in its window as the library's, for Qt's share
-// of a move grows with that.
+// The bare slider has the same nesting depth as the library's: Qt's share of a move
+// grows with the depth.
 template <typename Editor, typename Bare, typename Prepare>
 Figure compareDrag(const QString &what, double goal, int maximum, const Prepare &prepare)
 {
@@ -286,7 +286,7 @@ Figure compareDrag(const QString &what, double goal, int maximum, const Prepare 
     QSpinBox *bareField = spinBoxOf(bare.editor);
     bareSlider->setRange(0, maximum);
     bareField->setRange(0, maximum);
-    // The slider's value goes along with the handle, as it does in the library's rows.
+    // The slider's value follows the handle, as in the library's rows.
     bareSlider->setTracking(true);
     QObject::connect(bareSlider, &QSlider::valueChanged, bareField, &QSpinBox::setValue);
     QObject::connect(bareField, QOverload<int>::of(&QSpinBox::valueChanged), bareField,
@@ -348,8 +348,8 @@ template <typename Editor> std::unique_ptr<QWidget> buildPanel(int rowCount)
     return panel;
 }
 
-// Rules of the kinds that a host's sheet has. Both sides' children match the
-// same ones; most match nothing, as in any sheet of a whole application.
+// Rules like those in a host's sheet. The children of both sides match the
+// same rules; most match nothing, as in any sheet of a whole application.
 QString sheetOf200Rules()
 {
     QStringList rules {
@@ -411,14 +411,14 @@ void discardMessages(QtMsgType type, const QMessageLogContext &context, const QS
 
 } // namespace
 
-// Says by its exit code whether every goal is met.
+// The exit code is 0 if every goal is met.
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
-    // The blinking cursor's timer is no part of any of this.
+    // The timer of the blinking cursor would disturb the measurements.
     QApplication::setCursorFlashTime(0);
-    // The entry's two debug messages would be written to the terminal.
+    // The debug messages of an entry would be written to the terminal.
     qInstallMessageHandler(discardMessages);
 
     std::vector<Figure> figures;

@@ -23,7 +23,7 @@ QImage largePicture()
     return picture;
 }
 
-// All that can be between the picture and what is seen.
+// Everything that can change the picture before it is shown.
 Edits everyEdit()
 {
     Edits edits;
@@ -50,7 +50,7 @@ void comparePicture(std::vector<Figure> &figures)
     view.resize(windowSize);
     view.show();
     if (!QTest::qWaitForWindowExposed(&view)) {
-        qFatal("The picture does not show.");
+        qFatal("The picture is not shown.");
     }
     Edits edits = everyEdit();
     const QImage shown(windowSize, QImage::Format_RGB32);

@@ -2,5 +2,6 @@
 
 #include "comparison.h"
 
-// What the gallery takes to show a slider's move in a large picture, at several zooms.
+// The time that the gallery needs to show a slider's move in a large picture, at several
+// zoom levels.
 void comparePicture(std::vector<Figure> &figures);

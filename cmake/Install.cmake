@@ -1,10 +1,10 @@
-# What a host finds after `cmake --install`, by CMake, pkg-config or qmake. All
-# paths in it are relative to the files themselves: the tree can be moved.
+# The files that a host uses after `cmake --install`, with CMake, pkg-config or qmake. All
+# paths in them are relative to the files themselves: the tree can be moved.
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
 
-# The headers stand in a folder vantorslider of the include folder, which is the
-# prefix's own with Qt 5.
+# The headers are in a folder vantorslider of the include folder. With Qt 5 that is the
+# include folder of the prefix.
 set(include_dir ${CMAKE_INSTALL_INCLUDEDIR})
 if(VANTORSLIDER_QT GREATER 5)
     string(APPEND include_dir /${library_name})
@@ -48,6 +48,6 @@ configure_file(${CMAKE_CURRENT_LIST_DIR}/vantorslider.pri.in
 install(FILES ${PROJECT_BINARY_DIR}/${library_name}.pri DESTINATION ${data_dir}
     COMPONENT development)
 
-# The build tree serves a host as an installed one does.
+# A host can use the build tree like an installed one.
 export(EXPORT ${package_name}Targets NAMESPACE VantorSlider::
     FILE ${PROJECT_BINARY_DIR}/${package_name}Targets.cmake)

@@ -1,5 +1,5 @@
-# The colours of touch.qss.in. A text stands out from what is behind it by 4.5 to 1, an
-# edge that tells a state by 3 to 1.
+# The colours of touch.qss.in. The contrast of a text with its background is at least 4.5
+# to 1, that of an edge that shows a state 3 to 1.
 set(text "#e8eaed")
 set(surface "#24272d")
 set(accent "#4da3ff")

@@ -12,7 +12,7 @@
 namespace {
 
 Qt::MouseButtons s_buttons;
-// Where the handle of a held slider was moved to last.
+// The last position of the handle of a pressed slider.
 QPoint s_handlePos;
 
 QPoint inWindow(const QWidget *widget, const QPoint &pos)
@@ -20,9 +20,9 @@ QPoint inWindow(const QWidget *widget, const QPoint &pos)
     return widget->mapTo(widget->window(), pos);
 }
 
-// Hands the event to the window as one that comes from outside: sendEvent() would
-// mark it as the program's own, and a wheel's turn would not go on to the parents.
-// Qt Test has functions for the pointer, too, but they run the event loop each time.
+// Delivers the event to the window as a spontaneous event. sendEvent() would mark it as
+// not spontaneous, and Qt would not propagate a wheel event to the parents. Qt Test has
+// functions for the pointer, too, but they run the event loop each time.
 void report(const QWidget *widget, QEvent *event)
 {
     QSpontaneKeyEvent::setSpontaneous(event);

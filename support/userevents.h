@@ -6,10 +6,10 @@
 class QSlider;
 class QWidget;
 
-// What a user does, as the window system reports it: the pointer enters by the
-// window, so that Qt finds the widget, the grab and the focus; keys go to the
-// widget with the focus, where shortcuts see them first. The event loop does not
-// run in between: what an event leaves for later happens when the caller lets it.
+// The events of a user, as the window system reports them. Pointer events go to the
+// window, so that Qt finds the widget, the grab and the focus. Keys go to the focus
+// widget; shortcuts receive them first. The event loop does not run in between: the
+// caller processes posted events.
 namespace User {
 
 // "\n" is the Return key, "\t" Tab, "\b" Backspace.
@@ -27,7 +27,7 @@ void click(QWidget *widget);
 void turnWheel(QWidget *widget, bool away = true);
 void turnWheelAt(QWidget *widget, const QPoint &pos, bool away = true);
 
-// Where the handle is when the slider stands at the position.
+// The place of the handle if the slider is at the position.
 QRect handleRect(const QSlider *slider, int position);
 void grabHandle(QSlider *slider);
 void moveHandle(QSlider *slider, int position);

@@ -1,8 +1,8 @@
-"""Makes the faults of mutants.txt, one at a time, and says which test functions notice.
+"""Applies the faults of mutants.txt, one at a time, and prints which test functions fail.
 
-Run by tools/mutants with a copy of the source tree to break. After each fault stand the
-functions that fail, each with its data rows; at the end the matrix of functions and
-faults: "#" where another function notices the fault, too, "A" where this one does alone.
+tools/mutants runs it with a copy of the source tree to modify. It prints each fault with
+the functions that fail and their data rows, and at the end the matrix of functions and
+faults: "A" if only this function detects the fault, "#" if others do, too.
 """
 
 import argparse
@@ -15,13 +15,13 @@ import subprocess
 import sys
 
 LIBRARY = pathlib.Path("src/libs/vantorslider")
-# Fewer random gestures: a fault that they find, they find soon.
+# Fewer random gestures: they find a fault soon, or not at all.
 ENVIRONMENT = dict(os.environ, VANTORSLIDER_GESTURES="500", QTEST_FUNCTION_TIMEOUT="40000")
 SECONDS = 120  # for one program
 ENTERED = re.compile(r"^INFO   : (\w+::\w+)\(\) entering$", re.M)
 FAILED = re.compile(r"^(?:FAIL!|XPASS|QFATAL) +: (\w+::\w+)\((.*?)\)(?: |$)", re.M)
-# The tests that take half the time and are about the calculator field alone, and the
-# beginnings of the files that can make a difference to them.
+# The tests that take half the time and test only the calculator field, and the
+# prefixes of the names of files that can affect them.
 CALCULATOR_PROGRAMS = {"tst_lineeditcal", "fuzz_corpus"}
 CALCULATOR_FUNCTIONS = {"tst_Robustness::pastedTexts"}
 CALCULATOR_FILES = re.compile("calculator|expression|hostwindow|qlineeditcal|scriptengine")
@@ -47,7 +47,7 @@ def builds(source, programs, jobs):
 
 
 def read_programs(source, pattern):
-    """Name, command and functions of each; the functions are not known yet."""
+    """Name, command and functions of each program; the functions are not known yet."""
     listing = subprocess.run(["ctest", "--test-dir", "build", "-LE", "packaging", "-R", pattern,
                               "--show-only=json-v1"], cwd=source, check=True,
                              stdout=subprocess.PIPE).stdout
@@ -57,7 +57,7 @@ def read_programs(source, pattern):
 
 
 def run_once(command):
-    """Whether all went well, and what was printed."""
+    """Whether the command succeeded, and its output."""
     try:
         process = subprocess.run(command, env=ENVIRONMENT, timeout=SECONDS,
                                  stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
@@ -68,8 +68,8 @@ def run_once(command):
 
 
 def run(program):
-    """The functions that fail, each with its data rows. Where one of them takes the
-    program with it, the next ones run in a new one."""
+    """The functions that fail, each with its data rows. If one of them crashes the
+    program, the next ones run in a new process."""
     name, command, functions = program
     if not functions:
         return {} if run_once(command)[0] else {name: []}
@@ -79,7 +79,7 @@ def run(program):
                                    + [function.split("::")[1] for function in functions])
         for function, row in FAILED.findall(output):
             rows = failures.setdefault(function, [])
-            if row not in rows:  # a crash is told twice
+            if row not in rows:  # a crash is reported twice
                 rows.append(row)
         if is_good or "Totals: " in output:
             break
@@ -146,7 +146,7 @@ def main():
     if arguments.lines:
         mutants = [mutant for mutant in mutants if mutant[0] in arguments.lines]
     print("== Building and testing without a fault", flush=True)
-    # A test need not be linked anew where only the shared library is.
+    # If only the shared library changes, the tests need not be linked again.
     subprocess.run(["cmake", "-S", ".", "-B", "build", "-G", "Ninja",
                     "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS=-O0 -g0",
                     "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", "-DVANTORSLIDER_BUILD_EXAMPLES=OFF"],

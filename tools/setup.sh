@@ -17,15 +17,15 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 qt5_packages=(
     libqt5svg5-dev qt5-qmake qtbase5-dev qtscript5-dev qttools5-dev qttools5-dev-tools
 )
-# The plug-in that reads the glyphs has a package of its own since Debian 13.
+# The SVG plug-in, which reads the glyphs, has its own package since Debian 13.
 qt6_packages=(
     libgl-dev qmake6 qt6-base-dev qt6-declarative-dev qt6-svg-dev 'qt6-svg-plugins|libqt6svg6'
     qt6-tools-dev qt6-tools-dev-tools
 )
 build_packages=(cmake fonts-dejavu-core g++ make ninja-build pkg-config)
 
-# With VANTORSLIDER_QT=6 a command works on the build for Qt 6, whose presets and
-# folders have this ending.
+# With VANTORSLIDER_QT=6 a command works on the build for Qt 6. Its presets and
+# folders have this suffix.
 case ${VANTORSLIDER_QT:-5} in
 5)
     ending=
@@ -35,7 +35,7 @@ case ${VANTORSLIDER_QT:-5} in
     ending=-qt6
     build_packages+=("${qt6_packages[@]}")
     ;;
-*) fail "VANTORSLIDER_QT is $VANTORSLIDER_QT, and can be 5 or 6" ;;
+*) fail "VANTORSLIDER_QT is $VANTORSLIDER_QT; it must be 5 or 6" ;;
 esac
 
 as_root() {
@@ -46,7 +46,7 @@ as_root() {
     fi
 }
 
-# Says what is done, runs it, and shows its output only where it fails.
+# Prints a title, runs the command, and shows its output only if it fails.
 quietly() {
     local what=$1 start=$SECONDS output
     shift
@@ -67,8 +67,8 @@ apt_install() {
         apt-get install -q --no-install-recommends "$@"
 }
 
-# Sets missing to those of the named Debian packages that are not installed, each
-# once. Of names joined by "|" the first counts that this Debian has, or the last.
+# Sets missing to those of the named Debian packages that are not installed, without
+# duplicates. Of names joined by "|" it takes the first that this Debian has, or the last.
 find_missing() {
     local names name
     missing=()
@@ -84,8 +84,8 @@ find_missing() {
     done
 }
 
-# Installs those of the named Debian packages that are missing, and says first
-# what that will take.
+# Installs those of the named Debian packages that are missing, and first prints
+# their number and size.
 need() {
     local missing plan count fetch disk
     find_missing "$@"
@@ -94,18 +94,18 @@ need() {
         return
     fi
     say "Missing Debian packages: ${missing[*]}"
-    [ -n "$(command -v apt-get)" ] || fail "There is no apt-get here: install the packages by hand"
+    [ -n "$(command -v apt-get)" ] || fail "There is no apt-get here: install the packages manually"
     [ "$(id -u)" -eq 0 ] || [ -n "$(command -v sudo)" ] \
         || fail "To install them, run this as root, or install sudo"
 
     quietly "Reading the lists of packages" as_root apt-get update
-    find_missing "$@" # by what the lists say now
+    find_missing "$@" # with the updated lists
     plan=$(apt_install --assume-no "${missing[@]}" 2>&1) || true
     count=$(sed -nE 's/.* ([0-9]+) newly installed.*/\1/p' <<<"$plan")
     fetch=$(sed -nE 's/^Need to get (.*) of archives.*/\1/p' <<<"$plan")
     disk=$(sed -nE 's/^After this operation, (.*) of additional.*/\1/p' <<<"$plan")
     if [ -z "$count" ]; then
-        # Once more, to be seen: it only warns of an archive that it can't reach.
+        # Again, with visible output: apt-get only warns of an archive that it can't reach.
         as_root apt-get update || true
         fail "apt-get can't install them:"$'\n'"$plan"
     fi
@@ -117,19 +117,19 @@ need() {
     quietly "Installing them" apt_install -y "${missing[@]}"
 }
 
-# The commands that work on the last commit rather than on the files as they are.
+# For commands that work on the last commit, not on the files of the working tree.
 need_clone() {
-    [ -e "$root/.git" ] || fail "$root is no clone, and this works on the last commit of one:" \
+    [ -e "$root/.git" ] || fail "$root is not a Git clone, and this command works on the last commit:" \
         "run it in a clone (git clone), or make the folder one (git init, git add, git commit)"
 }
 
-# Writes the last commit as a tar archive, of a clone of another user's too.
+# Writes the last commit as a tar archive, even if another user owns the clone.
 last_commit() {
     git -c safe.directory="$root" -C "$root" archive HEAD
 }
 
 # Configures and builds a preset of CMakePresets.json in build/<preset>.
-# Further arguments go to the configuration.
+# Further arguments are passed to the configuration.
 build() {
     local preset=$1
     shift

@@ -1,9 +1,9 @@
 #!/usr/bin/python3
-"""Reads the editors as a screen reader does: usage: walk.py GALLERY
+"""Reads the editors like a screen reader. Usage: traverse.py GALLERY
 
-Walks the pages of the gallery over the accessibility bus, finds the children of
-each row by the row's name and in their order, presses the buttons and hears the
-values change. Exits with 1 and says what it found where that differs.
+Traverses the pages of the gallery over the accessibility bus, finds the children of
+each row by the row's name and in their order, presses the buttons and receives the
+events of changed values. Exits with 1 and prints what differs.
 """
 
 import math
@@ -16,7 +16,7 @@ from gi.repository import Gio, GLib
 
 PATIENCE_S = 20
 
-# The rows of each page in their order, and the locks behind the rows of a panel.
+# The rows of each page in their order, and the locks after the rows of a panel.
 PAGES = {
     "Adjust": ["Continuous", "On release", "Every 100 ms", "Contrast", "Gamma", "Saturation",
                "Black level"],
@@ -27,10 +27,10 @@ PAGES = {
                "Red", "Green", "Blue", "Opacity"],
 }
 
-# A step is 1 where it is not this.
+# The steps that are not 1.
 STEPS = {"Gamma": 0.05, "Saturation": 0.05}
 
-# The gallery lets each of these rows show what the user does with another one.
+# In the gallery each of these rows shows the value that the user sets in another one.
 ALIKE = PAGES["Adjust"][:3]
 
 ROLES = {
@@ -51,7 +51,7 @@ def is_showing(accessible):
 
 
 def descendants(accessible):
-    """Those that show: neither another page nor a lock that is switched off."""
+    """The visible children: no other page, and no lock that is disabled."""
     for child in accessible:
         if child is not None and is_showing(child):
             yield child
@@ -59,15 +59,15 @@ def descendants(accessible):
 
 
 def enable_accessibility():
-    """Starts the bus and tells the session, as a screen reader does at its start."""
+    """Starts the bus and notifies the session, as a screen reader does at its start."""
     session = Gio.bus_get_sync(Gio.BusType.SESSION, None)
     status = GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled", GLib.Variant("b", True)))
     session.call_sync(
         "org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set",
         status, None, Gio.DBusCallFlags.NONE, -1, None,
     )
-    # Qt 5 asks for the bus's address and registers before it has the answer, so it
-    # stays away unless it finds the address at the display's root window, too.
+    # Qt 5 requests the address of the bus and registers before it receives the reply: it
+    # does not connect unless the display's root window has the address, too.
     (address,) = session.call_sync(
         "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress",
         None, None, Gio.DBusCallFlags.NONE, -1, None,
@@ -78,7 +78,7 @@ def enable_accessibility():
 
 def find_window(pid):
     desktop = pyatspi.Registry.getDesktop(0)
-    # A desktop that was empty when it was read first stays so in the cache.
+    # The cache keeps a desktop empty if it was empty when it was first read.
     desktop.clear_cache()
     for application in desktop:
         if application is not None and application.get_process_id() == pid:
@@ -89,7 +89,7 @@ def find_window(pid):
 
 
 def wait_for(condition):
-    """Runs the bus until the condition yields something, or patience ends."""
+    """Runs the bus until the condition returns a value, or until the time limit."""
     deadline = time.monotonic() + PATIENCE_S
     context = GLib.MainContext.default()
     while time.monotonic() < deadline:
@@ -116,7 +116,7 @@ def show_page(window, name):
     page = stack[list(PAGES).index(name)]
 
     def is_shown_alone():
-        stack.clear_cache()  # nobody tells it what is hidden now
+        stack.clear_cache()  # it receives no event about what is hidden now
         return [other for other in stack if is_showing(other)] == [page]
 
     if not is_shown_alone():
@@ -128,7 +128,7 @@ def show_page(window, name):
 
 
 def check_focusable(page):
-    """What takes the focus has a name; a field's own text goes by its field's."""
+    """Each focusable widget has a name; a field's line edit has that of its field."""
     focusable = [
         child
         for child in descendants(page)
@@ -201,7 +201,7 @@ def main():
     gallery, window = start(sys.argv[1:])
     heard = []
 
-    # A slider tells its value, a field the text that it shows now.
+    # A slider notifies of its value, a field of the text that it now shows.
     def hear(event):
         if event.source and ROLES.get(event.source.getRole()) in ("field", "slider"):
             heard.append((event.source, event.any_data))
@@ -216,7 +216,7 @@ def main():
             check_names(children, row_names)
             rows = rows_of(children)
             if name == "Crop":
-                # It is the whole picture at first, which can't be moved.
+                # At first it is the whole picture, which can't be moved.
                 for row in rows[2:]:
                     check_change(rows, heard, row, row[3], -1)
             for row in rows:
