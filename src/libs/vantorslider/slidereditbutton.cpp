@@ -6,12 +6,6 @@
 namespace Vantor {
 namespace Widgets {
 
-/*!
-    \class SliderEditButton
-    \brief The minus or plus button of an editor's row: it stops to repeat when
-    it is taken from under the finger.
-*/
-
 SliderEditButton::SliderEditButton(QWidget *parent) : QToolButton(parent) { }
 
 bool SliderEditButton::event(QEvent *event)
@@ -26,8 +20,8 @@ bool SliderEditButton::event(QEvent *event)
     return isHandled;
 }
 
-// No release follows. Where Qt lets the button up itself, it leaves the timer of
-// the repetition running; only switching that off stops it.
+// No release event follows. Where Qt releases the button itself, the auto-repeat timer keeps
+// running; only switching auto-repeat off stops it.
 void SliderEditButton::letGo()
 {
     if (autoRepeat()) {

@@ -33,7 +33,7 @@ QValidator::State SliderEditDoubleSpinBox::validate(QString &text, int &pos) con
 
 double SliderEditDoubleSpinBox::valueFromText(const QString &text) const
 {
-    // The calculator writes two decimals; Qt would hold them all.
+    // A result may have more decimals than the spin box; QDoubleSpinBox would not round it.
     return QString::number(Internal::numberFromText(this, m_pLineEditCal, text), 'f', decimals())
         .toDouble();
 }
@@ -136,20 +136,20 @@ void SliderEditDoubleSpinBox::onSlotResultFinished()
     EditSpan::Scope edit(EditSpan::around(this));
     const QPointer<SliderEditDoubleSpinBox> self(this);
     Q_EMIT editingFinished();
-    // Typed over, it would never be reported.
+    // If the user types over the result, its value would never be reported.
     if (self && entryOptions().testFlag(EnterStays)) {
         interpretText();
         if (self) {
             selectAll();
         }
     }
-    // Where the value is another, the entry is pending until the field is left.
+    // If the value differs, the entry stays pending until the spin box loses the focus.
     if (self && Internal::pendingEntry(this, textFromValue(value())) == Internal::Entry::None) {
         edit.release(EditSpan::Entry);
     }
 }
 
-// Part of the interface, for what a later version may do there.
+// Reserved: a later version can handle the event without changing the virtual table.
 void SliderEditDoubleSpinBox::mousePressEvent(QMouseEvent *event)
 {
     QDoubleSpinBox::mousePressEvent(event);
@@ -164,7 +164,7 @@ void SliderEditDoubleSpinBox::wheelEvent(QWheelEvent *event)
     QDoubleSpinBox::wheelEvent(event);
 }
 
-// Before a shortcut of the host's on the key that restores the value.
+// Takes precedence over a host's shortcut on the key that restores the value.
 bool SliderEditDoubleSpinBox::event(QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride && Internal::isEscape(event)
@@ -207,7 +207,7 @@ void SliderEditDoubleSpinBox::focusInEvent(QFocusEvent *event)
     if (m_btnFirstPress && !suffix().isEmpty()) {
         const bool isNumber = specialValueText().isEmpty() || text() != specialValueText();
         QString number = Internal::FieldText(this, text()).entry;
-        number.remove(suffix()); // wherever it occurs
+        number.remove(suffix()); // each occurrence
         m_strSuffix = suffix();
         setSuffix(QString());
         m_btnFirstPress = false;
@@ -246,7 +246,7 @@ void SliderEditDoubleSpinBox::focusOutEvent(QFocusEvent *event)
     edit.release(EditSpan::Entry);
 }
 
-// Hidden before it loses the focus, the base interprets the text here.
+// If the spin box is hidden while it has the focus, the base class interprets the text here.
 void SliderEditDoubleSpinBox::hideEvent(QHideEvent *event)
 {
     EditSpan::Scope edit(EditSpan::around(this));
@@ -266,7 +266,7 @@ void SliderEditDoubleSpinBox::changeEvent(QEvent *event)
     Internal::keepDecimalPoint(this, event);
 }
 
-// A subclass that sets another line edit has this one deleted.
+// QAbstractSpinBox deletes the line edit when a subclass sets another one.
 void SliderEditDoubleSpinBox::childEvent(QChildEvent *event)
 {
     QDoubleSpinBox::childEvent(event);

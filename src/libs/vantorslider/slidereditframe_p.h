@@ -19,6 +19,8 @@ namespace Internal {
 class HostWindow;
 } // namespace Internal
 
+// The slider of a row: knows whether a mouse button is down on it and ignores the wheel, so
+// that the page around it scrolls.
 class SliderEditSlider : public QSlider
 {
     Q_OBJECT
@@ -49,7 +51,8 @@ private:
     std::unique_ptr<Internal::HostWindow> m_hostWindow;
 };
 
-// Without Q_OBJECT: to style sheets and tools it is a QToolButton like any other.
+// The minus or plus button of a row: stops its auto-repeat when it is hidden, disabled or
+// blocked by a modal dialog. It has no Q_OBJECT: style sheets and tools see a QToolButton.
 class SliderEditButton : public QToolButton
 {
 public:
@@ -64,13 +67,18 @@ private:
 
 /*!
     \class SliderEditSpinBox slidereditframe_p.h vantorslider/slidereditframe_p.h
-    \brief The integer field of a slider editor: a spin box that takes a typed
-    arithmetic expression.
+    \brief A spin box for \c int values that accepts a typed arithmetic expression.
 
-    Every text is valid to it; the calculator line edit filters while the user types. Return and
-    Enter emit editingFinished() and then enterFinished() and go no further. An expression that
-    ends in "=" is evaluated at once and emits enterFinished(). The dynamic property "Quelmo_VK"
-    = "Vk_Number" tells a host which on-screen keyboard to show.
+    It is the spin box of SliderEditFrame; use it alone where no slider is needed. Range, step
+    and value are those of QSpinBox. Outside a SliderEditFrame the host calls
+    setSlotEditingFinished() when editing ends and setSpinBoxCal() when range or value change.
+
+    The text field filters what the user types; every text is valid. Return and Enter emit
+    editingFinished(), then enterFinished(), and are accepted. An expression that ends in "=" is
+    evaluated at once and emits enterFinished().
+
+    Style sheets select on the dynamic property "isEntryRefused", true after an expression that
+    failed. "Quelmo_VK" is "Vk_Number" and tells a host which on-screen keyboard to show.
 */
 class VANTORSLIDER_EXPORT SliderEditSpinBox : public QSpinBox
 {
@@ -78,66 +86,68 @@ class VANTORSLIDER_EXPORT SliderEditSpinBox : public QSpinBox
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
 
 public:
+    /*! Creates a spin box with Qt's defaults: 0 to 99, value 0, single step 1; the wheel off. */
     explicit SliderEditSpinBox(QWidget *parent = nullptr);
     ~SliderEditSpinBox() override;
 
-    /*! Accepts every text and changes neither \a text nor \a pos. */
+    /*! Returns QValidator::Acceptable and changes neither \a text nor \a pos. */
     QValidator::State validate(QString &text, int &pos) const override;
 
     /*!
-        The number that \a text stands for, rounded to a whole one: out of range the nearer end,
-        and the value as it is where \a text is no number.
+        Returns the number in \a text, rounded to an \c int and clamped to the range, or the
+        current value if \a text is not a number.
     */
     int valueFromText(const QString &text) const override;
 
     /*!
-        Steps the value by \a steps single steps. An expression that is pending is evaluated
-        first and stepped from; one that fails is dropped.
+        Steps the value by \a steps single steps. An expression that the user is typing is
+        evaluated first and the step starts from its result; one that fails is discarded.
     */
     void stepBy(int steps) override;
 
     /*!
-        Lets the wheel step the value while the field has the focus, if \a b is true. Off at
-        first: the wheel goes to the page around the field.
+        Lets the wheel step the value while the spin box has the focus, if \a b is true; false
+        by default. A wheel event that is not used goes to the parent widget.
     */
     void setWheelEnable(bool b);
 
-    /*! What the field does otherwise with what the user enters, all off at first. \since 1.1 */
+    /*! Sets how the spin box handles what the user types; none by default. \since 1.1 */
     void setEntryOptions(EntryOptions options);
 
-    /*! The options that are on. \since 1.1 */
+    /*! Returns the options that are set. \since 1.1 */
     EntryOptions entryOptions() const;
 
     /*!
-        Shows \a prefix and \a suffix around the number. An entry that is pending stays, where
-        setPrefix() and setSuffix() drop it. \since 1.1
+        Shows \a prefix before and \a suffix after the number. Text that the user is typing
+        stays; setPrefix() and setSuffix() discard it. \since 1.1
     */
     void setUnit(const QString &prefix, const QString &suffix);
 
     /*!
-        Hands the calculator its settings: \a result, shown when an evaluation
-        fails, the range \a min to \a max that results are clamped to,
-        \a retainResult decimals of a shown result, and \a retainDecimal decimals of a
-        typed number. Neither text nor value changes.
+        Configures the evaluation of expressions: \a result is shown if one fails, results are
+        clamped to \a min to \a max and shown with \a retainResult decimals, and a typed number
+        can have \a retainDecimal decimals. By default results are clamped to -10000 to 10000 and
+        shown with 0 decimals, and 2 can be typed. If \a max is below \a min, \a min is the only
+        result. Text and value do not change; nothing is emitted.
     */
     void setSpinBoxCal(const int &result, const int &max, const int &min, const int &retainResult,
                        const int &retainDecimal);
 
     /*!
-        Evaluates the entry that is pending, if one is; its result is the field's text, its
-        value follows when the text is interpreted.
+        Evaluates the expression that the user is typing, if there is one, and shows its result.
+        The value changes when the text is interpreted, as on focus loss or by interpretText().
     */
     void setSlotEditingFinished();
 
 Q_SIGNALS:
     /*!
-        Return or Enter was pressed, or an expression ended in "=". After a key it follows
-        editingFinished().
+        The user pressed Return or Enter, after editingFinished(), or ended an expression with
+        "=".
     */
     void enterFinished();
 
 protected Q_SLOTS:
-    /*! Called when an expression that ended in "=" has been evaluated. */
+    /*! Called after the evaluation of an expression that ended in "=". */
     void onSlotResultFinished();
 
 protected:
@@ -153,22 +163,25 @@ protected:
 
 private:
     bool m_isWheelEnabled = false;
-    // Null where a subclass has given the box another line edit.
+    // Null if a subclass has set another line edit.
     LineEditCal *m_pLineEditCal;
 };
 
 /*!
     \class SliderEditDoubleSpinBox slidereditframe_p.h vantorslider/slidereditframe_p.h
-    \brief The floating-point field of a slider editor: a spin box that takes a typed
-    arithmetic expression.
+    \brief A spin box for \c double values that accepts a typed arithmetic expression.
 
-    Every text is valid to it; the calculator line edit filters while the user types. Return and
-    Enter emit editingFinished() and then enterFinished() and go no further. An expression that
-    ends in "=" is evaluated at once and emits editingFinished(). The dynamic property
-    "Quelmo_VK" = "Vk_NumberFloat" tells a host which on-screen keyboard to show.
+    It is the spin box of SliderEditFrameDouble; use it alone where no slider is needed. Range,
+    decimals, step and value are those of QDoubleSpinBox. Outside a SliderEditFrameDouble the
+    host calls setSlotEditingFinished() on Enter, and setSpinBoxCal() when range or value change.
 
-    While the field has the focus its suffix is taken away, so that a bare number is edited; it
-    returns when editing ends.
+    The text field filters what the user types; every text is valid. Return and Enter emit
+    editingFinished(), then enterFinished(), and are accepted. An expression that ends in "=" is
+    evaluated at once and emits editingFinished(). The suffix is hidden from when the spin box
+    gets the focus until editing ends.
+
+    Style sheets select on the dynamic property "isEntryRefused", true after an expression that
+    failed. "Quelmo_VK" is "Vk_NumberFloat" and tells a host which on-screen keyboard to show.
 */
 class VANTORSLIDER_EXPORT SliderEditDoubleSpinBox : public QDoubleSpinBox
 {
@@ -176,73 +189,79 @@ class VANTORSLIDER_EXPORT SliderEditDoubleSpinBox : public QDoubleSpinBox
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
 
 public:
+    /*!
+        Creates a spin box with Qt's defaults: 0 to 99.99, 2 decimals, value 0, single step 1;
+        the wheel off.
+    */
     explicit SliderEditDoubleSpinBox(QWidget *parent = nullptr);
     ~SliderEditDoubleSpinBox() override;
 
-    /*! Accepts every text and changes neither \a text nor \a pos. */
+    /*! Returns QValidator::Acceptable and changes neither \a text nor \a pos. */
     QValidator::State validate(QString &text, int &pos) const override;
 
     /*!
-        The number that \a text stands for: out of range the nearer end, and the value as it is
-        where \a text is no number.
+        Returns the number in \a text, clamped to the range, or the current value if \a text is
+        not a number.
     */
     double valueFromText(const QString &text) const override;
 
     /*!
-        Steps the value by \a steps single steps. An expression that is pending is evaluated
-        first and stepped from; one that fails is dropped.
+        Steps the value by \a steps single steps. An expression that the user is typing is
+        evaluated first and the step starts from its result; one that fails is discarded.
     */
     void stepBy(int steps) override;
 
     /*!
-        Lets the wheel step the value while the field has the focus, if \a b is true. Off at
-        first: the wheel goes to the page around the field.
+        Lets the wheel step the value while the spin box has the focus, if \a b is true; false
+        by default. A wheel event that is not used goes to the parent widget.
     */
     void setWheelEnable(bool b);
 
-    /*! What the field does otherwise with what the user enters, all off at first. \since 1.1 */
+    /*! Sets how the spin box handles what the user types; none by default. \since 1.1 */
     void setEntryOptions(EntryOptions options);
 
-    /*! The options that are on. \since 1.1 */
+    /*! Returns the options that are set. \since 1.1 */
     EntryOptions entryOptions() const;
 
     /*!
-        Shows \a prefix and \a suffix around the number, the suffix while the field is not
-        edited. An entry that is pending stays, where setPrefix() and setSuffix() drop it.
-        \since 1.1
+        Shows \a prefix before and \a suffix after the number, the suffix only while the spin box
+        is not edited. Text that the user is typing stays; setPrefix() and setSuffix() discard
+        it. \since 1.1
     */
     void setUnit(const QString &prefix, const QString &suffix);
 
-    /*! The suffix that is shown while the field is not edited. \since 1.1 */
+    /*! Returns the suffix, also while it is hidden. \since 1.1 */
     QString unitSuffix() const;
 
     /*!
-        Hands the calculator its settings: \a result, shown when an evaluation
-        fails, the range \a min to \a max that results are clamped to,
-        \a retainResult decimals of a shown result, \a retainDecimal decimals of a
-        typed number, and whether a suffix is shown (\a bSuffix). Neither text nor value changes.
+        Configures the evaluation of expressions: \a result is shown if one fails, results are
+        clamped to \a min to \a max and shown with \a retainResult decimals, and a typed number
+        can have \a retainDecimal decimals. By default results are clamped to -10000 to 10000 and
+        shown with 0 decimals, and 2 can be typed. If \a max is below \a min, \a min is the only
+        result. \a bSuffix has no effect. Text and value do not change; nothing is emitted.
     */
     void setSpinBoxCal(const float &result, const float &max, const float &min,
                        const int &retainResult, const int &retainDecimal, const bool &bSuffix);
 
     /*!
-        Evaluates the entry that is pending, if one is; its result is the field's text, its
-        value follows when the text is interpreted. A removed suffix returns.
+        Evaluates the expression that the user is typing, if there is one, and shows its result
+        and a hidden suffix. The value changes when the text is interpreted, as on focus loss or
+        by interpretText().
     */
     void setSlotEditingFinished();
 
     /*!
-        Shows again the suffix that was removed when the field got the focus. An entry that is
-        pending stays in the text.
+        Shows the suffix that is hidden while the spin box has the focus. Text that the user is
+        typing stays.
     */
     void setSuffixShow();
 
 Q_SIGNALS:
-    /*! Return or Enter was pressed; emitted after editingFinished(). */
+    /*! The user pressed Return or Enter; emitted after editingFinished(). */
     void enterFinished();
 
 protected Q_SLOTS:
-    /*! Called when an expression that ended in "=" has been evaluated. */
+    /*! Called after the evaluation of an expression that ended in "=". */
     void onSlotResultFinished();
 
 protected:
@@ -258,7 +277,7 @@ protected:
 
 private:
     bool m_isWheelEnabled = false;
-    // Null where a subclass has given the box another line edit.
+    // Null if a subclass has set another line edit.
     LineEditCal *m_pLineEditCal;
     QString m_strSuffix;
     bool m_btnFirstPress = true;

@@ -7,30 +7,19 @@
 namespace Vantor {
 namespace Widgets {
 
-/*!
-    \class SliderEditSlider
-    \brief The slider of an editor's row: it knows whether the pointer holds
-    it, and leaves the wheel to the page around it.
-*/
-
 SliderEditSlider::SliderEditSlider(QWidget *parent) : QSlider(parent) { }
 
 SliderEditSlider::~SliderEditSlider() = default;
 
-/*!
-    True from a button press on the slider until the release, until the
-    pointer leaves the slider or until the slider loses the focus, is hidden,
-    disabled or blocked by a dialog, whichever comes first.
-*/
+// True from a button press on the slider until its release, or until the pointer leaves the
+// slider or the slider loses the focus, is hidden, disabled or blocked by a modal dialog.
 bool SliderEditSlider::isMousePressed() const
 {
     return m_isMousePressed;
 }
 
-/*!
-    As setRange(), except that a scale of exactly 2 to the 31st steps begins one
-    later: Qt's styles divide by twice its length in 32 bits, and that one is 0 there.
-*/
+// Like setRange(), but a range of exactly 2^31 steps starts at min + 1: Qt's styles divide by
+// twice the number of steps in 32 bits, which is 0 for that range.
 void SliderEditSlider::setScale(int min, int max)
 {
     const bool isDivisorZero = qint64(max) - min == qint64(1) << 31;
@@ -41,7 +30,7 @@ bool SliderEditSlider::event(QEvent *event)
 {
     const Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     const bool isHandled = QSlider::event(event);
-    // A modal dialog takes the pointer away: the release goes to it.
+    // A modal dialog receives the mouse release instead of the slider.
     if (event->type() == QEvent::WindowBlocked) {
         releasePointer();
     }
@@ -60,8 +49,8 @@ void SliderEditSlider::mousePressEvent(QMouseEvent *event)
     if (!edit || repeatAction() == SliderNoAction) {
         return;
     }
-    // The groove steps on for as long as it is pressed. QSlider begins with it behind the
-    // first step, even where a receiver of that has taken the slider from under the pointer.
+    // A pressed groove repeats its page step. QSlider starts that after the first step, even
+    // if a receiver of that step has hidden or disabled the slider.
     if (m_isMousePressed) {
         edit.hold(Internal::EditSpan::Handle);
     } else {
@@ -75,7 +64,7 @@ void SliderEditSlider::mouseReleaseEvent(QMouseEvent *event)
     letGo(event);
 }
 
-// Part of the interface, for what a later version may do there.
+// Reserved: a later version can handle the event without changing the virtual table.
 void SliderEditSlider::mouseMoveEvent(QMouseEvent *event)
 {
     QSlider::mouseMoveEvent(event);
@@ -115,9 +104,8 @@ void SliderEditSlider::changeEvent(QEvent *event)
     }
 }
 
-// No release follows once the slider is hidden, disabled or blocked under the
-// pointer: the drag ends here, as a release does, so that its last value is
-// reported and the sampling stops.
+// No release event follows when the slider is hidden, disabled or blocked during a drag. The
+// drag ends here as by a release: its last value is reported and sampling stops.
 void SliderEditSlider::releasePointer()
 {
     m_isMousePressed = false;
@@ -126,7 +114,7 @@ void SliderEditSlider::releasePointer()
     letGo(&release);
 }
 
-// A release that comes while another button is down is none to QSlider.
+// QSlider ignores a release while another mouse button is down.
 void SliderEditSlider::letGo(QMouseEvent *event)
 {
     Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));

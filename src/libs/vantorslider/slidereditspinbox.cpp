@@ -109,7 +109,7 @@ void SliderEditSpinBox::onSlotResultFinished()
     }
 }
 
-// Part of the interface, for what a later version may do there.
+// Reserved: a later version can handle the event without changing the virtual table.
 void SliderEditSpinBox::mousePressEvent(QMouseEvent *event)
 {
     QSpinBox::mousePressEvent(event);
@@ -124,7 +124,7 @@ void SliderEditSpinBox::wheelEvent(QWheelEvent *event)
     QSpinBox::wheelEvent(event);
 }
 
-// Before a shortcut of the host's on the key that restores the value.
+// Takes precedence over a host's shortcut on the key that restores the value.
 bool SliderEditSpinBox::event(QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride && Internal::isEscape(event)
@@ -188,7 +188,7 @@ void SliderEditSpinBox::focusOutEvent(QFocusEvent *event)
     edit.release(EditSpan::Entry);
 }
 
-// Hidden before it loses the focus, the base interprets the text here.
+// If the spin box is hidden while it has the focus, the base class interprets the text here.
 void SliderEditSpinBox::hideEvent(QHideEvent *event)
 {
     EditSpan::Scope edit(EditSpan::around(this));
@@ -208,7 +208,7 @@ void SliderEditSpinBox::changeEvent(QEvent *event)
     Internal::keepDecimalPoint(this, event);
 }
 
-// A subclass that sets another line edit has this one deleted.
+// QAbstractSpinBox deletes the line edit when a subclass sets another one.
 void SliderEditSpinBox::childEvent(QChildEvent *event)
 {
     QSpinBox::childEvent(event);
