@@ -1,5 +1,5 @@
 // The guide's pictures of single rows, which no page of the gallery shows:
-// guide_pictures FOLDER. They are taken of real editors after real events.
+// guide_pictures FOLDER. They show real editors after real events.
 #include "slidereditframe.h"
 #include "slidereditframedouble.h"
 #include "userevents.h"

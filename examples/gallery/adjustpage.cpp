@@ -71,7 +71,7 @@ void AdjustPage::connectRow(Row *row, const QString &label, Value Tone::*field)
     row->setLabelText(label);
     row->setDefaultValue(Tone().*field);
     row->setAutoRepeat(true);
-    // The two kinds of row stand in one column without a theme, too.
+    // Aligns the two kinds of rows without a theme, too.
     row->setButtonFixedWidth(51);
     connect(row, &Row::valueChanged, m_log, m_log->receiver(label, QStringLiteral("valueChanged")));
     connect(row, &Row::valueChanged, this, [this, label, field](Value val) {

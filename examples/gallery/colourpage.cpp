@@ -12,7 +12,7 @@ using Vantor::Widgets::RGBOpacityEditFrame;
 
 namespace {
 
-// The settings that the channels of all three editors have in common.
+// The settings that the channels of all three editors share.
 template <typename Editor>
 void setUpChannels(Editor *editor, int min, int max, const std::array<int, 3> &defaults)
 {

@@ -16,8 +16,8 @@ QRect scaled(const QRect &rect, double scale)
     return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
 }
 
-// Where each of the pixels from first to last lies in a source that is stretched to
-// this extent, in 1/256 of the source's pixels.
+// The source position of each pixel from first to last, for a source that is stretched
+// to this extent, in 1/256 of the source's pixels.
 QVector<int> positionsIn(int source, int extent, int first, int last)
 {
     QVector<int> positions;
@@ -105,8 +105,8 @@ QImage Composition::reduced(const QRect &part, double scale) const
     return result;
 }
 
-// QPainter would do it nearly as well: what it makes of a pixel depends on where the
-// part begins, and a file would differ from the window here and there by one level.
+// QPainter is not used: its result for a pixel depends on where the painted part begins,
+// so that a file would differ from the window in some pixels by one level.
 void Composition::paintLayer(QImage &image, const QRect &layer) const
 {
     const QRect target = layer & image.rect();

@@ -4,8 +4,8 @@
 
 #include <QtCore/QVector>
 
-// What is shown and saved: the picture with its adjustment, the layer on it and the
-// mask over both. Window and file are painted by the same function.
+// The picture with its adjustment, the layer on it and the mask over both, as shown and
+// saved. The same function paints window and file.
 class Composition
 {
 public:
@@ -17,7 +17,7 @@ public:
     QSize size(double scale) const;
     bool hasAlpha() const { return m_levels.constFirst().hasAlphaChannel(); }
 
-    // Paints a part alone, given in pixels of the picture reduced by the scale.
+    // Paints only a part, given in pixels of the picture reduced by the scale.
     QImage painted(const Edits &edits, const QRect &part, double scale = 1);
 
 private:
@@ -26,7 +26,7 @@ private:
 
     QVector<QImage> m_levels; // the picture, and each half as large as the one before
     const QImage m_layer;
-    // The last part without its edits: many edits of one part follow each other.
+    // The last part before its edits: often many edits of one part follow each other.
     QImage m_source;
     QRect m_part;
     double m_scale = 0;

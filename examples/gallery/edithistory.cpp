@@ -13,8 +13,8 @@ public:
 
     void redo() override
     {
-        // The stack calls this for a new step, too: what an editor reported it shows
-        // by then, and setting it in the middle of a drag would disturb that.
+        // The stack calls this for a new step, too. The editor already shows the value that
+        // it reported, and setting it during a drag would disturb the drag.
         if (m_isShown) {
             m_isShown = false;
             m_history->set(m_after);
@@ -25,11 +25,11 @@ public:
 
     int id() const override { return m_number; }
 
-    // Takes the next report of the same drag in.
+    // Merges the next report of the same drag.
     bool mergeWith(const QUndoCommand *next) override
     {
         m_after = static_cast<const Step *>(next)->m_after;
-        setObsolete(m_after == m_before); // a drag forth and back is nothing to undo
+        setObsolete(m_after == m_before); // nothing to undo after a drag back and forth
         return true;
     }
 
@@ -51,7 +51,7 @@ void EditHistory::reset(const Edits &edits)
 
 void EditHistory::record(const QString &name, const Edits &edits)
 {
-    // Reports that leave the value as it is come from a value held at its limit.
+    // A value at its limit causes reports without a change.
     if (edits == m_edits) {
         return;
     }

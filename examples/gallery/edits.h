@@ -7,8 +7,8 @@
 
 #include <tuple>
 
-// All that the editors of the pages say, and so all that a step of the undo
-// history holds. Rectangles are in picture pixels.
+// The values of all editors of the pages, and the content of a step of the undo
+// history. Rectangles are in picture pixels.
 struct Edits
 {
     Tone tone;

@@ -31,7 +31,7 @@ LayoutPage::LayoutPage(PictureView *view, EditHistory *history, LogPane *log)
 
 RectRules LayoutPage::rules(const QSize &picture) const
 {
-    return rulesOf(m_editor, 2 * picture); // it may reach over the picture's edge
+    return rulesOf(m_editor, 2 * picture); // it may extend beyond the picture's edge
 }
 
 void LayoutPage::startOn(const QSize &size)

@@ -4,7 +4,7 @@
 
 #include <layouteditframe.h>
 
-// Places a second picture on the first, as soon as the user says where.
+// Places a second picture on the first, once the user has set its position.
 class LayoutPage : public RectPage
 {
     Q_OBJECT

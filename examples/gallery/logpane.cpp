@@ -12,11 +12,11 @@ QtMessageHandler previousHandler = nullptr;
 
 void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    // The platform without a display says of itself what it does not do.
+    // The offscreen platform logs the features that it lacks.
     if (message.startsWith(QLatin1String("This plugin does not support"))) {
         return;
     }
-    // A message of another thread does not touch the widget.
+    // A message from another thread must not access the widget.
     if (pane && pane->thread() == QThread::currentThread()) {
         pane->record(type == QtDebugMsg ? QStringLiteral("log") : QStringLiteral("log, warning"),
                      message);
@@ -37,7 +37,7 @@ LogPane::LogPane(QWidget *parent) : QPlainTextEdit(parent)
     setReadOnly(true);
     setFocusPolicy(Qt::NoFocus);
     setMaximumBlockCount(2000);
-    // Only the family is set, so that the size follows the application's font.
+    // Sets only the family, so that the size follows the application's font.
     QFont font;
     font.setFamily(QStringLiteral("monospace"));
     font.setStyleHint(QFont::TypeWriter);
@@ -62,6 +62,6 @@ void LogPane::record(const QString &who, const QString &what)
     verticalScrollBar()->setValue(verticalScrollBar()->maximum());
     if (m_echo) {
         std::puts(qPrintable(line));
-        std::fflush(stdout); // what the program around it says comes behind
+        std::fflush(stdout); // the output of the surrounding program follows
     }
 }

@@ -5,8 +5,8 @@
 
 #include <type_traits>
 
-// Shows each signal of the editors with its values as it comes, and Qt's log
-// messages between them in the order in which they happened.
+// Shows each signal of the editors with its values, and Qt's log messages between
+// them, in the order in which they occur.
 class LogPane : public QPlainTextEdit
 {
     Q_OBJECT
@@ -15,11 +15,11 @@ public:
     explicit LogPane(QWidget *parent = nullptr);
     ~LogPane() override;
 
-    // Everything that is recorded goes to the standard output too, and nothing else
-    // to the standard error output: two streams have no order.
+    // Writes all records to standard output, too, and no messages to standard error: two
+    // streams have no common order.
     void setEcho(bool echo) { m_echo = echo; }
     bool isEcho() const { return m_echo; }
-    // What the clock shows from now on, so that pictures are alike each time.
+    // The time that the log shows from now on, so that pictures are reproducible.
     void stopClock(const QTime &time) { m_stoppedAt = time; }
     void record(const QString &who, const QString &what);
 

@@ -30,7 +30,7 @@
 
 namespace {
 
-// What is being typed counts: a shortcut leaves the focus where it is.
+// Finishes a pending entry: a shortcut does not move the focus.
 void finishEntry()
 {
     if (QWidget *field = QApplication::focusWidget()) {
@@ -67,7 +67,7 @@ MainWindow::MainWindow()
         button->setCheckable(true);
         barLayout->addWidget(button);
         m_pageButtons->addButton(button, i);
-        // A screen reader toggles it rather than clicks it.
+        // A screen reader toggles it instead of clicking it.
         connect(button, &QPushButton::toggled, this, [this, i](bool isChecked) {
             if (isChecked) {
                 showPage(i);

@@ -13,7 +13,7 @@ class QButtonGroup;
 class QScrollArea;
 class QStackedWidget;
 
-// The workbench: the picture over the signal log, beside them the pages.
+// The workbench: the picture above the signal log, and the pages beside them.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -21,8 +21,8 @@ class MainWindow : public QMainWindow
 public:
     MainWindow();
 
-    // Says in words for the user what is wrong, if the picture cannot be opened,
-    // or only in part: that returns true.
+    // Shows the user an error if the picture cannot be opened, or only in part. In the
+    // latter case it returns true.
     bool openPicture(const QString &fileName, QString *problem);
 
     const QVector<Page *> &pages() const { return m_pages; }
@@ -47,7 +47,7 @@ private:
     bool chooseAndSave(const QRect &part, const QString &title, const QString &name);
     bool savePicture();
     bool saveCrop();
-    bool mayLoseEdits(); // asks if need be
+    bool mayLoseEdits(); // asks the user if there are unsaved edits
 
     EditHistory *m_history;
     PictureView *m_view;

@@ -4,7 +4,7 @@
 
 #include <maskeditframe.h>
 
-// Masks the picture's margins. In the picture what they leave is dragged.
+// Masks the picture's margins. In the picture, the user drags the area that they leave.
 class MaskPage : public RectPage
 {
     Q_OBJECT

@@ -8,7 +8,7 @@
 #include <QtWidgets/QPushButton>
 
 NumberPad::NumberPad(QWidget *parent)
-    : // No window system makes a window of this type the active one.
+    : // No window system activates a window of this type.
       QFrame(parent, Qt::ToolTip | Qt::WindowDoesNotAcceptFocus), m_keys(new QGridLayout(this))
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -53,7 +53,7 @@ bool NumberPad::eventFilter(QObject *watched, QEvent *event)
         QWidget *field = QApplication::focusWidget();
         if (field && pressed->window() != this && pressed != field
             && !field->isAncestorOf(pressed)) {
-            field->clearFocus(); // many a widget takes no focus when it is clicked
+            field->clearFocus(); // many widgets take no focus on a click
         }
     }
     return QFrame::eventFilter(watched, event);
@@ -97,8 +97,8 @@ void NumberPad::followFocus(QWidget *widget)
     show();
 }
 
-// Below the field, or above it where the screen ends, with the far edges of
-// both in one line.
+// Below the field, or above it at the end of the screen, with the far edges of
+// both aligned.
 void NumberPad::place(const QWidget &field)
 {
     adjustSize();

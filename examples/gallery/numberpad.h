@@ -6,9 +6,9 @@ class QGridLayout;
 class QPushButton;
 
 // An on-screen keyboard for the library's spin boxes. It opens below a widget
-// that has the dynamic property "Quelmo_VK" as soon as that gets the focus, and
-// types into it by real key events. It never takes the focus itself: a spin box
-// that lost it would take the entry as finished. A click elsewhere closes it.
+// that has the dynamic property "Quelmo_VK" when the widget receives the focus, and
+// sends it real key events. It never takes the focus itself: a spin box that loses
+// the focus finishes the entry. A click elsewhere closes the pad.
 class NumberPad : public QFrame
 {
     Q_OBJECT

@@ -8,7 +8,7 @@
 
 class QVBoxLayout;
 
-// A column of editors that change the picture, with a heading over each group.
+// A column of editors that change the picture, with a heading above each group.
 class Page : public QWidget
 {
     Q_OBJECT
@@ -16,14 +16,14 @@ class Page : public QWidget
 public:
     Page(const QString &title, EditHistory *history, LogPane *log);
 
-    // The title in lower case begins the names of the pictures of this page.
+    // The names of the pictures of this page begin with the title in lower case.
     const QString &title() const { return m_title; }
-    // What the page shows in the picture, and what it allows there.
+    // The rectangle that the page shows in the picture, and what the user may do with it.
     virtual PictureView::Overlay overlay() const { return PictureView::Overlay::None; }
     virtual RectRules rules(const QSize & /*picture*/) const { return {}; }
     // Fits the ranges to a picture of this size.
     virtual void startOn(const QSize & /*size*/) { }
-    // Takes back what the page's editors say: the picture of this size is as it was.
+    // Resets the values of the page's editors: the picture of this size is unchanged.
     virtual void clear(Edits &edits, const QSize &size) const = 0;
 
 protected:
@@ -39,7 +39,7 @@ protected:
     }
     void addWidget(QWidget *widget);
 
-    // Connected to an editor's signal: lets the function change the edits as the
+    // For a connection to an editor's signal: the function changes the edits as the
     // user changed the editor of this name.
     template <typename Change> void edit(const QString &name, Change change)
     {
@@ -48,7 +48,7 @@ protected:
         m_history->record(name, edits);
     }
 
-    // Called when all editors are added.
+    // To be called after all editors are added.
     void finish();
 
     static constexpr int labelSpacing = 12;

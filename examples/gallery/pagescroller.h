@@ -2,8 +2,8 @@
 
 #include <QtWidgets/QScrollArea>
 
-// Scrolls a page up and down only: the page is never narrower than its editors
-// need, whatever theme and font size.
+// Scrolls a page only vertically: with any theme and font size the page is as wide
+// as its editors need.
 class PageScroller : public QScrollArea
 {
     Q_OBJECT

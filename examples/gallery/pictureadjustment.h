@@ -5,7 +5,7 @@
 
 #include <array>
 
-// What the editors say about the pixels of the picture. The defaults leave them unchanged.
+// The editors' values for the pixels of the picture. The defaults leave them unchanged.
 struct Tone
 {
     int brightness = 0; // -100 to 100
@@ -27,7 +27,7 @@ struct Colours
 bool operator==(const Tone &a, const Tone &b);
 bool operator==(const Colours &a, const Colours &b);
 
-// Changes a picture of the format RGB32 or ARGB32, whose alpha stays. All but the
-// saturation goes through one table for each channel, so that what a window shows
-// is ready within the time of one frame.
+// Changes a picture of the format RGB32 or ARGB32 and keeps its alpha. Everything but the
+// saturation uses one lookup table per channel, so that the visible part is ready
+// within the time of one frame.
 void adjust(QImage &picture, const Tone &tone, const Colours &colours);

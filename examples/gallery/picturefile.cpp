@@ -13,7 +13,7 @@
 
 namespace {
 
-// At four bytes a pixel these are 256 MB. Qt 6 itself reads no more.
+// With four bytes per pixel these are 256 MB. Qt 6 itself reads no more.
 const int maxMegapixels = 64;
 
 double megapixels(const QSize &size)
@@ -21,7 +21,7 @@ double megapixels(const QSize &size)
     return double(size.width()) * size.height() / 1e6;
 }
 
-// Qt's readers of these two take what there is of the picture without a word.
+// Qt's readers of these two formats accept an incomplete picture without a message.
 bool endsTooSoon(const QString &fileName, const QByteArray &format)
 {
     QFile file(fileName);
@@ -53,8 +53,8 @@ QImage PictureFile::read(const QString &fileName, LogPane *log, QString *problem
                        .arg(maxMegapixels);
         return {};
     }
-    // The reader of JPEG gives what there is of the picture and only logs why.
-    const QByteArray format = reader.format(); // not known any more when it is read
+    // The JPEG reader returns an incomplete picture and only logs the reason.
+    const QByteArray format = reader.format(); // no longer available after reading
     QStringList warnings;
     const auto connection = QObject::connect(
         log, &LogPane::warned, log, [&](const QString &message) { warnings.append(message); });
@@ -99,7 +99,7 @@ QString PictureFile::askForSave(QWidget *parent, const QString &title, const QSt
         return {};
     }
     const QString fileName = dialog.selectedFiles().constFirst();
-    // The name may have a suffix that is not the filter's.
+    // The name may have another suffix than the filter.
     if (hasAlpha && !keepsAlpha(fileName)
         && keepsAlpha(QStringLiteral(".") + dialog.defaultSuffix())
         && QMessageBox::question(parent, title,

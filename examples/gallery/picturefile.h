@@ -6,17 +6,17 @@
 class LogPane;
 class QWidget;
 
-// Pictures from and to files, with words for the user where something is wrong.
+// Loads and saves pictures, with error messages for the user.
 class PictureFile
 {
     Q_DECLARE_TR_FUNCTIONS(PictureFile)
 
 public:
-    // Null if there is no picture; with a problem one that is not complete. What Qt's
-    // readers say of it they only log.
+    // Null if there is no picture; incomplete if a problem is set. Qt's readers only log
+    // the reason.
     static QImage read(const QString &fileName, LogPane *log, QString *problem);
 
-    // Empty if the user thinks better of it.
+    // Empty if the user cancels.
     static QString askForOpen(QWidget *parent);
     static QString askForSave(QWidget *parent, const QString &title, const QString &name,
                               bool hasAlpha);

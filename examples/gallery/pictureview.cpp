@@ -172,7 +172,7 @@ void PictureView::mousePressEvent(QMouseEvent *event)
 void PictureView::mouseMoveEvent(QMouseEvent *event)
 {
     if (!event->buttons()) {
-        release(); // whatever took it
+        release(); // whatever took the pointer
     }
     const QPointF by = QPointF(event->pos() - m_pressPos) * devicePixelRatioF() / scale();
     if (m_press == Press::Rect) {
@@ -284,8 +284,8 @@ void PictureView::updateCursor(const QPoint &pos)
     }
 }
 
-// Only what is seen is computed, from a picture that is reduced where the scale is
-// below 1; above it, pixels are enlarged.
+// Computes only the visible part, from a reduced picture if the scale is below 1. With a
+// scale above 1, pixels are enlarged.
 void PictureView::paintPicture(QPainter &painter)
 {
     const double ratio = devicePixelRatioF();
@@ -347,7 +347,7 @@ void PictureView::paintHandles(QPainter &painter, const QRectF &rect)
     painter.setBrush(outline);
     for (const double x : {rect.left(), rect.center().x(), rect.right()}) {
         for (const double y : {rect.top(), rect.center().y(), rect.bottom()}) {
-            // Where a press takes hold of all that there is, no lock in the way.
+            // If a press grabs the whole rectangle, no lock prevents the drag.
             const QPointF handle(x, y);
             const Qt::Edges edges = edgesAt(handle, rect, m_rules);
             if (edges && edges == edgesAt(handle, rect, RectRules())) {

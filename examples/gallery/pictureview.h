@@ -5,9 +5,9 @@
 
 #include <QtWidgets/QWidget>
 
-// Shows the picture as it would be saved and, on top, what the current page is about:
-// a rectangle, which the pointer or the arrow keys move and resize. The wheel
-// zooms, and what the pointer drags beside the rectangle is the picture itself.
+// Shows the picture as it would be saved and, on top, the rectangle of the current page,
+// which the pointer or the arrow keys move and resize. The wheel zooms. Outside the
+// rectangle the pointer drags the picture itself.
 class PictureView : public QWidget
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    // As an editor does: what is dragged between the two is one edit.
+    // Like an editor's signals: all moves between the two are one edit.
     void editStarted();
     void rectDragged(const QRect &rect);
     void editFinished();
@@ -68,7 +68,7 @@ private:
     void paintHandles(QPainter &painter, const QRectF &rect);
 
     Composition m_composition;
-    QImage m_shown; // what was painted last, with its part and scale; null: is painted anew
+    QImage m_shown; // the last painted part with its scale; null: must be painted again
     QRect m_shownPart;
     double m_shownScale = 0;
     Edits m_edits;
@@ -76,12 +76,12 @@ private:
     RectRules m_rules;
 
     bool m_isFitted = true;
-    double m_scale = 1; // if it is not fitted
-    QPointF m_centre; // what is shown in the middle, in picture pixels
+    double m_scale = 1; // unless fitted
+    QPointF m_centre; // the point in the middle of the view, in picture pixels
 
     Press m_press = Press::None;
     QPoint m_pressPos; // in view pixels
     QRect m_pressRect; // the rectangle at that moment
     QPointF m_pressCentre;
-    Qt::Edges m_edges; // those that were taken hold of last; none: the whole
+    Qt::Edges m_edges; // the edges that were grabbed last; none: the whole
 };

@@ -2,8 +2,8 @@
 
 namespace {
 
-// Half the width of a finger's tip, in view pixels: so far from a handle it is
-// taken hold of.
+// Half the width of a fingertip, in view pixels: the distance at which a handle is
+// grabbed.
 const int reach = 22;
 
 enum class Hold { None, Low, High, Whole };
@@ -27,7 +27,7 @@ struct Limits
     int most;
 };
 
-// One of the rectangle's two extents.
+// One of the two dimensions of the rectangle.
 void drag(int &start, int &length, Hold hold, int by, const Limits &limits)
 {
     const int end = start + length;
@@ -61,7 +61,7 @@ Qt::Edges edgesAt(const QPointF &pos, const QRectF &rect, const RectRules &rules
     }
     const Qt::Edges edges = edgeAt(pos.x(), rect.left(), rect.right(), Qt::LeftEdge, Qt::RightEdge)
         | edgeAt(pos.y(), rect.top(), rect.bottom(), Qt::TopEdge, Qt::BottomEdge);
-    // The other two would move the corner along one side only.
+    // The other two edges would move the corner along one side only.
     return rules.isPositionLocked ? edges & (Qt::RightEdge | Qt::BottomEdge) : edges;
 }
 

@@ -2,11 +2,11 @@
 
 #include <QtCore/QRect>
 
-// What the editor of a rectangle lets the user do with it, in pixels of the picture.
+// The limits that an editor sets for its rectangle, in pixels of the picture.
 struct RectRules
 {
     QSize area; // the rectangle stays within it
-    QPoint lastCorner; // its corner at the left and top comes no further
+    QPoint lastCorner; // the limit of its top left corner
     QSize least;
     QSize most;
     int step = 1; // of an arrow key
@@ -14,9 +14,9 @@ struct RectRules
     bool isSizeLocked = false; // it is only moved
 };
 
-// By which edges a position takes hold of a rectangle of a view. None: of the whole.
+// The edges that a position in a view grabs of a rectangle. None: the whole.
 Qt::Edges edgesAt(const QPointF &pos, const QRectF &rect, const RectRules &rules);
-// Whether it takes hold of it at all.
+// Whether it grabs the rectangle at all.
 bool isHeldAt(const QPointF &pos, const QRectF &rect, const RectRules &rules);
 // The rectangle with these edges or, if there are none, the whole moved as far as the
 // rules allow.

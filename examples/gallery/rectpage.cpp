@@ -56,7 +56,7 @@ void RectPage::setDefaults(Rect *editor, int x, int y, int width, int height)
 RectRules RectPage::rulesOf(Rect *editor, const QSize &area)
 {
     RectRules rules;
-    int least = 0; // of a position: it begins at 0 on each page
+    int least = 0; // of a position: 0 on each page
     editor->range(Rect::X, least, rules.lastCorner.rx());
     editor->range(Rect::Y, least, rules.lastCorner.ry());
     editor->range(Rect::Width, rules.least.rwidth(), rules.most.rwidth());
@@ -78,7 +78,7 @@ void RectPage::showRect(Rect *editor, const std::function<void()> &set)
     for (const auto type : {Rect::X, Rect::Y, Rect::Width, Rect::Height}) {
         editor->setValueChangeDirection(type, Vantor::Widgets::SliderEditFrame::AllowedToAny, 0);
     }
-    // A lock goes by the rectangle at which it was switched on.
+    // A lock uses the rectangle at which it was switched on.
     if (before.topLeft() != after.topLeft() && editor->isPositionLocked()) {
         editor->setPositionLock(true);
     }

@@ -6,7 +6,7 @@
 
 #include <functional>
 
-// What the pages with a rectangle editor share: the labels, the steps, the log of the
+// Base class of the pages with a rectangle editor: the labels, the steps, the log of the
 // signals that all rectangle editors have, and the rectangle that is dragged in the
 // picture.
 class RectPage : public Page
@@ -28,16 +28,16 @@ protected:
     // The labels are those of x, y, width and height, in this order.
     void setUp(Rect *editor, const QString &name, const QStringList &labels);
 
-    // What a double click on the label of a field goes back to.
+    // The values that a double click on the label of a field restores.
     static void setDefaults(Rect *editor, int x, int y, int width, int height);
 
-    // Those of an editor whose fields are the position and the size of the rectangle.
+    // The rules of an editor whose fields are the position and the size of the rectangle.
     static RectRules rulesOf(Rect *editor, const QSize &area);
 
-    // Around the setting of a rectangle that the user has not set in the editor
-    // itself. Otherwise the next change would be held by an edge that the rectangle
-    // no longer touches, and a lock that is on would pull the partner to where the
-    // rectangle was when it was switched on.
+    // To be used when a rectangle is set that the user has not set in the editor
+    // itself. Otherwise an edge that the rectangle no longer touches would limit the next
+    // change, and a lock that is on would move the partner to where the rectangle was when
+    // the lock was switched on.
     static void showRect(Rect *editor, const std::function<void()> &set);
 
     static constexpr int step = 1;

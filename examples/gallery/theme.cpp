@@ -53,7 +53,7 @@ QString read(const QString &path)
     return QString::fromUtf8(file.readAll());
 }
 
-// Qt paints the sub-page on the left also where the slider starts on the right.
+// Qt paints the sub-page on the left even if the slider starts on the right.
 QString mirrored(QString sheet)
 {
     return sheet.replace(QLatin1String("::sub-page"), QLatin1String("::other-page"))
@@ -72,7 +72,7 @@ QIcon glyph(const QString &name, const QString &checked = QString())
 }
 
 // The editors' buttons have neither text nor icon: without a sheet the host
-// says how they look.
+// sets their look.
 void setIcons(QWidget *root, bool on)
 {
     const auto buttons = root->findChildren<QToolButton *>();
@@ -108,7 +108,7 @@ void Theme::setUpApplication()
 #endif
     QApplication::setApplicationName(QStringLiteral("gallery"));
     QApplication::setStyle(QStringLiteral("Fusion"));
-    // The sheets name their glyphs by this prefix; see the top of a sheet.
+    // The sheets find their glyphs by this prefix; see the top of a sheet.
     QDir::addSearchPath(QStringLiteral("vantorslider"), QStringLiteral(":/styles"));
 }
 
@@ -138,7 +138,7 @@ void Theme::adopt(QWidget *root)
 {
     const auto widgets = root->findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
-        // Labels are left out: their pages fit them to their texts.
+        // Except labels: their pages fit them to their texts.
         if (widget->inherits("QSlider") || widget->inherits("QAbstractSpinBox")
             || widget->inherits("QAbstractButton")
             || widget->objectName().startsWith(QLatin1String("frameSpacerLock"))) {
@@ -182,8 +182,8 @@ void Theme::setRightToLeft(bool on)
     apply(m_kind);
 }
 
-// A sheet writes its min-width and the like into the widgets, over what their
-// forms have set, and does not put those back when it is taken away.
+// A sheet writes its min-width and similar values into the widgets, replacing those of
+// their forms, and does not restore them when it is removed.
 void Theme::restoreSizes()
 {
     for (auto it = m_sizes.cbegin(); it != m_sizes.cend(); ++it) {

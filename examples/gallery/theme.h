@@ -7,8 +7,8 @@
 
 class QWidget;
 
-// The look of the program, switched at run time: the palette is the program's
-// own affair, the editors are styled by a sheet of the styles folder.
+// The look of the program, switched at run time: the program sets its own palette,
+// and a sheet of the styles folder styles the editors.
 class Theme : public QObject
 {
     Q_OBJECT
@@ -23,16 +23,16 @@ public:
     };
     static QVector<Name> names(); // in the order of Kind
 
-    // To be called before the application is made.
+    // To be called before the application is constructed.
     static void setUpApplication();
-    // Where Qt can't read the glyphs it says what to install.
+    // If Qt can't read the glyphs, logs which package to install.
     static bool hasGlyphs();
 
     explicit Theme(QObject *parent = nullptr);
     ~Theme() override;
 
-    // Makes the editors below the widget known to the theme. To be called while
-    // no sheet is on, before the widget is shown.
+    // Registers the editors in the widget with the theme. To be called while
+    // no sheet is set, before the widget is shown.
     void adopt(QWidget *root);
 
     void apply(Kind kind);

@@ -88,7 +88,7 @@ void playNumberPad(ScriptedUser &user)
     pad->setEnabledByFocus(false);
 }
 
-// Each way to change something is one step back and one forth, on every page.
+// Each kind of change is one step for undo and redo, on every page.
 void playUndo(ScriptedUser &user)
 {
     const QString contrast = QStringLiteral("Contrast");

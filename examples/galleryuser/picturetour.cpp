@@ -58,7 +58,7 @@ private:
     QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
     QImage whole() const { return m_view->painted(QRect(QPoint(), m_view->pictureSize())); }
 
-    // What is not saved is given up.
+    // Discards unsaved edits.
     void open(const char *name)
     {
         const auto choose = [this, name] {
@@ -77,7 +77,7 @@ private:
         return QImage(path(name));
     }
 
-    // What the view shows where the picture is.
+    // The part of the view that shows the picture.
     QImage shown() const
     {
         m_view->setScale(1);
@@ -86,7 +86,7 @@ private:
         return m_view->grab(area).toImage();
     }
 
-    // From one of the rectangle's edges, or from within.
+    // From one of the rectangle's edges, or from inside.
     void drag(double x, double y, const QPoint &by)
     {
         const QRectF rect = m_view->rectInView();
@@ -114,7 +114,7 @@ void Tour::openAndQuit()
     m_user.answer(QMessageBox::Cancel, [this] { m_window.close(); });
     ScriptedUser::expect(m_window.isVisible(), "a window stays that is not to be closed");
 
-    // What is being typed is not lost either.
+    // A pending entry is not lost either.
     open("clear.png");
     ScriptedUser::expect(isSame(whole(), colourful(m_size, true)), "the next one starts clean");
     ScriptedUser::expect(!m_window.isWindowModified(), "there is nothing to save");

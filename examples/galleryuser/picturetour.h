@@ -2,6 +2,6 @@
 
 class ScriptedUser;
 
-// Pictures from files and to files: nothing is lost unasked, and a file has what the
-// window shows. Then what is dragged in the picture, and the picture itself.
+// Loads and saves pictures: no edit is lost without a question, and a file has the pixels
+// that the window shows. Then drags rectangles in the picture, and the picture itself.
 void tourPictures(ScriptedUser &user);

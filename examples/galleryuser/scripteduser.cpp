@@ -83,7 +83,7 @@ void ScriptedUser::inDialog(const std::function<bool(QWidget *)> &work,
     timer.start(10);
     open();
     expect(isWorked, "the dialog opens");
-    m_window.activateWindow(); // as a window system does when a dialog is closed
+    m_window.activateWindow(); // as a window system does after a dialog closes
     QApplication::processEvents();
 }
 
@@ -158,7 +158,7 @@ void ScriptedUser::clickInto(const QString &row)
     click(this->row(row)->findChild<QAbstractSpinBox *>());
 }
 
-// A line feed stands for Enter.
+// A line feed means Enter.
 void ScriptedUser::type(const QString &row, const QString &text)
 {
     QString shown = text;
@@ -223,7 +223,7 @@ void ScriptedUser::drag(QWidget *widget, const QPoint &from, const QPoint &to)
     QApplication::processEvents();
 }
 
-// A person's hand, so that the sampling row has its ticks.
+// As slow as a hand, so that the sampling row has its ticks.
 void ScriptedUser::move(const std::function<void(int)> &moveTo)
 {
     for (int step = 1; step <= dragMoves; ++step) {

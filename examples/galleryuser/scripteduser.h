@@ -9,8 +9,8 @@ class MainWindow;
 class PictureView;
 class QSlider;
 
-// Works the window by pointer, keys and wheel, as a person would. Rows are named by their
-// labels on the page that is shown. What it does and what comes of it is in the log.
+// Drives the window by pointer, keys and wheel, like a user. Rows are named by their
+// labels on the current page. The log records the actions and their results.
 class ScriptedUser : public QObject
 {
     Q_OBJECT
@@ -25,9 +25,9 @@ public:
     QString fieldText(const QString &row) const;
 
     void say(const QString &what) const;
-    // Ends the program where it is otherwise.
+    // Aborts the program otherwise.
     static void expect(bool isSo, const char *what);
-    // That the change is one step back and one forth, as the row's field shows it.
+    // Checks that the change is one step for undo and redo, as the row's field shows it.
     void undoAndRedo(const QString &row, const std::function<void()> &change);
 
     void showPage(const QString &title);
@@ -44,8 +44,8 @@ public:
     void moveAway(); // from the editors, so that none is drawn as hovered
 
     void choose(const QString &menuEntry);
-    // What opens a dialog comes last: it returns when the dialog is closed. The work says
-    // whether that was its dialog.
+    // The function that opens a dialog comes last: it returns when the dialog is closed. The
+    // work returns whether that was its dialog.
     void answer(int button, const std::function<void()> &open);
     void takeFile(const QString &path, const std::function<void()> &open);
     void inDialog(const std::function<bool(QWidget *)> &work, const std::function<void()> &open);

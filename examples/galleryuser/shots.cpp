@@ -33,7 +33,7 @@ public:
 
     bool isOk() const { return m_isOk; }
 
-    // A step up and down on each page, so that its picture has signals in the log.
+    // A step up and down on each page, so that its picture shows signals in the log.
     void shootPages(const QString &suffix)
     {
         ScriptedUser user(m_window);
@@ -51,7 +51,7 @@ public:
         }
     }
 
-    // One picture of each class of editor, as it stands on its page.
+    // One picture of each editor class, as it is on its page.
     void shootEditors(const QString &suffix)
     {
         QStringList names;
@@ -72,7 +72,7 @@ public:
         shootRectEditor(suffix);
     }
 
-    // A row whose field says that it has refused the entry.
+    // A row whose field shows that it has refused the entry.
     void shootRefusedEntry(const QString &suffix)
     {
         const QString row = QStringLiteral("Contrast");
@@ -85,8 +85,8 @@ public:
         user.type(row, QStringLiteral("0\n"));
     }
 
-    // The pad is a window of its own: it is laid over the picture of the main
-    // window where it stands on the screen.
+    // The pad is a separate window: it is drawn over the picture of the main
+    // window at its place on the screen.
     void shootNumberPad(const QString &suffix)
     {
         m_window.showPage(0);
@@ -110,7 +110,7 @@ private:
             for (const char *row : {"Top", "Bottom", "Left", "Right"}) {
                 user.type(QLatin1String(row), QStringLiteral("120\n"));
             }
-            user.view()->setFocus(); // and no row is drawn as the one that has it
+            user.view()->setFocus(); // and no row is drawn with the focus
         }
     }
 
@@ -122,7 +122,7 @@ private:
         }
     }
 
-    // The base class of three editors stands on no page.
+    // The base class of three editors is on no page.
     void shootRectEditor(const QString &suffix)
     {
         using Rect = Vantor::Widgets::RectEditFrame;
