@@ -7,7 +7,7 @@
 
 using namespace Vantor::Widgets;
 
-// One width for the labels of a panel, and what makes it follow.
+// One width for the labels of a panel, and the events that update it.
 class tst_AlignLabels : public QObject
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ int needOf(const QLabel *label)
     return label->fontMetrics().size(Qt::TextShowMnemonic, label->text()).width();
 }
 
-// Rows of both kinds, and behind a scroll area a composite editor.
+// Rows of both kinds, and a composite editor in a scroll area.
 struct Panel
 {
     Panel()
@@ -55,9 +55,9 @@ struct Panel
         return labels;
     }
 
-    // The width that all visible labels have; -1 where they differ, or where the widest
-    // text has not the room that it needs and no more. In a padding Qt keeps it off the
-    // edge by half a letter.
+    // The width that all visible labels have; -1 if they differ, or if it is not exactly
+    // what the widest text needs. With a padding Qt adds half a letter between text and
+    // edge.
     int width() const
     {
         int need = 0;
@@ -91,7 +91,7 @@ Q_DECLARE_METATYPE(Change)
 void tst_AlignLabels::column_data()
 {
     QTest::addColumn<Change>("change");
-    QTest::addColumn<int>("direction"); // that the width goes
+    QTest::addColumn<int>("direction"); // of the change of the width
     const auto add = [](const char *name, int direction, const Change &change) {
         QTest::newRow(name) << change << direction;
     };
@@ -165,7 +165,7 @@ void tst_AlignLabels::column()
     }
 }
 
-// The labels stay as they are until the host asks for a side.
+// The labels keep their alignment unless the host passes one.
 void tst_AlignLabels::alignment()
 {
     Panel panel;
@@ -191,7 +191,7 @@ void tst_AlignLabels::alignment()
     QTRY_COMPARE(alignments(), QList<int>({atLeft, atLeft, atLeft, atLeft, atLeft, atLeft}));
 }
 
-// With a change that is still to be followed.
+// With a change that is not yet applied.
 void tst_AlignLabels::deletedPanel()
 {
     alignLabels(nullptr);

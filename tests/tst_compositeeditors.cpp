@@ -6,9 +6,9 @@
 
 using namespace Vantor::Widgets;
 
-// What every composite editor does alike with its rows: the operations that a
-// type flag sends to one row, those that reach all rows, visibility and form. The
-// colour editors report and read their values here, too.
+// How every composite editor handles its rows: the functions that address one row by
+// a type flag, those that reach all rows, visibility and form. Tests the reports and
+// getters of the colour editors, too.
 class tst_CompositeEditors : public QObject
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ private Q_SLOTS:
 
 namespace {
 
-// A row as host and user find it, and the values that gestures bring it to.
+// A row as host and user see it, and its values after gestures.
 QStringList settingsOf(EditorUser &user, const EditorRow &row)
 {
     QStringList settings;
@@ -53,8 +53,8 @@ QStringList settingsOf(EditorUser &user, const EditorRow &row)
 template <typename F> constexpr bool isRect = std::is_same_v<F, RectEditFrame>;
 template <typename F> using Call = std::function<void(F &, typename F::Type)>;
 
-// A row's own flag changes that row alone, any other value nothing, and is
-// reported in the name of the operation, which may be another class's.
+// A row's own flag changes only that row. Any other value changes nothing and is
+// reported with the name of the function, which may be another class's.
 template <typename F>
 void checkOperation(const QString &name, const QString &result, const Call<F> &call, bool isForAll)
 {
@@ -71,7 +71,7 @@ void checkOperation(const QString &name, const QString &result, const Call<F> &c
         flags.prepend(1 << row);
     for (int i = 0; i < (isForAll ? 1 : flags.size()); ++i) {
         user.frame->setEditerVisible(0); // hidden rows are set as well
-        user.heard(); // what the readings caused
+        user.heard(); // the warnings of the getters
         call(*user.frame, typename F::Type(flags[i]));
         const bool isWrong = !isForAll && i >= user.rows.size();
         QCOMPARE(user.heard(), isWrong ? warning.arg(flags[i]) : QString());
@@ -87,7 +87,7 @@ void checkOperation(const QString &name, const QString &result, const Call<F> &c
     }
 }
 
-// A panel or block is hidden as a whole when none of its rows is asked for.
+// A panel or block is hidden as a whole if none of its rows is to be shown.
 template <typename Frame> void checkVisibility()
 {
     UserOf<Frame> user;
@@ -119,7 +119,7 @@ template <typename Frame> void checkMousePressed()
     }
 }
 
-// Each row by its flag. A combination names none.
+// Each row by its flag. A combination names no row.
 template <typename Frame> void checkReading()
 {
     UserOf<Frame> user;
@@ -166,7 +166,7 @@ template <typename Frame> void checkReading()
     }
 }
 
-// The program leads the user into each field.
+// The program gives the focus to each field.
 template <typename Frame> void checkFieldFocus()
 {
     UserOf<Frame> user;
@@ -186,12 +186,12 @@ QList<int> formOf(const QWidget &editor)
             spacer->sizePolicy().horizontalPolicy(), spacer->sizePolicy().verticalPolicy()};
 }
 
-// What the four-value editors start with, and each row in its place of the signal.
+// The initial values of the four-value editors, and each row at its place in the signal.
 template <typename Frame>
 void checkColours(const QString &range, const QString &value, const QString &wideRange)
 {
     UserOf<Frame> user;
-    // The end of editing finds what was set last.
+    // The end of editing uses the value that was set last.
     user.play(QString("ranges: 0..255 0..255 0..255 %2 | shown: 50 50 50 %3 | "
                       "%1 click | elsewhere: finished finished")
                   .arg(user.rows[3].name, range, value));
@@ -206,7 +206,7 @@ void checkColours(const QString &range, const QString &value, const QString &wid
     user.play("ranges: -1..999 -1..999 -1..999 " + wideRange);
 }
 
-// Operations by the end of their warning, with what they make of a row.
+// Functions by the end of their warning, with their effect on a row.
 template <typename F, typename T = typename F::Type> void addChecks()
 {
     const auto add = [](const QString &name, const QString &result, const Call<F> &call,
@@ -283,7 +283,7 @@ void tst_CompositeEditors::rows_data()
     });
 }
 
-// An editor's form, what the program sets of it, and what reaches the block of channels.
+// An editor's form, the settings of the program, and those that reach the block of channels.
 void tst_CompositeEditors::form()
 {
     using P = QSizePolicy;
@@ -311,7 +311,7 @@ void tst_CompositeEditors::form()
     RGBAllEditFrame all;
     check(all, {537, 94}, {0, 20, 20, P::Minimum, P::Preferred});
     QCOMPARE(formOf(*all.findChild<RGBEditFrame *>()), untouched);
-    // A block that is hidden as a whole leaves its rows as they are.
+    // A block that is hidden as a whole does not change its rows.
     all.setEditerVisible(10);
     all.setEditerVisible(16);
     QVERIFY(!rowsOf(all)[0].frame->isHidden() && rowsOf(all)[1].frame->isHidden());
@@ -330,7 +330,7 @@ void tst_CompositeEditors::form()
         QCOMPARE(rect.findChild<QLayout *>(fields)->spacing(), 0);
 }
 
-// The first row's font measures, and that of a row beside the channels its own label.
+// Labels are measured with the first row's font; a row beside the channels uses its own.
 void tst_CompositeEditors::labelMaxLength()
 {
     const auto check = [](auto &&frame, int ownRow) {
@@ -342,7 +342,7 @@ void tst_CompositeEditors::labelMaxLength()
         for (const int i : {3, 2, 0, 1}) {
             rows[i].label->setText(text += "WW");
             const QFontMetrics metrics = rows[i == ownRow ? i : 0].frame->fontMetrics();
-            // To a pixel: one may round otherwise than the other.
+            // Within a pixel: the two may round differently.
             QVERIFY(qAbs(frame.labelMaxLength() - metrics.size(0, text).width()) <= 1);
         }
     };

@@ -42,7 +42,7 @@ void drag(int &start, int &length, Hold hold, int by, const Limits &limits)
     }
 }
 
-// At least the middle half is left to hold the whole.
+// At least the middle half remains for grabbing the whole.
 Qt::Edges edgeAt(double pos, double low, double high, Qt::Edge lowEdge, Qt::Edge highEdge)
 {
     const double inwards = qMin<double>(reach, (high - low) / 4);

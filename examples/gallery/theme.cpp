@@ -127,7 +127,7 @@ bool Theme::hasGlyphs()
 
 Theme::Theme(QObject *parent) : QObject(parent), m_font(QApplication::font()) { }
 
-// The next window finds the application as this one did.
+// Restores the application's state for the next window.
 Theme::~Theme()
 {
     qApp->setStyleSheet(QString());

@@ -1,5 +1,5 @@
-// Linked into a program of the guide: writes a picture of its first window to
-// $SAMPLE_PICTURE once it is shown, and ends the program.
+// Linked into a program of the guide: saves a picture of its first window to
+// $SAMPLE_PICTURE when it is shown, and quits the program.
 #include <QtWidgets/QtWidgets>
 
 static void onStart()

@@ -1,6 +1,6 @@
-// Runs the guide's samples of C++, and reads its style sheets: samples SHEET...
-// A sample fails by a warning or by a comparison of its own, a sheet by a warning
-// or by a selector that selects nothing.
+// Runs the guide's C++ samples, and parses its style sheets: samples SHEET...
+// A sample fails if it causes a warning or if one of its own comparisons fails, a sheet
+// if it causes a warning or if a selector matches nothing.
 #include "samplehost.h"
 
 #include <cstdio>
@@ -15,15 +15,15 @@ void note(QtMsgType type, const QMessageLogContext &, const QString &text)
         complaints += "    " + text + '\n';
 }
 
-// Whether the attempt leaves no complaint. What the last one may have left behind is
-// taken back first.
+// Whether the attempt causes no failure or message. First removes what the last attempt
+// may have left.
 template <typename Attempt> bool isFine(const QString &name, Attempt attempt)
 {
     qInstallMessageHandler(note);
     QLoggingCategory::setFilterRules(QString());
     qApp->setStyleSheet(QString());
     complaints.clear();
-    const bool wasFailed = QTest::currentTestFailed(); // once set, it stays
+    const bool wasFailed = QTest::currentTestFailed(); // it is never reset
     attempt();
     QCoreApplication::processEvents();
     if (QTest::currentTestFailed() && !wasFailed)
@@ -33,7 +33,7 @@ template <typename Attempt> bool isFine(const QString &name, Attempt attempt)
     return complaints.isEmpty();
 }
 
-// Whether any widget of the host is selected, whatever its state and its part.
+// Whether the selector matches any widget of the host, in any state and subcontrol.
 bool selectsSomething(QString selector)
 {
     Host host;
@@ -50,8 +50,8 @@ void trySheet(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         complaints += "    cannot be read\n";
     QString sheet = QString::fromUtf8(file.readAll());
-    // Gone before the next host: Qt would take that one's widgets, at the same
-    // addresses, for the same ones.
+    // Deleted before the next host: Qt would mistake the next host's widgets at the same
+    // addresses for these.
     {
         Host host;
         host.window.setStyleSheet(sheet);
@@ -63,7 +63,7 @@ void trySheet(const QString &path)
     const QRegularExpression noDeclaration("^(?!\\s*([a-z-]+: .+)?$)");
     for (auto rules = rule.globalMatch(sheet); rules.hasNext();) {
         const auto match = rules.next();
-        // Qt reads over a declaration that it can't make out.
+        // Qt ignores a declaration that it can't parse.
         for (const QString &text : match.captured(2).split(';').filter(noDeclaration))
             complaints += "    no declaration: " + text + '\n';
         for (const QString &selector : match.captured(1).split(',')) {

@@ -1,7 +1,7 @@
 #pragma once
 
-// What the guide's samples take for granted: the headers, and a host with editors
-// of the names that the samples use.
+// What the guide's samples assume: the headers, and a host with editors
+// that have the names used in the samples.
 #include <alignlabels.h>
 #include <cropeditframe.h>
 #include <layouteditframe.h>
@@ -56,5 +56,5 @@ struct Sample
     void (*run)();
 };
 
-// In the file that is made of the pages.
+// Defined in the file that is generated from the pages.
 extern const QVector<Sample> samples;

@@ -1,11 +1,11 @@
-// Feeds a calculator field with whatever the input says and checks what it
-// promises of its text. With -fsanitize=fuzzer the inputs are the fuzzer's;
-// without, main() in corpus.cpp hands over files.
+// Performs the input on a calculator field and checks the invariants of its
+// text. With -fsanitize=fuzzer the fuzzer creates the inputs; without it, main()
+// in corpus.cpp reads files.
 //
 // An input is a text in UTF-8: its characters are typed, except for
 //   \x01  what follows, up to the next \x02, is pasted at once
-//   \x03  the cursor goes to the position that the next character's code gives
-//   \x04  Backspace        \x05  editing is finished, as Enter does
+//   \x03  the cursor moves to the position given by the code of the next character
+//   \x04  Backspace        \x05  editing is finished, as by Enter
 //   \x06  two characters follow: decimals of a result, decimals of an entry
 //   \x07  the whole text is selected
 
@@ -117,7 +117,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     static char arguments[][10] = {"fuzz", "-platform", "offscreen"};
     static char *argv[] = {arguments[0], arguments[1], arguments[2], nullptr};
     static int argc = 3;
-    // Never deleted: Qt 6 has it outlive what its own end needs.
+    // Never deleted: with Qt 6 it would outlive objects that its destructor needs.
     [[maybe_unused]] static const auto *application = new QApplication(argc, argv);
     Player().play(QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<int>(size)));
     return 0;

@@ -64,8 +64,8 @@ static double scaleOf(const EditorRow &row)
     return std::pow(10.0, row.frame->property("decimals").toInt());
 }
 
-// Whether the handle stands where the value belongs: on a logarithmic scale where the
-// value puts it, or where any that is rounded to the value does.
+// Whether the handle is at the position of the value. On a logarithmic scale it may also
+// be at the position of any number that is rounded to the value.
 static bool isHandleAt(const EditorRow &row, double value)
 {
     const int position = row.slider->value();
@@ -125,7 +125,7 @@ void EditorUser::addGestures()
     on("menu", [](const Step &step) {
         QApplication::clipboard()->setText(step.text);
         QTimer::singleShot(0, step.row.field, [] {
-            QCoreApplication::processEvents(); // the platform looks at the menu's window
+            QCoreApplication::processEvents(); // the platform checks the menu's window
             QWidget *const menu = QApplication::activePopupWidget();
             menu->close();
             for (QAction *action : menu->actions()) {
@@ -178,7 +178,7 @@ void EditorUser::addGestures()
     });
     on("delete", [](const Step &step) {
         delete step.row.frame;
-        QCoreApplication::processEvents(); // what was left to do finds it gone
+        QCoreApplication::processEvents(); // posted events find it deleted
     });
 }
 
@@ -226,7 +226,7 @@ template <typename Frame> void EditorUser::addModes(Frame *frame)
         options.setFlag(EnterStays, step.text.contains("stays"));
         frame->setEntryOptions(options);
     });
-    // Long enough for the ticks to come by hand.
+    // So long that only the test sends ticks.
     on("sampled", [=](const Step &) { frame->setTimeSamplingRate(60000); });
     on("edits", [=](const Step &) {
         QObject::connect(frame, &Frame::editStarted, &page,

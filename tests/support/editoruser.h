@@ -15,8 +15,8 @@
 
 #include <functional>
 
-// A slider editor of either kind, alone or in a composite editor, and what a user
-// finds in it.
+// A slider editor of either kind, single or in a composite editor, and its
+// children.
 struct EditorRow
 {
     // Clicks into the field, which selects its text, and types over it.
@@ -29,7 +29,7 @@ struct EditorRow
 
     QString name; // in a composite editor: x, y, w, h, r, g, b, all or opacity
     QWidget *frame;
-    // The frame where it is the integer one.
+    // The frame if it is the integer one.
     Vantor::Widgets::SliderEditFrame *whole =
         qobject_cast<Vantor::Widgets::SliderEditFrame *>(frame);
     QLabel *label = frame->findChild<QLabel *>("labelName");
@@ -41,13 +41,13 @@ struct EditorRow
 };
 
 // The rows of an editor in the order of their type flags: 2, 4, 8, 16. A mask's
-// margins go by x, y, w and h, too.
+// margins are also named x, y, w and h.
 QVector<EditorRow> rowsOf(QWidget &editor);
 
 // "0..99"
 QString limits(int min, int max);
 
-// The page around the editor under test. What reaches it is in the log.
+// The page around the editor under test. It logs the events that it receives.
 class Page : public QWidget
 {
 public:
@@ -61,30 +61,30 @@ private:
     EventLog &m_log;
 };
 
-// An editor on a page, its user and the program around it, who work by the steps of
+// An editor on a page, its user and the program around it, which perform the steps of
 // a table:
 //
 //     range 0 50 | hold 20 60: 20 50 | drop | shown: 50
 //
-// Each step is what is done and, behind the colon, all that is heard of it, in order.
+// Each step is an action and, after the colon, all that it causes to be recorded, in order.
 // In a composite editor a row's name comes first: "w enter 3: h(2) w(3) (0,0,3,2)".
 //
-// What is heard: "20" is a row's report, "h(2)" a rectangle editor's signal of that
+// Records: "20" is a row's report, "h(2)" a rectangle editor's signal of that
 // field, "(0,0,3,2)" any editor's valueChanged(), "too early" a row's report before its
-// slider stands there; "finished" and "left" are the messages of an entry, "page" and
-// "key" a turn of the wheel or a shortcut, and a key that come to the page around the editor.
-// "start" and "end" are those of an edit, which only the rows hear that ask for "edits";
-// "late" is a start at which a value is not the one of before.
+// slider is updated; "finished" and "left" are the messages of an entry, "page" a wheel
+// event or a shortcut, and "key" a key that the page around the editor receives.
+// "start" and "end" are those of an edit, recorded only in rows that ask for "edits";
+// "late" is a start at which a value has already changed.
 //
 // What the user does:
 //   plus, minus, space      clicks a step button, presses plus by the space bar
-//   hold, move, drop        takes the slider's handle, moves it to each of the
-//                           positions that follow, lets it go
+//   hold, move, drop        presses the slider's handle, moves it to each of the
+//                           positions that follow, releases it
 //   groove before, after    clicks beside the handle
 //   click, elsewhere        clicks into the field, on the page
 //   type 12*3               clicks into the field and types; "\n" is Enter
-//   keys *2, paste 07       goes on where the focus is
-//   enter 12*3              types and presses Enter; its messages go without saying
+//   keys *2, paste 07       types or pastes where the focus is
+//   enter 12*3              types and presses Enter; its messages are implied
 //   menu 07                 pastes by the field's own menu; pageMenu: opens one of the page
 //   undo, redo              presses their keys
 //   up, down, right, escape presses that key
@@ -96,7 +96,7 @@ private:
 //   value, range, default, resetValue, tick (of the sampling), focus, show, hide, disable,
 //   enable, delete;
 //   dialog (shows a modal one and closes it)
-// to all rows: sampled, released, autoRepeat; the last two end by off; options, those of
+// to all rows: sampled, released, autoRepeat; off ends the last two; options, any of
 //   exact, comma, escape and stays
 // to a slider editor:
 //   minimum, maximum, singleStep, pageStep, decimals, direction (flags and value),
@@ -105,28 +105,28 @@ private:
 // to a rectangle, a crop or a mask:
 //   set, sizeLock and positionLock on or off, ratio; area, areaFrom, leastPosition,
 //   leastSize, crop, rect; area, leastSize, mask
-// What both find:
-//   shown      what the fields hold, each with the slider's position behind a slash where
-//              that is another
+// What both read:
+//   shown      the values of the fields, each with the slider's position after a slash if
+//              that differs
 //   handle     the slider's position
 //   ranges     of the sliders of all rows; bounds: of a slider editor's values
 //   timer      whether the sampling "runs" or "stands"
-//   focused    "editor" where the row has the focus, or "other"
-//   selected   "all" of the field's text, "nothing" or what, once nothing is left to do
+//   focused    "editor" if the row has the focus, or "other"
+//   selected   "all" of the field's text, "nothing" or the text, after all posted events
 //   locks      of a rectangle: is the position locked, is the size, and its ratio
 //   pressed, refused   whether the handle is held, whether the entry was refused
 //   repeating  whether minus and plus repeat while they are held
 class EditorUser
 {
 public:
-    // A slider editor goes from 0 to 100 positions of its slider in steps of one and
-    // stands at 10. Its values are counted in units. A rectangle editor has its locks.
+    // A slider editor has a range of 0 to 100 positions of its slider, a step of one and
+    // the value 10. Its values are counted in units. A rectangle editor has its locks.
     explicit EditorUser(QWidget *editor, double unit = 1);
 
-    // Fails the test at the first step of which something else is heard than it says.
+    // Fails the test at the first step whose records differ from the expected ones.
     void play(const QString &steps);
     void perform(const QString &action);
-    // What was heard since the last call.
+    // The records since the last call.
     QString heard();
     QString shown() const;
 
@@ -140,7 +140,7 @@ private:
         const EditorRow &row;
         int index;
         QString verb;
-        QString text; // behind the verb
+        QString text; // after the verb
         QString word(int i) const { return text.section(' ', i, i); }
         // The word as a whole number.
         int operator[](int i) const { return word(i).toInt(); }
@@ -165,8 +165,8 @@ private:
     QVariantList m_valuesBefore; // the step, or at the end of an edit within it
 };
 
-// The user of an editor of that class. A slider editor's unit is, unless the test wants
-// another, a position of the slider.
+// The user of an editor of that class. The default unit of a slider editor is a position
+// of the slider.
 template <typename Frame> class UserOf : public EditorUser
 {
 public:
@@ -193,7 +193,7 @@ inline void runTestCode()
     code();
 }
 
-// Adds a row of code that takes the user of an editor of that class.
+// Adds a row of code that receives the user of an editor of that class.
 template <typename Frame, typename Code>
 void addFor(const QString &name, const Code &code, double unit = UserOf<Frame>::position)
 {
@@ -210,7 +210,7 @@ template <typename Code> void addForBoth(const QString &name, const Code &code)
     addFor<Vantor::Widgets::SliderEditFrameDouble>(name, code);
 }
 
-// Takes rows of steps that all begin alike.
+// Adds rows of steps that all begin with the same steps.
 template <typename Frame>
 auto rowsAfter(const QString &start = {}, double unit = UserOf<Frame>::position)
 {

@@ -26,7 +26,7 @@ QStringList EventLog::take()
 void EventLog::handleMessage(QtMsgType type, const QMessageLogContext &context,
                              const QString &message)
 {
-    // What the test's own platform cannot do is no matter of the library.
+    // Messages of the test's own platform do not concern the library.
     if (message.startsWith(QLatin1String("This plugin does not support")))
         return;
     if (type == QtFatalMsg)

@@ -4,9 +4,9 @@
 #include <QtCore/QObject>
 #include <QtCore/QStringList>
 
-// Records signals and messages of Qt's log in the order in which they come, as
-// text: "valueChanged(36)", "debug: SpinBox lose focus.". While a log lives it
-// holds back all messages; one log at a time.
+// Records signals and messages of Qt's log as text, in the order in which they occur:
+// "valueChanged(36)", "debug: SpinBox lose focus.". While a log exists it
+// intercepts all messages. Only one log can exist at a time.
 class EventLog
 {
 public:
@@ -28,7 +28,7 @@ public:
     void add(const QString &entry) { m_entries.append(entry); }
     // The entries since the last call.
     QStringList take();
-    // Where the last message said that it comes from: file, function and category.
+    // The context of the last message: file, function and category.
     QString lastContext() const { return m_context; }
 
 private:

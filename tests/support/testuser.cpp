@@ -5,8 +5,8 @@
 
 namespace {
 
-// No display needed, the same look and locale everywhere. The platform is chosen before
-// the application is made. Linked into the programs that use any of this file.
+// Needs no display, and sets the same look and locale everywhere. Chooses the platform before
+// the application is constructed. Linked into the programs that use anything of this file.
 void prepareTest()
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))

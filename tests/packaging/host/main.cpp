@@ -1,8 +1,8 @@
-// A stranger's first program: opens an editor, presses its plus button with a
-// real click and prints what the editor signals.
+// A host's first program: opens an editor, clicks its plus button with real events
+// and prints the editor's signals.
 #include <slidereditframe.h>
 #include <slidereditframe_p.h>
-// Either name may stand in a host, or both.
+// A host may include either path, or both.
 #include <vantorslider/slidereditframe.h>
 #include <vantorslider/slidereditframedouble.h>
 
