@@ -25,7 +25,7 @@ EditorDescription describe(const char *includeFile, const char *toolTip,
             [](QWidget *parent) -> QWidget * { return new Editor(parent); }};
 }
 
-// A row without a name would be hard to see in the form.
+// A row without a label text would be hard to see in the form.
 constexpr auto named = R"(<property name="labelText"><string>Value</string></property>)";
 
 QVector<EditorDescription> descriptions()

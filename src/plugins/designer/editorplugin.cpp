@@ -34,7 +34,7 @@ QString EditorPlugin::includeFile() const
     return m_description.includeFile;
 }
 
-// The widget box shows no icon that names no size, as one from a drawing.
+// The widget box ignores icons without sizes, such as those of SVG files.
 QIcon EditorPlugin::icon() const
 {
     const QIcon drawing(QStringLiteral(":/vantorslider/icons/%1.svg").arg(shortName().toLower()));
@@ -45,7 +45,7 @@ QIcon EditorPlugin::icon() const
     return icon;
 }
 
-// The rows inside are the editor's own: nothing can be dropped into it.
+// The rows belong to the editor: nothing can be dropped into it.
 bool EditorPlugin::isContainer() const
 {
     return false;

@@ -3,14 +3,14 @@
 #include <QtCore/QObject>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
-// What Designer is to know of one editor.
+// Describes one editor to Designer.
 struct EditorDescription
 {
-    // With its namespaces, as the meta-object has it.
+    // With its namespaces, as in the meta-object.
     QString className;
     QString includeFile;
     QString toolTip;
-    // The properties that a new one has in a form, as elements of the .ui format.
+    // Properties of a new editor in a form, as elements of the .ui format.
     QString properties;
     QWidget *(*create)(QWidget *parent);
 };
