@@ -43,8 +43,8 @@ int textWidthOf(const QLabel &label)
     return qCeil(document.idealWidth());
 }
 
-// What a label keeps its text off its edge by where nothing sets it: with a frame, or a
-// padding of a sheet, half the width of an x.
+// The indent of the text from the label's edge. If the host has set none, QLabel indents by half
+// the width of an "x" if there is a frame or a style sheet's padding.
 int indentOf(const QLabel &label)
 {
     if (label.indent() >= 0) {
@@ -54,8 +54,8 @@ int indentOf(const QLabel &label)
     return label.frameWidth() > 0 ? qMax(0, half - label.margin()) : 0;
 }
 
-// A label and what its text takes. The label's own hint does not serve: it is never
-// below the minimum width, which is that of the column.
+// A label and the width that its text needs. The label's size hint can't tell: it is never
+// smaller than the minimum width, which is the column's.
 struct MeasuredLabel
 {
     explicit MeasuredLabel(QLabel *measured)
@@ -83,8 +83,8 @@ struct MeasuredLabel
 
 } // namespace
 
-// The labels below a panel, which owns it. Each pass finds those that are there, and
-// measures a text again only where it, its font or its place has changed.
+// The labels of a panel, which owns this object. Each pass collects the labels and measures a
+// text again only if it, its font or its position has changed.
 class LabelColumn : public QObject
 {
     Q_OBJECT
@@ -109,8 +109,8 @@ private:
     bool collectBelow(QWidget *widget, bool isVisible);
     void append(QLabel *label);
 
-    // Those of the last pass; nothing is read through their pointers until the next
-    // has found them again.
+    // The labels of the last pass. The pointers may dangle until the next pass has found the
+    // labels again.
     std::vector<MeasuredLabel> m_labels;
     std::size_t m_count = 0;
     Qt::Alignment m_alignment;
@@ -123,7 +123,7 @@ void LabelColumn::align()
     m_count = 0;
     auto *panel = static_cast<QWidget *>(parent());
     collect(panel, true);
-    panel->installEventFilter(this); // with rows or without
+    panel->installEventFilter(this); // also if it has no rows
     m_labels.erase(m_labels.begin() + std::ptrdiff_t(m_count), m_labels.end());
     int width = 0;
     for (const MeasuredLabel &measured : m_labels) {
@@ -132,7 +132,7 @@ void LabelColumn::align()
     for (const MeasuredLabel &measured : m_labels) {
         measured.label->setFixedWidth(width);
         if (m_alignment != Qt::Alignment()) {
-            // Left to itself the label goes by the direction of its text.
+            // QLabel itself would use the direction of its text, not of the layout.
             measured.label->setAlignment(
                 QStyle::visualAlignment(measured.label->layoutDirection(), m_alignment)
                 | Qt::AlignVCenter);
@@ -140,8 +140,8 @@ void LabelColumn::align()
     }
 }
 
-// Whether there is a row in the widget. Rows, hidden ones too, and what lies between
-// them and the panel are watched.
+// Collects the labels below the widget and returns whether it contains a row. Rows, also hidden
+// ones, and the widgets between them and the panel get the event filter.
 bool LabelColumn::collect(QWidget *widget, bool isVisible)
 {
     if (isRow(widget)) {
@@ -193,9 +193,8 @@ bool LabelColumn::event(QEvent *event)
     return true;
 }
 
-// A label's text or font that changes makes its row lay itself out again. Of many
-// changes at once one pass follows, before anything is painted: at the latest when
-// the panel lays out its rows or is shown.
+// A change of a label's text or font makes its row request a layout. Several changes lead to one
+// pass, before anything is painted: at the latest when the panel lays out its rows or is shown.
 bool LabelColumn::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {

@@ -33,7 +33,7 @@ bool isHexadecimalDigit(QChar character)
     return isDigit(character) || isBetween(character, 'a', 'f') || isBetween(character, 'A', 'F');
 }
 
-// Belongs to the name or the number before it.
+// Whether the character continues a name or a number.
 bool isOfWord(QChar character)
 {
     return isDigit(character) || isBetween(character, 'a', 'z') || isBetween(character, 'A', 'Z')
@@ -66,7 +66,7 @@ const QChar *skip(const QChar *begin, const QChar *end, bool (*isSkipped)(QChar)
     return std::find_if_not(begin, end, isSkipped);
 }
 
-// Decimal, with a point and an exponent; octal from a leading zero on; hexadecimal.
+// Decimal with point and exponent, octal with a leading zero, or hexadecimal.
 Token number(const QChar *begin, const QChar *end)
 {
     const QChar *last = skip(begin, end, isDigit);
@@ -130,7 +130,7 @@ Token word(const QChar *begin, const QChar *end)
     return {isName ? Token::Name : Token::Unknown, begin, last};
 }
 
-// By the longest that fits; the first ones begin a comment.
+// The longest operator that matches; those of the first row start a comment.
 Token sign(const QChar *begin, const QChar *end)
 {
     struct Group
@@ -180,9 +180,9 @@ ArithmeticToken ArithmeticToken::at(const QChar *begin, const QChar *end)
     return isOfWord(*begin) ? word(begin, end) : sign(begin, end);
 }
 
-// There is nothing to call but Math's functions, no loop and no object; and where a
-// variable is, there is no text, so that none can be doubled. Each token is evaluated
-// once at most: what an expression costs is in proportion to its length.
+// Such a text can call only functions of Math and has no loops or objects. Strings and variables
+// exclude each other, so no string can be doubled repeatedly. Each token is evaluated at most
+// once: the cost of an expression is proportional to its length.
 bool isArithmetic(const QString &text)
 {
     bool isOperandDue = true;
@@ -202,14 +202,14 @@ bool isArithmetic(const QString &text)
             isInNewLine = true;
             continue;
         case Token::Step:
-            // In a new line it belongs to what follows.
+            // At the start of a line it belongs to the operand that follows.
             isOperandDue = isOperandDue || isInNewLine;
             assigns = true;
             break;
         case Token::Assignment:
         case Token::Operator:
-            // A "/" begins a pattern here; with the sign before it, others make what
-            // only newer script languages have: ** ?? => &&=
+            // Where an operand is due, "/" starts a regular expression literal. Other operators
+            // form, with the one before, operators of newer ECMAScript: ** ?? => &&=
             if (isOperandDue) {
                 return false;
             }
@@ -240,7 +240,7 @@ bool isArithmetic(const QString &text)
 QString withDecimalPoints(const QString &text)
 {
     QString result = text;
-    std::vector<bool> isCall; // of each bracket that is open
+    std::vector<bool> isCall; // for each open parenthesis
     bool isFunction = false;
     const QChar *const end = text.constData() + text.size();
     for (const QChar *at = text.constData(); at != end;) {

@@ -6,7 +6,7 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// A piece of a text as the script language divides it.
+// A token of an expression, as ECMAScript splits it.
 struct ArithmeticToken
 {
     enum Kind {
@@ -15,10 +15,10 @@ struct ArithmeticToken
         Number,
         Text, // a string literal
         Name, // a constant, or a variable of one letter
-        Function, // of Math; its bracket is the next token
-        Step, // ++ and --
+        Function, // of Math; the next token is its parenthesis
+        Step, // ++ or --
         Assignment,
-        Sign, // an operator that may stand before its only operand
+        Sign, // an operator that may be unary
         Operator,
         Semicolon,
         Opening,
@@ -26,7 +26,7 @@ struct ArithmeticToken
         Unknown // not arithmetic
     };
 
-    // The token that begins there, before the end of the text.
+    // The token that starts at begin; end is the end of the text.
     static ArithmeticToken at(const QChar *begin, const QChar *end);
 
     Kind kind;
@@ -34,12 +34,12 @@ struct ArithmeticToken
     const QChar *end;
 };
 
-// Whether a text is made of numbers, operators, functions and constants of Math, and
-// variables of one letter alone; where nothing is assigned, of string literals, too.
-// Its syntax is left to the engine. Linear in the length of the text.
+// Whether a text consists only of numbers, operators, functions and constants of Math, variables
+// of one letter and, if nothing is assigned, string literals. Its syntax is not checked. The time
+// is linear in the length of the text.
 bool isArithmetic(const QString &text);
 
-// The text with a point for each comma but those between the arguments of a function.
+// The text with each comma replaced by a point, except between the arguments of a function.
 QString withDecimalPoints(const QString &text);
 
 } // namespace Internal

@@ -10,8 +10,8 @@ namespace Internal {
 
 namespace {
 
-// Qt writes the value again at a change of locale: here into a field that the
-// calculator replaces next.
+// Filters the locale event: Qt would write the value into the line edit, which the calculator
+// replaces next.
 class LocaleChangeFilter : public QObject
 {
 public:
@@ -35,7 +35,7 @@ void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard)
     spinBox->setLocale(QLocale::c());
 }
 
-// Style sheets need a polish to see a changed property.
+// A style sheet applies a changed property only after a polish.
 void markRefusedEntries(QAbstractSpinBox *spinBox, LineEditCal *calculator)
 {
     const auto mark = [spinBox, calculator](bool isRefused) {

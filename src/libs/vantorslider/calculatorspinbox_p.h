@@ -22,24 +22,24 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// What the two calculator spin boxes share without a common base of their own.
+// What the two calculator spin boxes share; they have no common base class of this library.
 
-// keyboard: the kind of on-screen keyboard that the host is to show.
+// keyboard: the kind of on-screen keyboard that the host should show.
 void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard);
 
-// Has the spin box say to style sheets that its entry was refused.
+// Sets the dynamic property "isEntryRefused" while a failed expression is marked.
 void markRefusedEntries(QAbstractSpinBox *spinBox, LineEditCal *calculator);
 
 bool isFinishingKey(const QKeyEvent *event);
-// Of a press of the key, or of the question whether it is a shortcut.
+// For a key press or a shortcut override.
 bool isEscape(const QEvent *keyEvent);
 
-// Undoes a host's change of locale: the calculator writes a decimal point in every
-// country, and a spin box that read it by a German locale would take 0.25 for 25.
+// Reverts a change of locale by the host: the calculator always writes a decimal point, and with
+// a German locale the spin box would read 0.25 as 25.
 void keepDecimalPoint(QAbstractSpinBox *spinBox, const QEvent *event);
 
-// The number that a bare text is; nothing for an expression. A comma is an operator,
-// where Qt would take it for one that groups digits; and Qt reads "inf" and "nan".
+// The number in a text without prefix and suffix; nothing for an expression. A comma is an
+// operator here, but a group separator for Qt. Qt also accepts "inf" and "nan".
 inline std::optional<double> numberIn(const QString &text)
 {
     bool isNumber = !text.contains(QLatin1Char(','));
@@ -47,12 +47,11 @@ inline std::optional<double> numberIn(const QString &text)
     return isNumber && std::isfinite(number) ? std::optional<double>(number) : std::nullopt;
 }
 
-// The number that the text of a calculator spin box stands for. Qt takes the
-// range's start for what it can't read and for what is out of range, which the
-// calculator's result may be: it is clamped in float, to the range of the last
-// setSpinBoxCal(), and rounded to its own decimals. Here the nearer end is taken,
-// and what is no number leaves the value. So does the last accepted result that is
-// shown in place of a refused entry, where it is the value in six digits.
+// The number in the text of a calculator spin box, clamped to the range. Qt would return the
+// minimum for a number out of range, and for text that it can't read. A result can be out of
+// range: the calculator clamps it as float to the range of the last setSpinBoxCal() and rounds it
+// to decimals of its own. Text that is no number returns the current value. So does the result
+// that is shown instead of a failed expression, if it is the value in six digits.
 template <typename SpinBox>
 double numberFromText(const SpinBox *spinBox, const LineEditCal *calculator, const QString &text)
 {
@@ -67,11 +66,11 @@ double numberFromText(const SpinBox *spinBox, const LineEditCal *calculator, con
     return std::clamp<double>(*number, spinBox->minimum(), spinBox->maximum());
 }
 
-// What the user has entered and the value does not say yet.
+// What the user has typed that is not part of the value yet.
 enum class Entry { None, Number, Expression };
 
-// As the box writes it or as another text of the same number; a number out of range is
-// none. valueText: the value as the box writes it, without prefix and suffix.
+// Whether the text is the value, as the spin box writes it or as another text of the same number.
+// A number out of range is not the value. valueText: the value without prefix and suffix.
 template <typename SpinBox> bool showsValue(const SpinBox *spinBox, const QString &valueText)
 {
     const bool isSpecial =
@@ -95,8 +94,7 @@ template <typename SpinBox> Entry pendingEntry(const SpinBox *spinBox, const QSt
     return spinBox->valueFromText(text) == spinBox->value() ? Entry::None : Entry::Number;
 }
 
-// Changes prefix and suffix. Qt writes the value then: an entry that is pending is put
-// back between the two.
+// Changes prefix and suffix. Qt then writes the value; a pending entry is restored between them.
 template <typename SpinBox, typename Change>
 void keepEntry(SpinBox *spinBox, QLineEdit *field, const QString &valueText, Change change)
 {
@@ -111,8 +109,8 @@ void keepEntry(SpinBox *spinBox, QLineEdit *field, const QString &valueText, Cha
     }
 }
 
-// Whether Escape is to show the value again. A refused entry is gone, but its mark and
-// the result that is shown instead are not.
+// Whether Escape shows the value again: if an entry is pending, or if the last one failed and is
+// still marked.
 template <typename SpinBox>
 bool isRestorable(const SpinBox *spinBox, const LineEditCal *calculator, const QString &valueText)
 {
@@ -124,17 +122,17 @@ template <typename SpinBox> void restoreValue(SpinBox *spinBox, LineEditCal *cal
 {
     const QSignalBlocker blocker(spinBox);
     spinBox->setValue(spinBox->value());
-    // A result that was accepted before goes, too.
+    // Also discards the last accepted result.
     calculator->setInitialResult(saturatedFloat(spinBox->value()));
     spinBox->selectAll();
 }
 
-// Enter in a field that keeps the focus. Each receiver may delete the box.
+// Enter with the option EnterStays. Each receiver may delete the spin box.
 template <typename SpinBox>
 void finishAndStay(SpinBox *spinBox, QKeyEvent *event, const QString &valueText)
 {
     if (showsValue(spinBox, valueText)) {
-        // To a default button; but a key that is held down is pressed once.
+        // Leaves the key to a default button, except for auto-repeat of a held key.
         event->setAccepted(event->isAutoRepeat());
         return;
     }
@@ -154,8 +152,8 @@ void finishAndStay(SpinBox *spinBox, QKeyEvent *event, const QString &valueText)
     }
 }
 
-// Whether the box is hidden or left since its window is destroyed: its pending entry
-// is dropped then.
+// Whether the spin box is hidden or loses the focus because its window is being destroyed. Its
+// pending entry is discarded then.
 template <typename SpinBox> bool isDroppedWithWindow(SpinBox *spinBox, LineEditCal *calculator)
 {
     if (calculator == nullptr || !calculator->hostWindow().isBeingDestroyed()) {

@@ -7,8 +7,8 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// A child that is not hidden comes with its parent. Showing it would polish it now, by
-// a sheet that may not be the last, and without the widths that the host sets next.
+// A child that is not hidden is shown with its parent. Showing it here would polish it too early:
+// with a style sheet that may change, and before the host has set its widths.
 void setShown(QWidget *child, bool isShown)
 {
     if (!isShown || child->isHidden()) {
@@ -29,7 +29,7 @@ void setFixedWidth(QWidget *child, int width)
     applyStyleSheet(child);
 }
 
-// The attribute is set when a sheet has polished the widget.
+// The attribute is set after a style sheet has polished the widget.
 void applyStyleSheet(QWidget *child)
 {
     if (child->testAttribute(Qt::WA_StyleSheet)) {

@@ -10,16 +10,15 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// What the host says of a child of an editor. A style sheet writes its own widths into
-// a widget when the widget is polished, and loses to those that are set later. These
-// calls come to the same in any order, before and after the first show: where the sheet
-// gives a width, it is the sheet's.
+// Setters for a child of an editor. A style sheet sets its widths when the widget is polished,
+// and a later setter would override them. These functions have the same result in any order,
+// before and after the first show: a width in the style sheet takes precedence.
 void setShown(QWidget *child, bool isShown);
 void setWidthRange(QWidget *child, int maximum, int minimum);
 void setFixedWidth(QWidget *child, int width);
 
-// Lets a style sheet see a property that has changed, or write its widths again. Costs
-// nothing without a sheet.
+// Polishes the widget, so that its style sheet applies a changed property and its widths. Does
+// nothing without a style sheet.
 void applyStyleSheet(QWidget *child);
 
 } // namespace Internal

@@ -22,7 +22,7 @@ SliderEditFrame *EditorRows::find(int type) const
     return nullptr;
 }
 
-// The stream adds a blank on each side of the number to those of the texts.
+// QDebug adds a space on each side of the number, beside the one of each text.
 SliderEditFrame *EditorRows::findOrWarn(int type, const QMessageLogger &here,
                                         const char *task) const
 {

@@ -15,13 +15,12 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// Where the warning of a public operation is said to come from: its file, line
-// and signature. It stands in the operation itself, for it names the function
-// that it is written in.
+// The origin of a warning: file, line and signature of a public function. It must be used in that
+// function itself, because Q_FUNC_INFO names the enclosing function.
 #define VANTORSLIDER_HERE QMessageLogger(__FILE__, __LINE__, Q_FUNC_INFO)
 
-// The rows of a composite editor, in their order and by their type flags: what
-// reaches one of them, and what reaches all.
+// The rows of a composite editor, in order and with their type flags: calls one of them by its
+// flag, or all.
 class EditorRows
 {
 public:
@@ -33,11 +32,11 @@ public:
 
     EditorRows(std::initializer_list<Row> rows) : m_rows(rows) { }
 
-    // The row that type names, or null.
+    // The row with this type flag, or null.
     SliderEditFrame *find(int type) const;
 
-    // The same; null is told to the host's log as a failure of what was to be
-    // done, "Set Rect value".
+    // The same, with a warning in Qt's log if it is null. task names the failed call, as in
+    // "Set Rect value".
     SliderEditFrame *findOrWarn(int type, const QMessageLogger &here, const char *task) const;
 
     template <typename Operation, typename... Arguments>
@@ -49,7 +48,7 @@ public:
         }
     }
 
-    // What the row answers; nothing, or 0, where there is none.
+    // What the getter of the row returns; empty or 0 if there is no such row.
     template <typename Getter>
     auto get(int type, const QMessageLogger &here, const char *task, Getter getter) const
     {
@@ -65,22 +64,22 @@ public:
         }
     }
 
-    // Shows the rows whose bit is set in types and hides the others.
+    // Shows the rows whose flag is set in types and hides the others.
     void setVisible(int types) const;
 
-    // The flags of the rows that stand in the panel.
+    // The flags of the rows in the panel.
     int typesIn(const QWidget *panel) const;
 
     bool isMousePressed() const;
 
-    // Width in pixels of the widest label text, in the font of the first row.
+    // Width of the widest label text in pixels, in the font of the first row.
     int labelMaxLength() const;
 
 private:
     QVarLengthArray<Row, 4> m_rows;
 };
 
-// The spacer below the rows takes the spare height, or leaves it to the rows.
+// Gives the spare height to the spacer below the rows, or to the rows.
 void setSpacerExpanding(QSpacerItem *spacer, bool isExpanding);
 
 } // namespace Internal

@@ -21,7 +21,7 @@ EditSpan::~EditSpan()
     leaveOuter();
 }
 
-// That of an editor of one of these classes, or null.
+// The EditSpan of the widget if it is of one of these classes, or null.
 template <typename... Editors> EditSpan *EditSpan::find(const QWidget *widget)
 {
     EditSpan *span = nullptr;
@@ -34,7 +34,7 @@ template <typename... Editors> EditSpan *EditSpan::find(const QWidget *widget)
     return span;
 }
 
-// A widget that is being destroyed is of none of these classes any more.
+// A widget in its base class destructor is no longer of one of these classes.
 EditSpan *EditSpan::around(const QWidget *widget)
 {
     EditSpan *span = nullptr;
@@ -88,7 +88,7 @@ void EditSpan::endUnlessHeld()
         return;
     }
     if (m_editor->signalsBlocked()) {
-        // Where they still are then, the next edit continues this one.
+        // If they are still blocked then, the next edit continues this one.
         QTimer::singleShot(0, m_editor, [this] { emitEnd(); });
     } else {
         emitEnd();

@@ -22,15 +22,15 @@ class SliderEditFrameDouble;
 
 namespace Internal {
 
-// What the user does with an editor in one go, from editStarted() to editFinished(). Each
-// editor has one; that of a composite editor lasts as long as that of any of its rows.
+// One edit by the user, from editStarted() to editFinished(). Each editor has an EditSpan; the
+// edit of a composite editor lasts as long as that of any of its rows.
 //
-// It is opened before the first change, and it ends with the outermost Scope in which nothing
-// holds it any more. So the two signals come in pairs, and all reports between them.
+// The edit is opened before the first change. It ends with the outermost Scope when no holder is
+// left. So the two signals are paired, and valueChanged() is emitted only between them.
 class EditSpan
 {
 public:
-    // What holds the edit of a row open when nothing is delivered.
+    // What keeps the edit of a row open between two events.
     enum Holder : unsigned { Nobody = 0, Handle = 1, Button = 2, Entry = 4 };
 
     class Scope;
@@ -42,12 +42,12 @@ public:
     ~EditSpan();
     Q_DISABLE_COPY(EditSpan)
 
-    // That of the editor around a widget: a row's for its parts, a composite editor's for a
-    // row. Null where there is none, and while the editor is being destroyed.
+    // The EditSpan of the editor that contains the widget: the row's for a child of a row, the
+    // composite editor's for a row. Null if there is none, or while the editor is being destroyed.
     static EditSpan *around(const QWidget *widget);
 
     bool isOpen() const { return m_isOpen; }
-    // The edit ends with the scope around this or the next one.
+    // The edit ends with the current or the next outermost Scope.
     void release(Holder holder) { m_holders &= ~holder; }
 
 private:
@@ -61,7 +61,7 @@ private:
 
     template <typename... Editors> static EditSpan *find(const QWidget *widget);
 
-    // Each is defined beside its editor's private object.
+    // Each is defined in the file of its editor's private class.
     static EditSpan *of(const RectEditFrame &editor);
     static EditSpan *of(const RGBAllEditFrame &editor);
     static EditSpan *of(const RGBEditFrame &editor);
@@ -69,7 +69,7 @@ private:
     static EditSpan *of(const SliderEditFrame &editor);
     static EditSpan *of(const SliderEditFrameDouble &editor);
 
-    // Whether the host knows of it, by the composite editor around it, too.
+    // Whether editStarted() was emitted, also by the composite editor around this one.
     bool isTold() const { return m_isOpen && m_isTold && (!m_isCounted || m_isOuterTold); }
 
     void begin();
@@ -84,14 +84,14 @@ private:
     unsigned m_holders = Nobody;
     unsigned char m_openRows = 0;
     bool m_isOpen = false;
-    // The host was told of the start and not of the end; its signals may be blocked.
+    // editStarted() was emitted and editFinished() not yet; signals may be blocked since.
     bool m_isTold = false;
-    // It counts among the open rows of the composite editor around it.
+    // Counted in m_openRows of the composite editor around this one.
     bool m_isCounted = false;
     bool m_isOuterTold = false;
 };
 
-// While one lives, the edit of its editor does not end. It outlives the editor.
+// The edit does not end during the lifetime of a Scope. A Scope can outlive the editor.
 class EditSpan::Scope
 {
 public:
@@ -99,12 +99,11 @@ public:
     ~Scope();
     Q_DISABLE_COPY(Scope)
 
-    // Opens the edit, unless it is open, for as long as the holder says. A receiver may
-    // delete the editor.
+    // Opens the edit unless it is open, and adds the holder. A receiver may delete the editor.
     void begin(Holder holder = Nobody);
     void hold(Holder holder);
     void release(Holder holder);
-    // Whether there is an editor, or still one.
+    // Whether there is an editor that has not been deleted.
     explicit operator bool() const { return m_span != nullptr; }
 
 private:

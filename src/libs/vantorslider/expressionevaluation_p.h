@@ -8,8 +8,8 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// The value of an expression as text, or nothing where it fails: it is no arithmetic,
-// calls a pattern, throws or yields "Infinity".
+// The result of an expression as text, or nothing if it fails: it is not arithmetic, calls a
+// regular expression literal, throws or returns "Infinity".
 std::optional<QString> evaluateExpression(const QString &expression);
 
 } // namespace Internal

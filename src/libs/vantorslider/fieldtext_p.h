@@ -8,8 +8,8 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// The text of a number field: the entry, and what the spin box around the field, of
-// whatever class, shows before and behind it.
+// The text of a line edit, split into the prefix and suffix of its spin box, of any class, and the
+// entry between them.
 struct FieldText
 {
     FieldText(const QObject *spinBox, const QString &text) : entry(text)
@@ -28,7 +28,7 @@ struct FieldText
         }
     }
 
-    // The text with another entry.
+    // The text with a different entry.
     QString with(const QString &other) const { return prefix + other + suffix; }
 
     QString prefix;

@@ -8,11 +8,10 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// How the crop and the mask editor hold two fields that share an area, and show
-// and compare what comes of it.
+// How the crop and the mask editor limit the sum of two fields, show the result and detect changes.
 
-// The four fields in their order: a crop's x, y, width and height, or a mask's
-// top, bottom, left and right margin.
+// The four fields in order: x, y, width and height of a crop, or top, bottom, left and right
+// margin of a mask.
 struct FieldValues
 {
     int x = 0;
@@ -60,8 +59,7 @@ inline FieldRange fieldRange(RectEditFrame *editer, RectEditFrame::Type type)
     return range;
 }
 
-// Sets the allowed directions of a pair that has these values: at the limit neither
-// of the two may grow.
+// Sets the allowed directions of a pair with these values: at the limit neither value may grow.
 inline void allowWithinLimit(RectEditFrame *editer, const HeldPair &pair, const FieldValues &values)
 {
     const bool isBelow = qint64(values.*pair.first.value) + values.*pair.second.value < pair.limit;
@@ -72,8 +70,8 @@ inline void allowWithinLimit(RectEditFrame *editer, const HeldPair &pair, const 
     }
 }
 
-// The fields' values after the user has set the first of the pair to val: no more
-// of it than the second leaves of the limit.
+// The values after the user has set the first field of the pair to val: at most the limit minus
+// the second field.
 inline FieldValues heldWithinLimit(RectEditFrame *editer, const HeldPair &pair, int val)
 {
     FieldValues values = fieldValues(editer);
@@ -83,7 +81,7 @@ inline FieldValues heldWithinLimit(RectEditFrame *editer, const HeldPair &pair, 
     return values;
 }
 
-// Shows the values and makes them the last ones; true where the last were others.
+// Shows the values and stores them in last. Returns whether they differ from the previous ones.
 inline bool showAsLast(RectEditFrame *editer, const FieldValues &values, QRect &last)
 {
     editer->setValue(values.x, values.y, values.width, values.height);

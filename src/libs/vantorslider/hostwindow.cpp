@@ -7,8 +7,7 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// A host may show its window in a constructor: it becomes one of a derived class
-// after that.
+// A host may show its window in a constructor; its dynamic type changes after that.
 void HostWindow::remember()
 {
     rememberType();
@@ -25,12 +24,12 @@ void HostWindow::rememberType()
 bool HostWindow::isBeingDestroyed() const
 {
     const QWidget &window = *m_widget->window();
-    // A destructor turns an object into one of its base class: what was a dialog
-    // of the host is a plain QDialog when that hides itself.
+    // In a base class destructor the dynamic type is the base class: a dialog of the host is a
+    // plain QDialog when ~QDialog hides it.
     if (m_window == &window && *m_type != typeid(window)) {
         return true;
     }
-    // ~QWidget has left the chain of the focus before it hides the window.
+    // ~QWidget has removed the window from the focus chain before it hides it.
     const QWidget *next = window.nextInFocusChain();
     return next == nullptr || (next == &window && &window != m_widget);
 }

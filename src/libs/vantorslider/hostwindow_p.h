@@ -12,24 +12,23 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// Whether the window around a widget is being destroyed. Qt hides such a window
-// and takes its focus away, and children report then what is pending in them, a
-// typed entry or a drag. The class of the host is gone at that time, with its
-// slots still connected: nothing may be reported.
+// Detects that the window of a widget is being destroyed. Qt then hides the window and clears its
+// focus, and its children would report a pending entry or drag. The destructor of the host's
+// class has run already while its slots are still connected: nothing may be emitted.
 class HostWindow
 {
 public:
     explicit HostWindow(const QWidget *widget) : m_widget(widget) { }
 
-    // When the user comes to the widget: the window is whole then, or soon.
+    // Called when the user enters the widget: the window is constructed then, or soon.
     void remember();
-    // The same where it is whole now.
+    // The same if the window is certainly constructed.
     void rememberType();
     bool isBeingDestroyed() const;
 
 private:
     const QWidget *m_widget;
-    // Only to be compared; it may be gone.
+    // Only compared; it may dangle.
     const QWidget *m_window = nullptr;
     const std::type_info *m_type = nullptr;
 };

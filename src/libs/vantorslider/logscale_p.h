@@ -6,8 +6,8 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// The positions of a slider whose value grows by the same factor at each: from 0 for
-// the least value, which is above 0, to this one for the greatest.
+// The last position of a logarithmic slider, for the maximum. Position 0 is the minimum, which is
+// above 0; the value grows by the same factor at each position.
 constexpr int lastLogPosition = 1000;
 
 inline int logPosition(double value, double least, double greatest)
@@ -22,7 +22,7 @@ inline int logPosition(double value, double least, double greatest)
         std::round(lastLogPosition * std::log(value / least) / std::log(greatest / least)));
 }
 
-// The ends are exact.
+// Exact at both ends.
 inline double logValue(int position, double least, double greatest)
 {
     if (position <= 0) {

@@ -54,8 +54,8 @@ void RectEditFramePrivate::createConnects()
             &Private::slotLockSizeButtonToggled);
 }
 
-// Qt goes on with a button after a signal of its own, whose receiver may delete the
-// editor: it is emitted when the button is done. False where the editor is gone.
+// QAbstractButton uses itself after toggled(), whose receiver may delete the editor. So toggled()
+// is emitted after setChecked() has returned. Returns false if the editor was deleted.
 bool RectEditFramePrivate::switchButton(QToolButton *button, bool isChecked)
 {
     if (button->isChecked() == isChecked) {
@@ -70,8 +70,8 @@ bool RectEditFramePrivate::switchButton(QToolButton *button, bool isChecked)
     return !self.isNull();
 }
 
-// Where the button's state changes, it calls back here through toggled():
-// that run captures and reports, this one then captures anew.
+// If the button's state changes, toggled() calls this function again: that call captures the
+// position and emits the signal, then this call captures it once more.
 void RectEditFramePrivate::setPositionLock(bool bLock)
 {
     if (!switchButton(ui->toolButtonLockPosition, bLock)) {
@@ -85,7 +85,7 @@ void RectEditFramePrivate::setPositionLock(bool bLock)
     allowAnyDirection(ui->frameY);
 }
 
-// As the position lock.
+// Like setPositionLock().
 void RectEditFramePrivate::setSizeLock(bool bLock)
 {
     if (!switchButton(ui->toolButtonLockSize, bLock)) {

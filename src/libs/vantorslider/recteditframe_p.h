@@ -11,7 +11,7 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// The four fields, the state of their two locks, and what both report.
+// The four fields, the state of the two locks, and the signals of both.
 class RectEditFramePrivate : public QObject
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ public:
     EditSpan m_edits {m_pEditer};
     RectEditFrame::LockType m_sizeLockType = RectEditFrame::SizeScaleLock;
     QPoint m_lockedPosition;
-    // Width and height at the switch-on, or a ratio in thousandths.
+    // Width and height when the lock was turned on, or a ratio in thousandths.
     QSize m_lockedSize;
     bool m_isLockedPosition = false;
     bool m_isLockedSize = false;
@@ -76,7 +76,7 @@ private:
     void changePosition(const LockedField &changed, int val, const LockedField &partner);
     void changeSize(const LockedField &changed, int val, const LockedField &partner);
 
-    // Emits the field's own signal and then that of the whole rectangle.
+    // Emits the field's own signal, then valueChanged() of the whole rectangle.
     void report(const LockedField &changed, int val);
 };
 

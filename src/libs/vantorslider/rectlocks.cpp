@@ -11,7 +11,7 @@ namespace Internal {
 
 namespace {
 
-// numerator * value / denominator in whole units, half away from zero.
+// numerator * value / denominator, rounded half away from zero.
 int scaled(int numerator, int value, int denominator)
 {
     return saturatedInt(std::round(double(qint64(numerator) * value) / double(denominator)));
@@ -44,7 +44,7 @@ ScaledSides scaleAlong(const LockedField &changed, int val, const LockedField &p
     if (val >= room) {
         holdAt(saturatedInt(room));
     }
-    // In a flat proportion no changed side belongs to the partner's limit.
+    // If the partner's basis is 0, no value of the changed side corresponds to the partner's limit.
     if (partner.basis != 0) {
         const int tested =
             scaled(partner.basis, changed.isLimitedFirst ? val : asked, changed.basis);

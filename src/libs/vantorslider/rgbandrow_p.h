@@ -8,13 +8,11 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// How the two four-value colour editors reach their own row and the block of
-// three channels beside it. An operation is given twice, the row's and the
-// block's of the same name.
+// The fourth row and the RGB editor of a four-value colour editor. A call takes two member
+// functions of the same name: the row's and the RGB editor's.
 struct RGBAndRow
 {
-    // What the own row's flag does not name is the block's, which warns of what
-    // names no channel.
+    // A flag other than the fourth row's goes to the RGB editor, which warns if it is no channel.
     template <typename RowOperation, typename... BlockArguments, typename... Arguments>
     void one(int type, RowOperation rowOperation,
              void (RGBEditFrame::*blockOperation)(RGBEditFrame::Type, BlockArguments...),
@@ -56,8 +54,7 @@ struct RGBAndRow
         (block->*blockOperation)(arguments...);
     }
 
-    // A block without a visible channel is hidden as a whole and keeps which of
-    // its rows it showed.
+    // Without a visible channel the RGB editor is hidden; its rows keep their visibility.
     void setVisible(int types) const
     {
         constexpr int channels = RGBEditFrame::R | RGBEditFrame::G | RGBEditFrame::B;

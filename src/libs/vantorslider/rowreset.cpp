@@ -24,7 +24,7 @@ QLabel *resettableLabel(const QObject *row)
     return label != nullptr && label->property(resettable).toBool() ? label : nullptr;
 }
 
-// A row that has a default. Qt's own interface of a frame knows no action but the focus.
+// A row with a default value. Qt's interface of a QFrame has no action except setting the focus.
 class ResettableRow : public QAccessibleWidget
 {
 public:
@@ -41,7 +41,7 @@ public:
                                      : QAccessibleWidget::localizedActionName(name);
     }
 
-    // What the user does without a screen reader.
+    // Sends the double click that a user makes on the label.
     void doAction(const QString &name) override
     {
         QLabel *const label = resettableLabel(widget());
@@ -67,7 +67,7 @@ QAccessibleInterface *createInterface(const QString &className, QObject *object)
         : nullptr;
 }
 
-// A host may unload the library.
+// Removed again, because a host may unload the library.
 struct AccessibleFactory
 {
     AccessibleFactory() { QAccessible::installFactory(createInterface); }
@@ -87,13 +87,13 @@ void makeResettable(QLabel *label, QWidget *row)
     if (label->toolTip().isEmpty()) {
         label->setToolTip(SliderEditFrame::tr("Double-click to reset"));
     }
-    // Style sheets need a polish to see a changed property.
+    // A style sheet applies a changed property only after a polish.
     label->style()->unpolish(label);
     label->style()->polish(label);
     label->installEventFilter(row);
 
     static const AccessibleFactory factory;
-    // The one that Qt has made for an earlier change of the row knows nothing of the action.
+    // An interface that Qt created earlier for the row does not have the action.
     QAccessible::deleteAccessibleInterface(
         QAccessible::uniqueId(QAccessible::queryAccessibleInterface(row)));
 }

@@ -13,10 +13,10 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// How the user finds that a row can be reset to a default: by its label, which is
-// double-clicked or double-tapped for it, and by the action of a screen reader.
+// The user resets a row to its default value by a double click or double tap on its label, or by
+// the action "Reset" of a screen reader.
 
-// Lets the row's event filter see the label's events.
+// Sets up the label and the action, and installs the row as event filter of the label.
 void makeResettable(QLabel *label, QWidget *row);
 
 bool isResetClick(const QLabel *label, const QObject *watched, const QEvent *event);

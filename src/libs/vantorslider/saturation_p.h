@@ -11,8 +11,8 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// Results that leave a type's range stop at its ends: a host that sets a range
-// up to INT_MAX gets a held value, not a wrapped one.
+// Results outside the range of a type are clamped: with a range up to INT_MAX no value wraps
+// around.
 
 inline int saturatedInt(qint64 value)
 {
@@ -20,7 +20,7 @@ inline int saturatedInt(qint64 value)
                                                std::numeric_limits<int>::max()));
 }
 
-// NaN has no place on a scale; it stands at 0.
+// NaN becomes 0.
 inline int saturatedInt(double value)
 {
     if (std::isnan(value)) {
@@ -46,13 +46,13 @@ inline int saturatedDifference(int a, int b)
     return saturatedInt(qint64(a) - b);
 }
 
-// QRect keeps the right and bottom edges and computes them unchecked.
+// QRect stores the right and bottom edges and computes them without an overflow check.
 inline QRect saturatedRect(int x, int y, int w, int h)
 {
     return {QPoint(x, y), QPoint(saturatedInt(qint64(x) + w - 1), saturatedInt(qint64(y) + h - 1))};
 }
 
-// Only to be compared: its edges wrap, so that different values give different rectangles.
+// For comparison only: the edges wrap around, so different values give different rectangles.
 inline QRect wrappedRect(int x, int y, int w, int h)
 {
     const auto edge = [](int position, int size) {

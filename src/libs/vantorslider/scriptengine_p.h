@@ -8,7 +8,7 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// The value of a text in the script language, as text; nothing where it throws.
+// The result of an ECMAScript expression as text, or nothing if it throws.
 std::optional<QString> evaluateScript(const QString &text);
 
 } // namespace Internal

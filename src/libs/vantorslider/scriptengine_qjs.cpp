@@ -14,7 +14,7 @@ namespace Internal {
 
 namespace {
 
-// 017 is octal and 08 is not, as Qt Script has it.
+// As in Qt Script, 017 is octal and 08 is decimal.
 QString modernNumber(const QString &number)
 {
     if (number.size() < 2 || number[0] != QLatin1Char('0') || !number[1].isDigit()) {
@@ -28,9 +28,9 @@ QString modernNumber(const QString &number)
     return number.mid(std::find_if_not(number.cbegin(), number.cend(), isZero) - number.cbegin());
 }
 
-// The form of a text that has the value that Qt Script gave it: its numbers, and a
-// comma that may end it. Nothing where the two languages differ for good, as in what
-// begins a pattern, a comment or a power.
+// The text rewritten so that QJSEngine returns the result of Qt Script: with its octal numbers, and
+// without commas at the end. Nothing if the two differ in a way that can't be rewritten, as for
+// the start of a regular expression literal, a comment or a power.
 std::optional<QString> modernForm(const QString &text)
 {
     if (!isArithmetic(text)) {
@@ -62,7 +62,7 @@ std::optional<QString> evaluateScript(const QString &text)
         return std::nullopt;
     }
     QJSEngine engine;
-    QStringList thrownFrom; // a thrown value may be of any kind
+    QStringList thrownFrom; // an expression can throw a value of any type
     const QJSValue value = engine.evaluate(*form, QString(), 1, &thrownFrom);
     const bool isThrown = !thrownFrom.isEmpty() || value.isError();
     return isThrown ? std::nullopt : std::make_optional(value.toString());

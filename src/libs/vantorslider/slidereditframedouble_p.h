@@ -11,10 +11,10 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// Values closer than this are equal; bounds are nudged up by it.
+// Values that differ by less are equal; it is added to the bounds of the range.
 constexpr double minPrecision = 1e-8;
 
-// The slider's positions are the value times the magnification.
+// A slider position is the value times the magnification.
 class SliderEditDoublePrivate : public SliderEngine<SliderEditDoublePrivate, SliderEditFrameDouble,
                                                     Ui::SliderEditFrameDouble, double>
 {
@@ -30,8 +30,8 @@ public:
     double rounded(double val) const;
     double toValue(int position) const { return double(position) / m_nMagnification; }
     bool isLastValue(double val) const { return std::fabs(val - lastValue()) < minPrecision; }
-    // Unlike the integer field this one follows the handle in release mode too, and
-    // so has the slider's value: no valueChanged() of the slider comes at release.
+    // Unlike the integer spin box this one follows the handle in release mode, too. So does the
+    // slider's value: the slider does not emit valueChanged() at release.
     static constexpr bool spinBoxFollowsInReleaseMode = true;
     bool isNewAtRelease(int pos) const
     {
@@ -44,12 +44,12 @@ public:
     int precision() const { return m_nPrecision; }
     void setPrecision(int decimals);
     double singleStep() const { return m_dSingleStep; }
-    // Of the slider, in positions of a linear scale.
+    // Step of a linear slider, in positions.
     int sliderStep() const { return qMax(1, toPosition(m_dSingleStep)); }
     void setSingleStep(double step) { m_dSingleStep = step; }
 
 private Q_SLOTS:
-    // The interface fixes all thirteen.
+    // All thirteen slots are part of the interface.
     void slotSpinBoxEditingFinished() { editingFinished(); }
     void slotSpinBoxEnterFinished() { enterFinished(); }
     void slotButtonSubtractClicked();
@@ -69,7 +69,7 @@ private:
 
     int m_nPrecision = 2;
     double m_dSingleStep = 0.01;
-    // 10 to the power of the precision only once that was set.
+    // 1 until setPrecision() is called, then 10 to the power of the precision.
     int m_nMagnification = 1;
 };
 

@@ -29,7 +29,7 @@ void setRightMargin(QLayout *layout, int right)
 
 void SliderRow::prepare(QWidget *frame) const
 {
-    // An entry finished with Enter hands the focus to the frame.
+    // Enter in the spin box gives the focus to the frame.
     frame->setFocusPolicy(Qt::StrongFocus);
     minus->setProperty("isSliderEditSubtract", true);
     minus->setFocusPolicy(Qt::StrongFocus);
@@ -45,12 +45,12 @@ void SliderRow::setHorizontalSpacing(int labelToSlider, int sliderToRest) const
     setRightMargin(spinBoxLayout, sliderToRest);
 }
 
-// The label is all that tells a reader of the screen what the row is for, so
-// each child that takes the focus is named after it.
+// Only the label says what the row is for. A screen reader needs its text as the accessible name
+// of each child that takes the focus.
 void SliderRow::setLabelText(const QString &text) const
 {
     label->setText(text);
-    // The label draws "&" as the mark of a shortcut and "&&" as "&".
+    // In a label "&" marks a shortcut and "&&" is shown as "&".
     const QString name =
         QString(text).replace(QRegularExpression(QStringLiteral("&(.?)")), QStringLiteral("\\1"));
     spinBox->parentWidget()->setAccessibleName(name);
@@ -62,8 +62,8 @@ void SliderRow::setLabelText(const QString &text) const
 
 void SliderRow::setSliderVisible(bool isVisible) const
 {
-    // With the slider gone the spacer takes the free width, so that the rest
-    // stays packed beside the label.
+    // Without the slider the spacer takes the free width, so that the other children stay beside
+    // the label.
     if (isVisible) {
         lastSpacer->changeSize(0, 20, QSizePolicy::Ignored, QSizePolicy::Minimum);
     } else {
@@ -114,7 +114,7 @@ void SliderRow::setAutoRepeatInterval(int milliseconds) const
     minus->setAutoRepeatInterval(milliseconds);
 }
 
-// Queued, since the field's own handling of the event still moves the cursor.
+// Queued, because the spin box moves the cursor when it handles the event.
 void SliderRow::selectAllOnEntry(QWidget *frame, const QEvent *event) const
 {
     if (event->type() != QEvent::FocusIn && event->type() != QEvent::MouseButtonPress) {
@@ -122,7 +122,7 @@ void SliderRow::selectAllOnEntry(QWidget *frame, const QEvent *event) const
     }
     const auto *calculator = spinBox->findChild<LineEditCal *>();
     if (calculator != nullptr && calculator->isInOwnPopup()) {
-        return; // the user comes back from it and types on
+        return; // the user returns from it and continues typing
     }
     QTimer::singleShot(0, Qt::PreciseTimer, frame, [field = spinBox] {
         if (field->isEnabled()) {

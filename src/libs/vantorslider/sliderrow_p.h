@@ -20,8 +20,8 @@ class SliderEditSlider;
 
 namespace Internal {
 
-// The children of a slider editor's row by their roles, and what the integer
-// and the floating-point editor do with them alike.
+// The children of a slider editor and what the integer and the floating-point editor do with
+// them in the same way.
 struct SliderRow
 {
     template <typename Form>
@@ -33,7 +33,7 @@ struct SliderRow
     {
     }
 
-    // Once, after the form is built: focus policies, style properties, event filter.
+    // Called once after setupUi(): sets focus policies, style properties and the event filter.
     void prepare(QWidget *frame) const;
 
     void setHorizontalSpacing(int labelToSlider, int sliderToRest) const;
@@ -48,8 +48,7 @@ struct SliderRow
     void setAutoRepeatDelay(int milliseconds) const;
     void setAutoRepeatInterval(int milliseconds) const;
 
-    // The row's share of the frame's event filter: clicking or tabbing into
-    // the field selects its whole text.
+    // Called by the frame's event filter: a click or Tab into the spin box selects its text.
     void selectAllOnEntry(QWidget *frame, const QEvent *event) const;
 
     QVBoxLayout *nameLayout;
