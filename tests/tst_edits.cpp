@@ -9,7 +9,7 @@
 
 using namespace Vantor::Widgets;
 
-// Where an edit of the user begins and ends, for hosts that undo it in one step.
+// The start and the end of an edit of the user, for hosts that undo it in one step.
 class tst_Edits : public QObject
 {
     Q_OBJECT
@@ -25,14 +25,14 @@ private Q_SLOTS:
 
 namespace {
 
-// Where none of these takes the focus, a button steps over the entry that is pending.
+// If none of these takes the focus, a button replaces the pending entry by its step.
 template <typename AnyUser> void leaveFocusInField(AnyUser &user)
 {
     for (QWidget *part : QWidgetList({&user.page, user.frame, user.row.plus, user.row.slider}))
         part->setFocusPolicy(Qt::NoFocus);
 }
 
-// What is heard while the editor's signals are blocked, and when they are no more.
+// The records while the editor's signals are blocked, and after they are unblocked.
 template <typename AnyUser> void blockedAtTheEnd(AnyUser &user)
 {
     user.play("edits | hold 20: start 20");
@@ -42,7 +42,7 @@ template <typename AnyUser> void blockedAtTheEnd(AnyUser &user)
     QCoreApplication::processEvents();
     QCOMPARE(user.heard(), QString("end"));
     user.play("plus: start 21 end | hold 40: start 40");
-    // Blocked for good, the next edit continues the one that the host knows of.
+    // If the signals stay blocked, the next edit continues the one that the host knows.
     user.frame->blockSignals(true);
     user.play("drop");
     QCoreApplication::processEvents();
@@ -75,7 +75,7 @@ template <typename AnyUser> void windowGoes(AnyUser &user, const QString &gestur
     QCOMPARE(user.heard(), QString());
 }
 
-// Each repetition of a held button is in the same edit.
+// All repetitions of a held button belong to one edit.
 template <typename AnyUser> void repeat(AnyUser &user)
 {
     user.play("edits | autoRepeat");
@@ -90,7 +90,7 @@ template <typename AnyUser> void repeat(AnyUser &user)
     QVERIFY2(heard.endsWith(" end") && heard.count("end") == 1, qPrintable(heard));
 }
 
-// What a screen reader does, and a host's own gestures: no event comes to the parts.
+// Actions of a screen reader, and a host's own gestures: the children receive no event.
 template <typename AnyUser> void operateParts(AnyUser &user)
 {
     user.perform("edits");
@@ -107,7 +107,7 @@ template <typename AnyUser> void operateParts(AnyUser &user)
     QCOMPARE(user.heard(), QString("end"));
 }
 
-// A dialog of the receiver, and what the user does meanwhile with the same row.
+// A dialog of the receiver, and the user's actions with the same row while it is open.
 template <typename AnyUser> void nest(AnyUser &user, const QString &steps)
 {
     user.perform("edits");
@@ -127,7 +127,7 @@ template <typename AnyUser> void nest(AnyUser &user, const QString &steps)
              qPrintable(heard.join(' ')));
 }
 
-// What a style sheet, the pointer and a screen reader find of a row.
+// The property, cursor and accessible action of a row, for style sheet, pointer and screen reader.
 QStringList signsOf(const EditorRow &row)
 {
     QAccessibleInterface *const interface = QAccessible::queryAccessibleInterface(row.frame);
@@ -229,7 +229,7 @@ void tst_Edits::rows_data()
     addInt("replaced by the program",
            "type 5: start | value 20 | elsewhere: finished finished end");
     addInt("nothing entered", "click | elsewhere: finished finished");
-    // A step makes a report of both, and ends the entry.
+    // A step causes one report for both, and ends the entry.
     addInt("entry and key", "type 7: start | up: 8 end | up: start 9 end");
     addDouble("entry and key", "type .07: start | up: 8 end | up: start 9 end");
     // The focus leaves the field first.
@@ -249,7 +249,7 @@ void tst_Edits::rows_data()
         addForBoth("dialog in the report, " + steps, [=](auto &user) { nest(user, steps); });
 }
 
-// One edit takes in the signals of all rows.
+// One edit contains the signals of all rows.
 void tst_Edits::composites_data()
 {
     QTest::addColumn<TestCode>("code");
@@ -292,7 +292,7 @@ void tst_Edits::composites_data()
     });
 }
 
-// A double click on the label goes back to the default, as the user's change.
+// A double click on the label resets to the default, as a change by the user.
 void tst_Edits::resets_data()
 {
     QTest::addColumn<TestCode>("code");

@@ -10,7 +10,7 @@
 
 using namespace Vantor::Widgets;
 
-// What an option changes of what a user enters, alone and beside another one.
+// How an option changes an entry of the user, alone and combined with another one.
 class tst_EntryOptions : public QObject
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ void tst_EntryOptions::whole_data()
     row("options exact | range 0 2147483647 | enter 16777217: 16777217 | shown: 16777217");
     row("options exact | range -2147483648 99 | type 1-2147483648\t: finished -2147483647 "
         "finished");
-    // Clamped to the range of now, not of the last value.
+    // Clamped to the current range, not to that of the last value.
     row("options exact | range 0 300 | enter 250: 250 | range 0 400 | enter 999: 400");
     row("options exact | type 1.5*3 | shown: 1.*3/50 | elsewhere: finished 3 finished");
     row("options exact | enter 127/2: 64");
@@ -63,7 +63,7 @@ void tst_EntryOptions::whole_data()
     row("options stays | type 12*3=: 36 | selected: all | keys 7=: 7 | keys 7\n: key");
     row("options stays | type 2+\n: finished | refused: yes | selected: all | keys \n: key");
     row("options stays | suffix  px | type 8\n: finished 8 | selected: 8 | shown: 8 px");
-    // Out of range, the value is what was there; the text is not.
+    // Out of range, the value does not change; the text does.
     row("options stays | value 100 | type 320\n: finished | shown: 100 | keys \n: key");
     row("options escape | value 100 | type 320 | escape | shown: 100 | escape: key");
     row("options stays | type 7 | hide: 7 finished finished");
@@ -94,7 +94,7 @@ void tst_EntryOptions::fraction_data()
     row("options comma | click | paste Math.max(3,7)+Math.min((1,5),2) | keys \n: 8.5");
     row("options comma | prefix $ | suffix ,- | enter 2,5: 2.5 | shown: $2.50,-");
     row("options escape | type 1/4 | escape | shown: 50.00 | selected: all | escape: key");
-    // What was evaluated is an entry until the field is left.
+    // An evaluated result is an entry until the field loses the focus.
     row("options escape | type 1/4= | escape | shown: 50.00 | keys 1/0\t | shown: 50.00");
     row("options stays | type 1/4\n: 0.25 | selected: all | keys 1/2\n: 0.5 | keys \n: key");
     row("options stays | type 1/4=: 0.25 | selected: all | keys 1/2=: 0.5 | keys \t");
@@ -108,7 +108,7 @@ void tst_EntryOptions::fraction_data()
     row("options escape stays | type 2+\n | refused: yes | escape | refused: no | escape: key");
 }
 
-// They reach all rows, and a crop holds an entry as ever.
+// The options reach all rows, and a crop still limits an entry.
 void tst_EntryOptions::composite_data()
 {
     QTest::addColumn<TestCode>("code");
@@ -197,7 +197,7 @@ void tst_EntryOptions::bareBox()
 
 namespace {
 
-// A decimal number of up to three places as it is typed.
+// A decimal number with up to three decimals as typed.
 struct Decimal
 {
     qint64 digits;
@@ -206,8 +206,8 @@ struct Decimal
     QString text = QString::number(double(digits) / double(scale), 'f', places);
 };
 
-// The user enters random expressions; the value is the nearest to the exact result. What
-// lies in the middle of two values, where QString::number() goes by the double, is let be.
+// The user enters random expressions; the value is the nearest to the exact result. Skips
+// results halfway between two values, where QString::number() depends on the double.
 template <typename Frame> void compareWithExact(int decimals)
 {
     std::mt19937 random(7);

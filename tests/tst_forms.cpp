@@ -10,7 +10,7 @@
 
 using namespace Vantor::Widgets;
 
-// What style sheets, mappers, forms and Designer do with the editors.
+// The editors with style sheets, QDataWidgetMapper, forms and Designer.
 class tst_Forms : public QObject
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ const QStringList editorsOfTheForm {"SliderEditFrame true Gain -20 200 5 10 120 
                                     "SliderEditSpinBox true 0 4000 1 1080",
                                     "SliderEditDoubleSpinBox true 2 0 99.99 1 1.5  dB"};
 
-// The editors of a form, each with what a form may set, of what there is.
+// The editors of a form, each with those of its properties that a form may set.
 QStringList describe(const QWidget &form)
 {
     QStringList lines;
@@ -53,7 +53,7 @@ QStringList describe(const QWidget &form)
     return lines;
 }
 
-// What the mapper writes is silent, at first and when it answers the user's click.
+// The mapper's writes emit nothing, at first and in reply to the user's click.
 template <typename Frame> void compareMapping(const QString &modelled, const QString &stepped)
 {
     UserOf<Frame> user(1);
@@ -70,7 +70,7 @@ template <typename Frame> void compareMapping(const QString &modelled, const QSt
 
 } // namespace
 
-// The order of a form's properties is not the host's to choose: no write reports or is lost.
+// The host can't choose the order of a form's properties: no write emits or is lost.
 void tst_Forms::silentWrites()
 {
     EventLog log;
@@ -80,7 +80,7 @@ void tst_Forms::silentWrites()
     log.watch(&intEditor, &SliderEditFrame::valueChanged, "int");
     log.watch(&doubleEditor, &SliderEditFrameDouble::valueChanged, "double");
     form.show();
-    // By a style sheet, which goes the way of a form.
+    // By a style sheet, in the same way as by a form.
     const auto compareWrites = [&](QString settings, const QStringList &expected) {
         settings.replace(QRegularExpression("(\\w+):"), "qproperty-\\1:");
         form.setStyleSheet("*[isSliderFrame='true'] { " + settings + " }");
@@ -95,7 +95,7 @@ void tst_Forms::silentWrites()
         {"Gain -20 40 5 7 30", "Gain 2 -20 40 5 7 30"});
 }
 
-// A model's mapper finds value and report of either editor by the properties' own marks.
+// A mapper finds value and signal of each editor by USER and NOTIFY of the properties.
 void tst_Forms::mapper()
 {
     compareMapping<SliderEditFrame>("36", "37");
@@ -110,7 +110,7 @@ void tst_Forms::form()
     QCOMPARE(describe(compiled), editorsOfTheForm);
 }
 
-// The same form, read at run time by the plug-in for Designer.
+// The same form, loaded at run time with the plug-in for Designer.
 void tst_Forms::designer()
 {
 #ifndef DESIGNER_PLUGIN
@@ -120,7 +120,7 @@ void tst_Forms::designer()
     const auto *box = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(plugin.instance());
     QVERIFY2(box, qPrintable(plugin.errorString()));
     QUiLoader loader;
-    // No other folder can lend an editor.
+    // No other folder can provide an editor.
     loader.clearPluginPaths();
     loader.addPluginPath(QFileInfo(DESIGNER_PLUGIN).path());
     QFile file(FORM);
@@ -128,7 +128,7 @@ void tst_Forms::designer()
     QVERIFY2(read && read->findChild<SliderEditFrame *>(), qPrintable(loader.errorString()));
     QCOMPARE(describe(*read), editorsOfTheForm);
 
-    // What the widget box shows and drops into a form.
+    // The widget that the widget box shows and drops into a form.
     const auto entries = box->customWidgets();
     QCOMPARE(entries.size(), editorsOfTheForm.size());
     for (int i = 0; i < entries.size(); ++i) {

@@ -21,10 +21,10 @@ private Q_SLOTS:
     void order();
 };
 
-// A row is what the user types, and what the field shows then: "|" is the cursor, and a "="
-// behind the text stands for each result. "<" steps back, what stands in "[]" is pasted, "\n"
-// finishes. "{}" holds the decimals of a result and of an entry, the range, and what a
-// failing evaluation shows.
+// A row is what the user types, and what the field then shows: "|" is the cursor, and each
+// "=" after the text is one result. "<" is Backspace, text in "[]" is pasted, "\n"
+// finishes. "{}" contains the decimals of a result and of an entry, the range, and the text
+// after a failed evaluation.
 void tst_LineEditCal::editing_data()
 {
     QTest::addColumn<QString>("script");
@@ -34,7 +34,7 @@ void tst_LineEditCal::editing_data()
     };
     row("12<a", "1|2");
     row("5\u2212\u0663\u00e93", "53|");
-    // Characters beyond the first plane: none of their two halves stays or goes alone.
+    // Characters outside the BMP: both surrogates stay, or both are removed.
     row("12\xf0\x9f\x98\x80", "12|");
     row("12[\xf0\x9f\x98\x80*3\xf0\x9f\x98\x80]=", "36|=");
     row("[1\xf0\x9f\x98\x80+2]<\xf0\x9f\x98\x81", "1\xf0\x9f\x98\x80+|2");
@@ -52,23 +52,23 @@ void tst_LineEditCal::editing_data()
     row("-99999=", "-10000|=");
     row("2*3=*4=", "24|==");
     row("2*3=+=", "6|==");
-    row("8.5\n", "8.5|"); // the last result as it is: left alone
+    row("8.5\n", "8.5|"); // the last result itself: unchanged
     row("8.5*3\n", "26|");
     row("3[+1.234]", "3+1.234|");
     row("[007.5+00.5]", "7.5+0.5|");
     row("[Math.max(2,11)=]", "11|=");
     row("{0 1 0 9 8}4.56", "4.5|");
-    row("{0 -1 0 9 8}+-", "+-|"); // a sign alone has no decimals to limit
+    row("{0 -1 0 9 8}+-", "+-|"); // a single sign has no decimals to limit
     row("{2 2 -100 100 8}100.5=", "100.00|=");
     row("{0 2 -1e9 1e9 8}16777217=", "16777216|=");
     row("{0 2 3 9 8}=", "3|=");
     row("{1 2 -9 -3 8}=", "-3.0|=");
     row("{0 2 5 1 8}7=", "5|="); // inverted: the minimum wins
-    // The decimals of an entry are held against the last filtering pass, which a
+    // The decimals of an entry are compared with the last filtering pass, which a
     // result does not replace.
     row("{2 2 -100 100 8}1.25+2=9", "1.25|=");
     row("{2 2 -100 100 1234567}1/0=", "1.23457e+06|=");
-    // Whatever engine evaluates: no text gives another number.
+    // With both script engines each text gives the same number.
     QFile table(EXPRESSIONS);
     QVERIFY(table.open(QIODevice::ReadOnly));
     while (!table.atEnd()) {
@@ -106,7 +106,7 @@ void tst_LineEditCal::editing()
             field.setInitialResult(numbers[4].toFloat());
         } else if (text.size() == 1) {
             User::type(text);
-        } else { // beyond the first plane
+        } else { // outside the BMP
             QTest::sendKeyEvent(QTest::Click, &field, Qt::Key_unknown, text, {});
         }
     }
@@ -129,10 +129,10 @@ void tst_LineEditCal::pasted_data()
     }
     QTest::newRow("new line") << "4\n/2"
                               << "2.000";
-    // Belongs to what follows, where a "/" begins a regular expression literal.
+    // Part of what follows, where a "/" begins a regular expression literal.
     QTest::newRow("new line, ++") << "a\n++\n/(1*1*2)/(1)"
                                   << "fails";
-    // Whatever is in it, a text takes no time and no stack.
+    // No text takes long or overflows the stack.
     for (const QString each : {"(", "- ", "!", "a=", "a:", "1?1:", "Math.abs(", "1,(", "a++,", ";",
                                "1 ", "1+", "'a'+", "1||", "x.", "'", "/ ", "0x", "\\"}) {
         for (const int size : {3000, 30000})
@@ -146,8 +146,8 @@ void tst_LineEditCal::pasted_data()
             << "fails";
 }
 
-// The result of a text without typed characters only; none of them is evaluated as a
-// program, and the field works on then.
+// The result of a text that was only pasted. No such text is evaluated as a program,
+// and the field still works afterwards.
 void tst_LineEditCal::pasted()
 {
     QFETCH(QString, text);
@@ -157,7 +157,7 @@ void tst_LineEditCal::pasted()
     field.setResultsRadixPointSeveral(3);
     field.setInitialResult(8.5F);
     QVERIFY(User::show(field));
-    const std::clock_t start = std::clock(); // the machine's other work takes none of it
+    const std::clock_t start = std::clock(); // processor time, without other processes
     field.setText(text + '=');
     const double ms = 1000.0 * double(std::clock() - start) / CLOCKS_PER_SEC
         / qMax(1, qEnvironmentVariableIntValue("VANTORSLIDER_SLOWNESS"));
@@ -171,7 +171,7 @@ void tst_LineEditCal::pasted()
     QCOMPARE(field.text(), QString("1.000"));
 }
 
-// Writes of the filtering pass are silent, the write of a result is not.
+// Writes of the filtering pass emit nothing; the write of a result does.
 void tst_LineEditCal::order()
 {
     EventLog log;

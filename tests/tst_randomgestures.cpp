@@ -11,9 +11,9 @@
 
 using namespace Vantor::Widgets;
 
-// What must hold whatever a user does, looked at after every gesture. The same seed
-// does the same; VANTORSLIDER_SEED and VANTORSLIDER_GESTURES (a number per editor)
-// choose others.
+// Invariants that must hold after every gesture of a user. The same seed repeats the same
+// gestures; VANTORSLIDER_SEED and VANTORSLIDER_GESTURES (a number per editor) set
+// others.
 class tst_RandomGestures : public QObject
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ private Q_SLOTS:
 
 namespace {
 
-// What the user does with a row. "#" is a position, at times beyond the range.
+// The user's actions with a row. "#" is a position, sometimes beyond the range.
 const QStringList gestures =
     QString(
         "plus; minus; enter (#+7-7)/1; type (#+7-7)/1\t; enter #,5; type #*1=+ | keys \t; "
@@ -37,16 +37,16 @@ const QStringList gestures =
         "| show; type # | disable | enable; space | type # | hold | drop; reset")
         .split("; ");
 
-// What the user is in the middle of when the program deletes the editor.
+// The user's action during which the program deletes the editor.
 const QStringList lastGestures {"plus", "hold | move 20", "type 5", "type 5/"};
 
-// A new editor with its user and program, and what must hold of them.
+// A new editor with its user and program, and their invariants.
 template <typename Frame> class Session
 {
 public:
-    // What the program does: first of all, and then any of its steps. "?" is a position
-    // within any range that leaves room for another one in the area: a value beyond the
-    // range is remembered as it was set, and counts as new when an entry ends.
+    // The program's first step, and then any of its steps. "?" is a position
+    // within any range that leaves space for another one in the area: a value beyond the
+    // range is stored as it was set, and counts as new when an entry ends.
     Session(const QString &start, const QStringList &steps, std::mt19937 &random)
         : m_programSteps(steps), m_random(random)
     {
@@ -55,7 +55,7 @@ public:
                     + any({"", " stays"}) + " | " + steps[0]);
     }
 
-    // What was done, as a row for a table.
+    // All steps so far, as a row for a table.
     QString play(int count)
     {
         QStringList all = gestures + gestures + m_programSteps;
@@ -79,8 +79,8 @@ private:
     int value(int row) const { return m_user.rows[row].slider->value(); }
     int min(int row) const { return m_user.rows[row].slider->minimum(); }
     int max(int row) const { return m_user.rows[row].slider->maximum(); }
-    // The most that the area leaves for a field beside its position or size, or for a
-    // margin beside the opposite one.
+    // The maximum that the area leaves for a field, given its position or size, or for a
+    // margin, given the opposite one.
     int room(int row) const
     {
         if (isMask)
@@ -94,7 +94,7 @@ private:
         return m_user.shown().remove(QRegularExpression("[$a-z]")).replace(' ', ',');
     }
 
-    // Nothing is heard of it.
+    // Causes no records.
     void playProgram(QString steps)
     {
         while (steps.contains('?'))
@@ -147,7 +147,7 @@ private:
             verifyField(row, changed.section(',', row, row).toInt(), lock);
     }
 
-    // Starts and ends take turns, and all that is reported comes between them.
+    // Starts and ends alternate, and all reports come between them.
     void verifyEdits(const QString &heard)
     {
         static const QSet<QString> others {"", "finished", "left", "page", "key"};
@@ -162,7 +162,7 @@ private:
         }
     }
 
-    // Nothing is heard any more, wherever the user was.
+    // Nothing more is recorded, whatever the user was doing.
     void deleteEditor()
     {
         if (QTest::currentTestFailed())
@@ -175,7 +175,7 @@ private:
         QCOMPARE(m_user.heard(), QString());
     }
 
-    // Of the field that the user has changed and what is locked to it.
+    // Of the field that the user has changed and the field locked to it.
     void verifyField(int row, int changed, const QVector<int> &lock)
     {
         QVERIFY(value(row) <= room(row));
@@ -215,7 +215,7 @@ void add(const QString &start, const QStringList &steps, const QString &name = {
 
 } // namespace
 
-// For orders of gestures that no row thought of.
+// For orders of gestures that no row covers.
 void tst_RandomGestures::editors_data()
 {
     QTest::addColumn<TestCode>("code");
@@ -242,7 +242,7 @@ void tst_RandomGestures::editors_data()
                        {"mask ? ? ? ?", "x default ?", "w default ?", "x resetValue"});
 }
 
-// Errors of rounding add up only over many edits.
+// Rounding errors add up only over many edits.
 void tst_RandomGestures::lockDoesNotDrift()
 {
     EditorUser user(new RectEditFrame);
