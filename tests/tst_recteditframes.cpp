@@ -4,7 +4,7 @@
 
 using namespace Vantor::Widgets;
 
-// The rectangle editor and those that derive from it.
+// The rectangle editor and the classes derived from it.
 class tst_RectEditFrames : public QObject
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ private Q_SLOTS:
     void setsThroughTheVirtuals();
 };
 
-// The lock buttons take the places that are kept for them.
+// The lock buttons replace their placeholders.
 void tst_RectEditFrames::lockButtons()
 {
     RectEditFrame frame;
@@ -43,7 +43,7 @@ void tst_RectEditFrames::lockButtons()
     QCOMPARE(places(), texts.arg("38..60", "hidden", " isBesideLock=true").trimmed());
 }
 
-// Each way to read them has its own order of the four.
+// Each getter has its own order of the four values.
 void tst_RectEditFrames::readsAllFields()
 {
     MaskEditFrame mask;
@@ -59,7 +59,7 @@ void tst_RectEditFrames::readsAllFields()
     QCOMPARE(margins, QRect(QPoint(30, 10), QPoint(40, 20)));
 }
 
-// Two halves, the area's edges and the ends of int, each where the rule turns.
+// Halves, the area's edges and the ends of int, each where the rule changes.
 void tst_RectEditFrames::sequences_data()
 {
     QTest::addColumn<TestCode>("code");
@@ -67,7 +67,7 @@ void tst_RectEditFrames::sequences_data()
         "x range 0 1000 | y range 0 1000 | w range 0 1000 | h range 0 1000 | set 0 0 0 0 | ");
     // The far edges of the area are at 10 + 1920 and 20 + 1080.
     const auto crop = rowsAfter<CropEditFrame>("areaFrom 10 20 1 1 1920 1080 | ");
-    // x, y, w and h are the top, bottom, left and right margin.
+    // x, y, w and h are the top, bottom, left and right margins.
     const auto mask = rowsAfter<MaskEditFrame>("area 1920 1080 | ");
     rect("halves round away from zero",
          "w range -9 9 | h range -9 9 | set 0 0 4 2 | sizeLock on: sizeLock(true) | "
@@ -82,7 +82,7 @@ void tst_RectEditFrames::sequences_data()
          "w enter 400: h(175) w(350) (150,0,350,175) | x range 150 1000 | sizeLock on | "
          "w enter 450: h(225) w(450) (150,0,450,225) | w range 0 700 | "
          "w plus: h(225) w(450) (150,0,450,225)");
-    // Exactly at the edge the height may not grow either, though the area does.
+    // Exactly at the edge the height may not grow either, although the area does.
     rect("proportion reaches the area's edge",
          "w range 0 400 | set 200 0 100 50 | sizeLock on: sizeLock(true) | "
          "h enter 100: w(200) h(100) (200,0,200,100) | w range 0 600 | "
@@ -113,7 +113,7 @@ void tst_RectEditFrames::sequences_data()
          "x plus: x(13) (13,51,40,20) | sizeLock on: sizeLock(true) | locks: no yes 2 | "
          "ratio 0.6667 | locks: no yes 0.667 | sizeLock off: sizeLock(false) | locks: no no 0 | "
          "h value 0 | lock size: sizeLock(true) | locks: no yes 0");
-    // Floats hold these numbers exactly, so the fields can be typed into.
+    // A float represents these numbers exactly, so the test can type them.
     rect("position saturates",
          "x range -2147483648 2147483647 | y range -2147483648 2147483647 | "
          "set -2000000000 2000000000 1 1 | lock position: positionLock(true) | "
@@ -131,7 +131,7 @@ void tst_RectEditFrames::sequences_data()
          "areaFrom 1 2 3 4 640 480 | ranges: 1..637 2..476 3..640 4..480 | area 1920 1080 | "
          "ranges: 30..1904 40..1048 16..1920 32..1080 | areaFrom 0 0 -2147483648 1 2147483647 10 | "
          "ranges: 0..2147483647 0..9 -2147483648..2147483647 1..10");
-    // One before the edge, too.
+    // Also one unit before the edge.
     crop("x and width stop at the far edge",
          "crop 1000 20 800 9 | x enter 1200: crop(1130,20,800,9) x(1200) (1200,20,800,9) | "
          "x plus: x(1130) (1130,20,800,9) | w plus: w(800) (1130,20,800,9) | "
@@ -148,7 +148,7 @@ void tst_RectEditFrames::sequences_data()
          "rect 15 20 110 99 | x value 14 | x plus: x(15) (15,20,110,99)");
     crop("nothing is the crop of the start",
          "areaFrom 0 0 0 0 100 100 | set 0 0 1 0 | w minus: w(0) (0,0,0,0)");
-    // The old crop stays the last one, though no field shows it any more.
+    // The old crop is still the last one reported, although no field shows it.
     crop("a smaller area clamps in silence",
          "crop 1000 100 800 300 | area 500 500 | shown: 499 100 500 300 | area 1920 1080 | "
          "set 1000 100 799 300 | w plus: w(800) (1000,100,800,300)");
@@ -156,7 +156,7 @@ void tst_RectEditFrames::sequences_data()
          "area 2147483647 2147483647 | crop 0 0 1000000000 1000000000 | "
          "x enter 2000000000: crop(1147483647,0,1000000000,1000000000) x(2000000000) "
          "(2000000000,0,1000000000,1000000000)");
-    // Far edges beyond the ends of int: a change must be told all the same.
+    // Far edges beyond the range of int: a change must still be reported.
     crop("edges leave 32 bits",
          "x range -2147483648 0 | w range -9 9 | crop -2147483648 20 -5 9 | "
          "w minus: crop(-2147483648,20,-6,9) w(-6) (-2147483648,20,-6,9) | "
@@ -194,7 +194,7 @@ void tst_RectEditFrames::sequences_data()
          "mask 700 0 0 0 | area 500 500 | shown: 500 0 0 0 | area 1000 1000 | set 699 0 0 0 | "
          "x plus: x(700) (700,0,0,0)");
 
-    // Nor does the kind of the lock change whether it is on.
+    // The type of the lock does not change whether it is on, either.
     addFor<RectEditFrame>("hidden locks stay", [](auto &user) {
         user.frame->setSizeLockEnable(true, RectEditFrame::OffsetLock);
         user.play("set 10 20 40 20 | w plus: w(41) (10,20,41,20) | "
@@ -205,25 +205,25 @@ void tst_RectEditFrames::sequences_data()
         user.frame->setSizeLockEnable(false, RectEditFrame::SizeScaleLock);
         user.play("h enter 10: w(21) h(10) (11,21,21,10)");
     });
-    // A host may choose its own proportion the moment that the user locks the size.
+    // A host may set its own proportion at the moment when the user locks the size.
     addFor<RectEditFrame>("a lock is reported when it is on", [](auto &user) {
         connect(user.frame, &RectEditFrame::sizeLockChanged, [&] { user.perform("ratio 4"); });
         user.play("set 0 0 40 20 | lock size: sizeLock(true) | w enter 20: h(5) w(20) (0,0,20,5)");
     });
-    // The whole rectangle is read when it is reported.
+    // The editor reads the whole rectangle at the time of the report.
     addFor<RectEditFrame>("receiver sets another field", [](auto &user) {
         connect(user.frame, &RectEditFrame::xValueChanged, [&] { user.perform("w value 77"); });
         user.play("set 0 0 40 20 | x plus: x(1) (1,0,77,20)");
     });
-    // The partner's signal comes first, and nothing after it where the editor is gone.
+    // The partner's signal comes first, and nothing after it if the editor is deleted.
     addFor<RectEditFrame>("receiver deletes the editor", [](auto &user) {
         connect(user.frame, &RectEditFrame::heightValueChanged, [&] { delete user.frame; });
         user.play("set 0 0 40 20 | sizeLock on: sizeLock(true) | w space: h(21)");
     });
 }
 
-// A host's class sees the rectangle that the user's change makes, and not the
-// program's, which goes to the fields.
+// A host's subclass receives the rectangle of a change by the user, but not that of the
+// program, which is set in the fields.
 void tst_RectEditFrames::setsThroughTheVirtuals()
 {
     struct Host : CropEditFrame

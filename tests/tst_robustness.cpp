@@ -32,11 +32,11 @@ private Q_SLOTS:
 };
 
 // Huge texts. One without "=" is evaluated at Enter in the integer
-// editor and has one added in the other. The field works on then.
+// editor; in the other editor "=" is added. The field still works afterwards.
 void tst_Robustness::pastedTexts_data()
 {
     QTest::addColumn<TestCode>("code");
-    // A processor time in ms is not lengthened by the machine's other work.
+    // The processor time in ms, which does not include other processes.
     const auto add = [](const QString &name, const QString &text, int mostMs) {
         addForBoth(name, [=](auto &user) {
             user.row.field->setMaxLength(300000);
@@ -52,7 +52,7 @@ void tst_Robustness::pastedTexts_data()
             QCOMPARE(double(user.frame->value()), 1.0);
         });
     };
-    // Qt lets a field have 32767 characters unless its host says more.
+    // Qt limits a field to 32767 characters unless its host sets another limit.
     add("zeros", QString(32000, '0') + '7', 200);
     add("points", QString(32000, '.'), 200);
     add("equals", QString(32000, '='), 200);
@@ -67,19 +67,19 @@ void tst_Robustness::pastedTexts_data()
 
 namespace {
 
-// Does the steps with each row of a new editor in turn, once for each signal of the class,
-// in which the program deletes the editor: at once, or as soon as control is back in the
-// loop around it.
+// Performs the steps with each row of a new editor, once for each signal of the class.
+// In that signal the program deletes the editor: at once, or when control returns to the
+// event loop.
 template <typename Editor> void deleteInEachSignal(const QString &steps, bool isAtOnce)
 {
     const QMetaObject &meta = Editor::staticMetaObject;
     bool isAnyMet = false;
-    // moc puts the signals first.
+    // moc lists the signals first.
     for (int i = meta.methodOffset(); meta.method(i).methodType() == QMetaMethod::Signal; ++i) {
         const QPointer<Editor> editor(new Editor);
         EditorUser user(editor);
         bool isMet = false;
-        QAction program; // has a slot for any signal
+        QAction program; // has a slot for every signal
         QObject::connect(&program, &QAction::triggered, [&] {
             if (std::exchange(isMet, true))
                 return;
@@ -87,7 +87,7 @@ template <typename Editor> void deleteInEachSignal(const QString &steps, bool is
                 delete editor.data();
             else
                 editor->deleteLater();
-            QCoreApplication::processEvents(); // as a dialog of the receiver does
+            QCoreApplication::processEvents(); // like a dialog of the receiver
         });
         const QMetaObject &receiver = QAction::staticMetaObject;
         QObject::connect(editor, meta.method(i), &program,
@@ -106,8 +106,8 @@ template <typename Editor> void deleteInEachSignal(const QString &steps, bool is
     QVERIFY(isAnyMet);
 }
 
-// Qt's own sender survives only the safe gestures where the editor is gone when its
-// signal returns.
+// If the editor is deleted when its signal returns, Qt's own sender survives only the
+// safe gestures.
 template <typename Editor>
 void addDeletions(const QString &gestures, const QString &safe, const QString &start = {})
 {
@@ -122,7 +122,7 @@ void addDeletions(const QString &gestures, const QString &safe, const QString &s
 
 } // namespace
 
-// For the sanitizers and Valgrind, too: what is touched after the end need not show.
+// For the sanitizers and Valgrind, too: a use after free may have no visible effect.
 void tst_Robustness::deletedInASignal_data()
 {
     QTest::addColumn<TestCode>("code");
@@ -133,7 +133,7 @@ void tst_Robustness::deletedInASignal_data()
     const QString safe = "space; sampled | hold | move 40 | tick";
     addDeletions<SliderEditFrame>(gestures, safe, "default 30 | ");
     addDeletions<SliderEditFrameDouble>(gestures, safe, "default 30 | ");
-    // Composite editors add what they do in their rows' reports.
+    // Composite editors add their own work in their rows' reports.
     const QString some = "plus; hold | move 40 | drop; type 5\t";
     addDeletions<RGBEditFrame>(some, safe);
     addDeletions<RGBAllEditFrame>(some, safe);
@@ -152,8 +152,8 @@ template <typename AnyUser, typename Action> void onReport(AnyUser &user, const 
     QObject::connect(user.frame, &Frame::valueChanged, &user.page, action);
 }
 
-// Takes the editor away within the first report of what is held, or after it. A button
-// is held until it repeats.
+// Removes the editor during the first report while the mouse button is down, or after it.
+// A button is pressed until it repeats.
 template <typename AnyUser>
 void takeAwayHeld(AnyUser &user, const QString &steps, const QString &removal, bool isInReport)
 {
@@ -204,7 +204,7 @@ void takeAwayHeld(AnyUser &user, const QString &steps, const QString &removal, b
 
 } // namespace
 
-// What the program does while the user holds the handle or a button.
+// Actions of the program while the user presses the handle or a button.
 void tst_Robustness::whileHeld_data()
 {
     QTest::addColumn<TestCode>("code");
@@ -224,13 +224,13 @@ void tst_Robustness::whileHeld_data()
         });
         user.play("tick: 41 | drop: 51");
     });
-    // A value that is held on one side is no new one at the end.
+    // A value that is limited to one side is not a new value at the end.
     addForBoth("a report of a value held on one side disables the editor", [](auto &user) {
         user.play("sampled | direction 2 100 | hold 40");
         onReport(user, [&user] { user.perform("disable"); });
         user.play("tick: 100");
     });
-    // A QFrame is a plain QWidget by the time that its destructor hides the editor.
+    // A QFrame is already a plain QWidget when its destructor hides the editor.
     addForBoth("the window goes", [](auto &user) {
         auto *const host = new QFrame;
         user.frame->setParent(host);
@@ -266,8 +266,8 @@ void tst_Robustness::whileHeld_data()
 
 namespace {
 
-// A range, a step and a value: whatever they are, what the row holds is within what it
-// holds of the range. None is NaN then.
+// For any range, step and value, the row's value is within the row's range. None of them
+// is NaN.
 template <typename Value, typename AnyUser>
 void setExtremes(AnyUser &user, const QVector<Value> &values)
 {
@@ -299,7 +299,7 @@ void setExtremes(AnyUser &user, const QVector<Value> &values)
 
 } // namespace
 
-// No assertion of Qt's, no overflow that the sanitizers see, and a value within the range.
+// No assertion of Qt, no overflow that the sanitizers detect, and a value within the range.
 void tst_Robustness::extremeSettings_data()
 {
     QTest::addColumn<TestCode>("code");

@@ -2,7 +2,7 @@
 
 using namespace Vantor::Widgets;
 
-// The integer slider editor and its floating-point twin.
+// The integer and the floating-point slider editor.
 class tst_SliderEditFrame : public QObject
 {
     Q_OBJECT
@@ -47,7 +47,7 @@ template <typename AnyUser> void compareSetters(AnyUser &user)
     frame.setSpinBoxFixedWidth(33);
     QCOMPARE(widths(), QString("31..31 33..33 32..32 32..32"));
 
-    // A margin to the right of each part but the last, beside what a host has set.
+    // A margin to the right of each child except the last, in addition to the host's.
     const QLayout *layout = frame.layout();
     layout->itemAt(2)->layout()->setContentsMargins(1, 2, 3, 4);
     frame.setHorizontalSpacing(5, 7);
@@ -56,7 +56,7 @@ template <typename AnyUser> void compareSetters(AnyUser &user)
         margins.append(layout->itemAt(i)->layout()->contentsMargins());
     QCOMPARE(margins, QList<QMargins>({{0, 0, 5, 0}, {0, 0, 7, 0}, {1, 2, 7, 4}}));
 
-    // A spacer takes the room of the slider, and only then any.
+    // A spacer replaces a hidden slider, and otherwise takes no space.
     const QSpacerItem *spacer = layout->itemAt(3)->layout()->itemAt(2)->spacerItem();
     for (const bool isVisible : {false, true}) {
         frame.setSliderVisible(isVisible);
@@ -76,8 +76,8 @@ template <typename AnyUser> void compareSetters(AnyUser &user)
     QCOMPARE(user.heard(), QString());
 }
 
-// Under a host's own signal block no setter ends it; without one the children
-// report nothing either.
+// No setter ends a host's own signal block; without one the children emit nothing
+// either.
 template <typename AnyUser> void compareSilence(AnyUser &user)
 {
     QAbstractSpinBox *const spinBox = user.row.spinBox;
@@ -117,7 +117,7 @@ void tst_SliderEditFrame::sequences_data()
         addBoth(mode + "drag", hold + "drop" + last + " | shown: 40 | timer: stands");
         addBoth(mode + "slider hidden in a drag",
                 hold + "hideSlider" + last + " | timer: stands | drop | shown: 40");
-        // The handle is held by nobody any more.
+        // The handle is no longer pressed.
         addBoth(mode + "editor disabled in a drag",
                 hold + "disable" + last + " | enable | move 70 | timer: stands | drop | shown: 40");
         addBoth(mode + "dropped where taken",
@@ -130,7 +130,7 @@ void tst_SliderEditFrame::sequences_data()
     addBoth("ticks",
             "sampled | hold | timer: runs | tick | move 20 30 | tick: 30 | tick | "
             "move 50 30 | tick | move 40 | tick: 40 | drop | timer: stands | shown: 40");
-    // Elsewhere the ticks come by hand: here the timer runs.
+    // Other tests send the ticks themselves: here the timer runs.
     addForBoth("ticks in real time", [](auto &user) {
         user.frame->setTimeSamplingRate(5);
         user.perform("hold 40");
@@ -145,7 +145,7 @@ void tst_SliderEditFrame::sequences_data()
     addBoth("no direction", before + "0 100" + drag + "90 95 100 100 | drop | shown: 100");
     addBoth("a held value is reported on every attempt",
             "direction 4 0 | plus: 0 | plus: 0 | shown: 0");
-    // The last value is the one that was set, not the clamped one.
+    // The last value is the value passed to the setter, not the clamped one.
     addBoth("a child's echo",
             "value 200 | range 0 300 | singleStep 100 | focus | up | shown: "
             "200/100 | down: 100 | shown: 100");
@@ -161,7 +161,7 @@ void tst_SliderEditFrame::sequences_data()
            "focus | disable: finished finished | selected: nothing");
     addDouble("a disabled field selects nothing", "focus | disable | selected: nothing");
     addBoth("a field that is gone selects nothing", "focus | delete");
-    // Each repetition is a step with its own signal.
+    // Each repetition is a step with its own report.
     addForBoth("repeated steps", [](auto &user) {
         user.perform("autoRepeat");
         user.frame->setAutoRepeatDelay(10);
@@ -178,8 +178,8 @@ void tst_SliderEditFrame::sequences_data()
     addBoth("wheel, disabled", "focus | wheel: page page");
     addBoth("wheel", "wheel: page page | wheelEnabled | wheel: page page | focus | wheel: page 11");
 
-    // Positions are factors: 500 of 1,000 are the root of 100,000. The handle finds each
-    // where the slider has as many pixels.
+    // Positions are factors: 500 of 1,000 is the square root of 100,000. The handle reaches
+    // each position if the slider has as many pixels.
     const QString scale = "width 3000 | range 1 100000 | scale logarithmic | ";
     addBoth("logarithmic scale",
             scale
@@ -251,14 +251,14 @@ void tst_SliderEditFrame::sequences_data()
     addDouble("plus at the maximum",
               "singleStep 10 | value 90 | plus: 100 | value 95 | plus | shown: 95");
     addDouble("minus onto the minimum", "singleStep 10 | minus: 0 | shown: 0");
-    // 0.2 + 0.1 comes out just above 0.3, 0.3 - 0.1 just below 0.2.
+    // 0.2 + 0.1 is just above 0.3, 0.3 - 0.1 just below 0.2.
     addDouble("plus within the tolerance",
               "singleStep 10 | range 0 30 | value 20 | plus: 30 | shown: 30");
     addDouble("minus without tolerance",
               "singleStep 10 | range 20 99 | value 30 | minus | shown: 30");
 }
 
-// However the bounds are set, spin box and slider describe one interval.
+// Spin box and slider have the same interval, in whatever way the bounds are set.
 void tst_SliderEditFrame::scale_data()
 {
     QTest::addColumn<TestCode>("code");
@@ -276,22 +276,22 @@ void tst_SliderEditFrame::scale_data()
         row(1, -10, 10, "-2.25 | shown: -2.3 | bounds: -10..10 | ranges: -100..100");
         row(0, 0.6, 9.4, "5.5 | shown: 6 | bounds: 1..9 | ranges: 1..9");
         row(-1, -0.5, 9.4, "5.5 | shown: 6 | bounds: 0..9 | ranges: 0..9");
-        // Below and above the range that was.
+        // Below and above the previous range.
         row(2, -5, -3, "-4 | shown: -4.00 | bounds: -5..-3 | ranges: -500..-300");
         row(2, 3, 5, "4 | shown: 4.00 | bounds: 3..5 | ranges: 300..500");
-        // Positions stop at the ends of int.
+        // Positions saturate at the ends of int.
         row(2, -1e9, 1e9,
             "1e300 | shown: 21474836.47 | bounds: -21474836.48..21474836.47 | "
             "ranges: -2147483648..2147483647");
     }
-    // As a double just below the half, but a bound of 0.285 means 0.29. One bound alone has
-    // the slider round it for itself.
+    // As a double just below the half, but a bound of 0.285 means 0.29. If only one bound is
+    // set, the slider rounds it separately.
     add("half bound",
         "range 0 0.285 | bounds: 0..0.29 | ranges: 0..29 | maximum 0.285 | bounds: 0..0.29 | "
         "ranges: 0..28");
     add("half bound, one decimal",
         "decimals 1 | maximum 0.349999995 | bounds: 0..0.4 | ranges: 0..3");
-    // The slider's step follows at the next decimals, and is never 0.
+    // The slider's step is updated when decimals are next set, and is never 0.
     add("single step",
         "range 0 1 | value 0.1 | groove after: 0.2 | singleStep 0.05 | right: 0.21 | decimals 2 | "
         "right: 0.26 | singleStep 0 | decimals 2 | right: 0.31");
@@ -312,7 +312,7 @@ void tst_SliderEditFrame::freshScale()
     QCOMPARE(slider->value(), 500);
 }
 
-// The calculator writes a decimal point in every country; so must be read.
+// The calculator writes a decimal point in every locale; the field must read it.
 void tst_SliderEditFrame::locale()
 {
     QLocale::setDefault(QLocale("ar_EG"));

@@ -3,7 +3,7 @@
 
 using namespace Vantor::Widgets;
 
-// The two number fields as a host finds them outside of any editor.
+// The two number fields as a host uses them outside any editor.
 class tst_SpinBoxes : public QObject
 {
     Q_OBJECT
@@ -15,8 +15,8 @@ private Q_SLOTS:
 
 namespace {
 
-// The text and the signals of a box on a page, without keyboard tracking as the editors
-// have it, when another text is typed over its own and the key is pressed.
+// The text and the signals of a box on a page after the user replaces its text and presses
+// the key. Like in the editors, keyboard tracking is off.
 template <typename SpinBox, typename... Settings>
 QString answer(const QString &typed, Qt::Key key, Settings... settings)
 {
@@ -40,7 +40,7 @@ QString answer(const QString &typed, Qt::Key key, Settings... settings)
 
 } // namespace
 
-// Enter is neither interpreted by the base nor seen by the page.
+// The base class does not interpret Enter, and the page does not receive it.
 void tst_SpinBoxes::keys()
 {
     const auto answerOfInt = [](const QString &typed, Qt::Key key) {
@@ -48,7 +48,7 @@ void tst_SpinBoxes::keys()
     };
     QCOMPARE(answerOfInt("5", Qt::Key_Return), QString("5: editing() enter()"));
     QCOMPARE(answerOfInt("5", Qt::Key_Enter), QString("5: editing() enter()"));
-    // Before the base interprets it.
+    // Before the base class interprets it.
     QCOMPARE(answerOfInt("5", Qt::Key_Tab), QString("5: editing() value(5) editing()"));
     QCOMPARE(answerOfInt("2*3", Qt::Key_Equal), QString("6: enter()"));
     QCOMPARE(answerOfInt("-1", Qt::Key_Equal), QString("0: enter()"));
@@ -63,7 +63,7 @@ void tst_SpinBoxes::keys()
     QCOMPARE(answerOfDouble("2+", Qt::Key_Equal), QString("7.5: editing()"));
 }
 
-// It is away while the field is edited, whenever it was set.
+// The suffix is hidden while the field is edited, whenever it was set.
 void tst_SpinBoxes::suffix()
 {
     SliderEditDoubleSpinBox box;
@@ -80,11 +80,11 @@ void tst_SpinBoxes::suffix()
     box.setSlotEditingFinished();
     QCOMPARE(box.text(), QString("70.00mm"));
     box.clearFocus();
-    // What the host has put into the field in between counts.
+    // A text that the host has set in the meantime counts.
     box.findChild<QLineEdit *>()->setText("3.5mm");
     box.setFocus();
     QCOMPARE(box.value(), 3.5);
-    // While it is away, another focus-in leaves the field alone.
+    // While it is hidden, another focus-in event does not change the field.
     box.setSuffix("s");
     QFocusEvent again(QEvent::FocusIn);
     QApplication::sendEvent(&box, &again);

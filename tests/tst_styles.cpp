@@ -13,8 +13,8 @@
 
 using namespace Vantor::Widgets;
 
-// The style sheets: readable, large enough for a finger or a pointer, states to be seen,
-// and the same whatever comes first.
+// The style sheets: readable, large enough for a finger or a pointer, visible states,
+// and the same result in any order of calls.
 class tst_Styles : public QObject
 {
     Q_OBJECT
@@ -59,7 +59,7 @@ double contrastOf(const QColor &a, const QColor &b)
     return qMax(ratio, 1 / ratio);
 }
 
-// A piece of the upper edge, from outside to the first row of its inside. It is longer
+// A part of the upper edge, from outside to the first inner row of pixels. It is longer
 // than a dash and its gap.
 QImage upperEdge(QWidget *widget)
 {
@@ -97,14 +97,14 @@ QImage picture(QWidget *widget)
 
 } // namespace
 
-// Every test runs with each sheet; that for the desktop in palettes of its host.
+// Every test runs with each sheet, and with that for the desktop in several palettes.
 void tst_Styles::initTestCase_data()
 {
     QDir::addSearchPath("vantorslider", STYLES_DIR);
     QTest::addColumn<QString>("sheet");
     QTest::addColumn<QPalette>("palette");
-    QTest::addColumn<int>("target"); // the least side of what is clicked
-    QTest::addColumn<int>("slider"); // its least width
+    QTest::addColumn<int>("target"); // the minimum side of a click target
+    QTest::addColumn<int>("slider"); // its minimum width
     const auto add = [](const char *row, const QString &name, const QPalette &palette, int target,
                         int slider) {
         QFile file(STYLES_DIR "/" + name + ".qss");
@@ -126,7 +126,7 @@ void tst_Styles::cleanup()
     qApp->setStyleSheet(QString());
 }
 
-// Behind each colour of a text stands that of its background.
+// Each colour of a text is followed by that of its background.
 void tst_Styles::contrast()
 {
     QFETCH_GLOBAL(QString, sheet);
@@ -144,7 +144,7 @@ void tst_Styles::contrast()
     }
 }
 
-// Buttons and handles look otherwise than without the theme's pictures.
+// Buttons and handles differ from those without the theme's pictures.
 void tst_Styles::glyphs()
 {
     QFETCH_GLOBAL(QString, sheet);
@@ -210,8 +210,8 @@ void tst_Styles::largeFont()
     QVERIFY(inside >= text && inside <= text + label->fontMetrics().height());
 }
 
-// Neither a row that takes the focus nor a field whose entry was refused moves
-// anything: only their edges change.
+// A row that receives the focus and a field that refuses an entry move nothing: only
+// their edges change.
 void tst_Styles::edges()
 {
     QFETCH_GLOBAL(QString, sheet);
@@ -229,7 +229,7 @@ void tst_Styles::edges()
         const QRect place = field->geometry();
         QVERIFY(contrastOfEdge(upperEdge(row)) < 1.1);
         user.perform("focus");
-        // The cursor is off the edge then.
+        // The cursor is then away from the edge.
         const QImage focused = edgeAfter("keys 1"), refused = edgeAfter("keys (\n");
         QVERIFY(contrastOfEdge(upperEdge(row)) >= 3 && contrastOfEdge(refused) >= 3);
         QVERIFY(refused != plain && refused != focused && focused != plain);
@@ -240,8 +240,8 @@ void tst_Styles::edges()
     }
 }
 
-// A panel's lock takes no room while none shows, and while the other one shows as much as
-// that: the rows end in one line.
+// A panel's lock takes no space while no lock is visible, and the other lock's width while
+// only that one is visible: all rows end at the same edge.
 void tst_Styles::lockColumn()
 {
     QFETCH_GLOBAL(QString, sheet);
@@ -263,8 +263,8 @@ void tst_Styles::lockColumn()
     QCOMPARE(widths(), QList<int>({narrow, narrow}));
 }
 
-// The same picture in whatever order a host sets the sheet, widths and visibility, and
-// shows the window.
+// The same picture in any order in which a host sets the sheet, widths and visibility,
+// and shows the window.
 void tst_Styles::order()
 {
     QFETCH_GLOBAL(QString, sheet);
@@ -300,8 +300,8 @@ void tst_Styles::order()
     } while (std::next_permutation(calls.begin(), calls.end()));
 }
 
-// What is not an editor stays as it is with a sheet that selects nothing: Qt gives some
-// widgets another pixel with any.
+// Other widgets look as with a sheet that selects nothing: any sheet adds a pixel to some
+// of Qt's widgets.
 void tst_Styles::surroundings()
 {
     QFETCH_GLOBAL(QString, sheet);

@@ -5,8 +5,8 @@
 
 using namespace Vantor::Widgets;
 
-// What the field of a slider editor shows at rest is its value and, if there was
-// one, its last report, whatever was typed, pasted or stepped.
+// At rest the field of a slider editor shows its value, which is also the last report, if
+// there was one, whatever was typed, pasted or stepped.
 class tst_TypedEntries : public QObject
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ static void addEntry(const QString &range, const QString &steps, const QString &
             user.perform("decimals " + numbers[3]);
         user.play("range " + numbers[0] + ' ' + numbers[1] + " | value " + numbers[2]);
         user.play(steps + " | shown: " + shown);
-        // Another pass of the focus finds nothing new.
+        // Entering and leaving the field again reports nothing.
         for (const QString action : {"show", "click", "elsewhere"})
             user.perform(action);
         QCOMPARE(user.shown(), shown);
@@ -49,7 +49,7 @@ void tst_TypedEntries::whole_data()
     row("0 100 10", "enter 5*2 | focused: editor", "10");
     row("0 100 10", "enter -5: 0 | refused: no", "0");
     row("0 100 10", "type 12*3=: finished 36 finished left", "36");
-    // The bounds are as of the value.
+    // The bounds are those at the time of the last value.
     row("0 100 10", "range 0 300 | enter 250: 100 | enter 250: 250", "250");
     row("0 100 10", "value 500 | type \t: finished 100 finished", "100");
     row("0 243 243", "range 0 191 | type 1/0\n: finished 191 finished finished left", "191");
@@ -74,23 +74,23 @@ void tst_TypedEntries::whole_data()
     row("0 100 50", "prefix $ | type 12*3\t: finished 36 finished", "$36");
     row("0 100 50", "prefix + | suffix /s | type 07a | up: 8 | hide: finished finished", "+8/s");
     row("0 9999999 1234567", "suffix  px | enter 1/0", "1234567 px");
-    // Another unit leaves the entry, and the cursor where it was.
+    // Another unit keeps the entry and the cursor position.
     row("0 100 50",
         "prefix + | type 12*3 | suffix  px | prefix >> | shown: >>12*3 px/50 | keys 1\t: "
         "finished 100 finished",
         ">>100 px");
     row("0 100 50", "enter 1/0 | suffix  px | refused: yes | prefix $", "$50 px");
     row("0 100 50", "suffix  px | click | suffix  | keys 7\t: finished 7 finished", "7");
-    // A comma groups no digits.
+    // A comma is not a group separator.
     row("0 9999 1234", "enter 1,234: 234", "234");
     row("0 9999 10", "type 1,234 | up: 235 | elsewhere: finished finished", "235");
     row("0 100 0", "specialValueText off | click | elsewhere: finished finished", "off");
     row("0 100 7", "specialValueText off | enter 0: 0", "off");
-    // From its own menu the user comes back and goes on typing; the page's may read values.
+    // After the field's own menu the user continues typing; a menu of the page may read values.
     row("0 100 50", "type 12* | menu 3 | selected: nothing | keys +1\t: finished 37 finished",
         "37");
     row("0 100 50", "type 12*2 | pageMenu: finished 24 finished | selected: all", "24");
-    // Only a correction ends the history of the field; without one the keys are the page's.
+    // Only a correction clears the field's history; without a history the page receives the keys.
     row("0 100 50",
         "click | undo: page | redo: page | keys 12*3 | undo | redo | hide: 36 finished finished",
         "36");
@@ -98,14 +98,14 @@ void tst_TypedEntries::whole_data()
         "type 12*3 | undo | undo: page | redo | redo: page | keys \t: finished 36 finished", "36");
     row("0 100 50", "type 12a | undo: page | hide: 12 finished finished", "12");
     row("0 100 50", "type 12* | paste 07 | undo: page | keys \t: finished 84 finished", "84");
-    // What the program does to a pending entry: it drops or keeps it.
+    // Calls of the program drop or keep a pending entry.
     for (const QString drop : {"value 50", "singleStep 2"})
         row("0 100 50", "type 12*3 | " + drop + " | undo: page", "50");
     row("0 100 50", "type 12*3 | range 0 40 | elsewhere: finished 40 finished", "40");
     row("0 100 50", "type 12*3 | range 0 90 | elsewhere: finished 36 finished", "36");
     // At the end of the range there is no step, and the entry stays.
     row("0 100 100", "type 5/1 | up | elsewhere: finished 5 finished", "5");
-    // What was refused stays so until something else is typed, stepped or set.
+    // An entry stays refused until something else is typed, stepped or set.
     row("0 100 10", "type 2+=: finished finished left | refused: yes", "10");
     row("0 100 10", "click | paste while(1) | hide: finished finished | refused: yes", "10");
     row("0 100 10", "enter 1/0 | type 3 | refused: no | hide: 3 finished finished", "3");
@@ -147,7 +147,7 @@ void tst_TypedEntries::fraction_data()
     row("0 10 1", "prefix $ | enter 3/2: 1.5", "$1.50");
     row("0 100 0.1", "suffix mm | type 1/4=+1\n: 1.25", "1.25mm");
     row("0 100 0.1", "suffix mm | enter 1/0", "0.10mm");
-    // The unit that was set last returns, and none while the field is edited.
+    // The unit that was set last is restored, and is hidden while the field is edited.
     row("0 10 1", "click | suffix mm | shown: 1.00 | prefix $ | elsewhere", "$1.00mm");
     row("0 10 1", "suffix mm | type 3/2 | suffix s | prefix $ | shown: $3/2/100 | elsewhere: 1.5",
         "$1.50s");
@@ -158,9 +158,9 @@ void tst_TypedEntries::fraction_data()
     // The calculator's text is clamped in float and has two decimals.
     row("0 999999.99 0.1", "enter 2000000: 999999.99", "999999.99");
     row("0 0.996 0.1 3", "enter 5: 0.996", "0.996");
-    // A failed entry shows the value in six digits, which are an entry, too.
+    // A failed entry shows the value with six digits, which are a new entry.
     row("0 9999 1234.567 3", "enter 1/0 | enter 1234.57: 1234.57", "1234.570");
-    // It learns a value and new bounds from the program's next value alone, as floats.
+    // It takes over value and bounds only with the program's next value, as floats.
     row("0 1 0.1", "range 0 5 | type 4=\t: 1 | value 1 | enter 4: 4", "4.00");
     row("0 10 1.5", "type 1/0= | shown: 1.5 | keys \t", "1.50");
     row("0 10 1", "value 1e300 | type 1/0=: 10 | shown: 3.40282e+38/1000 | keys \t", "10.00");
@@ -185,7 +185,7 @@ struct ShownByItsConstructor : QDialog
     explicit ShownByItsConstructor(const EditorRow &row) { showIn(*this, row); }
 };
 
-// A class of the host's own: the window is of its base class as yet when the field gets
+// A class of the host: the window is still of its base class when the field receives
 // the focus, and again when its destructor hides the field.
 struct HostDialog : ShownByItsConstructor
 {
@@ -208,8 +208,8 @@ void typeAndDestroy(EditorUser &user, const QString &typed, QWidget *window)
 
 } // namespace
 
-// Qt hides a field when the host's part of its window is gone; a pending entry is
-// dropped then.
+// Qt hides a field after the host's part of its window is destroyed. A pending entry is
+// then dropped.
 void tst_TypedEntries::windows_data()
 {
     QTest::addColumn<TestCode>("code");
@@ -226,7 +226,7 @@ void tst_TypedEntries::windows_data()
         user.play(user.isWhole ? "keys 1/4*4\t: finished 1 finished" : "keys 1/4*4\t: 100");
         user.frame->setParent(&user.page);
     });
-    // Enter can't hand the focus to the row then.
+    // Enter can't move the focus to the row in this case.
     addForBoth("focus proxy", [](auto &user) {
         user.frame->setFocusProxy(user.row.spinBox);
         user.play(user.isWhole ? "type 3*9\n: finished 27 left" : "enter 3*9: 100");
@@ -234,7 +234,7 @@ void tst_TypedEntries::windows_data()
     });
 }
 
-// A field that a subclass put in place of the calculator's evaluates nothing.
+// A line edit that a subclass sets instead of the calculator's evaluates nothing.
 void tst_TypedEntries::replacedLineEdit()
 {
     const auto check = [](auto &&box) {
