@@ -63,7 +63,7 @@ void ColourPage::addLift()
 {
     addHeading(tr("Lift"), tr("Added to each channel, scaled by the master."));
     auto *editor = addEditor<RGBAllEditFrame>();
-    // The channels are an editor of their own with an end of its own.
+    // The channels are a separate editor with its own spacer at the end.
     editor->findChild<RGBEditFrame *>()->setLastVerticalSpacerExpanding(false);
     setUpChannels(editor, -100, 100, Colours().lift);
     editor->setLabelText(RGBAllEditFrame::ALL, tr("Master"));

@@ -123,7 +123,7 @@ def show_page(window, name):
         button = pyatspi.findDescendant(window, lambda a: a.name == name)
         button.queryAction().doAction(0)
     if not wait_for(is_shown_alone):
-        fail(f"the page {name} does not show")
+        fail(f"the page {name} is not shown")
     return page
 
 
@@ -186,13 +186,13 @@ def check_change(rows, heard, row, button, step):
     heard.clear()
     button.queryAction().doAction(0)
     if not wait_for(lambda: all(part in [source for source, _ in heard] for part in expected)):
-        fail(f"{button.name} pressed, but heard only {heard}")
+        fail(f"{button.name} pressed, but received only {heard}")
     if not all(source in expected for source, _ in heard):
-        fail(f"{button.name} pressed, and heard of another row: {heard}")
+        fail(f"{button.name} pressed, and received events of another row: {heard}")
     told = [float(text) for source, text in heard if source == field]
     if len(told) != 1 or not all(
             math.isclose(v, before + step) for v in (told[0], value.currentValue)):
-        fail(f"{button.name}: from {before:g} to {value.currentValue:g}, heard {told}")
+        fail(f"{button.name}: from {before:g} to {value.currentValue:g}, received {told}")
     print(f"{button.name}: {before:g} to {told[0]:g}, slider at {slider.queryValue().currentValue:g}")
 
 
