@@ -22,20 +22,7 @@ namespace Widgets {
 using Internal::CalculatorPatterns;
 using Internal::FieldText;
 
-/*!
-    \class LineEditCal
-    \brief The text field of the spin boxes: an arithmetic expression where a
-    number is expected.
-
-    Every edit is filtered: characters that no expression has are refused,
-    leading zeros dropped, a second decimal point or too many decimals of a
-    number undone. A finished expression is evaluated, clamped, formatted and
-    written back as the field's text. It is finished by "=" as the last
-    character or by setSlotEditingFinished(). A prefix and a suffix that the spin
-    box around the field shows are no part of it.
-*/
-
-// A copy of a std::regex shares its compiled automaton.
+// Copies of a std::regex share the compiled automaton.
 LineEditCal::LineEditCal(QWidget *parent)
     : QLineEdit(parent), m_regex(CalculatorPatterns::instance().character),
       m_regexMark(CalculatorPatterns::instance().mark),
@@ -46,10 +33,6 @@ LineEditCal::LineEditCal(QWidget *parent)
     setProperty("noSpaceingLineEdit", true);
 }
 
-/*!
-    Takes \a result as the last accepted result: it is shown again when an
-    evaluation fails. The text does not change.
-*/
 void LineEditCal::setInitialResult(const float &result)
 {
     m_initialResult = result;
@@ -57,8 +40,7 @@ void LineEditCal::setInitialResult(const float &result)
     setEntryRefused(false);
 }
 
-// A drag hands over a result at every move; its text is needed only when
-// somebody types.
+// A drag sets a result at every move; its text is created only when the user types.
 const QString &LineEditCal::beforeResult()
 {
     if (m_isInitialResultPending) {
@@ -74,20 +56,20 @@ QString LineEditCal::initialResultText() const
     if (!has(ExactEntry)) {
         return QString::number(given, 'g', 6);
     }
-    // What was handed over has lost digits of the value on its way through float.
+    // The result was converted to float, so it may have fewer digits than the value.
     const double value = ofSpinBox("value", given);
     const bool isOfValue = Internal::saturatedFloat(value) == m_initialResult;
     return QString::number(isOfValue ? value : given, 'f', shownDecimals());
 }
 
-// A number that the spin box around the field has for a property.
+// The value of a numeric property of the spin box, or otherwise if it has none.
 double LineEditCal::ofSpinBox(const char *property, double otherwise) const
 {
     const QVariant number = parent() != nullptr ? parent()->property(property) : QVariant();
     return number.isValid() ? number.toDouble() : otherwise;
 }
 
-// A spin box for whole numbers has no such property.
+// QSpinBox has no property "decimals".
 int LineEditCal::shownDecimals() const
 {
     return has(ExactEntry) ? static_cast<int>(ofSpinBox("decimals", 0)) : m_remainSeveral;
@@ -99,35 +81,27 @@ QString LineEditCal::pointed(const QString &entry) const
     return isChanged ? Internal::withDecimalPoints(entry) : entry;
 }
 
-/*! Sets the number of decimals of a shown result to \a remainSeveral. */
 void LineEditCal::setResultsRadixPointSeveral(const int &remainSeveral)
 {
     m_remainSeveral = remainSeveral;
 }
 
-/*! Sets the most characters after the decimal point of a typed number to \a inputSeveral. */
 void LineEditCal::setInputRadixPointSeveral(const int &inputSeveral)
 {
     m_inputSeveral = inputSeveral;
 }
 
-/*! Clamps results to \a min and \a max; where they are inverted, \a min wins. */
 void LineEditCal::setLineEditMinOrMax(const float &min, const float &max)
 {
     m_minNum = min;
     m_maxNum = max;
 }
 
-/*! Records that the host shows a suffix; the field itself does not need to know. */
 void LineEditCal::setSuffix(bool bSuffix)
 {
     m_bSuffix = bSuffix;
 }
 
-/*!
-    Evaluates the text unless it is the last accepted result. Emits nothing
-    but the text's own change.
-*/
 void LineEditCal::setSlotEditingFinished()
 {
     const QString entry = pointed(FieldText(parent(), text()).entry);
@@ -136,11 +110,6 @@ void LineEditCal::setSlotEditingFinished()
     }
 }
 
-/*!
-    True from an evaluation that failed until the text is edited, another entry is
-    accepted or a result is handed over. The last accepted result shown meanwhile
-    may have fewer digits than the value that it stands for.
-*/
 bool LineEditCal::isEntryRefused() const
 {
     return m_isEntryRefused;
@@ -157,8 +126,8 @@ bool LineEditCal::isLeftForOwnPopup(const QFocusEvent *event)
     return m_isInOwnPopup;
 }
 
-// A line edit takes the shortcuts of undo and redo from the host. With nothing to undo
-// or to redo in the field they are the host's.
+// QLineEdit overrides the host's shortcuts for undo and redo. If there is nothing to undo or redo
+// here, they reach the host.
 bool LineEditCal::event(QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
@@ -172,16 +141,13 @@ bool LineEditCal::event(QEvent *event)
     return QLineEdit::event(event);
 }
 
-/*!
-    Filters \a text, or evaluates it where it ends in "=" and emits
-    signalsResult() then, whether that succeeded or not.
-*/
+// Filters the text or, if it ends in "=", evaluates it and emits signalsResult().
 void LineEditCal::onSlotTextChanged(QString text)
 {
     FieldText shown(parent(), text);
     Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     if (isModified()) {
-        setEntryRefused(false); // the user may type the shown result once more
+        setEntryRefused(false); // the user may have typed the shown result
         edit.begin(Internal::EditSpan::Entry);
     }
     const QString entry = pointed(shown.entry);
@@ -333,8 +299,8 @@ void LineEditCal::setShowResult(const QString &strText)
         setShownEntry(beforeResult());
         return;
     }
-    // A text that is no number counts as 0, also where Qt reads a number that is not
-    // finite. NaN passes both comparisons.
+    // Text that is not a number counts as 0, also text that Qt reads as infinity. NaN passes both
+    // comparisons below.
     const double exact = result->toDouble();
     const bool isNumber = std::isfinite(exact) || *result == QLatin1String("NaN");
     const bool isExact = has(ExactEntry);
@@ -363,8 +329,8 @@ void LineEditCal::setEntryRefused(bool isRefused)
     }
 }
 
-// What the filtering pass leaves, with the cursor in it. Writing it would end the
-// history of the field, so only a correction is written.
+// Shows the filtered entry and sets the cursor. setText() clears the undo history, so it is called
+// only if the entry was corrected.
 void LineEditCal::setEntryText(const QString &entry, int cursorPosition)
 {
     const FieldText shown(parent(), text());

@@ -11,6 +11,12 @@
 namespace Vantor {
 namespace Widgets {
 
+// The line edit of the two spin boxes: accepts an arithmetic expression instead of a number.
+//
+// Each edit is filtered: characters that no expression contains and leading zeros are removed, a
+// second decimal point or too many decimals of a number are undone. "=" as the last character or
+// setSlotEditingFinished() evaluates the expression; the result is clamped, formatted and written
+// back as text. The prefix and suffix of the spin box are not part of the expression.
 class LineEditCal : public QLineEdit
 {
     Q_OBJECT
@@ -18,27 +24,37 @@ class LineEditCal : public QLineEdit
 public:
     explicit LineEditCal(QWidget *parent = nullptr);
 
+    // Sets the last accepted result, shown if an evaluation fails. The text does not change.
     void setInitialResult(const float &result);
+    // Decimals of a shown result.
     void setResultsRadixPointSeveral(const int &remainSeveral);
+    // Maximum number of characters after the decimal point of a typed number.
     void setInputRadixPointSeveral(const int &inputSeveral);
+    // Results are clamped to this range; if it is inverted, min takes precedence.
     void setLineEditMinOrMax(const float &min, const float &max);
+    // Part of the interface; has no effect.
     void setSuffix(bool bSuffix);
+    // Evaluates the text unless it is the last accepted result. Emits only textChanged().
     void setSlotEditingFinished();
+    // True after a failed evaluation until the text is edited, another entry is accepted or
+    // setInitialResult() is called. The result that is shown meanwhile can have fewer digits than
+    // the value.
     bool isEntryRefused() const;
-    // To be asked when the spin box loses the focus: to a menu of the field's own, such
-    // as the one that pastes, from which the user comes back and goes on typing. True
-    // until the focus is lost to something else.
+    // Called when the spin box loses the focus. Whether it goes to a context menu of this line
+    // edit, from which the user returns and continues typing. isInOwnPopup() returns true until
+    // the focus goes elsewhere.
     bool isLeftForOwnPopup(const QFocusEvent *event);
     bool isInOwnPopup() const { return m_isInOwnPopup; }
     bool event(QEvent *event) override;
     void setEntryOptions(EntryOptions options) { m_entryOptions = options; }
     EntryOptions entryOptions() const { return m_entryOptions; }
     bool has(EntryOption option) const { return m_entryOptions.testFlag(option); }
-    // The entry with points where commas stand for them.
+    // The entry with decimal points instead of decimal commas.
     QString pointed(const QString &entry) const;
     Internal::HostWindow &hostWindow() { return m_hostWindow; }
 
 Q_SIGNALS:
+    // An expression that ended in "=" was evaluated, also if that failed.
     void signalsResult();
     void entryRefusedChanged(bool isRefused);
 
@@ -67,8 +83,8 @@ private:
     std::vector<QString> m_vecStringResults;
     QString m_beforeText;
     QString m_beforeResult;
-    // The interface gives these four patterns to each field and two of the flags
-    // below; what is compiled and looked up once stands in CalculatorPatterns.
+    // These four regular expressions and two of the flags below are part of the interface. They
+    // are copies of those in CalculatorPatterns, which the code uses.
     std::regex m_regex;
     std::regex m_regexMark;
     std::regex m_regexFourOperation;

@@ -37,7 +37,7 @@ public:
     void handToCalculator(int val);
 
 private Q_SLOTS:
-    // The interface fixes all thirteen.
+    // All thirteen slots are part of the interface.
     void slotSpinBoxEditingFinished();
     void slotSpinBoxEnterFinished();
     void slotButtonSubtractClicked();
@@ -58,7 +58,7 @@ private:
 
 namespace {
 
-// text == QString::number(val), without the string.
+// text == QString::number(val), without creating the string.
 bool isTextOf(const QString &text, int val)
 {
     std::array<char, 12> digits;
@@ -68,8 +68,8 @@ bool isTextOf(const QString &text, int val)
 
 } // namespace
 
-// Composite editors set all their rows at every move of one. The text decides
-// as well: a failed entry may show another number than the value.
+// Composite editors set all rows whenever one changes, so an unchanged value is skipped. The text
+// is compared, too: after a failed expression it can differ from the value.
 void SliderEditPrivate::showInSpinBox(int val)
 {
     if (val == spinValue() && isTextOf(spinBox()->text(), val)) {

@@ -19,7 +19,7 @@ void SliderEditDoublePrivate::setPrecision(int decimals)
     m_nMagnification = qMax(1, saturatedInt(std::pow(10.0, decimals)));
 }
 
-// As Qt's spin box rounds.
+// Rounds like QDoubleSpinBox.
 double SliderEditDoublePrivate::rounded(double val) const
 {
     return QString::number(val, 'f', spinBox()->decimals()).toDouble();
@@ -211,7 +211,7 @@ void SliderEditFrameDouble::setMinimum(double min)
         d->spinBox()->setMinimum(min + Internal::minPrecision);
     }
     setDecimals(d->precision());
-    // Without decimals the slider stands at the spin box's rounded bound already.
+    // Without decimals the slider already has the rounded bound of the spin box.
     if (decimals() != 0) {
         d->setScale(d->toPosition(min), d->slider()->maximum());
     }
@@ -226,8 +226,8 @@ void SliderEditFrameDouble::setMaximum(double max)
         const QSignalBlocker blocker(d->spinBox());
         const double bound = max + Internal::minPrecision;
         if (bound < minimum()) {
-            // Qt moves the other end along too, but forgets it at the next change
-            // of decimals.
+            // setMaximum() would lower the minimum, too, but the next setDecimals() would
+            // restore the old one.
             d->spinBox()->setMinimum(bound);
         }
         d->spinBox()->setMaximum(bound);
@@ -401,7 +401,7 @@ void SliderEditFrameDouble::timerEvent(QTimerEvent *event)
 
 int SliderEditFrameDouble::getPrecision(float num)
 {
-    // Single precision on purpose: 0.1F has one decimal, (double)0.1F has many.
+    // Single precision on purpose: 0.1F has one decimal, double(0.1F) has many.
     float fraction = num - std::trunc(num);
     for (int count = 1; count <= 10; ++count) {
         fraction *= 10.0F;
