@@ -18,14 +18,13 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// Keeps slider, spin box and buttons of a row in step and decides when its frame
-// reports a change. The spin box holds the value; with the slider's tracking off,
-// the slider's own value follows the handle only at release.
+// Synchronises slider, spin box and buttons of a row and decides when its frame emits
+// valueChanged(). The spin box holds the value. The slider's tracking is off: its value changes
+// only when the handle is released.
 //
-// The engine of one kind of number derives from it. It declares the slots, which
-// moc finds in no template, and says what differs: its spin box, the position of a
-// value, when two values are equal, what a value is shown and evaluated with, and
-// what follows the handle in release mode.
+// A derived class (CRTP) adapts it to int or double. It declares the slots, because moc does not
+// support templates, and defines what differs: the spin box, the position of a value, equality, how
+// a value is shown and evaluated, and what follows the handle in release mode.
 template <typename Engine, typename Editor, typename Form, typename Value>
 class SliderEngine : public QObject
 {
@@ -43,7 +42,7 @@ public:
         row().prepare(m_pSliderEditer);
     }
 
-    // The order is that in which the slots of one sender run.
+    // The order matters: slots of the same sender run in order of connection.
     template <typename SpinBoxBase> void connectRow(void (SpinBoxBase::*valueChanged)(Value))
     {
         const auto *const spinBox = engine().spinBox();
@@ -67,7 +66,7 @@ public:
 
     SliderRow row() const { return {*ui, engine().spinBox()}; }
 
-    // Shows a value on both children and hands it to the calculator. Silent.
+    // Shows a value on both children and passes it to the calculator. Emits nothing.
     void apply(Value val)
     {
         m_nLastValue = val;
@@ -79,8 +78,7 @@ public:
         engine().handToCalculator(val);
     }
 
-    // The sampling tick. A receiver may run an event loop of its own, in which the
-    // timer ticks on.
+    // The sampling tick. A receiver may run a local event loop, in which the timer continues.
     void sample()
     {
         if (m_isSampleInDelivery || spinPosition() == m_nLastTimerValue) {
@@ -100,8 +98,7 @@ public:
 
     bool isSamplingTimer(int id) const { return id == m_nSamplingTimer; }
 
-    // What is reported of a drag, and when. Neither setting switches the buttons'
-    // auto-repeat.
+    // How a drag is reported. The buttons' auto-repeat does not change.
     void setReleaseMode(bool isOn) { m_isReleaseMode = isOn; }
     void setTimeSampling(int milliseconds)
     {
@@ -112,7 +109,7 @@ public:
     bool isReleaseMode() const { return m_isReleaseMode; }
     int timeSamplingRate() const { return m_isTimeSampling ? m_nTimeSamplingRate : 0; }
 
-    // On which side of the reference reported values are held.
+    // The side of the reference on which reported values stay.
     void setDirection(int directions, Value reference)
     {
         m_valueChangeDirection = directions;
@@ -127,7 +124,7 @@ public:
         makeResettable(ui->labelName, m_pSliderEditer);
     }
 
-    // Silent, as the host's other setters.
+    // Emits nothing, like the host's other setters.
     void reset()
     {
         if (hasDefaultValue()) {
@@ -135,7 +132,7 @@ public:
         }
     }
 
-    // What is shown already is not reported again.
+    // A value that is already shown is not reported again.
     void resetByUser()
     {
         if (hasDefaultValue() && !engine().isLastValue(shownDefault())) {
@@ -162,7 +159,7 @@ public:
         }
     }
 
-    // The ends of a linear scale, which a logarithmic one becomes at a range down to 0.
+    // The ends of a linear scale. A logarithmic one becomes linear if the minimum is 0 or less.
     void setScale(int lowest, int highest)
     {
         const QSignalBlocker blocker(ui->slider);
@@ -187,8 +184,8 @@ protected:
     int lastPressedPosition() const { return m_nLastPressedValue; }
     Value lastPressedValue() const { return m_valueAtPress; }
 
-    // What the handle stands for. Values share a position of a logarithmic scale: the one
-    // that was set keeps it, and a handle that returns brings back the one at the press.
+    // The value at a position. On a logarithmic scale several values share a position: the last
+    // value keeps its position, and the pressed position returns the value at the press.
     Value valueAt(int position) const
     {
         if (!m_isLogarithmic) {
@@ -204,11 +201,10 @@ protected:
     }
     Value spinValue() const { return engine().spinBox()->value(); }
 
-    // The direction filter: without AllowedToBigger only smaller values are allowed,
-    // whatever the other bits say. What a tick reports is not reported again where
-    // the receiver ends the drag. An entry that was pending is over with it. Nothing of
-    // the frame is touched after the signal, here and wherever this is called last: the
-    // receiver may have deleted it.
+    // The direction filter: without AllowedToBigger only smaller values are allowed, whatever the
+    // other flags are. A value that a tick reports is not reported again if a receiver ends the
+    // drag. The report ends a pending entry. The receiver may delete the frame: neither this
+    // function nor a caller for which it is the last call uses the frame after the signal.
     void emitValueChanged(Value val)
     {
         EditSpan::Scope edit(&m_edits);
@@ -250,9 +246,9 @@ protected:
 
     bool staysInField() const { return engine().spinBox()->entryOptions().testFlag(EnterStays); }
 
-    // Keyboard tracking is off: losing the focus is what makes the spin box
-    // interpret its text and report the new value. It keeps the focus where a host
-    // has made it the frame's proxy, and where it stays it has interpreted it.
+    // Keyboard tracking is off: the spin box interprets its text and reports the value when it
+    // loses the focus. As the focus proxy of the frame it keeps the focus, so its text is
+    // interpreted here. With EnterStays it was interpreted already.
     void enterFinished()
     {
         EditSpan::Scope edit(&m_edits);
@@ -271,7 +267,7 @@ protected:
         edit.begin(EditSpan::Button);
     }
 
-    // Its click is still to come.
+    // clicked() follows.
     void buttonReleased() { m_edits.release(EditSpan::Button); }
 
     void spinBoxValueChanged(Value val)
@@ -280,7 +276,7 @@ protected:
             return;
         }
         if (!m_edits.isOpen()) {
-            // At the start of the edit a receiver finds the value of before.
+            // Receivers of editStarted() read the old value.
             engine().showInSpinBox(m_nLastValue);
         }
         report(val);
@@ -324,8 +320,7 @@ protected:
         }
     }
 
-    // At release in release mode, or by a page or keyboard step: neither release
-    // mode nor sampling delays it.
+    // After a release in release mode, a page step or a key. No mode delays the report.
     void sliderValueChanged(int position)
     {
         const Value val = valueAt(position);
@@ -338,7 +333,7 @@ protected:
         report(val);
     }
 
-    // Comes before Qt brings the slider's value to the handle's position.
+    // Called before Qt sets the slider's value to the handle's position.
     void sliderReleased()
     {
         EditSpan::Scope edit(&m_edits);
@@ -370,7 +365,7 @@ private:
         QObject::connect(sender, signal, &engine(), slot);
     }
 
-    // As the spin box would hold it.
+    // Clamped and rounded like the spin box's value.
     Value shownDefault() const
     {
         const auto *const spinBox = engine().spinBox();
@@ -422,9 +417,9 @@ private:
     Editor *m_pSliderEditer;
     Form *ui;
     EditSpan m_edits {m_pSliderEditer};
-    // Last value applied or accepted: a child's report of it is an echo.
+    // The last value that was applied or accepted; a child's report of it is ignored.
     Value m_nLastValue = 0;
-    // Slider positions: at the last press; at the start of sampling or the last tick.
+    // Slider positions: at the last press, and at the start of sampling or the last tick.
     int m_nLastPressedValue = -1;
     int m_nLastTimerValue = -1;
     Value m_valueAtPress = 0;
@@ -438,11 +433,11 @@ private:
     int m_valueChangeDirection = Editor::AllowedToAny;
     std::optional<Value> m_defaultValue;
     bool m_isSampleInDelivery = false;
-    // The user moved the handle meanwhile: the next tick has something to report.
+    // The user moved the handle meanwhile, so the next tick reports.
     bool m_isMovedInDelivery = false;
 };
 
-// The calculator of a row: decimals of a typed number, whatever the kind of editor.
+// Decimals of a number typed into an int or double editor.
 constexpr int typedDecimals = 2;
 
 } // namespace Internal
