@@ -7,7 +7,7 @@ namespace Widgets {
 
 namespace Internal {
 
-// The area's minima, and what keeps a crop within the area and reports it.
+// The minima of the area; keeps the crop in the area and reports it.
 class CropEditFramePrivate : public QObject
 {
     Q_OBJECT
@@ -15,8 +15,7 @@ class CropEditFramePrivate : public QObject
 public:
     explicit CropEditFramePrivate(CropEditFrame *editer);
 
-    // Every editor is set up in these two steps. Here the base has made all
-    // widgets, and there is nothing to add.
+    // Each editor is set up in these two steps. Here the base class has created all widgets.
     void createWidgets() { }
     void createConnects();
 
@@ -43,8 +42,8 @@ private:
 
 CropEditFramePrivate::CropEditFramePrivate(CropEditFrame *editer) : m_pEditer(editer) { }
 
-// The base emits a field's own signal before valueChanged(), so the crop is
-// held and reported before the host sees the whole rectangle.
+// The base class emits the signal of a field before valueChanged(). So the crop is limited and
+// reported before the host receives the whole rectangle.
 void CropEditFramePrivate::createConnects()
 {
     using Private = CropEditFramePrivate;
@@ -54,7 +53,7 @@ void CropEditFramePrivate::createConnects()
     connect(m_pEditer, &RectEditFrame::heightValueChanged, this, &Private::slotHeightValueChanged);
 }
 
-// The far edge of the area: where the smallest position and the greatest size end.
+// The far edge of the area: the minimum position plus the maximum size.
 int CropEditFramePrivate::limit(RectEditFrame::Type position, RectEditFrame::Type size) const
 {
     return saturatedSum(fieldRange(m_pEditer, position).lowest,
@@ -146,7 +145,7 @@ void CropEditFrame::setRange(Type type, int min, int max)
     RectEditFrame::setRange(type, min, max);
 }
 
-// What is shown then is the last crop, as with the other setters.
+// Stores the shown crop as the last one, like the other setters.
 void CropEditFrame::resetValue(Type type)
 {
     RectEditFrame::resetValue(type);
@@ -161,8 +160,7 @@ void CropEditFrame::resetValue()
     setCropValue(x, y, w, h);
 }
 
-// The three are private here, so that a host takes setCropValue(), which keeps
-// the crop as the last one.
+// These three are private here: a host calls setCropValue(), which stores the last crop.
 void CropEditFrame::setValue(Type type, int val)
 {
     RectEditFrame::setValue(type, val);

@@ -12,7 +12,7 @@ constexpr HeldField fieldBottom = fieldY;
 constexpr HeldField fieldLeft = fieldWidth;
 constexpr HeldField fieldRight = fieldHeight;
 
-// The area's size, and what keeps the margins within it and reports them.
+// The limits of the margins; keeps them in the area and reports them.
 class MaskEditFramePrivate : public QObject
 {
     Q_OBJECT
@@ -24,8 +24,8 @@ public:
     void createConnects();
 
     MaskEditFrame *m_pEditer;
-    // Last margins reported or set: left, top, width and height of the
-    // rectangle are the top, bottom, left and right margin.
+    // The margins that were last reported or set. Left, top, width and height of the rectangle are
+    // the top, bottom, left and right margin.
     QRect m_lastMask;
     // Limits of top + bottom and of left + right.
     int m_nMaxHeight = 0;
@@ -51,8 +51,8 @@ void MaskEditFramePrivate::createWidgets()
     m_pEditer->setSizeLockEnable(false, RectEditFrame::SizeScaleLock);
 }
 
-// The base emits a field's own signal before valueChanged(), so the margins
-// are held and reported before the host sees the four fields.
+// The base class emits the signal of a field before valueChanged(). So the margins are limited and
+// reported before the host receives all four fields.
 void MaskEditFramePrivate::createConnects()
 {
     using Private = MaskEditFramePrivate;
@@ -138,7 +138,7 @@ void MaskEditFrame::getMaskValue(QRect &maskRect)
     maskRect.setCoords(left, top, right, bottom);
 }
 
-// What is shown then is the last ones, as with the other setters.
+// Stores the shown margins as the last ones, like the other setters.
 void MaskEditFrame::resetValue(Type type)
 {
     RectEditFrame::resetValue(type);
@@ -153,8 +153,8 @@ void MaskEditFrame::resetValue()
     setMaskValue(top, bottom, left, right);
 }
 
-// The four are private here, so that a host takes setMaskValue(), which keeps
-// the margins as the last ones, and setMaskRange(), which keeps the limits.
+// These four are private here: a host calls setMaskValue(), which stores the last margins, and
+// setMaskRange(), which stores the limits.
 void MaskEditFrame::setValue(Type type, int val)
 {
     RectEditFrame::setValue(type, val);

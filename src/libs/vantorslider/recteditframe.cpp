@@ -11,8 +11,8 @@ namespace Widgets {
 
 namespace {
 
-// A sheet may take the room of a hidden lock away, unless the other panel's lock shows:
-// the rows of both panels then end in one line.
+// Sets "isBesideLock" while the other panel's lock is shown. A style sheet can collapse the
+// placeholder of a hidden lock unless it is set, so that the rows of both panels stay aligned.
 void markBesideLock(QWidget *placeholder, bool isBesideLock)
 {
     constexpr char property[] = "isBesideLock";

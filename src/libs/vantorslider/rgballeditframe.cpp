@@ -9,8 +9,7 @@ namespace Widgets {
 
 namespace Internal {
 
-// The master row above the block of the channels, and the one signal that
-// their changes make.
+// The master row above the RGB editor, and the signal for their changes.
 class RGBAllEditFramePrivate : public QObject
 {
     Q_OBJECT

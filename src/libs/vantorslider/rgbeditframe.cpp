@@ -10,7 +10,7 @@ namespace Widgets {
 
 namespace Internal {
 
-// The rows of the three channels, and the one signal that their changes make.
+// The rows of the three channels, and the signal for their changes.
 class RGBEditFramePrivate : public QObject
 {
     Q_OBJECT

@@ -9,8 +9,7 @@ namespace Widgets {
 
 namespace Internal {
 
-// The block of the channels above the opacity's row, and the one signal that
-// their changes make.
+// The RGB editor above the opacity row, and the signal for their changes.
 class RGBOpacityEditFramePrivate : public QObject
 {
     Q_OBJECT
