@@ -11,37 +11,56 @@ class CropEditFramePrivate;
 
 /*!
     \class CropEditFrame cropeditframe.h vantorslider/cropeditframe.h
-    \brief A rectangle editor that keeps a crop within an area.
+    \brief A rectangle editor that keeps a crop in an area, such as a picture.
 
-    A field that the user changes stops where its position plus size would leave the area. What
-    the host sets is not held, nor what the position or the offset lock moves along, until the
-    user changes a field of that pair. Hosts take the crop from cropValueChanged(); the base's
-    valueChanged() follows it and carries the changed field as the user set it, before it was
-    held in the area.
+    \code
+    auto *crop = new CropEditFrame(this);
+    crop->setCropRange(1920, 1080);
+    crop->setCropValue(0, 0, 1280, 720);
+    connect(crop, &CropEditFrame::cropValueChanged, source, &Source::setCrop);
+    \endcode
+
+    A field that the user changes is limited so that position plus size stay in the area. Values
+    that the host sets, and those that the position lock or OffsetLock changes along, are not
+    limited until the user changes a field of the same pair: x and width, or y and height.
+
+    Connect to cropValueChanged(). valueChanged() follows it and contains the changed field before
+    it was limited. Style sheets select on the properties and names of RectEditFrame.
 */
 class VANTORSLIDER_EXPORT CropEditFrame : public RectEditFrame
 {
     Q_OBJECT
 
 public:
-    /*! Builds the editor with the least position 0, 0 and the least size 1 by 1. */
+    /*!
+        Creates the editor with the minimum position 0, 0, the minimum size 1 by 1, and the
+        defaults of RectEditFrame.
+    */
     explicit CropEditFrame(QWidget *parent = nullptr);
     ~CropEditFrame() override;
 
-    /*! Keeps \a nMinX and \a nMinY as least position for setCropRange() with two arguments. */
+    /*!
+        Sets the minimum position for later calls of setCropRange(int, int) to \a nMinX, \a nMinY;
+        0, 0 by default. The fields do not change.
+    */
     void setCropMinPos(int nMinX, int nMinY);
 
-    /*! Keeps \a nMinWidth and \a nMinHeight as least size for setCropRange() with two arguments. */
+    /*!
+        Sets the minimum size for later calls of setCropRange(int, int) to \a nMinWidth by
+        \a nMinHeight; 1 by 1 by default. The fields do not change.
+    */
     void setCropMinSize(int nMinWidth, int nMinHeight);
 
-    /*! Sets the fields' ranges for an area of \a width by \a height. Emits nothing. */
+    /*!
+        Sets the ranges of the fields for an area of \a width by \a height, with the minimum
+        position and size. A value outside its range is clamped. Emits nothing.
+    */
     void setCropRange(int width, int height);
 
     /*!
-        Sets the fields' ranges for an area of \a nTotalHor by \a nTotalVer with
-        least position \a nMinX, \a nMinY and least size \a nMinWidth by
-        \a nMinHeight, none of which is kept for later calls. A field's value
-        outside its range is clamped. Emits nothing.
+        Sets the ranges of the fields for an area of \a nTotalHor by \a nTotalVer, with the
+        minimum position \a nMinX, \a nMinY and the minimum size \a nMinWidth by \a nMinHeight,
+        which apply to this call only. A value outside its range is clamped. Emits nothing.
     */
     void setCropRange(int nMinX, int nMinY, int nMinWidth, int nMinHeight, int nTotalHor,
                       int nTotalVer);
@@ -49,13 +68,19 @@ public:
     /*! Shows the crop \a x, \a y, \a w, \a h, each clamped to its field's range. Emits nothing. */
     void setCropValue(int x, int y, int w, int h);
 
-    /*! Shows the crop \a rect. Emits nothing. */
+    /*! Shows the crop \a rect, each component clamped to its field's range. Emits nothing. */
     void setCropValue(const QRect &rect);
 
-    /*! As RectEditFrame::setRange(), for a field that is to differ from setCropRange(). */
+    /*!
+        Sets the range of one field, see RectEditFrame::setRange(); for a field that differs from
+        setCropRange().
+    */
     void setRange(Type type, int min, int max) override;
 
-    /*! As RectEditFrame::resetValue(), and as setCropValue(). \since 1.1 */
+    /*!
+        Shows the default value of the field \a type; does nothing if there is none. Emits
+        nothing. \since 1.1
+    */
     void resetValue(Type type);
 
 public Q_SLOTS:
@@ -63,7 +88,10 @@ public Q_SLOTS:
     void resetValue();
 
 Q_SIGNALS:
-    /*! The user changed the crop. Not emitted where it is the one that was reported or set last. */
+    /*!
+        The user changed the crop. Not emitted if it equals the crop that was last reported or
+        set.
+    */
     void cropValueChanged(int x, int y, int w, int h);
 
 private:

@@ -7,15 +7,16 @@ namespace Widgets {
 
 /*!
     \class LayoutEditFrame layouteditframe.h vantorslider/layouteditframe.h
-    \brief The rectangle editor for layout rectangles: a RectEditFrame that hosts can
-    tell apart by its class.
+    \brief A RectEditFrame for the rectangles of a layout.
+
+    It behaves like RectEditFrame. Use it where style sheets or code select an editor by its class.
 */
 class VANTORSLIDER_EXPORT LayoutEditFrame : public RectEditFrame
 {
     Q_OBJECT
 
 public:
-    /*! Builds the editor as RectEditFrame does. */
+    /*! Creates the editor with the defaults of RectEditFrame. */
     explicit LayoutEditFrame(QWidget *parent = nullptr);
     ~LayoutEditFrame() override;
 };

@@ -11,49 +11,60 @@ class MaskEditFramePrivate;
 
 /*!
     \class MaskEditFrame maskeditframe.h vantorslider/maskeditframe.h
-    \brief An editor for the four margins of a mask over an area.
+    \brief An editor for the four margins of a mask over an area, such as a picture.
 
-    The margins stand in the fields of RectEditFrame: top in X, bottom in Y, left in Width,
-    right in Height. A margin that the user changes stops where top and bottom together would
-    pass the area's height, left and right its width. Hosts take the margins from
-    maskValueChanged(); the base's valueChanged() follows it and carries the changed margin as
-    the user set it. Usable after setMaskRange().
+    \code
+    auto *mask = new MaskEditFrame(this);
+    mask->setMaskRange(1920, 1080);
+    mask->setMaskValue(0, 0, 240, 240);
+    connect(mask, &MaskEditFrame::maskValueChanged, source, &Source::setMask);
+    \endcode
+
+    Call setMaskRange() first. The margins use the fields of RectEditFrame: top is X, bottom is Y,
+    left is Width and right is Height. A margin that the user changes is limited so that top plus
+    bottom stay in the area's height, and left plus right in its width.
+
+    Connect to maskValueChanged(). valueChanged() follows it and contains the changed margin before
+    it was limited. Style sheets select on the properties and names of RectEditFrame.
 */
 class VANTORSLIDER_EXPORT MaskEditFrame : public RectEditFrame
 {
     Q_OBJECT
 
 public:
-    /*! Builds the editor for an area of no size, with hidden lock buttons. */
+    /*! Creates the editor for an area of size 0 by 0, with hidden lock buttons. */
     explicit MaskEditFrame(QWidget *parent = nullptr);
     ~MaskEditFrame() override;
 
     /*!
-        Keeps \a nMinWidth and \a nMinHeight for setMaskRange(): what the margins leave of the
-        area is that large at least, or as large as the area where that is smaller. 0 by 0 at
-        first: the margins may leave nothing. \since 1.1
+        Sets the minimum size of what the margins leave of the area to \a nMinWidth by
+        \a nMinHeight for later calls of setMaskRange(); 0 by 0 by default. It is limited to the
+        size of the area. \since 1.1
     */
     void setMaskMinSize(int nMinWidth, int nMinHeight);
 
     /*!
-        Sets the margins' ranges for an area of \a width by \a height, from 0 to what the least
-        size leaves of it. Emits nothing.
+        Sets the ranges of the margins for an area of \a width by \a height: from 0 to the extent
+        of the area minus the minimum size. A value outside its range is clamped. Emits nothing.
     */
     void setMaskRange(int width, int height);
 
     /*!
-        Shows the margins \a top, \a bottom, \a left and \a right, each clamped to its range. A
-        pair beyond the area is shown as it is, but may only shrink then. Emits nothing.
+        Shows the margins \a top, \a bottom, \a left and \a right, each clamped to its range. If a
+        pair exceeds the area, it is shown and the user can only decrease it. Emits nothing.
     */
     void setMaskValue(int top, int bottom, int left, int right);
 
     /*!
-        Writes the margins to the four edges of \a maskRect: its left edge is the left margin
-        and so on. It is no rectangle of the area.
+        Writes the margins to the edges of \a maskRect: the left margin to its left edge and so
+        on. The result is not a rectangle in the area.
     */
     void getMaskValue(QRect &maskRect);
 
-    /*! As RectEditFrame::resetValue(), and as setMaskValue(). \since 1.1 */
+    /*!
+        Shows the default value of the margin \a type; does nothing if there is none. Emits
+        nothing. \since 1.1
+    */
     void resetValue(Type type);
 
 public Q_SLOTS:
@@ -62,8 +73,8 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     /*!
-        The user changed the margins. Not emitted where they are those that were reported or set
-        last.
+        The user changed the margins. Not emitted if they equal the margins that were last
+        reported or set.
     */
     void maskValueChanged(int top, int bottom, int left, int right);
 

@@ -15,23 +15,40 @@ class RectEditFramePrivate;
 
 /*!
     \class RectEditFrame recteditframe.h vantorslider/recteditframe.h
-    \brief An editor for a rectangle: x, y, width and height as four slider rows in two
-    panels, each panel with a lock.
+    \brief An editor for a rectangle: x, y, width and height in four slider rows, with a position
+    lock and a size lock.
 
-    An operation that takes a Type addresses the one field that it names; any other value,
-    Position, Size and All among them, changes nothing and is reported by a warning in Qt's log.
+    Use it for windows, regions and layers. CropEditFrame keeps the rectangle in an area,
+    MaskEditFrame edits margins.
 
-    While the position lock is on, x and y move by the same distance. While the size lock is on,
-    width and height do (OffsetLock) or keep their proportion (SizeScaleLock). The lock buttons
-    are hidden until the host enables them; a placeholder of the same size stands in their
-    place. They have no texts; a screen reader hears "Lock position" and "Lock size", which are
-    translated in the context Vantor::Widgets::RectEditFrame.
+    \code
+    auto *place = new RectEditFrame(this);
+    for (auto type : {RectEditFrame::X, RectEditFrame::Y, RectEditFrame::Width,
+                      RectEditFrame::Height}) {
+        place->setRange(type, 0, 4096);
+    }
+    place->setLabelText(RectEditFrame::X, tr("X")); // and so on
+    place->setSizeLockEnable(true, RectEditFrame::SizeScaleLock);
+    place->setValue(QRect(0, 0, 1920, 1080));
+    connect(place, &RectEditFrame::valueChanged, layer, &Layer::setPlace);
+    \endcode
 
-    Style sheets select on "isSliderFrame" of the editor, "lockoutstate" of both lock buttons,
-    "isLockPositionFrame" of the position's lock button and placeholder, "isBesideLock" (since 1.1)
-    of a placeholder while the other panel's lock shows, and on the object names
-    "frameX", "frameY", "frameWidth", "frameHeight", "framePosition", "frameSize",
-    "toolButtonLockPosition" and "toolButtonLockSize".
+    Each field is a SliderEditFrame; x and y are in one panel, width and height in the other. A
+    function with a Type argument addresses one field. Any other value, such as Position, Size or
+    All, changes nothing and logs one warning. No setter emits valueChanged() or the signal of a
+    field.
+
+    While the position lock is on, x and y change by the same amount. While the size lock is on,
+    width and height change by the same amount (OffsetLock) or keep their ratio (SizeScaleLock).
+    The user switches a lock with its button. The button is hidden until the host enables it; a
+    placeholder of the same size takes its place. Its accessible name is "Lock position" or
+    "Lock size", translated in the context Vantor::Widgets::RectEditFrame.
+
+    Style sheets select on the dynamic properties "isSliderFrame" of the editor, "lockoutstate" of
+    both lock buttons, "isLockPositionFrame" of the button and placeholder of the position lock,
+    and "isBesideLock" (since 1.1) of a placeholder while the other panel's lock button is shown;
+    and on the object names "frameX", "frameY", "frameWidth", "frameHeight", "framePosition",
+    "frameSize", "toolButtonLockPosition" and "toolButtonLockSize".
 */
 class VANTORSLIDER_EXPORT RectEditFrame : public QFrame
 {
@@ -39,7 +56,7 @@ class VANTORSLIDER_EXPORT RectEditFrame : public QFrame
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
 
 public:
-    /*! The fields, as single bits, and their combinations for setEditerVisible(). */
+    /*! The fields, as flags. setEditerVisible() accepts combinations. */
     enum Type : int {
         X = 2, //!< Left edge.
         Y = 4, //!< Top edge.
@@ -50,96 +67,107 @@ public:
         All = Position | Size, //!< All four.
     };
 
-    /*! How the size lock ties width and height. */
+    /*! How the size lock relates width and height. */
     enum LockType : int {
         OffsetLock = 0, //!< Both change by the same amount.
         SizeScaleLock =
             1, //!< They keep the proportion that they had when the lock was switched on.
     };
 
-    /*! Builds the four fields without label texts and with hidden lock buttons. Emits nothing. */
+    /*!
+        Creates four fields with empty labels, the range 0 to 99 and the value 0. Both locks are
+        off and their buttons hidden.
+    */
     explicit RectEditFrame(QWidget *parent = nullptr);
     ~RectEditFrame() override;
 
-    /*! Shows \a text as the name of the field \a type. */
+    /*! Shows \a text in the label of the field \a type; empty by default. */
     void setLabelText(Type type, const QString &text);
 
-    /*! The name shown of the field \a type; empty where it names none. */
+    /*! Returns the label text of the field \a type; empty if \a type is invalid. */
     QString labelText(Type type) const;
 
     /*!
-        Shows the fields whose bit is set in \a types and hides the others; a panel without a
-        field is hidden with its lock.
+        Shows the fields whose flag is set in \a types and hides the others; all are visible by
+        default. A panel without a visible field is hidden with its lock.
     */
     void setEditerVisible(int types);
 
     /*!
-        SliderEditFrame::setHorizontalSpacing() of every field; \a nSliderButton is also the gap
-        between a panel's fields and its lock, in pixels.
+        Sets the gap between label and slider to \a nLabelSlider, and the gaps between slider,
+        spin box and buttons to \a nSliderButton, in pixels, in all fields. \a nSliderButton is
+        also the gap between a panel's fields and its lock; see setVerticalSpacing().
     */
     void setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton);
 
     /*!
-        Sets the gap between the panels, and that between a panel's fields and its lock, to
-        \a nVal pixels. The latter is set by setHorizontalSpacing() too: the later call decides.
+        Sets the gap between the panels, and the gap between a panel's fields and its lock, to
+        \a nVal pixels; 0 by default. setHorizontalSpacing() also sets the second gap: the later
+        call takes effect.
     */
     void setVerticalSpacing(const int &nVal);
 
-    /*! SliderEditFrame::setLabelWidthRange() of the field \a type. */
+    /*! Limits the width of the label in the field \a type to \a minw to \a maxw pixels. */
     void setLabelWidthRange(Type type, int maxw, int minw);
 
     /*! setLabelWidthRange() of every field. \since 1.1 */
     void setLabelWidthRange(int maxw, int minw);
 
-    /*! SliderEditFrame::setLabelFixedWidth() of the field \a type. */
+    /*! Makes the label in the field \a type \a w pixels wide. */
     void setLabelFixedWidth(Type type, int w);
 
     /*! setLabelFixedWidth() of every field. \since 1.1 */
     void setLabelFixedWidth(int w);
 
-    /*! SliderEditFrame::setButtonWidthRange() of the field \a type. */
+    /*! Limits the width of each button in the field \a type to \a minw to \a maxw pixels. */
     void setButtonWidthRange(Type type, int maxw, int minw);
 
     /*! setButtonWidthRange() of every field. \since 1.1 */
     void setButtonWidthRange(int maxw, int minw);
 
-    /*! SliderEditFrame::setButtonFixedWidth() of the field \a type. */
+    /*! Makes each button in the field \a type \a w pixels wide; 49 by default. */
     void setButtonFixedWidth(Type type, int w);
 
     /*! setButtonFixedWidth() of every field. \since 1.1 */
     void setButtonFixedWidth(int w);
 
-    /*! SliderEditFrame::setSpinBoxWidthRange() of the field \a type. */
+    /*! Limits the width of the spin box in the field \a type to \a minw to \a maxw pixels. */
     void setSpinBoxWidthRange(Type type, int maxw, int minw);
 
     /*! setSpinBoxWidthRange() of every field. \since 1.1 */
     void setSpinBoxWidthRange(int maxw, int minw);
 
-    /*! SliderEditFrame::setSpinBoxFixedWidth() of the field \a type. */
+    /*! Makes the spin box in the field \a type \a w pixels wide; 65 by default. */
     void setSpinBoxFixedWidth(Type type, int w);
 
     /*! setSpinBoxFixedWidth() of every field. \since 1.1 */
     void setSpinBoxFixedWidth(int w);
 
-    /*! SliderEditFrame::setSpinBoxWheelEnable() of every field. */
+    /*! Lets the wheel step a spin box that has the focus, if \a b is true; false by default. */
     void setSpinBoxWheelEnable(bool b);
 
-    /*! SliderEditFrame::setSliderVisible() of every field. \since 1.1 */
+    /*! Shows or hides the sliders of all fields; they are visible by default. \since 1.1 */
     void setSliderVisible(bool b);
 
-    /*! SliderEditFrame::setButtonVisible() of every field. \since 1.1 */
+    /*! Shows or hides the buttons of all fields; they are visible by default. \since 1.1 */
     void setButtonVisible(bool b);
 
-    /*! SliderEditFrame::setSliderProperty() of the field \a type. \since 1.1 */
+    /*!
+        Sets the dynamic property \a name of the slider in the field \a type to \a value, for
+        style sheets. \since 1.1
+    */
     void setSliderProperty(Type type, const char *name, const QVariant &value);
 
-    /*! SliderEditFrame::setFieldFocus() of the field \a type. \since 1.1 */
+    /*!
+        Gives the keyboard focus to the spin box of the field \a type and selects its text.
+        \since 1.1
+    */
     void setFieldFocus(Type type);
 
-    /*! SliderEditFrame::setEntryOptions() of every field. \since 1.1 */
+    /*! Sets how all spin boxes handle what the user types; none by default. \since 1.1 */
     void setEntryOptions(EntryOptions options);
 
-    /*! The options that are on in the first field. \since 1.1 */
+    /*! Returns the options of the first field. \since 1.1 */
     EntryOptions entryOptions() const;
 
     /*! Shows \a val in the field \a type, clamped to its range. Emits nothing. */
@@ -151,134 +179,183 @@ public:
     /*! Shows \a rect, each component clamped to its field's range. Emits nothing. */
     virtual void setValue(const QRect &rect);
 
-    /*! Writes the fields' values to \a x, \a y, \a w and \a h. */
+    /*! Writes the current values to \a x, \a y, \a w and \a h. */
     void value(int &x, int &y, int &w, int &h);
 
     /*! The value of the field \a type; 0 where it names none. \since 1.1 */
     int value(Type type) const;
 
-    /*! SliderEditFrame::setPrefix() of the field \a type. \since 1.1 */
+    /*!
+        Shows \a text before the number in the field \a type; empty by default. Emits nothing.
+        \since 1.1
+    */
     void setPrefix(Type type, const QString &text);
 
     /*! setPrefix() of every field. \since 1.1 */
     void setPrefix(const QString &text);
 
-    /*! The prefix of the field \a type; empty where it names none. \since 1.1 */
+    /*!
+        Returns the text before the number in the field \a type; empty if \a type is invalid.
+        \since 1.1
+    */
     QString prefix(Type type) const;
 
-    /*! SliderEditFrame::setSuffix() of the field \a type. \since 1.1 */
+    /*!
+        Shows \a text after the number in the field \a type; empty by default. Emits nothing.
+        \since 1.1
+    */
     void setSuffix(Type type, const QString &text);
 
     /*! setSuffix() of every field. \since 1.1 */
     void setSuffix(const QString &text);
 
-    /*! The suffix of the field \a type; empty where it names none. \since 1.1 */
+    /*!
+        Returns the text after the number in the field \a type; empty if \a type is invalid.
+        \since 1.1
+    */
     QString suffix(Type type) const;
 
-    /*! Writes the rectangle that the fields show to \a rect. */
+    /*! Writes the current rectangle to \a rect. */
     void value(QRect &rect);
 
-    /*! SliderEditFrame::setRange() of the field \a type. Emits nothing. */
+    /*!
+        Sets the range of the field \a type to \a min to \a max, 0 to 99 by default, see
+        SliderEditFrame::setRange(). Emits nothing.
+    */
     virtual void setRange(Type type, int min, int max);
 
     /*!
-        Writes the range of the field \a type to \a min and \a max; leaves them where it names
-        none.
+        Writes the range of the field \a type to \a min and \a max; does not change them if
+        \a type is invalid.
     */
     void range(Type type, int &min, int &max);
 
-    /*! SliderEditFrame::setDefaultValue() of the field \a type. \since 1.1 */
+    /*!
+        Sets the default value of the field \a type to \a val, see
+        SliderEditFrame::setDefaultValue(). Emits nothing. \since 1.1
+    */
     void setDefaultValue(Type type, int val);
 
-    /*! The value that the field \a type goes back to; 0 where there is none. \since 1.1 */
+    /*! Returns the default value of the field \a type, or 0 if there is none. \since 1.1 */
     int defaultValue(Type type) const;
 
-    /*! Whether the field \a type has a value to go back to. \since 1.1 */
+    /*! Returns whether the field \a type has a default value. \since 1.1 */
     bool hasDefaultValue(Type type) const;
 
-    /*! SliderEditFrame::resetValue() of the field \a type. Emits nothing. \since 1.1 */
+    /*!
+        Shows the default value of the field \a type; does nothing if there is none. Emits
+        nothing. \since 1.1
+    */
     void resetValue(Type type);
 
-    /*! SliderEditFrame::setSingleStep() of the field \a type. */
+    /*!
+        Sets the step of buttons, arrow keys and wheel in the field \a type to \a val, 1 by
+        default.
+    */
     void setSingleStep(Type type, int val);
 
-    /*! The step of the field \a type; 0 where it names none. \since 1.1 */
+    /*!
+        Returns the step of buttons, arrow keys and wheel in the field \a type, or 0 if \a type is
+        invalid. \since 1.1
+    */
     int singleStep(Type type) const;
 
-    /*! SliderEditFrame::setPageStep() of the field \a type. */
+    /*! Sets the step of a click on the groove in the field \a type to \a val, 10 by default. */
     void setPageStep(Type type, int val);
 
-    /*! The page step of the field \a type; 0 where it names none. \since 1.1 */
+    /*!
+        Returns the step of a click on the groove in the field \a type, or 0 if \a type is
+        invalid. \since 1.1
+    */
     int pageStep(Type type) const;
 
-    /*! SliderEditFrame::setValueChangeDirection() of the field \a type. */
+    /*!
+        Keeps every value that the user sets in the field \a type on one side of \a val, see
+        SliderEditFrame::setValueChangeDirection().
+    */
     void setValueChangeDirection(Type type, int directions, int val);
 
-    /*! SliderEditFrame::setAutoRepeat() of every field. */
+    /*! Lets held buttons of all fields repeat their step, if \a b is true; false by default. */
     void setAutoRepeat(bool b);
 
-    /*! SliderEditFrame::setAutoRepeatDelay() of every field. */
+    /*! Sets the time until a held button first repeats to \a val ms; Qt's 300 by default. */
     void setAutoRepeatDelay(int val);
 
-    /*! SliderEditFrame::setAutoRepeatInterval() of every field. */
+    /*! Sets the time between a held button's repetitions to \a val ms; Qt's 100 by default. */
     void setAutoRepeatInterval(int val);
 
-    /*! SliderEditFrame::setReleaseMode() of every field. */
+    /*!
+        Reports a drag once, when the handle is released, if \a b is true; false by default.
+        Applies to all fields, see SliderEditFrame::setReleaseMode().
+    */
     void setReleaseMode(bool b);
 
-    /*! SliderEditFrame::setTimeSamplingRate() of every field. */
+    /*!
+        Reports a drag at most every \a val milliseconds and at its end; off by default. Applies
+        to all fields, see SliderEditFrame::setTimeSamplingRate().
+    */
     void setTimeSamplingRate(int val);
 
     /*!
-        Lets the space below the panels take the spare height, if \a b is true; else the panels
-        do.
+        Gives the spare height to the space below the panels if \a b is true, else to the panels.
+        True by default.
     */
     void setLastVerticalSpacerExpanding(bool b);
 
-    /*! True while the pointer holds the slider of any field. */
+    /*! Returns whether a mouse button is down on the slider of any field. */
     bool isMousePressed() const;
 
-    /*! The width in pixels of the widest label text, in the font of x. \since 1.1 */
+    /*!
+        Returns the width of the widest label text in pixels, in the font of the field x.
+        \since 1.1
+    */
     int labelMaxLength() const;
 
-    /*! Shows the position's lock button, if \a b is true, else its placeholder. The lock stays. */
+    /*!
+        Shows the button of the position lock if \a b is true, else its placeholder; false by
+        default. The lock does not change.
+    */
     void setPositionLockEnable(bool b);
 
     /*!
-        Shows the size's lock button, if \a b is true, else its placeholder, and makes the lock
-        one of \a type. Whether it is on does not change.
+        Shows the button of the size lock if \a b is true, else its placeholder, and sets how the
+        lock works to \a type; false and SizeScaleLock by default. The lock is not turned on or
+        off.
     */
     void setSizeLockEnable(bool b, LockType type);
 
     /*!
-        Switches the size lock to \a bLock and, on, takes the size shown as its basis. Emits
-        sizeLockChanged() only where the button's state changes.
+        Turns the size lock on or off; off by default. Each call with true takes the current size
+        as its basis. Emits sizeLockChanged() if the state changes.
     */
     void setSizeLock(bool bLock);
 
     /*!
-        Makes \a ratio, width by height, the proportion of the size lock, in thousandths. It
-        lasts until the lock is switched on again. With one that rounds to 0 the width is free,
-        and a change of the height sends the width to 0; one below 0 is of no use.
+        Sets the ratio of the size lock, width divided by height, to \a ratio, rounded to
+        thousandths. It is used until the lock is turned on again; turning the lock on replaces it
+        by the current ratio.
+
+        If it rounds to 0, the width is free and a change of the height sets the width to 0. A
+        negative ratio is invalid.
     */
     void setSizeLock(qreal ratio);
 
     /*!
-        Switches the position lock to \a bLock and, on, takes the position shown as its basis.
-        Emits PositionLockChanged() only where the button's state changes. \since 1.1
+        Turns the position lock on or off; off by default. Each call with true takes the current
+        position as its basis. Emits PositionLockChanged() if the state changes. \since 1.1
     */
     void setPositionLock(bool bLock);
 
-    /*! True while the position lock is on, whether its button is shown or not. \since 1.1 */
+    /*! Returns whether the position lock is on, also if its button is hidden. \since 1.1 */
     bool isPositionLocked() const;
 
-    /*! True while the size lock is on, whether its button is shown or not. \since 1.1 */
+    /*! Returns whether the size lock is on, also if its button is hidden. \since 1.1 */
     bool isSizeLocked() const;
 
     /*!
-        The proportion that the size lock keeps or, of an OffsetLock, that the size had when the
-        lock was switched on: width by height. One that was set is kept in thousandths. 0 while
-        the lock is off, and where the height is 0. \since 1.1
+        Returns the ratio of the size lock, width divided by height; for OffsetLock the ratio of
+        the size at which the lock was turned on. A ratio that the host set is rounded to
+        thousandths. Returns 0 while the lock is off or if the height is 0. \since 1.1
     */
     qreal sizeLockRatio() const;
 
@@ -297,30 +374,30 @@ Q_SIGNALS:
     void yValueChanged(int val);
 
     /*!
-        The user changed the width to \a val, or the proportional lock did after the height;
+        The user changed the width to \a val, or SizeScaleLock did after a change of the height;
         emitted before valueChanged().
     */
     void widthValueChanged(int val);
 
     /*!
-        The user changed the height to \a val, or the proportional lock did after the width;
+        The user changed the height to \a val, or SizeScaleLock did after a change of the width;
         emitted before valueChanged().
     */
     void heightValueChanged(int val);
 
-    /*! The size lock was switched to \a bLock, by the user or the host. */
+    /*! The user or the host turned the size lock on or off. */
     void sizeLockChanged(bool bLock);
 
-    /*! The position lock was switched to \a bLock, by the user or the host. */
+    /*! The user or the host turned the position lock on or off. */
     void PositionLockChanged(bool bLock);
 
     /*!
-        As SliderEditFrame::editStarted(), of any row: one edit takes in all signals of all
-        rows. \since 1.1
+        The user starts an edit in any field, see SliderEditFrame::editStarted(). All signals of
+        the edit come before editFinished(). \since 1.1
     */
     void editStarted();
 
-    /*! As SliderEditFrame::editFinished(), of all rows. \since 1.1 */
+    /*! The edit has ended in all fields, see SliderEditFrame::editFinished(). \since 1.1 */
     void editFinished();
 
 private:

@@ -15,12 +15,26 @@ class RGBOpacityEditFramePrivate;
 
 /*!
     \class RGBOpacityEditFrame rgbopacityeditframe.h vantorslider/rgbopacityeditframe.h
-    \brief A colour editor with an opacity: three channels, each 0 to 255 and at 50 at
-    first, and below them the opacity, 0 to 100 and at 100.
+    \brief A colour editor with four slider rows: red, green and blue, each 0 to 255, and the
+    opacity, 0 to 100, below them.
 
-    An operation that takes a Type addresses the one row that it names; any other value changes
-    nothing and is reported by a warning in Qt's log. The opacity's row is named "frameOpacity",
-    the block of the channels "frameRGB".
+    Use it for colours that are blended, such as overlays. For red, green and blue alone there is
+    RGBEditFrame.
+
+    \code
+    auto *colour = new RGBOpacityEditFrame(this);
+    colour->setLabelText(RGBOpacityEditFrame::Opacity, tr("Opacity"));
+    colour->setLabelText(RGBOpacityEditFrame::R, tr("Red")); // and so on
+    colour->setSuffix(RGBOpacityEditFrame::Opacity, tr(" %"));
+    colour->setValue(RGBOpacityEditFrame::Opacity, 80);
+    connect(colour, &RGBOpacityEditFrame::valueChanged, overlay, &Overlay::setColour);
+    \endcode
+
+    Each row is a SliderEditFrame. A function with a Type argument addresses the row of that flag.
+    Any other value changes nothing and logs one warning. No setter emits a signal.
+
+    Style sheets select on the dynamic property "isSliderFrame" and the object names
+    "frameOpacity" of the opacity row and "frameRGB" of the RGBEditFrame with the channels.
 */
 class VANTORSLIDER_EXPORT RGBOpacityEditFrame : public QFrame
 {
@@ -28,7 +42,7 @@ class VANTORSLIDER_EXPORT RGBOpacityEditFrame : public QFrame
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
 
 public:
-    /*! The values, as single bits. */
+    /*! The channels and the opacity, as flags. */
     enum Type : int {
         R = 2, //!< Red.
         G = 4, //!< Green.
@@ -36,114 +50,144 @@ public:
         Opacity = 16, //!< The opacity.
     };
 
-    /*! Builds the four rows without label texts. Emits nothing. */
+    /*!
+        Creates the rows with empty labels: the channels with the range 0 to 255 and the value 50,
+        the opacity with 0 to 100 and 100.
+    */
     explicit RGBOpacityEditFrame(QWidget *parent = nullptr);
     ~RGBOpacityEditFrame() override;
 
-    /*! Shows \a text as the name of the row \a type. */
+    /*! Shows \a text in the label of the row \a type; empty by default. */
     void setLabelText(Type type, const QString &text);
 
-    /*! The name shown of the row \a type; empty where it names none. \since 1.1 */
+    /*! Returns the label text of the row \a type; empty if \a type is invalid. \since 1.1 */
     QString labelText(Type type) const;
 
-    /*! Shows the rows whose bit is set in \a types and hides the others. */
+    /*!
+        Shows the rows whose flag is set in \a types and hides the others; all are visible by
+        default.
+    */
     void setEditerVisible(int types);
 
-    /*! SliderEditFrame::setHorizontalSpacing() of every row. */
+    /*!
+        Sets the gap between label and slider to \a nLabelSlider, and the gaps between slider,
+        spin box and buttons to \a nSliderButton, in pixels, in all rows.
+    */
     void setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton);
 
-    /*! Sets the gap between all four rows to \a nVal pixels. */
+    /*! Sets the gaps between all four rows to \a nVal pixels; 0 by default. */
     void setVerticalSpacing(const int &nVal);
 
-    /*! SliderEditFrame::setLabelWidthRange() of the row \a type. */
+    /*! Limits the width of the label in the row \a type to \a minw to \a maxw pixels. */
     void setLabelWidthRange(Type type, int maxw, int minw);
 
     /*! setLabelWidthRange() of every row. \since 1.1 */
     void setLabelWidthRange(int maxw, int minw);
 
-    /*! SliderEditFrame::setLabelFixedWidth() of the row \a type. */
+    /*! Makes the label in the row \a type \a w pixels wide. */
     void setLabelFixedWidth(Type type, int w);
 
     /*! setLabelFixedWidth() of every row. \since 1.1 */
     void setLabelFixedWidth(int w);
 
-    /*! SliderEditFrame::setButtonWidthRange() of the row \a type. */
+    /*! Limits the width of each button in the row \a type to \a minw to \a maxw pixels. */
     void setButtonWidthRange(Type type, int maxw, int minw);
 
     /*! setButtonWidthRange() of every row. \since 1.1 */
     void setButtonWidthRange(int maxw, int minw);
 
-    /*! SliderEditFrame::setButtonFixedWidth() of the row \a type. */
+    /*! Makes each button in the row \a type \a w pixels wide; 49 by default. */
     void setButtonFixedWidth(Type type, int w);
 
     /*! setButtonFixedWidth() of every row. \since 1.1 */
     void setButtonFixedWidth(int w);
 
-    /*! SliderEditFrame::setSpinBoxWidthRange() of the row \a type. */
+    /*! Limits the width of the spin box in the row \a type to \a minw to \a maxw pixels. */
     void setSpinBoxWidthRange(Type type, int maxw, int minw);
 
     /*! setSpinBoxWidthRange() of every row. \since 1.1 */
     void setSpinBoxWidthRange(int maxw, int minw);
 
-    /*! SliderEditFrame::setSpinBoxFixedWidth() of the row \a type. */
+    /*! Makes the spin box in the row \a type \a w pixels wide; 65 by default. */
     void setSpinBoxFixedWidth(Type type, int w);
 
     /*! setSpinBoxFixedWidth() of every row. \since 1.1 */
     void setSpinBoxFixedWidth(int w);
 
-    /*! SliderEditFrame::setSpinBoxWheelEnable() of every row. */
+    /*! Lets the wheel step a spin box that has the focus, if \a b is true; false by default. */
     void setSpinBoxWheelEnable(bool b);
 
-    /*! SliderEditFrame::setSliderVisible() of every row. \since 1.1 */
+    /*! Shows or hides the sliders of all rows; they are visible by default. \since 1.1 */
     void setSliderVisible(bool b);
 
-    /*! SliderEditFrame::setButtonVisible() of every row. \since 1.1 */
+    /*! Shows or hides the buttons of all rows; they are visible by default. \since 1.1 */
     void setButtonVisible(bool b);
 
-    /*! SliderEditFrame::setSliderProperty() of the row \a type. \since 1.1 */
+    /*!
+        Sets the dynamic property \a name of the slider in the row \a type to \a value, for style
+        sheets. \since 1.1
+    */
     void setSliderProperty(Type type, const char *name, const QVariant &value);
 
-    /*! SliderEditFrame::setFieldFocus() of the row \a type. \since 1.1 */
+    /*!
+        Gives the keyboard focus to the spin box of the row \a type and selects its text.
+        \since 1.1
+    */
     void setFieldFocus(Type type);
 
-    /*! SliderEditFrame::setEntryOptions() of every row. \since 1.1 */
+    /*! Sets how all spin boxes handle what the user types; none by default. \since 1.1 */
     void setEntryOptions(EntryOptions options);
 
-    /*! The options that are on in the first row. \since 1.1 */
+    /*! Returns the options of the first row. \since 1.1 */
     EntryOptions entryOptions() const;
 
-    /*! SliderEditFrame::setValue() of the row \a type. Emits nothing. */
+    /*! Shows \a val in the row \a type, clamped to its range. Emits nothing. */
     void setValue(Type type, int val);
 
     /*! Shows \a r, \a g, \a b and \a opacity, each clamped to its row's range. Emits nothing.
      * \since 1.1 */
     void setValue(int r, int g, int b, int opacity);
 
-    /*! Writes the values to \a r, \a g, \a b and \a opacity. */
+    /*! Writes the current values to \a r, \a g, \a b and \a opacity. */
     void value(int &r, int &g, int &b, int &opacity);
 
     /*! The value of the row \a type; 0 where it names none. \since 1.1 */
     int value(Type type) const;
 
-    /*! SliderEditFrame::setPrefix() of the row \a type. \since 1.1 */
+    /*!
+        Shows \a text before the number in the row \a type; empty by default. Emits nothing.
+        \since 1.1
+    */
     void setPrefix(Type type, const QString &text);
 
     /*! setPrefix() of every row. \since 1.1 */
     void setPrefix(const QString &text);
 
-    /*! The prefix of the row \a type; empty where it names none. \since 1.1 */
+    /*!
+        Returns the text before the number in the row \a type; empty if \a type is invalid.
+        \since 1.1
+    */
     QString prefix(Type type) const;
 
-    /*! SliderEditFrame::setSuffix() of the row \a type. \since 1.1 */
+    /*!
+        Shows \a text after the number in the row \a type; empty by default. Emits nothing.
+        \since 1.1
+    */
     void setSuffix(Type type, const QString &text);
 
     /*! setSuffix() of every row. \since 1.1 */
     void setSuffix(const QString &text);
 
-    /*! The suffix of the row \a type; empty where it names none. \since 1.1 */
+    /*!
+        Returns the text after the number in the row \a type; empty if \a type is invalid.
+        \since 1.1
+    */
     QString suffix(Type type) const;
 
-    /*! SliderEditFrame::setRange() of the row \a type. Emits nothing. */
+    /*!
+        Sets the range of the row \a type to \a min to \a max, see SliderEditFrame::setRange(); 0
+        to 255 by default, 0 to 100 for the opacity. Emits nothing.
+    */
     void setRange(Type type, int min, int max);
 
     /*!
@@ -153,65 +197,88 @@ public:
     void setRange(int min, int max);
 
     /*!
-        Writes the range of the row \a type to \a min and \a max; leaves them where it names
-        none. \since 1.1
+        Writes the range of the row \a type to \a min and \a max; does not change them if \a type
+        is invalid. \since 1.1
     */
     void range(Type type, int &min, int &max) const;
 
-    /*! SliderEditFrame::setDefaultValue() of the row \a type. \since 1.1 */
+    /*!
+        Sets the default value of the row \a type to \a val, see
+        SliderEditFrame::setDefaultValue(). Emits nothing. \since 1.1
+    */
     void setDefaultValue(Type type, int val);
 
-    /*! The value that the row \a type goes back to; 0 where there is none. \since 1.1 */
+    /*! Returns the default value of the row \a type, or 0 if there is none. \since 1.1 */
     int defaultValue(Type type) const;
 
-    /*! Whether the row \a type has a value to go back to. \since 1.1 */
+    /*! Returns whether the row \a type has a default value. \since 1.1 */
     bool hasDefaultValue(Type type) const;
 
-    /*! SliderEditFrame::resetValue() of the row \a type. Emits nothing. \since 1.1 */
+    /*!
+        Shows the default value of the row \a type; does nothing if there is none. Emits nothing.
+        \since 1.1
+    */
     void resetValue(Type type);
 
-    /*! SliderEditFrame::setSingleStep() of the row \a type. */
+    /*!
+        Sets the step of buttons, arrow keys and wheel in the row \a type to \a val, 1 by default.
+    */
     void setSingleStep(Type type, int val);
 
-    /*! The step of the row \a type; 0 where it names none. \since 1.1 */
+    /*!
+        Returns the step of buttons, arrow keys and wheel in the row \a type, or 0 if \a type is
+        invalid. \since 1.1
+    */
     int singleStep(Type type) const;
 
-    /*! SliderEditFrame::setPageStep() of the row \a type. */
+    /*! Sets the step of a click on the groove in the row \a type to \a val, 10 by default. */
     void setPageStep(Type type, int val);
 
-    /*! The page step of the row \a type; 0 where it names none. \since 1.1 */
+    /*!
+        Returns the step of a click on the groove in the row \a type, or 0 if \a type is invalid.
+        \since 1.1
+    */
     int pageStep(Type type) const;
 
-    /*! SliderEditFrame::setValueChangeDirection() of the row \a type. \since 1.1 */
+    /*!
+        Keeps every value that the user sets in the row \a type on one side of \a val, see
+        SliderEditFrame::setValueChangeDirection(). \since 1.1
+    */
     void setValueChangeDirection(Type type, int directions, int val);
 
-    /*! SliderEditFrame::setAutoRepeat() of every row. */
+    /*! Lets held buttons of all rows repeat their step, if \a b is true; false by default. */
     void setAutoRepeat(bool b);
 
-    /*! SliderEditFrame::setAutoRepeatDelay() of every row. */
+    /*! Sets the time until a held button first repeats to \a val ms; Qt's 300 by default. */
     void setAutoRepeatDelay(int val);
 
-    /*! SliderEditFrame::setAutoRepeatInterval() of every row. */
+    /*! Sets the time between a held button's repetitions to \a val ms; Qt's 100 by default. */
     void setAutoRepeatInterval(int val);
 
-    /*! SliderEditFrame::setReleaseMode() of every row. */
+    /*!
+        Reports a drag once, when the handle is released, if \a b is true; false by default.
+        Applies to all rows, see SliderEditFrame::setReleaseMode().
+    */
     void setReleaseMode(bool b);
 
-    /*! SliderEditFrame::setTimeSamplingRate() of every row. */
+    /*!
+        Reports a drag at most every \a val milliseconds and at its end; off by default. Applies
+        to all rows, see SliderEditFrame::setTimeSamplingRate().
+    */
     void setTimeSamplingRate(int val);
 
     /*!
-        Lets the space below the rows take the spare height, if \a b is true; else the rows do.
-        On a shown editor it takes effect when its layout is next invalidated.
+        Gives the spare height to the space below the rows if \a b is true, else to the rows. True
+        by default. On a visible editor this takes effect with its next layout pass.
     */
     void setLastVerticalSpacerExpanding(bool b);
 
-    /*! True while the pointer holds the slider of any row. \since 1.1 */
+    /*! Returns whether a mouse button is down on the slider of any row. \since 1.1 */
     bool isMousePressed() const;
 
     /*!
-        The width in pixels of the widest label text, the opacity's in its own row's font.
-        \since 1.1
+        Returns the width of the widest label text in pixels, measured in the font of the red row;
+        that of the opacity row in its own font. \since 1.1
     */
     int labelMaxLength() const;
 
@@ -220,16 +287,16 @@ public Q_SLOTS:
     void resetValue();
 
 Q_SIGNALS:
-    /*! The user changed a value; \a r, \a g, \a b and \a opacity are all four values now. */
+    /*! The user changed a value. \a r, \a g, \a b and \a opacity are the current values. */
     void valueChanged(int r, int g, int b, int opacity);
 
     /*!
-        As SliderEditFrame::editStarted(), of any row: one edit takes in all signals of all
-        rows. \since 1.1
+        The user starts an edit in any row, see SliderEditFrame::editStarted(). All signals of the
+        edit come before editFinished(). \since 1.1
     */
     void editStarted();
 
-    /*! As SliderEditFrame::editFinished(), of all rows. \since 1.1 */
+    /*! The edit has ended in all rows, see SliderEditFrame::editFinished(). \since 1.1 */
     void editFinished();
 
 private:
