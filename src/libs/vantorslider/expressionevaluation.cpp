@@ -21,10 +21,9 @@ bool isTypedExpression(const QString &expression)
                        [&patterns](QChar character) { return patterns.isAccepted(character); });
 }
 
-// A "/" where an operand is due begins a regular expression literal. Called with a text,
-// that can go on matching for hours; compiled, it takes stack for each bracket that it
-// opens. No arithmetic is written so; a comment before a bracket, 4//(2), is taken for
-// one as well.
+// A "/" where an operand is expected starts a regular expression literal. If it is called with a
+// text, matching can take hours; compiling it needs stack for each open parenthesis. Arithmetic
+// does not contain it. A comment before a parenthesis, as in 4//(2), is treated in the same way.
 bool hasUnboundedPattern(const QString &expression)
 {
     static const QRegularExpression pattern(QStringLiteral("(^|[-,+*/(=])/"));
@@ -34,8 +33,8 @@ bool hasUnboundedPattern(const QString &expression)
         && (expression.contains(call) || expression.count(QLatin1Char('(')) > maxBrackets);
 }
 
-// A line edit holds no more unless its host says so; what is longer was not meant for a
-// number field, and would keep an engine busy.
+// The limit is QLineEdit's default maximum length. Longer text was not meant for a number, and its
+// evaluation would take long.
 bool isPastedArithmetic(const QString &expression)
 {
     constexpr int maxLength = 32767;

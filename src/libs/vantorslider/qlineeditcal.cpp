@@ -177,8 +177,8 @@ void LineEditCal::onSlotTextChanged(QString text)
     setTextFormat(shown.entry);
 }
 
-// Only the character before the cursor is tested, so a paste that ends in an
-// accepted character stays whole; its evaluation fails later.
+// Only the character before the cursor is tested, so pasted text that ends in an accepted
+// character stays complete; its evaluation fails later.
 void LineEditCal::setTextFormat(QString strText)
 {
     if (m_cursorPosition > strText.length()) {
@@ -189,7 +189,7 @@ void LineEditCal::setTextFormat(QString strText)
         setExpressionFormat(strText);
         return;
     }
-    // A character beyond the first plane is two units of the text; both go.
+    // A character beyond U+FFFF is a surrogate pair; both halves are removed.
     const int first =
         last > 0 && strText.at(last).isLowSurrogate() && strText.at(last - 1).isHighSurrogate()
         ? last - 1
@@ -205,10 +205,9 @@ void LineEditCal::setExpressionFormat(QString strText)
     setEntryText(strText, bCursor ? m_cursorPosition - 1 : m_cursorPosition);
 }
 
-// Splits the text at its marks; between two marks, before the first and after
-// the last stands a number token, which may be empty. The decimal rule finds
-// a token's earlier state by its index, so all of them count. Most tokens are
-// what they were: the list is brought up to date in place.
+// Splits the text at its marks. Before, between and after the marks are number tokens, which may be
+// empty. The decimal rule finds the previous state of a token by its index, so each token counts.
+// Most tokens do not change, so the list is updated in place.
 void LineEditCal::setIntereptString(QString &strText, bool &bCursor)
 {
     const CalculatorPatterns &patterns = CalculatorPatterns::instance();
@@ -234,9 +233,8 @@ void LineEditCal::setIntereptString(QString &strText, bool &bCursor)
     }
 }
 
-// Brings the entry of the list up to the token that stands in the text; true where
-// the rules correct it. An unchanged token is looked at again, for its limit of
-// decimals may be new.
+// Updates the list with a token of the text. Returns true if a rule corrected it. An unchanged
+// token is checked again, because the maximum number of decimals may have changed.
 bool LineEditCal::takeToken(std::size_t index, const QString &text, int start, int length)
 {
     const QChar *const begin = text.constData() + start;
@@ -274,8 +272,8 @@ void LineEditCal::setStringFormat(QString &strText, bool &bFormat)
     }
 }
 
-// Every character after the first point counts as a decimal, digit or not. A
-// token that the previous pass did not have is never reverted.
+// Each character after the first point counts as a decimal, also if it is not a digit. A token that
+// the previous pass did not have is never reverted.
 bool LineEditCal::setRadixPointSeveral(QString &strText, const int &index)
 {
     if (static_cast<std::size_t>(index) >= m_vecStringResults.size()) {

@@ -58,8 +58,8 @@ class VANTORSLIDER_EXPORT RectEditFrame : public QFrame
 public:
     /*! The fields, as flags. setEditerVisible() accepts combinations. */
     enum Type : int {
-        X = 2, //!< Left edge.
-        Y = 4, //!< Top edge.
+        X = 2, //!< Position of the left edge.
+        Y = 4, //!< Position of the top edge.
         Position = X | Y, //!< Both of X and Y.
         Width = 8, //!< Width.
         Height = 16, //!< Height.
@@ -70,8 +70,7 @@ public:
     /*! How the size lock relates width and height. */
     enum LockType : int {
         OffsetLock = 0, //!< Both change by the same amount.
-        SizeScaleLock =
-            1, //!< They keep the proportion that they had when the lock was switched on.
+        SizeScaleLock = 1, //!< They keep the ratio from when the lock was turned on.
     };
 
     /*!
