@@ -4,6 +4,8 @@
 #include "rgbeditframe.h"
 #include "rgbopacityeditframe.h"
 
+#include <functional>
+
 using namespace Vantor::Widgets;
 
 // How every composite editor handles its rows: the functions that address one row by
@@ -147,12 +149,12 @@ template <typename Frame> void checkReading()
         frame.range(type, min, max);
         QStringList found {limits(min, max), frame.labelText(type), frame.prefix(type),
                            frame.suffix(type)};
-        for (const int number : {frame.value(type), frame.singleStep(type), frame.pageStep(type),
+        for (const int number : {frame.valueOf(type), frame.singleStep(type), frame.pageStep(type),
                                  frame.defaultValue(type), int(frame.hasDefaultValue(type))})
             found.append(QString::number(number));
         frame.resetValue(type);
         if (isRow)
-            QCOMPARE(frame.value(type), 3 + flag);
+            QCOMPARE(frame.valueOf(type), 3 + flag);
         user.log.add(found.join(' '));
         const QString own = "%1..%2 %1 $ px %3 %4 %5 %6 1";
         QCOMPARE(user.heard(),
@@ -195,18 +197,19 @@ void checkColours(const QString &range, const QString &value, const QString &wid
     user.play(QString("ranges: 0..255 0..255 0..255 %2 | shown: 50 50 50 %3 | "
                       "%1 click | elsewhere: finished finished")
                   .arg(user.rows[3].name, range, value));
-    user.frame->setValue(10, 20, 30, 40);
+    user.frame->setValues(10, 20, 30, 40);
     user.play(QString("r minus: (9,20,30,40) | g minus: (9,19,30,40) | b minus: (9,19,29,40) | "
                       "%1 minus: (9,19,29,39)")
                   .arg(user.rows[3].name));
     int r = 0, g = 0, b = 0, own = 0;
-    user.frame->value(r, g, b, own);
+    std::invoke(&Frame::value, user.frame, r, g, b, own);
     QCOMPARE(QVector<int>({r, g, b, own}), QVector<int>({9, 19, 29, 39}));
-    user.frame->setRange(-1, 999);
+    user.frame->setRanges(-1, 999);
     user.play("ranges: -1..999 -1..999 -1..999 " + wideRange);
 }
 
-// Functions by the end of their warning, with their effect on a row.
+// Functions by the end of their warning, with their effect on a row. A host may name those
+// of 1.0 by their address: they have no overloads.
 template <typename F, typename T = typename F::Type> void addChecks()
 {
     const auto add = [](const QString &name, const QString &result, const Call<F> &call,
@@ -219,33 +222,39 @@ template <typename F, typename T = typename F::Type> void addChecks()
     };
     add(isRect<F> ? " label text" : "All label text", "text=Gain",
         [](F &f, T t) { f.setLabelText(t, "Gain"); });
-    add(" label width range", "label=20..90", [](F &f, T t) { f.setLabelWidthRange(t, 90, 20); });
-    add(" label fixed width", "label=33..33", [](F &f, T t) { f.setLabelFixedWidth(t, 33); });
-    add(" button width range", "button=9..60", [](F &f, T t) { f.setButtonWidthRange(t, 60, 9); });
-    add(" button fixed width", "button=41..41", [](F &f, T t) { f.setButtonFixedWidth(t, 41); });
-    add(" spinbox width range", "box=9..80", [](F &f, T t) { f.setSpinBoxWidthRange(t, 80, 9); });
-    add(" spinbox fixed width", "box=72..72", [](F &f, T t) { f.setSpinBoxFixedWidth(t, 72); });
+    add(" label width range", "label=20..90",
+        [](F &f, T t) { std::invoke(&F::setLabelWidthRange, f, t, 90, 20); });
+    add(" label fixed width", "label=33..33",
+        [](F &f, T t) { std::invoke(&F::setLabelFixedWidth, f, t, 33); });
+    add(" button width range", "button=9..60",
+        [](F &f, T t) { std::invoke(&F::setButtonWidthRange, f, t, 60, 9); });
+    add(" button fixed width", "button=41..41",
+        [](F &f, T t) { std::invoke(&F::setButtonFixedWidth, f, t, 41); });
+    add(" spinbox width range", "box=9..80",
+        [](F &f, T t) { std::invoke(&F::setSpinBoxWidthRange, f, t, 80, 9); });
+    add(" spinbox fixed width", "box=72..72",
+        [](F &f, T t) { std::invoke(&F::setSpinBoxFixedWidth, f, t, 72); });
     add(" value", "value=77", [](F &f, T t) { f.setValue(t, 77); });
     add(isRect<F> ? " value range" : " range", "range=-5..110",
-        [](F &f, T t) { f.setRange(t, -5, 110); });
+        [](F &f, T t) { std::invoke(&F::setRange, f, t, -5, 110); });
     add(" default value", "reset=33 plus=34", [](F &f, T t) { f.setDefaultValue(t, 33); });
     add(" single step", "plus=23", [](F &f, T t) { f.setSingleStep(t, 3); });
     add(" page step", "pageStep=7", [](F &f, T t) { f.setPageStep(t, 7); });
     addAll(" spacing", "gap=17 gap=23 gap=23", [](F &f, T) { f.setHorizontalSpacing(17, 23); });
-    addAll(" label widths", "label=20..90", [](F &f, T) { f.setLabelWidthRange(90, 20); });
-    addAll(" label widths, fixed", "label=33..33", [](F &f, T) { f.setLabelFixedWidth(33); });
-    addAll(" button widths", "button=9..60", [](F &f, T) { f.setButtonWidthRange(60, 9); });
-    addAll(" button widths, fixed", "button=41..41", [](F &f, T) { f.setButtonFixedWidth(41); });
-    addAll(" spinbox widths", "box=9..80", [](F &f, T) { f.setSpinBoxWidthRange(80, 9); });
-    addAll(" spinbox widths, fixed", "box=72..72", [](F &f, T) { f.setSpinBoxFixedWidth(72); });
+    addAll(" label widths", "label=20..90", [](F &f, T) { f.setLabelWidthRanges(90, 20); });
+    addAll(" label widths, fixed", "label=33..33", [](F &f, T) { f.setLabelFixedWidths(33); });
+    addAll(" button widths", "button=9..60", [](F &f, T) { f.setButtonWidthRanges(60, 9); });
+    addAll(" button widths, fixed", "button=41..41", [](F &f, T) { f.setButtonFixedWidths(41); });
+    addAll(" spinbox widths", "box=9..80", [](F &f, T) { f.setSpinBoxWidthRanges(80, 9); });
+    addAll(" spinbox widths, fixed", "box=72..72", [](F &f, T) { f.setSpinBoxFixedWidths(72); });
     add(" slider property", "pageStep=7", [](F &f, T t) { f.setSliderProperty(t, "pageStep", 7); });
     add(" field focus", "", [](F &f, T t) { f.setFieldFocus(t); });
     add(" value change direction", "plus=20 hold 60=20 drop=20 click=20 wheel=20",
         [](F &f, T t) { f.setValueChangeDirection(t, SliderEditFrame::AllowedToSmaller, 20); });
     add(" prefix", "unit=$#", [](F &f, T t) { f.setPrefix(t, "$"); });
     add(" suffix", "unit=# px", [](F &f, T t) { f.setSuffix(t, " px"); });
-    addAll(" prefixes", "unit=$#", [](F &f, T) { f.setPrefix("$"); });
-    addAll(" suffixes", "unit=# px", [](F &f, T) { f.setSuffix(" px"); });
+    addAll(" prefixes", "unit=$#", [](F &f, T) { f.setPrefixes("$"); });
+    addAll(" suffixes", "unit=# px", [](F &f, T) { f.setSuffixes(" px"); });
     addAll(" wheel", "wheel=61", [](F &f, T) { f.setSpinBoxWheelEnable(true); });
     addAll(" repeat", "autoRepeat=true/true", [](F &f, T) { f.setAutoRepeat(true); });
     addAll(" repeat delay", "autoRepeatDelay=321/321", [](F &f, T) { f.setAutoRepeatDelay(321); });
@@ -277,8 +286,8 @@ void tst_CompositeEditors::rows_data()
     QTest::newRow("opacity") << TestCode(
         [] { checkColours<RGBOpacityEditFrame>("0..100", "100", "0..100"); });
     addFor<RGBEditFrame>("all channels at once", [](auto &user) {
-        user.frame->setRange(-1, 999);
-        user.frame->setValue(700, 800, 900);
+        user.frame->setRanges(-1, 999);
+        user.frame->setValues(700, 800, 900);
         user.play("ranges: -1..999 -1..999 -1..999 | b plus: (700,800,901) | shown: 700 800 901");
     });
 }

@@ -334,7 +334,7 @@ void tst_Edits::resets_data()
             "opacity reset: start (50,9,50,8) end | r reset");
     addFor<RGBAllEditFrame>("all rows", [](auto &user) {
         user.play("r default 1 | all default 4 | edits");
-        user.frame->resetValue();
+        user.frame->resetValues();
         user.play("shown: 1 50 50 4");
     });
 }

@@ -19,7 +19,7 @@ void setUpChannels(Editor *editor, int min, int max, const std::array<int, 3> &d
     editor->setLabelText(Editor::R, Page::tr("Red"));
     editor->setLabelText(Editor::G, Page::tr("Green"));
     editor->setLabelText(Editor::B, Page::tr("Blue"));
-    editor->setRange(min, max);
+    editor->setRanges(min, max);
     editor->setDefaultValue(Editor::R, defaults[0]);
     editor->setDefaultValue(Editor::G, defaults[1]);
     editor->setDefaultValue(Editor::B, defaults[2]);
@@ -55,7 +55,7 @@ void ColourPage::addGain()
     });
     connect(m_history, &EditHistory::restored, editor, [editor](const Edits &edits) {
         const auto &gain = edits.colours.gain;
-        editor->setValue(gain[0], gain[1], gain[2]);
+        editor->setValues(gain[0], gain[1], gain[2]);
     });
 }
 
@@ -79,7 +79,7 @@ void ColourPage::addLift()
     });
     connect(m_history, &EditHistory::restored, editor, [editor](const Edits &edits) {
         const auto &lift = edits.colours.lift;
-        editor->setValue(lift[0], lift[1], lift[2], edits.colours.liftMaster);
+        editor->setValues(lift[0], lift[1], lift[2], edits.colours.liftMaster);
     });
 }
 
@@ -111,6 +111,6 @@ void ColourPage::addWash()
             });
     connect(m_history, &EditHistory::restored, editor, [editor](const Edits &edits) {
         const QColor &wash = edits.colours.wash;
-        editor->setValue(wash.red(), wash.green(), wash.blue(), edits.colours.washOpacity);
+        editor->setValues(wash.red(), wash.green(), wash.blue(), edits.colours.washOpacity);
     });
 }

@@ -153,9 +153,9 @@ void CropEditFrame::resetValue(Type type)
     setCropValue(x, y, w, h);
 }
 
-void CropEditFrame::resetValue()
+void CropEditFrame::resetValues()
 {
-    RectEditFrame::resetValue();
+    RectEditFrame::resetValues();
     const auto [x, y, w, h] = Internal::fieldValues(this);
     setCropValue(x, y, w, h);
 }

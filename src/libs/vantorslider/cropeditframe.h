@@ -85,7 +85,7 @@ public:
 
 public Q_SLOTS:
     /*! As RectEditFrame::resetValue(), and as setCropValue(). \since 1.1 */
-    void resetValue();
+    void resetValues();
 
 Q_SIGNALS:
     /*!

@@ -146,9 +146,9 @@ void MaskEditFrame::resetValue(Type type)
     setMaskValue(top, bottom, left, right);
 }
 
-void MaskEditFrame::resetValue()
+void MaskEditFrame::resetValues()
 {
-    RectEditFrame::resetValue();
+    RectEditFrame::resetValues();
     const auto [top, bottom, left, right] = Internal::fieldValues(this);
     setMaskValue(top, bottom, left, right);
 }

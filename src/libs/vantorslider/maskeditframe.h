@@ -69,7 +69,7 @@ public:
 
 public Q_SLOTS:
     /*! As RectEditFrame::resetValue(), and as setMaskValue(). \since 1.1 */
-    void resetValue();
+    void resetValues();
 
 Q_SIGNALS:
     /*!

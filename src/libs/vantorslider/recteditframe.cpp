@@ -79,7 +79,7 @@ void RectEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
                   &SliderEditFrame::setLabelWidthRange, maxw, minw);
 }
 
-void RectEditFrame::setLabelWidthRange(int maxw, int minw)
+void RectEditFrame::setLabelWidthRanges(int maxw, int minw)
 {
     d->rows().all(&SliderEditFrame::setLabelWidthRange, maxw, minw);
 }
@@ -90,7 +90,7 @@ void RectEditFrame::setLabelFixedWidth(Type type, int w)
                   &SliderEditFrame::setLabelFixedWidth, w);
 }
 
-void RectEditFrame::setLabelFixedWidth(int w)
+void RectEditFrame::setLabelFixedWidths(int w)
 {
     d->rows().all(&SliderEditFrame::setLabelFixedWidth, w);
 }
@@ -101,7 +101,7 @@ void RectEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
                   &SliderEditFrame::setButtonWidthRange, maxw, minw);
 }
 
-void RectEditFrame::setButtonWidthRange(int maxw, int minw)
+void RectEditFrame::setButtonWidthRanges(int maxw, int minw)
 {
     d->rows().all(&SliderEditFrame::setButtonWidthRange, maxw, minw);
 }
@@ -112,7 +112,7 @@ void RectEditFrame::setButtonFixedWidth(Type type, int w)
                   &SliderEditFrame::setButtonFixedWidth, w);
 }
 
-void RectEditFrame::setButtonFixedWidth(int w)
+void RectEditFrame::setButtonFixedWidths(int w)
 {
     d->rows().all(&SliderEditFrame::setButtonFixedWidth, w);
 }
@@ -123,7 +123,7 @@ void RectEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
                   &SliderEditFrame::setSpinBoxWidthRange, maxw, minw);
 }
 
-void RectEditFrame::setSpinBoxWidthRange(int maxw, int minw)
+void RectEditFrame::setSpinBoxWidthRanges(int maxw, int minw)
 {
     d->rows().all(&SliderEditFrame::setSpinBoxWidthRange, maxw, minw);
 }
@@ -134,7 +134,7 @@ void RectEditFrame::setSpinBoxFixedWidth(Type type, int w)
                   &SliderEditFrame::setSpinBoxFixedWidth, w);
 }
 
-void RectEditFrame::setSpinBoxFixedWidth(int w)
+void RectEditFrame::setSpinBoxFixedWidths(int w)
 {
     d->rows().all(&SliderEditFrame::setSpinBoxFixedWidth, w);
 }
@@ -194,7 +194,7 @@ void RectEditFrame::value(int &x, int &y, int &w, int &h)
     h = d->ui->frameHeight->value();
 }
 
-int RectEditFrame::value(Type type) const
+int RectEditFrame::valueOf(Type type) const
 {
     return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect value", &SliderEditFrame::value);
 }
@@ -204,7 +204,7 @@ void RectEditFrame::setPrefix(Type type, const QString &text)
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect prefix", &SliderEditFrame::setPrefix, text);
 }
 
-void RectEditFrame::setPrefix(const QString &text)
+void RectEditFrame::setPrefixes(const QString &text)
 {
     d->rows().all(&SliderEditFrame::setPrefix, text);
 }
@@ -219,7 +219,7 @@ void RectEditFrame::setSuffix(Type type, const QString &text)
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect suffix", &SliderEditFrame::setSuffix, text);
 }
 
-void RectEditFrame::setSuffix(const QString &text)
+void RectEditFrame::setSuffixes(const QString &text)
 {
     d->rows().all(&SliderEditFrame::setSuffix, text);
 }
@@ -272,7 +272,7 @@ void RectEditFrame::resetValue(Type type)
     d->rows().one(type, VANTORSLIDER_HERE, "Reset Rect value", &SliderEditFrame::resetValue);
 }
 
-void RectEditFrame::resetValue()
+void RectEditFrame::resetValues()
 {
     d->rows().all(&SliderEditFrame::resetValue);
 }

@@ -110,37 +110,37 @@ public:
     void setLabelWidthRange(Type type, int maxw, int minw);
 
     /*! setLabelWidthRange() of every field. \since 1.1 */
-    void setLabelWidthRange(int maxw, int minw);
+    void setLabelWidthRanges(int maxw, int minw);
 
     /*! Makes the label in the field \a type \a w pixels wide. */
     void setLabelFixedWidth(Type type, int w);
 
     /*! setLabelFixedWidth() of every field. \since 1.1 */
-    void setLabelFixedWidth(int w);
+    void setLabelFixedWidths(int w);
 
     /*! Limits the width of each button in the field \a type to \a minw to \a maxw pixels. */
     void setButtonWidthRange(Type type, int maxw, int minw);
 
     /*! setButtonWidthRange() of every field. \since 1.1 */
-    void setButtonWidthRange(int maxw, int minw);
+    void setButtonWidthRanges(int maxw, int minw);
 
     /*! Makes each button in the field \a type \a w pixels wide; 49 by default. */
     void setButtonFixedWidth(Type type, int w);
 
     /*! setButtonFixedWidth() of every field. \since 1.1 */
-    void setButtonFixedWidth(int w);
+    void setButtonFixedWidths(int w);
 
     /*! Limits the width of the spin box in the field \a type to \a minw to \a maxw pixels. */
     void setSpinBoxWidthRange(Type type, int maxw, int minw);
 
     /*! setSpinBoxWidthRange() of every field. \since 1.1 */
-    void setSpinBoxWidthRange(int maxw, int minw);
+    void setSpinBoxWidthRanges(int maxw, int minw);
 
     /*! Makes the spin box in the field \a type \a w pixels wide; 65 by default. */
     void setSpinBoxFixedWidth(Type type, int w);
 
     /*! setSpinBoxFixedWidth() of every field. \since 1.1 */
-    void setSpinBoxFixedWidth(int w);
+    void setSpinBoxFixedWidths(int w);
 
     /*! Lets the wheel step a spin box that has the focus, if \a b is true; false by default. */
     void setSpinBoxWheelEnable(bool b);
@@ -182,7 +182,7 @@ public:
     void value(int &x, int &y, int &w, int &h);
 
     /*! The value of the field \a type; 0 where it names none. \since 1.1 */
-    int value(Type type) const;
+    int valueOf(Type type) const;
 
     /*!
         Shows \a text before the number in the field \a type; empty by default. Emits nothing.
@@ -191,7 +191,7 @@ public:
     void setPrefix(Type type, const QString &text);
 
     /*! setPrefix() of every field. \since 1.1 */
-    void setPrefix(const QString &text);
+    void setPrefixes(const QString &text);
 
     /*!
         Returns the text before the number in the field \a type; empty if \a type is invalid.
@@ -206,7 +206,7 @@ public:
     void setSuffix(Type type, const QString &text);
 
     /*! setSuffix() of every field. \since 1.1 */
-    void setSuffix(const QString &text);
+    void setSuffixes(const QString &text);
 
     /*!
         Returns the text after the number in the field \a type; empty if \a type is invalid.
@@ -360,7 +360,7 @@ public:
 
 public Q_SLOTS:
     /*! SliderEditFrame::resetValue() of every field. Emits nothing. \since 1.1 */
-    void resetValue();
+    void resetValues();
 
 Q_SIGNALS:
     /*! The user changed a field; emitted last, with all four values. */

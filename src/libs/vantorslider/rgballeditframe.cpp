@@ -45,8 +45,8 @@ RGBAllEditFramePrivate::~RGBAllEditFramePrivate()
 
 void RGBAllEditFramePrivate::createWidgets()
 {
-    m_pEditer->setRange(0, 255);
-    m_pEditer->setValue(50, 50, 50, 50);
+    m_pEditer->setRanges(0, 255);
+    m_pEditer->setValues(50, 50, 50, 50);
 }
 
 void RGBAllEditFramePrivate::createConnects()
@@ -125,10 +125,10 @@ void RGBAllEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
-void RGBAllEditFrame::setLabelWidthRange(int maxw, int minw)
+void RGBAllEditFrame::setLabelWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setLabelWidthRange,
-                  QOverload<int, int>::of(&RGBEditFrame::setLabelWidthRange), maxw, minw);
+    d->rows().all(&SliderEditFrame::setLabelWidthRange, &RGBEditFrame::setLabelWidthRanges, maxw,
+                  minw);
 }
 
 void RGBAllEditFrame::setLabelFixedWidth(Type type, int w)
@@ -136,10 +136,9 @@ void RGBAllEditFrame::setLabelFixedWidth(Type type, int w)
     d->rows().one(type, &SliderEditFrame::setLabelFixedWidth, &RGBEditFrame::setLabelFixedWidth, w);
 }
 
-void RGBAllEditFrame::setLabelFixedWidth(int w)
+void RGBAllEditFrame::setLabelFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setLabelFixedWidth,
-                  QOverload<int>::of(&RGBEditFrame::setLabelFixedWidth), w);
+    d->rows().all(&SliderEditFrame::setLabelFixedWidth, &RGBEditFrame::setLabelFixedWidths, w);
 }
 
 void RGBAllEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
@@ -148,10 +147,10 @@ void RGBAllEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
-void RGBAllEditFrame::setButtonWidthRange(int maxw, int minw)
+void RGBAllEditFrame::setButtonWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setButtonWidthRange,
-                  QOverload<int, int>::of(&RGBEditFrame::setButtonWidthRange), maxw, minw);
+    d->rows().all(&SliderEditFrame::setButtonWidthRange, &RGBEditFrame::setButtonWidthRanges, maxw,
+                  minw);
 }
 
 void RGBAllEditFrame::setButtonFixedWidth(Type type, int w)
@@ -160,10 +159,9 @@ void RGBAllEditFrame::setButtonFixedWidth(Type type, int w)
                   w);
 }
 
-void RGBAllEditFrame::setButtonFixedWidth(int w)
+void RGBAllEditFrame::setButtonFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setButtonFixedWidth,
-                  QOverload<int>::of(&RGBEditFrame::setButtonFixedWidth), w);
+    d->rows().all(&SliderEditFrame::setButtonFixedWidth, &RGBEditFrame::setButtonFixedWidths, w);
 }
 
 void RGBAllEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
@@ -172,10 +170,10 @@ void RGBAllEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
-void RGBAllEditFrame::setSpinBoxWidthRange(int maxw, int minw)
+void RGBAllEditFrame::setSpinBoxWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxWidthRange,
-                  QOverload<int, int>::of(&RGBEditFrame::setSpinBoxWidthRange), maxw, minw);
+    d->rows().all(&SliderEditFrame::setSpinBoxWidthRange, &RGBEditFrame::setSpinBoxWidthRanges,
+                  maxw, minw);
 }
 
 void RGBAllEditFrame::setSpinBoxFixedWidth(Type type, int w)
@@ -184,10 +182,9 @@ void RGBAllEditFrame::setSpinBoxFixedWidth(Type type, int w)
                   w);
 }
 
-void RGBAllEditFrame::setSpinBoxFixedWidth(int w)
+void RGBAllEditFrame::setSpinBoxFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxFixedWidth,
-                  QOverload<int>::of(&RGBEditFrame::setSpinBoxFixedWidth), w);
+    d->rows().all(&SliderEditFrame::setSpinBoxFixedWidth, &RGBEditFrame::setSpinBoxFixedWidths, w);
 }
 
 void RGBAllEditFrame::setSpinBoxWheelEnable(bool b)
@@ -221,10 +218,10 @@ void RGBAllEditFrame::setValue(Type type, int val)
     d->rows().one(type, &SliderEditFrame::setValue, &RGBEditFrame::setValue, val);
 }
 
-void RGBAllEditFrame::setValue(int r, int g, int b, int all)
+void RGBAllEditFrame::setValues(int r, int g, int b, int all)
 {
     d->ui->frameAll->setValue(all);
-    d->ui->frameRGB->setValue(r, g, b);
+    d->ui->frameRGB->setValues(r, g, b);
 }
 
 void RGBAllEditFrame::value(int &r, int &g, int &b, int &all)
@@ -233,10 +230,9 @@ void RGBAllEditFrame::value(int &r, int &g, int &b, int &all)
     d->ui->frameRGB->value(r, g, b);
 }
 
-int RGBAllEditFrame::value(Type type) const
+int RGBAllEditFrame::valueOf(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::value,
-                         QOverload<RGBEditFrame::Type>::of(&RGBEditFrame::value));
+    return d->rows().get(type, &SliderEditFrame::value, &RGBEditFrame::valueOf);
 }
 
 void RGBAllEditFrame::setPrefix(Type type, const QString &text)
@@ -244,10 +240,9 @@ void RGBAllEditFrame::setPrefix(Type type, const QString &text)
     d->rows().one(type, &SliderEditFrame::setPrefix, &RGBEditFrame::setPrefix, text);
 }
 
-void RGBAllEditFrame::setPrefix(const QString &text)
+void RGBAllEditFrame::setPrefixes(const QString &text)
 {
-    d->rows().all(&SliderEditFrame::setPrefix,
-                  QOverload<const QString &>::of(&RGBEditFrame::setPrefix), text);
+    d->rows().all(&SliderEditFrame::setPrefix, &RGBEditFrame::setPrefixes, text);
 }
 
 QString RGBAllEditFrame::prefix(Type type) const
@@ -260,10 +255,9 @@ void RGBAllEditFrame::setSuffix(Type type, const QString &text)
     d->rows().one(type, &SliderEditFrame::setSuffix, &RGBEditFrame::setSuffix, text);
 }
 
-void RGBAllEditFrame::setSuffix(const QString &text)
+void RGBAllEditFrame::setSuffixes(const QString &text)
 {
-    d->rows().all(&SliderEditFrame::setSuffix,
-                  QOverload<const QString &>::of(&RGBEditFrame::setSuffix), text);
+    d->rows().all(&SliderEditFrame::setSuffix, &RGBEditFrame::setSuffixes, text);
 }
 
 QString RGBAllEditFrame::suffix(Type type) const
@@ -276,10 +270,9 @@ void RGBAllEditFrame::setRange(Type type, int min, int max)
     d->rows().one(type, &SliderEditFrame::setRange, &RGBEditFrame::setRange, min, max);
 }
 
-void RGBAllEditFrame::setRange(int min, int max)
+void RGBAllEditFrame::setRanges(int min, int max)
 {
-    d->rows().all(&SliderEditFrame::setRange, QOverload<int, int>::of(&RGBEditFrame::setRange), min,
-                  max);
+    d->rows().all(&SliderEditFrame::setRange, &RGBEditFrame::setRanges, min, max);
 }
 
 void RGBAllEditFrame::range(Type type, int &min, int &max) const
@@ -307,9 +300,9 @@ void RGBAllEditFrame::resetValue(Type type)
     d->rows().one(type, &SliderEditFrame::resetValue, &RGBEditFrame::resetValue);
 }
 
-void RGBAllEditFrame::resetValue()
+void RGBAllEditFrame::resetValues()
 {
-    d->rows().all(&SliderEditFrame::resetValue, QOverload<>::of(&RGBEditFrame::resetValue));
+    d->rows().all(&SliderEditFrame::resetValue, &RGBEditFrame::resetValues);
 }
 
 void RGBAllEditFrame::setSingleStep(Type type, int val)

@@ -52,8 +52,8 @@ RGBEditFramePrivate::~RGBEditFramePrivate()
 
 void RGBEditFramePrivate::createWidgets()
 {
-    m_pEditer->setRange(0, 255);
-    m_pEditer->setValue(50, 50, 50);
+    m_pEditer->setRanges(0, 255);
+    m_pEditer->setValues(50, 50, 50);
     ui->frameR->setSliderProperty("isColorControl_Red", true);
     ui->frameG->setSliderProperty("isColorControl_Green", true);
     ui->frameB->setSliderProperty("isColorControl_Blue", true);
@@ -139,7 +139,7 @@ void RGBEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
                   &SliderEditFrame::setLabelWidthRange, maxw, minw);
 }
 
-void RGBEditFrame::setLabelWidthRange(int maxw, int minw)
+void RGBEditFrame::setLabelWidthRanges(int maxw, int minw)
 {
     d->rows().all(&SliderEditFrame::setLabelWidthRange, maxw, minw);
 }
@@ -150,7 +150,7 @@ void RGBEditFrame::setLabelFixedWidth(Type type, int w)
                   &SliderEditFrame::setLabelFixedWidth, w);
 }
 
-void RGBEditFrame::setLabelFixedWidth(int w)
+void RGBEditFrame::setLabelFixedWidths(int w)
 {
     d->rows().all(&SliderEditFrame::setLabelFixedWidth, w);
 }
@@ -161,7 +161,7 @@ void RGBEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
                   &SliderEditFrame::setButtonWidthRange, maxw, minw);
 }
 
-void RGBEditFrame::setButtonWidthRange(int maxw, int minw)
+void RGBEditFrame::setButtonWidthRanges(int maxw, int minw)
 {
     d->rows().all(&SliderEditFrame::setButtonWidthRange, maxw, minw);
 }
@@ -172,7 +172,7 @@ void RGBEditFrame::setButtonFixedWidth(Type type, int w)
                   &SliderEditFrame::setButtonFixedWidth, w);
 }
 
-void RGBEditFrame::setButtonFixedWidth(int w)
+void RGBEditFrame::setButtonFixedWidths(int w)
 {
     d->rows().all(&SliderEditFrame::setButtonFixedWidth, w);
 }
@@ -183,7 +183,7 @@ void RGBEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
                   &SliderEditFrame::setSpinBoxWidthRange, maxw, minw);
 }
 
-void RGBEditFrame::setSpinBoxWidthRange(int maxw, int minw)
+void RGBEditFrame::setSpinBoxWidthRanges(int maxw, int minw)
 {
     d->rows().all(&SliderEditFrame::setSpinBoxWidthRange, maxw, minw);
 }
@@ -194,7 +194,7 @@ void RGBEditFrame::setSpinBoxFixedWidth(Type type, int w)
                   &SliderEditFrame::setSpinBoxFixedWidth, w);
 }
 
-void RGBEditFrame::setSpinBoxFixedWidth(int w)
+void RGBEditFrame::setSpinBoxFixedWidths(int w)
 {
     d->rows().all(&SliderEditFrame::setSpinBoxFixedWidth, w);
 }
@@ -230,7 +230,7 @@ void RGBEditFrame::setValue(Type type, int val)
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB value", &SliderEditFrame::setValue, val);
 }
 
-void RGBEditFrame::setValue(int r, int g, int b)
+void RGBEditFrame::setValues(int r, int g, int b)
 {
     d->ui->frameR->setValue(r);
     d->ui->frameG->setValue(g);
@@ -244,7 +244,7 @@ void RGBEditFrame::value(int &r, int &g, int &b)
     b = d->ui->frameB->value();
 }
 
-int RGBEditFrame::value(Type type) const
+int RGBEditFrame::valueOf(Type type) const
 {
     return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB value", &SliderEditFrame::value);
 }
@@ -254,7 +254,7 @@ void RGBEditFrame::setPrefix(Type type, const QString &text)
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB prefix", &SliderEditFrame::setPrefix, text);
 }
 
-void RGBEditFrame::setPrefix(const QString &text)
+void RGBEditFrame::setPrefixes(const QString &text)
 {
     d->rows().all(&SliderEditFrame::setPrefix, text);
 }
@@ -269,7 +269,7 @@ void RGBEditFrame::setSuffix(Type type, const QString &text)
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB suffix", &SliderEditFrame::setSuffix, text);
 }
 
-void RGBEditFrame::setSuffix(const QString &text)
+void RGBEditFrame::setSuffixes(const QString &text)
 {
     d->rows().all(&SliderEditFrame::setSuffix, text);
 }
@@ -284,7 +284,7 @@ void RGBEditFrame::setRange(Type type, int min, int max)
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB range", &SliderEditFrame::setRange, min, max);
 }
 
-void RGBEditFrame::setRange(int min, int max)
+void RGBEditFrame::setRanges(int min, int max)
 {
     d->rows().all(&SliderEditFrame::setRange, min, max);
 }
@@ -320,7 +320,7 @@ void RGBEditFrame::resetValue(Type type)
     d->rows().one(type, VANTORSLIDER_HERE, "Reset RGB value", &SliderEditFrame::resetValue);
 }
 
-void RGBEditFrame::resetValue()
+void RGBEditFrame::resetValues()
 {
     d->rows().all(&SliderEditFrame::resetValue);
 }

@@ -130,10 +130,10 @@ void RGBOpacityEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
-void RGBOpacityEditFrame::setLabelWidthRange(int maxw, int minw)
+void RGBOpacityEditFrame::setLabelWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setLabelWidthRange,
-                  QOverload<int, int>::of(&RGBEditFrame::setLabelWidthRange), maxw, minw);
+    d->rows().all(&SliderEditFrame::setLabelWidthRange, &RGBEditFrame::setLabelWidthRanges, maxw,
+                  minw);
 }
 
 void RGBOpacityEditFrame::setLabelFixedWidth(Type type, int w)
@@ -141,10 +141,9 @@ void RGBOpacityEditFrame::setLabelFixedWidth(Type type, int w)
     d->rows().one(type, &SliderEditFrame::setLabelFixedWidth, &RGBEditFrame::setLabelFixedWidth, w);
 }
 
-void RGBOpacityEditFrame::setLabelFixedWidth(int w)
+void RGBOpacityEditFrame::setLabelFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setLabelFixedWidth,
-                  QOverload<int>::of(&RGBEditFrame::setLabelFixedWidth), w);
+    d->rows().all(&SliderEditFrame::setLabelFixedWidth, &RGBEditFrame::setLabelFixedWidths, w);
 }
 
 void RGBOpacityEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
@@ -153,10 +152,10 @@ void RGBOpacityEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
-void RGBOpacityEditFrame::setButtonWidthRange(int maxw, int minw)
+void RGBOpacityEditFrame::setButtonWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setButtonWidthRange,
-                  QOverload<int, int>::of(&RGBEditFrame::setButtonWidthRange), maxw, minw);
+    d->rows().all(&SliderEditFrame::setButtonWidthRange, &RGBEditFrame::setButtonWidthRanges, maxw,
+                  minw);
 }
 
 void RGBOpacityEditFrame::setButtonFixedWidth(Type type, int w)
@@ -165,10 +164,9 @@ void RGBOpacityEditFrame::setButtonFixedWidth(Type type, int w)
                   w);
 }
 
-void RGBOpacityEditFrame::setButtonFixedWidth(int w)
+void RGBOpacityEditFrame::setButtonFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setButtonFixedWidth,
-                  QOverload<int>::of(&RGBEditFrame::setButtonFixedWidth), w);
+    d->rows().all(&SliderEditFrame::setButtonFixedWidth, &RGBEditFrame::setButtonFixedWidths, w);
 }
 
 void RGBOpacityEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
@@ -177,10 +175,10 @@ void RGBOpacityEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
-void RGBOpacityEditFrame::setSpinBoxWidthRange(int maxw, int minw)
+void RGBOpacityEditFrame::setSpinBoxWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxWidthRange,
-                  QOverload<int, int>::of(&RGBEditFrame::setSpinBoxWidthRange), maxw, minw);
+    d->rows().all(&SliderEditFrame::setSpinBoxWidthRange, &RGBEditFrame::setSpinBoxWidthRanges,
+                  maxw, minw);
 }
 
 void RGBOpacityEditFrame::setSpinBoxFixedWidth(Type type, int w)
@@ -189,10 +187,9 @@ void RGBOpacityEditFrame::setSpinBoxFixedWidth(Type type, int w)
                   w);
 }
 
-void RGBOpacityEditFrame::setSpinBoxFixedWidth(int w)
+void RGBOpacityEditFrame::setSpinBoxFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxFixedWidth,
-                  QOverload<int>::of(&RGBEditFrame::setSpinBoxFixedWidth), w);
+    d->rows().all(&SliderEditFrame::setSpinBoxFixedWidth, &RGBEditFrame::setSpinBoxFixedWidths, w);
 }
 
 void RGBOpacityEditFrame::setSpinBoxWheelEnable(bool b)
@@ -226,10 +223,10 @@ void RGBOpacityEditFrame::setValue(Type type, int val)
     d->rows().one(type, &SliderEditFrame::setValue, &RGBEditFrame::setValue, val);
 }
 
-void RGBOpacityEditFrame::setValue(int r, int g, int b, int opacity)
+void RGBOpacityEditFrame::setValues(int r, int g, int b, int opacity)
 {
     d->ui->frameOpacity->setValue(opacity);
-    d->ui->frameRGB->setValue(r, g, b);
+    d->ui->frameRGB->setValues(r, g, b);
 }
 
 void RGBOpacityEditFrame::value(int &r, int &g, int &b, int &opacity)
@@ -238,10 +235,9 @@ void RGBOpacityEditFrame::value(int &r, int &g, int &b, int &opacity)
     d->ui->frameRGB->value(r, g, b);
 }
 
-int RGBOpacityEditFrame::value(Type type) const
+int RGBOpacityEditFrame::valueOf(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::value,
-                         QOverload<RGBEditFrame::Type>::of(&RGBEditFrame::value));
+    return d->rows().get(type, &SliderEditFrame::value, &RGBEditFrame::valueOf);
 }
 
 void RGBOpacityEditFrame::setPrefix(Type type, const QString &text)
@@ -249,10 +245,9 @@ void RGBOpacityEditFrame::setPrefix(Type type, const QString &text)
     d->rows().one(type, &SliderEditFrame::setPrefix, &RGBEditFrame::setPrefix, text);
 }
 
-void RGBOpacityEditFrame::setPrefix(const QString &text)
+void RGBOpacityEditFrame::setPrefixes(const QString &text)
 {
-    d->rows().all(&SliderEditFrame::setPrefix,
-                  QOverload<const QString &>::of(&RGBEditFrame::setPrefix), text);
+    d->rows().all(&SliderEditFrame::setPrefix, &RGBEditFrame::setPrefixes, text);
 }
 
 QString RGBOpacityEditFrame::prefix(Type type) const
@@ -265,10 +260,9 @@ void RGBOpacityEditFrame::setSuffix(Type type, const QString &text)
     d->rows().one(type, &SliderEditFrame::setSuffix, &RGBEditFrame::setSuffix, text);
 }
 
-void RGBOpacityEditFrame::setSuffix(const QString &text)
+void RGBOpacityEditFrame::setSuffixes(const QString &text)
 {
-    d->rows().all(&SliderEditFrame::setSuffix,
-                  QOverload<const QString &>::of(&RGBEditFrame::setSuffix), text);
+    d->rows().all(&SliderEditFrame::setSuffix, &RGBEditFrame::setSuffixes, text);
 }
 
 QString RGBOpacityEditFrame::suffix(Type type) const
@@ -281,9 +275,9 @@ void RGBOpacityEditFrame::setRange(Type type, int min, int max)
     d->rows().one(type, &SliderEditFrame::setRange, &RGBEditFrame::setRange, min, max);
 }
 
-void RGBOpacityEditFrame::setRange(int min, int max)
+void RGBOpacityEditFrame::setRanges(int min, int max)
 {
-    d->ui->frameRGB->setRange(min, max);
+    d->ui->frameRGB->setRanges(min, max);
 }
 
 void RGBOpacityEditFrame::range(Type type, int &min, int &max) const
@@ -311,9 +305,9 @@ void RGBOpacityEditFrame::resetValue(Type type)
     d->rows().one(type, &SliderEditFrame::resetValue, &RGBEditFrame::resetValue);
 }
 
-void RGBOpacityEditFrame::resetValue()
+void RGBOpacityEditFrame::resetValues()
 {
-    d->rows().all(&SliderEditFrame::resetValue, QOverload<>::of(&RGBEditFrame::resetValue));
+    d->rows().all(&SliderEditFrame::resetValue, &RGBEditFrame::resetValues);
 }
 
 void RGBOpacityEditFrame::setSingleStep(Type type, int val)

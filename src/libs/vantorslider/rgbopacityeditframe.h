@@ -82,37 +82,37 @@ public:
     void setLabelWidthRange(Type type, int maxw, int minw);
 
     /*! setLabelWidthRange() of every row. \since 1.1 */
-    void setLabelWidthRange(int maxw, int minw);
+    void setLabelWidthRanges(int maxw, int minw);
 
     /*! Makes the label in the row \a type \a w pixels wide. */
     void setLabelFixedWidth(Type type, int w);
 
     /*! setLabelFixedWidth() of every row. \since 1.1 */
-    void setLabelFixedWidth(int w);
+    void setLabelFixedWidths(int w);
 
     /*! Limits the width of each button in the row \a type to \a minw to \a maxw pixels. */
     void setButtonWidthRange(Type type, int maxw, int minw);
 
     /*! setButtonWidthRange() of every row. \since 1.1 */
-    void setButtonWidthRange(int maxw, int minw);
+    void setButtonWidthRanges(int maxw, int minw);
 
     /*! Makes each button in the row \a type \a w pixels wide; 49 by default. */
     void setButtonFixedWidth(Type type, int w);
 
     /*! setButtonFixedWidth() of every row. \since 1.1 */
-    void setButtonFixedWidth(int w);
+    void setButtonFixedWidths(int w);
 
     /*! Limits the width of the spin box in the row \a type to \a minw to \a maxw pixels. */
     void setSpinBoxWidthRange(Type type, int maxw, int minw);
 
     /*! setSpinBoxWidthRange() of every row. \since 1.1 */
-    void setSpinBoxWidthRange(int maxw, int minw);
+    void setSpinBoxWidthRanges(int maxw, int minw);
 
     /*! Makes the spin box in the row \a type \a w pixels wide; 65 by default. */
     void setSpinBoxFixedWidth(Type type, int w);
 
     /*! setSpinBoxFixedWidth() of every row. \since 1.1 */
-    void setSpinBoxFixedWidth(int w);
+    void setSpinBoxFixedWidths(int w);
 
     /*! Lets the wheel step a spin box that has the focus, if \a b is true; false by default. */
     void setSpinBoxWheelEnable(bool b);
@@ -146,13 +146,13 @@ public:
 
     /*! Shows \a r, \a g, \a b and \a opacity, each clamped to its row's range. Emits nothing.
      * \since 1.1 */
-    void setValue(int r, int g, int b, int opacity);
+    void setValues(int r, int g, int b, int opacity);
 
     /*! Writes the current values to \a r, \a g, \a b and \a opacity. */
     void value(int &r, int &g, int &b, int &opacity);
 
     /*! The value of the row \a type; 0 where it names none. \since 1.1 */
-    int value(Type type) const;
+    int valueOf(Type type) const;
 
     /*!
         Shows \a text before the number in the row \a type; empty by default. Emits nothing.
@@ -161,7 +161,7 @@ public:
     void setPrefix(Type type, const QString &text);
 
     /*! setPrefix() of every row. \since 1.1 */
-    void setPrefix(const QString &text);
+    void setPrefixes(const QString &text);
 
     /*!
         Returns the text before the number in the row \a type; empty if \a type is invalid.
@@ -176,7 +176,7 @@ public:
     void setSuffix(Type type, const QString &text);
 
     /*! setSuffix() of every row. \since 1.1 */
-    void setSuffix(const QString &text);
+    void setSuffixes(const QString &text);
 
     /*!
         Returns the text after the number in the row \a type; empty if \a type is invalid.
@@ -194,7 +194,7 @@ public:
         Sets the range of the three channels to \a min up to \a max; the opacity keeps its own.
         Emits nothing. \since 1.1
     */
-    void setRange(int min, int max);
+    void setRanges(int min, int max);
 
     /*!
         Writes the range of the row \a type to \a min and \a max; does not change them if \a type
@@ -284,7 +284,7 @@ public:
 
 public Q_SLOTS:
     /*! SliderEditFrame::resetValue() of every row. Emits nothing. \since 1.1 */
-    void resetValue();
+    void resetValues();
 
 Q_SIGNALS:
     /*! The user changed a value. \a r, \a g, \a b and \a opacity are the current values. */
