@@ -193,8 +193,10 @@ void tst_SliderEditFrame::sequences_data()
     // Below 1.5 all positions are 1.
     addBoth("logarithmic: many positions of one value",
             scale
-                + "value 1 | hold 10 20 36: 2 | move 50 | drop | handle: 50 | shown: 2 | "
-                  "hold | drop | shown: 2");
+                + "value 1 | hold 10 20 36: 2 | handle: 36 | move 50 | drop | handle: 50 | "
+                  "shown: 2 | hold | drop | shown: 2");
+    addBoth("logarithmic, sampled: a held handle stays where it is",
+            scale + "sampled | value 1 | hold 36 | handle: 36 | tick: 2 | tick | drop | shown: 2");
     for (const QString mode : {"", "released | ", "sampled | "}) {
         const bool isAtOnce = mode.isEmpty();
         addBoth("logarithmic: " + mode + "a value between two positions",

@@ -73,7 +73,7 @@ public:
         engine().showInSpinBox(val);
         {
             const QSignalBlocker blocker(ui->slider);
-            ui->slider->setValue(positionOf(val));
+            ui->slider->setValue(handlePosition(val));
         }
         engine().handToCalculator(val);
     }
@@ -197,7 +197,7 @@ protected:
         if (position == m_nLastPressedValue && ui->slider->isSliderDown()) {
             return m_valueAtPress;
         }
-        return engine().rounded(logValue(position, least(), greatest()));
+        return logValueAt(position);
     }
     Value spinValue() const { return engine().spinBox()->value(); }
 
@@ -346,7 +346,7 @@ protected:
             return;
         }
         stopSamplingTimer();
-        if (position == m_nLastTimerValue) {
+        if (positionOf(valueAt(position)) == m_nLastTimerValue) {
             return;
         }
         apply(valueAt(position));
@@ -380,6 +380,20 @@ private:
         return m_isLogarithmic ? logPosition(val, least(), greatest()) : engine().toPosition(val);
     }
     int spinPosition() const { return positionOf(spinValue()); }
+    Value logValueAt(int position) const
+    {
+        return engine().rounded(logValue(position, least(), greatest()));
+    }
+
+    // Positions share a value of a logarithmic scale, too: a handle that is held stays
+    // under the pointer.
+    int handlePosition(Value val) const
+    {
+        const int held = ui->slider->sliderPosition();
+        return m_isLogarithmic && ui->slider->isSliderDown() && logValueAt(held) == val
+            ? held
+            : positionOf(val);
+    }
 
     bool isAboveZero() const
     {
