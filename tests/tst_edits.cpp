@@ -127,6 +127,20 @@ template <typename AnyUser> void nest(AnyUser &user, const QString &steps)
              qPrintable(heard.join(' ')));
 }
 
+// A receiver moves the focus while the groove is held: the release still comes.
+template <typename AnyUser> void focusMoves(AnyUser &user)
+{
+    user.perform("edits");
+    user.row.slider->setFocus();
+    QObject::connect(user.frame, &std::remove_pointer_t<decltype(user.frame)>::valueChanged,
+                     &user.page, [&user] { user.row.plus->setFocus(); });
+    const QPoint groove(user.row.slider->width() - 2, user.row.slider->height() / 2);
+    User::pressAt(user.row.slider, groove);
+    QCOMPARE(user.heard(), QString("start 20"));
+    User::releaseAt(user.row.slider, groove);
+    QCOMPARE(user.heard(), QString("end"));
+}
+
 // The property, cursor and accessible action of a row, for style sheet, pointer and screen reader.
 QStringList signsOf(const EditorRow &row)
 {
@@ -241,6 +255,7 @@ void tst_Edits::rows_data()
         leaveFocusInField(user);
         user.play("edits | type 7: start | plus: 11 end | type 7: start | hold 30: 30 | drop: end");
     });
+    addForBoth("focus moved, groove", [](auto &user) { focusMoves(user); });
     addForBoth("blocked at the end", [](auto &user) { blockedAtTheEnd(user); });
     addForBoth("blocked at the start", [](auto &user) { blockedAtTheStart(user); });
     for (const QString gesture : {"hold", "button", "type 5"})

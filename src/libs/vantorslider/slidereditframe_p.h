@@ -48,6 +48,8 @@ private:
     void letGo(QMouseEvent *event);
 
     bool m_isMousePressed = false;
+    // Since the last press, no release event comes.
+    bool m_isPointerTaken = false;
     std::unique_ptr<Internal::HostWindow> m_hostWindow;
 };
 

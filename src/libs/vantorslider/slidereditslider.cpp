@@ -40,6 +40,7 @@ bool SliderEditSlider::event(QEvent *event)
 void SliderEditSlider::mousePressEvent(QMouseEvent *event)
 {
     m_isMousePressed = true;
+    m_isPointerTaken = false;
     if (m_hostWindow == nullptr) {
         m_hostWindow = std::make_unique<Internal::HostWindow>(this);
     }
@@ -51,7 +52,7 @@ void SliderEditSlider::mousePressEvent(QMouseEvent *event)
     }
     // A pressed groove repeats its page step. QSlider starts that after the first step, even
     // if a receiver of that step has hidden or disabled the slider.
-    if (m_isMousePressed) {
+    if (!m_isPointerTaken) {
         edit.hold(Internal::EditSpan::Handle);
     } else {
         setRepeatAction(SliderNoAction);
@@ -109,6 +110,7 @@ void SliderEditSlider::changeEvent(QEvent *event)
 void SliderEditSlider::releasePointer()
 {
     m_isMousePressed = false;
+    m_isPointerTaken = true;
     QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton,
                         Qt::NoButton, Qt::NoModifier);
     letGo(&release);
