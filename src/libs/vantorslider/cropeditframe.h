@@ -84,7 +84,7 @@ public:
     void resetValue(Type type);
 
 public Q_SLOTS:
-    /*! As RectEditFrame::resetValue(), and as setCropValue(). \since 1.1 */
+    /*! Shows the default value of each field that has one. Emits nothing. \since 1.1 */
     void resetValues();
 
 Q_SIGNALS:

@@ -68,7 +68,7 @@ public:
     void resetValue(Type type);
 
 public Q_SLOTS:
-    /*! As RectEditFrame::resetValue(), and as setMaskValue(). \since 1.1 */
+    /*! Shows the default value of each margin that has one. Emits nothing. \since 1.1 */
     void resetValues();
 
 Q_SIGNALS:

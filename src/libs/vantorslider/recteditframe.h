@@ -109,37 +109,37 @@ public:
     /*! Limits the width of the label in the field \a type to \a minw to \a maxw pixels. */
     void setLabelWidthRange(Type type, int maxw, int minw);
 
-    /*! setLabelWidthRange() of every field. \since 1.1 */
+    /*! Limits the width of all labels to \a minw to \a maxw pixels. \since 1.1 */
     void setLabelWidthRanges(int maxw, int minw);
 
     /*! Makes the label in the field \a type \a w pixels wide. */
     void setLabelFixedWidth(Type type, int w);
 
-    /*! setLabelFixedWidth() of every field. \since 1.1 */
+    /*! Makes all labels \a w pixels wide. \since 1.1 */
     void setLabelFixedWidths(int w);
 
     /*! Limits the width of each button in the field \a type to \a minw to \a maxw pixels. */
     void setButtonWidthRange(Type type, int maxw, int minw);
 
-    /*! setButtonWidthRange() of every field. \since 1.1 */
+    /*! Limits the width of all buttons to \a minw to \a maxw pixels. \since 1.1 */
     void setButtonWidthRanges(int maxw, int minw);
 
     /*! Makes each button in the field \a type \a w pixels wide; 49 by default. */
     void setButtonFixedWidth(Type type, int w);
 
-    /*! setButtonFixedWidth() of every field. \since 1.1 */
+    /*! Makes all buttons \a w pixels wide; 49 by default. \since 1.1 */
     void setButtonFixedWidths(int w);
 
     /*! Limits the width of the spin box in the field \a type to \a minw to \a maxw pixels. */
     void setSpinBoxWidthRange(Type type, int maxw, int minw);
 
-    /*! setSpinBoxWidthRange() of every field. \since 1.1 */
+    /*! Limits the width of all spin boxes to \a minw to \a maxw pixels. \since 1.1 */
     void setSpinBoxWidthRanges(int maxw, int minw);
 
     /*! Makes the spin box in the field \a type \a w pixels wide; 65 by default. */
     void setSpinBoxFixedWidth(Type type, int w);
 
-    /*! setSpinBoxFixedWidth() of every field. \since 1.1 */
+    /*! Makes all spin boxes \a w pixels wide; 65 by default. \since 1.1 */
     void setSpinBoxFixedWidths(int w);
 
     /*! Lets the wheel step a spin box that has the focus, if \a b is true; false by default. */
@@ -181,7 +181,7 @@ public:
     /*! Writes the current values to \a x, \a y, \a w and \a h. */
     void value(int &x, int &y, int &w, int &h);
 
-    /*! The value of the field \a type; 0 where it names none. \since 1.1 */
+    /*! Returns the value of the field \a type, or 0 if \a type is invalid. \since 1.1 */
     int valueOf(Type type) const;
 
     /*!
@@ -190,7 +190,7 @@ public:
     */
     void setPrefix(Type type, const QString &text);
 
-    /*! setPrefix() of every field. \since 1.1 */
+    /*! Shows \a text before the number in all fields. Emits nothing. \since 1.1 */
     void setPrefixes(const QString &text);
 
     /*!
@@ -205,7 +205,7 @@ public:
     */
     void setSuffix(Type type, const QString &text);
 
-    /*! setSuffix() of every field. \since 1.1 */
+    /*! Shows \a text after the number in all fields. Emits nothing. \since 1.1 */
     void setSuffixes(const QString &text);
 
     /*!
@@ -359,7 +359,7 @@ public:
     qreal sizeLockRatio() const;
 
 public Q_SLOTS:
-    /*! SliderEditFrame::resetValue() of every field. Emits nothing. \since 1.1 */
+    /*! Shows the default value of each field that has one. Emits nothing. \since 1.1 */
     void resetValues();
 
 Q_SIGNALS:

@@ -76,37 +76,37 @@ public:
     /*! Limits the width of the label in the row \a type to \a minw to \a maxw pixels. */
     void setLabelWidthRange(Type type, int maxw, int minw);
 
-    /*! setLabelWidthRange() of every row. \since 1.1 */
+    /*! Limits the width of all labels to \a minw to \a maxw pixels. \since 1.1 */
     void setLabelWidthRanges(int maxw, int minw);
 
     /*! Makes the label in the row \a type \a w pixels wide. */
     void setLabelFixedWidth(Type type, int w);
 
-    /*! setLabelFixedWidth() of every row. \since 1.1 */
+    /*! Makes all labels \a w pixels wide. \since 1.1 */
     void setLabelFixedWidths(int w);
 
     /*! Limits the width of each button in the row \a type to \a minw to \a maxw pixels. */
     void setButtonWidthRange(Type type, int maxw, int minw);
 
-    /*! setButtonWidthRange() of every row. \since 1.1 */
+    /*! Limits the width of all buttons to \a minw to \a maxw pixels. \since 1.1 */
     void setButtonWidthRanges(int maxw, int minw);
 
     /*! Makes each button in the row \a type \a w pixels wide; 49 by default. */
     void setButtonFixedWidth(Type type, int w);
 
-    /*! setButtonFixedWidth() of every row. \since 1.1 */
+    /*! Makes all buttons \a w pixels wide; 49 by default. \since 1.1 */
     void setButtonFixedWidths(int w);
 
     /*! Limits the width of the spin box in the row \a type to \a minw to \a maxw pixels. */
     void setSpinBoxWidthRange(Type type, int maxw, int minw);
 
-    /*! setSpinBoxWidthRange() of every row. \since 1.1 */
+    /*! Limits the width of all spin boxes to \a minw to \a maxw pixels. \since 1.1 */
     void setSpinBoxWidthRanges(int maxw, int minw);
 
     /*! Makes the spin box in the row \a type \a w pixels wide; 65 by default. */
     void setSpinBoxFixedWidth(Type type, int w);
 
-    /*! setSpinBoxFixedWidth() of every row. \since 1.1 */
+    /*! Makes all spin boxes \a w pixels wide; 65 by default. \since 1.1 */
     void setSpinBoxFixedWidths(int w);
 
     /*! Lets the wheel step a spin box that has the focus, if \a b is true; false by default. */
@@ -145,7 +145,7 @@ public:
     /*! Writes the current values to \a r, \a g and \a b. */
     void value(int &r, int &g, int &b);
 
-    /*! The value of the row \a type; 0 where it names none. \since 1.1 */
+    /*! Returns the value of the row \a type, or 0 if \a type is invalid. \since 1.1 */
     int valueOf(Type type) const;
 
     /*!
@@ -154,7 +154,7 @@ public:
     */
     void setPrefix(Type type, const QString &text);
 
-    /*! setPrefix() of every row. \since 1.1 */
+    /*! Shows \a text before the number in all rows. Emits nothing. \since 1.1 */
     void setPrefixes(const QString &text);
 
     /*!
@@ -169,7 +169,7 @@ public:
     */
     void setSuffix(Type type, const QString &text);
 
-    /*! setSuffix() of every row. \since 1.1 */
+    /*! Shows \a text after the number in all rows. Emits nothing. \since 1.1 */
     void setSuffixes(const QString &text);
 
     /*!
@@ -184,7 +184,10 @@ public:
     */
     void setRange(Type type, int min, int max);
 
-    /*! Sets the range of all three channels to \a min up to \a max. Emits nothing. \since 1.1 */
+    /*!
+        Sets the range of all rows to \a min to \a max, 0 to 255 by default. Emits nothing.
+        \since 1.1
+    */
     void setRanges(int min, int max);
 
     /*!
@@ -271,7 +274,7 @@ public:
     int labelMaxLength();
 
 public Q_SLOTS:
-    /*! SliderEditFrame::resetValue() of every row. Emits nothing. \since 1.1 */
+    /*! Shows the default value of each row that has one. Emits nothing. \since 1.1 */
     void resetValues();
 
 Q_SIGNALS:
