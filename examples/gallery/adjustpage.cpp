@@ -10,11 +10,16 @@ AdjustPage::AdjustPage(EditHistory *history, LogPane *log) : Page(tr("Adjust"), 
     addBrightnessRow(tr("Every 100 ms"))->setTimeSamplingRate(100);
 
     addHeading(tr("Tone"),
-               tr("Whole numbers, and numbers with two decimals. "
-                  "Type an expression such as 12*3 into a field."));
-    addIntRow(tr("Contrast"), -100, 100, &Tone::contrast);
+               tr("Whole numbers, and numbers with two decimals; the exposure on a logarithmic "
+                  "slider. Type an expression such as 12*3 into a field."));
+    IntRow *exposure = addIntRow(tr("Exposure"), 1, 100000, &Tone::exposure);
+    exposure->setSliderScale(IntRow::LogarithmicScale);
+    exposure->setSingleStep(100);
+    exposure->setPageStep(100); // in slider positions, half a decade
+    exposure->setSuffix(tr(" µs"));
+    addIntRow(tr("Contrast"), -100, 100, &Tone::contrast)->setSuffix(tr(" %"));
     addDoubleRow(tr("Gamma"), 0.2, 4.0, &Tone::gamma);
-    addDoubleRow(tr("Saturation"), 0.0, 3.0, &Tone::saturation);
+    addDoubleRow(tr("Saturation"), 0.0, 3.0, &Tone::saturation)->setPrefix(tr("×"));
 
     const int reference = Tone().blackLevel;
     addHeading(
@@ -33,6 +38,7 @@ void AdjustPage::clear(Edits &edits, const QSize & /*size*/) const
 AdjustPage::IntRow *AdjustPage::addBrightnessRow(const QString &mode)
 {
     IntRow *row = addIntRow(mode, -100, 100, &Tone::brightness);
+    row->setSuffix(tr(" %"));
     m_brightnessRows.append(row);
     connect(row, &IntRow::valueChanged, this, [this, row](int val) {
         for (IntRow *other : m_brightnessRows) {

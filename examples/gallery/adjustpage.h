@@ -5,7 +5,7 @@
 #include <slidereditframe.h>
 #include <slidereditframedouble.h>
 
-// Brightness, contrast and the rest. The brightness has three rows, one for
+// Brightness, exposure and the rest. The brightness has three rows, one for
 // each reporting mode: the row that is dragged sets the other two.
 class AdjustPage : public Page
 {

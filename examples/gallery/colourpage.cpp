@@ -48,6 +48,7 @@ void ColourPage::addGain()
     addHeading(tr("Gain"), tr("Percent of each channel."));
     auto *editor = addEditor<RGBEditFrame>();
     setUpChannels(editor, 0, 200, Colours().gain);
+    editor->setSuffix(tr(" %"));
     connect(editor, &RGBEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Gain"), QStringLiteral("valueChanged")));
     connect(editor, &RGBEditFrame::valueChanged, this, [this](int r, int g, int b) {
@@ -66,6 +67,7 @@ void ColourPage::addLift()
     // The channels are a separate editor with its own spacer at the end.
     editor->findChild<RGBEditFrame *>()->setLastVerticalSpacerExpanding(false);
     setUpChannels(editor, -100, 100, Colours().lift);
+    editor->setSuffix(tr(" %"));
     editor->setLabelText(RGBAllEditFrame::ALL, tr("Master"));
     editor->setRange(RGBAllEditFrame::ALL, 0, 100);
     editor->setDefaultValue(RGBAllEditFrame::ALL, Colours().liftMaster);
@@ -99,6 +101,7 @@ void ColourPage::addWash()
     const QColor wash = Colours().wash;
     setUpChannels(editor, 0, 255, {wash.red(), wash.green(), wash.blue()});
     editor->setLabelText(RGBOpacityEditFrame::Opacity, tr("Opacity"));
+    editor->setSuffix(RGBOpacityEditFrame::Opacity, tr(" %"));
     editor->setDefaultValue(RGBOpacityEditFrame::Opacity, Colours().washOpacity);
     connect(editor, &RGBOpacityEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Wash"), QStringLiteral("valueChanged")));

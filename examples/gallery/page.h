@@ -33,6 +33,7 @@ protected:
     {
         auto *editor = new Editor;
         editor->setHorizontalSpacing(labelSpacing, controlSpacing);
+        editor->setSpinBoxFixedWidth(fieldWidth);
         addWidget(editor);
         m_history->watch(editor);
         return editor;
@@ -53,6 +54,7 @@ protected:
 
     static constexpr int labelSpacing = 12;
     static constexpr int controlSpacing = 8;
+    static constexpr int fieldWidth = 120; // six digits and a unit, where no theme sets one
 
     EditHistory *const m_history;
     LogPane *const m_log;

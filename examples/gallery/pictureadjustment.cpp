@@ -22,9 +22,11 @@ Table tableOf(const Tone &tone, const Colours &colours, std::size_t channel)
     const double lift = colours.lift[channel] * colours.liftMaster / 100.0 / 100.0;
     const double opacity = colours.washOpacity / 100.0;
     const double black = (tone.blackLevel - 16) / 239.0;
+    // The light is proportional to the time; pixels store it gamma-encoded, with 2.2.
+    const double exposure = std::pow(tone.exposure / double(Tone().exposure), 1 / 2.2);
     Table table {};
     for (std::size_t i = 0; i < table.size(); ++i) {
-        double v = static_cast<double>(i) / 255.0;
+        double v = static_cast<double>(i) / 255.0 * exposure;
         v = (v - 0.5) * slope + 0.5 + tone.brightness / 200.0;
         v = std::pow(qBound(0.0, v, 1.0), 1 / tone.gamma);
         v = qBound(0.0, v * colours.gain[channel] / 100.0 + lift, 1.0);
@@ -37,7 +39,8 @@ Table tableOf(const Tone &tone, const Colours &colours, std::size_t channel)
 
 auto fieldsOf(const Tone &tone)
 {
-    return std::tie(tone.brightness, tone.contrast, tone.gamma, tone.saturation, tone.blackLevel);
+    return std::tie(tone.brightness, tone.exposure, tone.contrast, tone.gamma, tone.saturation,
+                    tone.blackLevel);
 }
 
 auto fieldsOf(const Colours &colours)

@@ -9,6 +9,7 @@
 struct Tone
 {
     int brightness = 0; // -100 to 100
+    int exposure = 1000; // in microseconds, 1 to 100,000
     int contrast = 0; // -100 to 100
     double gamma = 1.0;
     double saturation = 1.0; // 0 is grey

@@ -8,6 +8,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSlider>
 
+#include <cmath>
+
 namespace {
 
 void playAdjust(ScriptedUser &user)
@@ -83,7 +85,7 @@ void playNumberPad(ScriptedUser &user)
         user.click(pad->button(QString::fromUtf8(key)));
     }
     ScriptedUser::expect(!pad->isVisible(), "Enter closes the pad");
-    ScriptedUser::expect(user.fieldText(QStringLiteral("Contrast")) == QLatin1String("42"),
+    ScriptedUser::expect(user.fieldText(QStringLiteral("Contrast")) == QLatin1String("42 %"),
                          "the pad's taps count");
     pad->setEnabledByFocus(false);
 }
@@ -101,6 +103,16 @@ void playUndo(ScriptedUser &user)
     user.undoAndRedo(gamma, [&] { user.doubleClickLabel(gamma); });
     ScriptedUser::expect(user.fieldText(gamma) == QLatin1String("1.00"),
                          "a double click on the label goes back to the default");
+
+    const QString exposure = QStringLiteral("Exposure");
+    user.undoAndRedo(exposure, [&] { user.drag(exposure, 800); });
+    const double decades = user.slider(exposure)->value() / 200.0;
+    ScriptedUser::expect(user.fieldNumber(exposure) == qRound(std::pow(10, decades)),
+                         "each fifth of the slider is a decade");
+    user.undoAndRedo(exposure, [&] { user.type(exposure, QStringLiteral("50*2\n")); });
+    ScriptedUser::expect(user.fieldText(exposure) == QStringLiteral("100 µs"),
+                         "an expression is typed in front of the unit");
+    user.undoAndRedo(exposure, [&] { user.doubleClickLabel(exposure); });
 
     const QString x = QStringLiteral("X");
     user.showPage(QStringLiteral("Crop"));

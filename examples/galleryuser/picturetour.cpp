@@ -143,6 +143,12 @@ void Tour::resetAll()
     m_user.undoAndRedo(QStringLiteral("Contrast"),
                        [this] { m_user.choose(QStringLiteral("Reset all")); });
     ScriptedUser::expect(isSame(whole(), colourful(m_size, false)), "all is as it was opened");
+
+    const QString exposure = QStringLiteral("Exposure");
+    m_user.type(exposure, QStringLiteral("2000\n"));
+    ScriptedUser::expect(whole().pixel(10, 10) == qRgb(14, 14, 41), "more light is brighter");
+    m_user.undoAndRedo(exposure, [this] { m_user.choose(QStringLiteral("Reset page")); });
+    ScriptedUser::expect(isSame(whole(), colourful(m_size, false)), "the page is as it was");
 }
 
 void Tour::saveWhatIsShown()
@@ -156,6 +162,7 @@ void Tour::saveWhatIsShown()
     m_user.type(QStringLiteral("Width"), QStringLiteral("100\n"));
     m_user.type(QStringLiteral("X"), QStringLiteral("195\n")); // through the layer
     m_user.showPage(QStringLiteral("Adjust"));
+    m_user.type(QStringLiteral("Exposure"), QStringLiteral("700\n"));
     m_user.type(QStringLiteral("Contrast"), QStringLiteral("40\n"));
     m_user.type(QStringLiteral("Saturation"), QStringLiteral("1.5\n"));
 
@@ -209,13 +216,13 @@ void Tour::dragInPicture()
     m_user.showPage(QStringLiteral("Mask"));
     m_user.undoAndRedo(left, [&] { drag(0, 0.5, QPoint(60, 0)); });
     m_user.undoAndRedo(top, [&] { drag(0.5, 0, QPoint(0, 2000)); });
-    ScriptedUser::expect(m_user.fieldText(top) == QLatin1String("199"),
+    ScriptedUser::expect(m_user.fieldText(top) == QLatin1String("199 px"),
                          "top and bottom meet at most");
     m_user.choose(QStringLiteral("Reset page"));
     drag(1, 0.5, QPoint(-40, 0));
-    const int right = m_user.fieldText(QStringLiteral("Right")).toInt();
+    const int right = m_user.fieldNumber(QStringLiteral("Right"));
     m_user.undoAndRedo(QStringLiteral("Right"), [&] { User::press(Qt::Key_Left); });
-    ScriptedUser::expect(m_user.fieldText(QStringLiteral("Right")).toInt() == right + 1,
+    ScriptedUser::expect(m_user.fieldNumber(QStringLiteral("Right")) == right + 1,
                          "an arrow key moves the edge by a step");
 
     const QString x = QStringLiteral("X");
@@ -240,8 +247,7 @@ void Tour::dragInPicture()
     m_user.undoAndRedo(y, [&] { User::press(Qt::Key_Right); });
     m_user.click("toolButtonLockPosition");
     drag(0.5, 0.5, QPoint(2000, 2000));
-    ScriptedUser::expect(m_user.fieldText(x).toInt() + m_user.fieldText(width).toInt()
-                             == m_size.width(),
+    ScriptedUser::expect(m_user.fieldNumber(x) + m_user.fieldNumber(width) == m_size.width(),
                          "the crop stays in the picture");
 }
 
@@ -296,7 +302,7 @@ void Tour::makeRoom()
     m_user.type(contrast, QStringLiteral("7*3"));
     m_user.click(m_window.log());
     ScriptedUser::expect(!m_window.numberPad()->isVisible(), "a click elsewhere closes the pad");
-    ScriptedUser::expect(m_user.fieldText(contrast) == QLatin1String("21"),
+    ScriptedUser::expect(m_user.fieldText(contrast) == QLatin1String("21 %"),
                          "the entry counts by then");
     m_window.numberPad()->setEnabledByFocus(false);
 }

@@ -19,6 +19,7 @@
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSlider>
+#include <QtWidgets/QSpinBox>
 
 #include <QAction> // of QtWidgets or, with Qt 6, of QtGui
 
@@ -201,6 +202,11 @@ QSlider *ScriptedUser::slider(const QString &row) const
 QString ScriptedUser::fieldText(const QString &row) const
 {
     return this->row(row)->findChild<QAbstractSpinBox *>()->text();
+}
+
+int ScriptedUser::fieldNumber(const QString &row) const
+{
+    return this->row(row)->findChild<QSpinBox *>()->value();
 }
 
 void ScriptedUser::expect(bool isSo, const char *what)

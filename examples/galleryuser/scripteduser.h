@@ -22,7 +22,8 @@ public:
     PictureView *view() const;
     QWidget *row(const QString &label) const;
     QSlider *slider(const QString &row) const;
-    QString fieldText(const QString &row) const;
+    QString fieldText(const QString &row) const; // as it is shown, with the unit
+    int fieldNumber(const QString &row) const;
 
     void say(const QString &what) const;
     // Aborts the program otherwise.

@@ -18,8 +18,8 @@ PATIENCE_S = 20
 
 # The rows of each page in their order, and the locks after the rows of a panel.
 PAGES = {
-    "Adjust": ["Continuous", "On release", "Every 100 ms", "Contrast", "Gamma", "Saturation",
-               "Black level"],
+    "Adjust": ["Continuous", "On release", "Every 100 ms", "Exposure", "Contrast", "Gamma",
+               "Saturation", "Black level"],
     "Crop": ["X", "Y", "Lock position", "Width", "Height", "Lock size"],
     "Mask": ["Top", "Bottom", "Left", "Right"],
     "Layout": ["X", "Y", "Width", "Height", "Lock size"],
@@ -28,7 +28,10 @@ PAGES = {
 }
 
 # The steps that are not 1.
-STEPS = {"Gamma": 0.05, "Saturation": 0.05}
+STEPS = {"Exposure": 100, "Gamma": 0.05, "Saturation": 0.05}
+
+# Prefixes and suffixes in the text of a field.
+UNITS = "× %µspx"
 
 # In the gallery each of these rows shows the value that the user sets in another one.
 ALIKE = PAGES["Adjust"][:3]
@@ -189,7 +192,7 @@ def check_change(rows, heard, row, button, step):
         fail(f"{button.name} pressed, but received only {heard}")
     if not all(source in expected for source, _ in heard):
         fail(f"{button.name} pressed, and received events of another row: {heard}")
-    told = [float(text) for source, text in heard if source == field]
+    told = [float(text.strip(UNITS)) for source, text in heard if source == field]
     if len(told) != 1 or not all(
             math.isclose(v, before + step) for v in (told[0], value.currentValue)):
         fail(f"{button.name}: from {before:g} to {value.currentValue:g}, received {told}")
