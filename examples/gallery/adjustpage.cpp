@@ -10,7 +10,7 @@ AdjustPage::AdjustPage(EditHistory *history, LogPane *log) : Page(tr("Adjust"), 
     addBrightnessRow(tr("Every 100 ms"))->setTimeSamplingRate(100);
 
     addHeading(tr("Tone"),
-               tr("Whole numbers, and numbers with two decimals; the exposure on a logarithmic "
+               tr("Whole numbers, and numbers with three decimals; the exposure on a logarithmic "
                   "slider. Type an expression such as 12*3 into a field."));
     IntRow *exposure = addIntRow(tr("Exposure"), 1, 100000, &Tone::exposure);
     exposure->setSliderScale(IntRow::LogarithmicScale);
@@ -64,9 +64,9 @@ AdjustPage::DoubleRow *AdjustPage::addDoubleRow(const QString &label, double min
 {
     auto *row = addEditor<DoubleRow>();
     row->setSingleStep(0.05);
-    row->setDecimals(2);
+    row->setDecimals(3);
     row->setRange(min, max);
-    row->setPageStep(25); // in slider positions, hundredths of the value
+    row->setPageStep(250); // in slider positions, thousandths of the value
     connectRow(row, label, field);
     return row;
 }

@@ -38,6 +38,14 @@ void finishEntry()
     }
 }
 
+QAction *addChoice(QMenu *menu, const QString &text, bool checked)
+{
+    QAction *action = menu->addAction(text);
+    action->setCheckable(true);
+    action->setChecked(checked);
+    return action;
+}
+
 } // namespace
 
 MainWindow::MainWindow()
@@ -168,13 +176,6 @@ void MainWindow::createViewMenu(QWidget *panel)
     view->addAction(tr("Zoom &out"), this, [this] { m_view->setScale(m_view->scale() / 2); })
         ->setShortcut(QKeySequence::ZoomOut);
     view->addSeparator();
-    const auto addChoice = [](QMenu *menu, const QString &text, bool checked) {
-        QAction *action = menu->addAction(text);
-        action->setCheckable(true);
-        action->setChecked(checked);
-        return action;
-    };
-
     QAction *editors = addChoice(view, tr("&Editors"), true);
     editors->setShortcut(Qt::Key_F8);
     connect(editors, &QAction::toggled, panel, &QWidget::setVisible);
@@ -206,6 +207,27 @@ void MainWindow::createViewMenu(QWidget *panel)
             &Theme::setRightToLeft);
     connect(addChoice(view, tr("Number &pad"), false), &QAction::toggled, m_numberPad,
             &NumberPad::setEnabledByFocus);
+    createEntryMenu(view->addMenu(tr("E&ntries")));
+}
+
+// Each option applies to all rows of all pages.
+void MainWindow::createEntryMenu(QMenu *menu)
+{
+    using namespace Vantor::Widgets;
+    const auto addOption = [this, menu](const QString &text, EntryOption option) {
+        QAction *action = addChoice(menu, text, false);
+        connect(action, &QAction::toggled, this, [this, option](bool on) {
+            m_entryOptions.setFlag(option, on);
+            for (Page *page : std::as_const(m_pages)) {
+                Q_EMIT page->entryOptionsChanged(m_entryOptions);
+            }
+        });
+        return action;
+    };
+    addOption(tr("&Exact results"), ExactEntry)->setChecked(true); // for rows with three decimals
+    addOption(tr("Decimal &comma"), DecimalComma);
+    addOption(tr("E&scape restores the value"), EscapeRestores)->setChecked(true);
+    addOption(tr("Enter s&tays in the field"), EnterStays);
 }
 
 void MainWindow::setPicture(const QImage &picture, const QString &name)

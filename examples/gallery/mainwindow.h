@@ -2,6 +2,8 @@
 
 #include "theme.h"
 
+#include <entryoptions.h>
+
 #include <QtWidgets/QMainWindow>
 
 class EditHistory;
@@ -10,6 +12,7 @@ class NumberPad;
 class Page;
 class PictureView;
 class QButtonGroup;
+class QMenu;
 class QScrollArea;
 class QStackedWidget;
 
@@ -40,6 +43,7 @@ private:
     void createPages();
     void createFileAndEditMenus();
     void createViewMenu(QWidget *panel);
+    void createEntryMenu(QMenu *menu);
     void setPicture(const QImage &picture, const QString &name);
     void reset(const QVector<Page *> &pages, const QString &name);
     void chooseAndOpen();
@@ -57,4 +61,5 @@ private:
     QButtonGroup *m_pageButtons;
     NumberPad *m_numberPad;
     Theme *m_theme;
+    Vantor::Widgets::EntryOptions m_entryOptions;
 };

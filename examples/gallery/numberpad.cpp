@@ -79,9 +79,6 @@ void NumberPad::addKey(int row, int column, const QString &text, int key, const 
         QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, isCharacter ? text : QString());
         QApplication::sendEvent(field, &press);
         QApplication::sendEvent(field, &release);
-        if (key == Qt::Key_Enter) {
-            hide();
-        }
     });
 }
 

@@ -4,6 +4,8 @@
 #include "logpane.h"
 #include "pictureview.h"
 
+#include <entryoptions.h>
+
 #include <QtWidgets/QWidget>
 
 class QVBoxLayout;
@@ -26,6 +28,10 @@ public:
     // Resets the values of the page's editors: the picture of this size is unchanged.
     virtual void clear(Edits &edits, const QSize &size) const = 0;
 
+Q_SIGNALS:
+    // Connected to every row of the page.
+    void entryOptionsChanged(Vantor::Widgets::EntryOptions options);
+
 protected:
     void addHeading(const QString &title, const QString &caption, QWidget *beside = nullptr);
 
@@ -36,6 +42,7 @@ protected:
         editor->setSpinBoxFixedWidth(fieldWidth);
         addWidget(editor);
         m_history->watch(editor);
+        connect(this, &Page::entryOptionsChanged, editor, &Editor::setEntryOptions);
         return editor;
     }
     void addWidget(QWidget *widget);
@@ -54,7 +61,7 @@ protected:
 
     static constexpr int labelSpacing = 12;
     static constexpr int controlSpacing = 8;
-    static constexpr int fieldWidth = 120; // six digits and a unit, where no theme sets one
+    static constexpr int fieldWidth = 120; // for six digits and a unit, without a theme
 
     EditHistory *const m_history;
     LogPane *const m_log;

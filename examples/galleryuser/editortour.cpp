@@ -4,6 +4,7 @@
 #include "numberpad.h"
 #include "pictureview.h"
 #include "scripteduser.h"
+#include "userevents.h"
 
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSlider>
@@ -90,6 +91,41 @@ void playNumberPad(ScriptedUser &user)
     pad->setEnabledByFocus(false);
 }
 
+void playEntryOptions(ScriptedUser &user)
+{
+    const QString contrast = QStringLiteral("Contrast");
+    const QString gamma = QStringLiteral("Gamma");
+    const auto expectEntry = [&](const char *entry, const char *shown) {
+        user.type(gamma, QLatin1String(entry));
+        ScriptedUser::expect(user.fieldText(gamma) == QLatin1String(shown), shown);
+    };
+    user.showPage(QStringLiteral("Adjust"));
+    expectEntry("9/8\n", "1.125");
+    expectEntry("2,5\n", "4.000");
+    user.choose(QStringLiteral("Decimal comma"));
+    expectEntry("2,5\n", "2.500");
+    user.choose(QStringLiteral("Exact results"));
+    expectEntry("9/8\n", "1.130");
+
+    const QString held = user.fieldText(contrast);
+    user.type(contrast, QStringLiteral("55"));
+    User::press(Qt::Key_Escape);
+    ScriptedUser::expect(user.fieldText(contrast) == held, "Escape takes an entry back");
+    user.choose(QStringLiteral("Enter stays in the field"));
+    user.type(contrast, QStringLiteral("12*3\n"));
+    User::type(QStringLiteral("2+3\n"));
+    ScriptedUser::expect(user.fieldText(contrast) == QLatin1String("5 %"),
+                         "the next entry follows Enter in the same field");
+    NumberPad *pad = user.window().numberPad();
+    pad->setEnabledByFocus(true);
+    user.click(pad->button(QStringLiteral("⏎")));
+    ScriptedUser::expect(pad->isVisible(), "the pad stays with the field");
+    pad->setEnabledByFocus(false);
+    for (const char *option : {"Decimal comma", "Exact results", "Enter stays in the field"}) {
+        user.choose(QLatin1String(option));
+    }
+}
+
 // Each kind of change is one step for undo and redo, on every page.
 void playUndo(ScriptedUser &user)
 {
@@ -101,7 +137,7 @@ void playUndo(ScriptedUser &user)
     user.undoAndRedo(gamma, [&] { user.hold(gamma, "sliderEditPlus"); });
     user.undoAndRedo(gamma, [&] { user.drag(gamma, 300); });
     user.undoAndRedo(gamma, [&] { user.doubleClickLabel(gamma); });
-    ScriptedUser::expect(user.fieldText(gamma) == QLatin1String("1.00"),
+    ScriptedUser::expect(user.fieldText(gamma) == QLatin1String("1.000"),
                          "a double click on the label goes back to the default");
 
     const QString exposure = QStringLiteral("Exposure");
@@ -142,4 +178,5 @@ void tourEditors(ScriptedUser &user)
     playColour(user);
     playNumberPad(user);
     playUndo(user);
+    playEntryOptions(user);
 }
