@@ -3,15 +3,14 @@
 AdjustPage::AdjustPage(EditHistory *history, LogPane *log) : Page(tr("Adjust"), history, log)
 {
     addHeading(tr("Brightness, reported in three ways"),
-               tr("Drag each handle: the picture follows at every move, once at the end, or "
-                  "ten times a second."));
+               tr("The picture follows each move, the end of a drag, or ten times a second."));
     addBrightnessRow(tr("Continuous"));
     addBrightnessRow(tr("On release"))->setReleaseMode(true);
     addBrightnessRow(tr("Every 100 ms"))->setTimeSamplingRate(100);
 
-    addHeading(tr("Tone"),
-               tr("Whole numbers, and numbers with three decimals; the exposure on a logarithmic "
-                  "slider. Type an expression such as 12*3 into a field."));
+    addHeading(
+        tr("Tone"),
+        tr("Exposure has a logarithmic slider. Each field takes an expression such as 12*3."));
     IntRow *exposure = addIntRow(tr("Exposure"), 1, 100000, &Tone::exposure);
     exposure->setSliderScale(IntRow::LogarithmicScale);
     exposure->setSingleStep(100);

@@ -17,7 +17,7 @@ void Page::addHeading(const QString &title, const QString &caption, QWidget *bes
     auto *heading =
         new QLabel(QStringLiteral("<b>%1</b><br><small>%2</small>").arg(title, caption));
     heading->setWordWrap(true);
-    heading->setContentsMargins(4, m_layout->isEmpty() ? 0 : 14, 4, 2);
+    heading->setContentsMargins(4, m_layout->isEmpty() ? 0 : 10, 4, 2);
     auto *line = new QHBoxLayout;
     line->addWidget(heading, 1);
     if (beside) {
