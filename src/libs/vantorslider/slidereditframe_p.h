@@ -48,7 +48,7 @@ private:
     void letGo(QMouseEvent *event);
 
     bool m_isMousePressed = false;
-    // Since the last press, no release event comes.
+    // Hidden, disabled or blocked since the last press: no release event follows.
     bool m_isPointerTaken = false;
     std::unique_ptr<Internal::HostWindow> m_hostWindow;
 };

@@ -385,8 +385,8 @@ private:
         return engine().rounded(logValue(position, least(), greatest()));
     }
 
-    // Positions share a value of a logarithmic scale, too: a handle that is held stays
-    // under the pointer.
+    // Several positions of a logarithmic scale can have the same value, too: a held handle
+    // stays under the pointer.
     int handlePosition(Value val) const
     {
         const int held = ui->slider->sliderPosition();
