@@ -48,7 +48,7 @@ void ColourPage::addGain()
     addHeading(tr("Gain"), tr("Percent of each channel."));
     auto *editor = addEditor<RGBEditFrame>();
     setUpChannels(editor, 0, 200, Colours().gain);
-    editor->setSuffix(tr(" %"));
+    editor->setSuffixes(tr(" %"));
     connect(editor, &RGBEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Gain"), QStringLiteral("valueChanged")));
     connect(editor, &RGBEditFrame::valueChanged, this, [this](int r, int g, int b) {
@@ -67,7 +67,7 @@ void ColourPage::addLift()
     // The channels are a separate editor with its own spacer at the end.
     editor->findChild<RGBEditFrame *>()->setLastVerticalSpacerExpanding(false);
     setUpChannels(editor, -100, 100, Colours().lift);
-    editor->setSuffix(tr(" %"));
+    editor->setSuffixes(tr(" %"));
     editor->setLabelText(RGBAllEditFrame::ALL, tr("Master"));
     editor->setRange(RGBAllEditFrame::ALL, 0, 100);
     editor->setDefaultValue(RGBAllEditFrame::ALL, Colours().liftMaster);

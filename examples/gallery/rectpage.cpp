@@ -21,7 +21,7 @@ void RectPage::setUp(Rect *editor, const QString &name, const QStringList &label
         editor->setSingleStep(fields[i], step);
         editor->setPageStep(fields[i], 40);
     }
-    editor->setSuffix(tr(" px"));
+    editor->setSuffixes(tr(" px"));
     editor->setVerticalSpacing(controlSpacing);
     editor->setAutoRepeat(true);
     editor->setLastVerticalSpacerExpanding(false);
