@@ -2,25 +2,25 @@
 
 #include <QtCore/QChar>
 
-#include <bitset>
 #include <regex>
+#include <string_view>
 
 namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// The calculator's four patterns, compiled once for the process, and what the
-// two that work on single characters say of each ASCII character. A field
-// filters its text on every keystroke: a look-up there instead of a match.
+// The calculator's four patterns, which the interface gives to each field, compiled once
+// for the process. A field filters its text on every keystroke: what the two that work on
+// single characters accept is a look-up in a literal set.
 class CalculatorPatterns
 {
 public:
     static const CalculatorPatterns &instance();
 
     // What a user may type; no character outside ASCII is.
-    bool isAccepted(QChar character) const { return contains(m_accepted, character); }
+    static bool isAccepted(QChar character) { return contains("0123456789.-+*/(),=", character); }
     // Operators, parentheses, comma and "=": what stands between numbers.
-    bool isMark(QChar character) const { return contains(m_marks, character); }
+    static bool isMark(QChar character) { return contains("-+*/(),=", character); }
 
     const std::regex character;
     const std::regex mark;
@@ -28,18 +28,12 @@ public:
     const std::regex letters;
 
 private:
-    using AsciiSet = std::bitset<128>;
-
     CalculatorPatterns();
 
-    static AsciiSet matchedBy(const std::regex &pattern);
-    static bool contains(const AsciiSet &set, QChar character)
+    static bool contains(std::string_view set, QChar character)
     {
-        return character.unicode() < set.size() && set[character.unicode()];
+        return set.find(character.toLatin1()) != std::string_view::npos;
     }
-
-    AsciiSet m_accepted;
-    AsciiSet m_marks;
 };
 
 } // namespace Internal

@@ -16,9 +16,7 @@ namespace {
 
 bool isTypedExpression(const QString &expression)
 {
-    const CalculatorPatterns &patterns = CalculatorPatterns::instance();
-    return std::all_of(expression.cbegin(), expression.cend(),
-                       [&patterns](QChar character) { return patterns.isAccepted(character); });
+    return std::all_of(expression.cbegin(), expression.cend(), CalculatorPatterns::isAccepted);
 }
 
 // A "/" where an operand is expected starts a regular expression literal. If it is called with a

@@ -185,7 +185,7 @@ void LineEditCal::setTextFormat(QString strText)
         return;
     }
     const int last = qMax(m_cursorPosition - 1, 0);
-    if (CalculatorPatterns::instance().isAccepted(strText.at(last))) {
+    if (CalculatorPatterns::isAccepted(strText.at(last))) {
         setExpressionFormat(strText);
         return;
     }
@@ -210,11 +210,10 @@ void LineEditCal::setExpressionFormat(QString strText)
 // Most tokens do not change, so the list is updated in place.
 void LineEditCal::setIntereptString(QString &strText, bool &bCursor)
 {
-    const CalculatorPatterns &patterns = CalculatorPatterns::instance();
     std::size_t count = 0;
     int start = 0;
     for (int end = 0; end <= strText.length(); ++end) {
-        const bool isMark = end < strText.length() && patterns.isMark(strText.at(end));
+        const bool isMark = end < strText.length() && CalculatorPatterns::isMark(strText.at(end));
         if (isMark || end == strText.length()) {
             bCursor |= takeToken(count++, strText, start, end - start);
             start = end + 1;
@@ -238,7 +237,7 @@ void LineEditCal::setIntereptString(QString &strText, bool &bCursor)
 bool LineEditCal::takeToken(std::size_t index, const QString &text, int start, int length)
 {
     const QChar *const begin = text.constData() + start;
-    const bool isNumber = length > 0 && !CalculatorPatterns::instance().isMark(*begin);
+    const bool isNumber = length > 0 && !CalculatorPatterns::isMark(*begin);
     const bool isKnown = index < m_vecStringResults.size();
     if (isKnown
         && std::equal(begin, begin + length, m_vecStringResults[index].cbegin(),
