@@ -186,6 +186,7 @@ ArithmeticToken ArithmeticToken::at(const QChar *begin, const QChar *end)
 bool isArithmetic(const QString &text)
 {
     bool isOperandDue = true;
+    bool isAfterOperator = false;
     bool isInNewLine = false;
     bool hasText = false;
     bool assigns = false;
@@ -226,12 +227,19 @@ bool isArithmetic(const QString &text)
             hasText = true;
             isOperandDue = false;
             break;
+        case Token::Closing:
+            // Newer script languages let a comma end the arguments of a function.
+            if (isAfterOperator) {
+                return false;
+            }
+            isOperandDue = false;
+            break;
         case Token::Number:
         case Token::Name:
-        case Token::Closing:
             isOperandDue = false;
             break;
         }
+        isAfterOperator = token.kind == Token::Operator;
         isInNewLine = false;
     }
     return !(hasText && assigns);
