@@ -228,7 +228,7 @@ bool isArithmetic(const QString &text)
             isOperandDue = false;
             break;
         case Token::Closing:
-            // Newer script languages let a comma end the arguments of a function.
+            // Newer ECMAScript allows a trailing comma in the arguments of a function.
             if (isAfterOperator) {
                 return false;
             }

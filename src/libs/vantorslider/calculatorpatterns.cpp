@@ -10,7 +10,7 @@ const CalculatorPatterns &CalculatorPatterns::instance()
     return patterns;
 }
 
-// The commas are members of the sets, not separators.
+// The commas are members of the bracket expressions, not separators.
 CalculatorPatterns::CalculatorPatterns()
     : character("[0-9]*[-,+,*,/,.,(,),=]*"), mark("[-,+,*,/,(,),=]*"), fourOperation("[-,+,*,/]*"),
       letters("^[\u4e00-\u9fa5a-zA-Z]+$")

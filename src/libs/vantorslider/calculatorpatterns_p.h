@@ -9,17 +9,17 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// The calculator's four patterns, which the interface gives to each field, compiled once
-// for the process. A field filters its text on every keystroke: what the two that work on
-// single characters accept is a look-up in a literal set.
+// The four regular expressions of the calculator, compiled once for the process. Each line edit has
+// copies of them as part of its interface. The filter runs on each keystroke, so what two of them
+// accept as a single character is looked up in a literal set.
 class CalculatorPatterns
 {
 public:
     static const CalculatorPatterns &instance();
 
-    // What a user may type; no character outside ASCII is.
+    // Whether the user may type the character. No character outside ASCII is accepted.
     static bool isAccepted(QChar character) { return contains("0123456789.-+*/(),=", character); }
-    // Operators, parentheses, comma and "=": what stands between numbers.
+    // Operators, parentheses, comma and "=", which separate numbers.
     static bool isMark(QChar character) { return contains("-+*/(),=", character); }
 
     const std::regex character;
