@@ -8,6 +8,8 @@
 
 #include <QtWidgets/QWidget>
 
+#include <type_traits>
+
 class QVBoxLayout;
 
 // A column of editors that change the picture, with a heading above each group.
@@ -39,7 +41,13 @@ protected:
     {
         auto *editor = new Editor;
         editor->setHorizontalSpacing(labelSpacing, controlSpacing);
-        editor->setSpinBoxFixedWidth(fieldWidth);
+        // A composite editor needs the name for all of its rows.
+        using SetWidth = decltype(&Editor::setSpinBoxFixedWidth);
+        if constexpr (std::is_invocable_v<SetWidth, Editor *, int>) {
+            editor->setSpinBoxFixedWidth(fieldWidth);
+        } else {
+            editor->setSpinBoxFixedWidths(fieldWidth);
+        }
         addWidget(editor);
         m_history->watch(editor);
         connect(this, &Page::entryOptionsChanged, editor, &Editor::setEntryOptions);
