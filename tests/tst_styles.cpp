@@ -26,6 +26,7 @@ private Q_SLOTS:
     void glyphs();
     void largeFont();
     void edges();
+    void newPalette();
     void lockColumn();
     void order();
     void surroundings();
@@ -88,6 +89,22 @@ QColor colorOf(const QString &text, const QPalette &palette)
     }
     return QColor(text);
 }
+
+// Qt reads the palette's colours when the sheet is set: as the guide says, a host sets it
+// again when they change.
+class PaletteFollower : public QObject
+{
+public:
+    PaletteFollower() { qApp->installEventFilter(this); }
+
+private:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange)
+            qApp->setStyleSheet(qApp->styleSheet());
+        return QObject::eventFilter(watched, event);
+    }
+};
 
 QImage picture(QWidget *widget)
 {
@@ -237,6 +254,39 @@ void tst_Styles::edges()
         QCOMPARE(field->geometry(), place);
         QCOMPARE(edgeAfter("keys 1"), focused);
         QCOMPARE(edgeAfter("keys \n"), plain);
+    }
+}
+
+// The editors follow the palette of their host, and field and groove are seen in any.
+void tst_Styles::newPalette()
+{
+    QFETCH_GLOBAL(QString, sheet);
+    QFETCH_GLOBAL(QPalette, palette);
+    if (!sheet.contains("palette("))
+        QSKIP("The sheet has colours of its own.");
+    const PaletteFollower follower;
+    qApp->setStyleSheet(sheet);
+    EditorUser user(new SliderEditFrame);
+    const EditorRow &row = user.rows[0];
+    QSlider *const slider = row.slider;
+    user.perform("elsewhere");
+    for (const QPalette &next : {paletteOf("#182838", "#102030", "#f0e0d0", "#ff8000"), palette}) {
+        QApplication::setPalette(next);
+        QCoreApplication::processEvents();
+        const QImage field = row.spinBox->grab().toImage();
+        QCOMPARE(field.pixelColor(4, 4), next.color(QPalette::Base));
+        QVERIFY(contrastOfEdge(upperEdge(row.spinBox)) >= 3);
+        // Behind the handle, with the background above it.
+        const QRect groove(slider->width() - 20, 0, 6, slider->height());
+        QVERIFY(contrastOfEdge(slider->grab(groove).toImage()) >= 3);
+        const QPoint filled(8, slider->height() / 2);
+        slider->setValue(slider->maximum() / 2);
+        QCOMPARE(slider->grab().toImage().pixelColor(filled), next.color(QPalette::Highlight));
+        slider->setLayoutDirection(Qt::RightToLeft);
+        slider->setStyleSheet(" "); // as the host sets its sheet again
+        QVERIFY(slider->grab().toImage().pixelColor(filled) != next.color(QPalette::Highlight));
+        slider->setLayoutDirection(Qt::LeftToRight);
+        slider->setStyleSheet(QString());
     }
 }
 
