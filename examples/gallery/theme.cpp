@@ -13,7 +13,7 @@ namespace {
 
 QPalette paletteOf(Theme::Kind kind)
 {
-    if (kind == Theme::None) {
+    if (kind == Theme::Desktop || kind == Theme::None) {
         return QApplication::style()->standardPalette();
     }
     const bool dark = kind == Theme::TouchDark;
@@ -72,7 +72,7 @@ QIcon glyph(const QString &name, const QString &checked = QString())
 }
 
 // The editors' buttons have neither text nor icon: without a sheet the host
-// sets their look.
+// sets their look. The texts that the desktop sheet gave them are cleared.
 void setIcons(QWidget *root, bool on)
 {
     const auto buttons = root->findChildren<QToolButton *>();
@@ -87,6 +87,7 @@ void setIcons(QWidget *root, bool on)
         } else {
             continue;
         }
+        button->setText(QString());
         button->setIcon(on ? icon : QIcon());
         button->setIconSize(QSize(40, 40));
     }
@@ -98,6 +99,7 @@ QVector<Theme::Name> Theme::names()
 {
     return {{QStringLiteral("touch-dark"), tr("Touch, &dark")},
             {QStringLiteral("touch-light"), tr("Touch, &light")},
+            {QStringLiteral("desktop"), tr("D&esktop")},
             {QStringLiteral("none"), tr("&None")}};
 }
 
@@ -151,20 +153,25 @@ void Theme::adopt(QWidget *root)
 
 void Theme::apply(Kind kind)
 {
-    m_kind = kind;
-    QApplication::setPalette(paletteOf(kind));
-    if (kind == None) {
+    if (kind != m_kind) {
         qApp->setStyleSheet(QString());
         restoreSizes();
-    } else {
-        const QString sheet =
-            read(QStringLiteral("vantorslider:%1.qss").arg(names().at(kind).file));
-        qApp->setStyleSheet((QApplication::isRightToLeft() ? mirrored(sheet) : sheet)
-                            + read(QStringLiteral(":/gallery/chrome.qss")));
     }
+    m_kind = kind;
+    QApplication::setPalette(paletteOf(kind));
     const auto windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
         setIcons(window, kind == None);
+    }
+    if (kind == None) {
+        return;
+    }
+    const QString sheet = read(QStringLiteral("vantorslider:%1.qss").arg(names().at(kind).file));
+    if (kind == Desktop) {
+        qApp->setStyleSheet(sheet);
+    } else {
+        qApp->setStyleSheet((QApplication::isRightToLeft() ? mirrored(sheet) : sheet)
+                            + read(QStringLiteral(":/gallery/chrome.qss")));
     }
 }
 

@@ -14,7 +14,7 @@ class Theme : public QObject
     Q_OBJECT
 
 public:
-    enum Kind { TouchDark, TouchLight, None };
+    enum Kind { TouchDark, TouchLight, Desktop, None };
 
     struct Name
     {
