@@ -78,6 +78,7 @@ void AdjustPage::connectRow(Row *row, const QString &label, Value Tone::*field)
     row->setAutoRepeat(true);
     // Aligns the two kinds of rows without a theme, too.
     row->setButtonFixedWidth(51);
+    row->setSpinBoxFixedWidth(fieldWidth);
     connect(row, &Row::valueChanged, m_log, m_log->receiver(label, QStringLiteral("valueChanged")));
     connect(row, &Row::valueChanged, this, [this, label, field](Value val) {
         edit(label, [=](Edits &edits) { edits.tone.*field = val; });

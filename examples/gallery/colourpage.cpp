@@ -23,6 +23,7 @@ void setUpChannels(Editor *editor, int min, int max, const std::array<int, 3> &d
     editor->setDefaultValue(Editor::R, defaults[0]);
     editor->setDefaultValue(Editor::G, defaults[1]);
     editor->setDefaultValue(Editor::B, defaults[2]);
+    editor->setSpinBoxFixedWidths(Page::fieldWidth);
     editor->setVerticalSpacing(0);
     editor->setAutoRepeat(true);
     editor->setLastVerticalSpacerExpanding(false);

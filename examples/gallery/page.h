@@ -8,8 +8,6 @@
 
 #include <QtWidgets/QWidget>
 
-#include <type_traits>
-
 class QVBoxLayout;
 
 // A column of editors that change the picture, with a heading above each group.
@@ -18,6 +16,8 @@ class Page : public QWidget
     Q_OBJECT
 
 public:
+    static constexpr int fieldWidth = 120; // for six digits and a unit, without a theme
+
     Page(const QString &title, EditHistory *history, LogPane *log);
 
     // The names of the pictures of this page begin with the title in lower case.
@@ -41,13 +41,6 @@ protected:
     {
         auto *editor = new Editor;
         editor->setHorizontalSpacing(labelSpacing, controlSpacing);
-        // A composite editor needs the name for all of its rows.
-        using SetWidth = decltype(&Editor::setSpinBoxFixedWidth);
-        if constexpr (std::is_invocable_v<SetWidth, Editor *, int>) {
-            editor->setSpinBoxFixedWidth(fieldWidth);
-        } else {
-            editor->setSpinBoxFixedWidths(fieldWidth);
-        }
         addWidget(editor);
         m_history->watch(editor);
         connect(this, &Page::entryOptionsChanged, editor, &Editor::setEntryOptions);
@@ -69,7 +62,6 @@ protected:
 
     static constexpr int labelSpacing = 12;
     static constexpr int controlSpacing = 8;
-    static constexpr int fieldWidth = 120; // for six digits and a unit, without a theme
 
     EditHistory *const m_history;
     LogPane *const m_log;

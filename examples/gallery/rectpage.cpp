@@ -21,6 +21,7 @@ void RectPage::setUp(Rect *editor, const QString &name, const QStringList &label
         editor->setSingleStep(fields[i], step);
         editor->setPageStep(fields[i], 40);
     }
+    editor->setSpinBoxFixedWidths(fieldWidth);
     editor->setSuffixes(tr(" px"));
     editor->setVerticalSpacing(controlSpacing);
     editor->setAutoRepeat(true);
