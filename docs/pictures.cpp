@@ -1,18 +1,90 @@
-// The guide's pictures of single rows, which no page of the gallery shows:
-// guide_pictures FOLDER. They show real editors after real events.
+// The guide's pictures of single rows and of a dialog: guide_pictures FOLDER. They show
+// real editors after real events.
+// editors after real events.
+#include "alignlabels.h"
 #include "slidereditframe.h"
 #include "slidereditframedouble.h"
 #include "userevents.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtGui/QPainter>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QSlider>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QVBoxLayout>
 
 using Vantor::Widgets::SliderEditFrame;
 using Vantor::Widgets::SliderEditFrameDouble;
+
+namespace {
+
+// Four rows, of editors or of plain widgets of Qt, below a label and above a check box,
+// with OK beside them.
+QImage dialog(bool isOfEditors)
+{
+    QDialog window;
+    auto *const layout = new QGridLayout(&window);
+    int row = 0;
+    layout->addWidget(new QLabel("Changes apply to the picture."), row++, 0, 1, 3);
+    for (const char *text : {"Exposure", "Brightness", "Contrast", "Saturation"}) {
+        if (isOfEditors) {
+            auto *const editor = new SliderEditFrame;
+            editor->setLabelText(text);
+            editor->setValue(50);
+            layout->addWidget(editor, row++, 0, 1, 3);
+            continue;
+        }
+        auto *const slider = new QSlider(Qt::Horizontal);
+        auto *const field = new QSpinBox;
+        slider->setValue(50);
+        field->setValue(50);
+        layout->addWidget(new QLabel(text), row, 0);
+        layout->addWidget(slider, row, 1);
+        layout->addWidget(field, row++, 2);
+    }
+    layout->addWidget(new QCheckBox("Show the result at once"), row++, 0, 1, 3);
+    layout->addWidget(new QDialogButtonBox(QDialogButtonBox::Ok, Qt::Vertical), 0, 3, row, 1);
+    if (isOfEditors)
+        Vantor::Widgets::alignLabels(&window);
+    window.show();
+    QCoreApplication::processEvents();
+    window.resize(1, 1); // as small as its layout allows
+    QCoreApplication::processEvents();
+    return window.grab().toImage();
+}
+
+// The two side by side at 12 points, and their sizes for the guide's text.
+bool saveDialogs(const QString &path)
+{
+    const QFont usual = QApplication::font();
+    QFont font = usual;
+    font.setPointSize(12);
+    QApplication::setFont(font);
+    qApp->setStyleSheet("file:///vantorslider:desktop.qss");
+    const QImage ours = dialog(true);
+    qApp->setStyleSheet(QString());
+    const QImage plain = dialog(false);
+    QApplication::setFont(usual);
+    qInfo("dialog: %d x %d, of Qt %d x %d", ours.width(), ours.height(), plain.width(),
+          plain.height());
+    QImage pair(ours.width() + 16 + plain.width(), qMax(ours.height(), plain.height()),
+                QImage::Format_RGB32);
+    pair.fill(Qt::white);
+    QPainter painter(&pair);
+    painter.drawImage(0, 0, ours);
+    painter.drawImage(ours.width() + 16, 0, plain);
+    painter.end();
+    return pair.save(path);
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -23,6 +95,9 @@ int main(int argc, char *argv[])
     QApplication::setStyle("Fusion");
     QApplication application(argc, argv);
     QDir::addSearchPath("vantorslider", STYLES_DIR);
+
+    if (!saveDialogs(QString::fromLocal8Bit(argv[1]) + "/dialog-desktop.png"))
+        return 1;
 
     // A row of each kind.
     QWidget window;
