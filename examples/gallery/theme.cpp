@@ -166,7 +166,8 @@ void Theme::apply(Kind kind)
     if (kind == None) {
         return;
     }
-    const QString sheet = read(QStringLiteral("vantorslider:%1.qss").arg(names().at(kind).file));
+    const QString sheet = read(QStringLiteral("vantorslider:%1.qss").arg(names().at(kind).file))
+        + read(QStringLiteral(":/gallery/fields.qss"));
     if (kind == Desktop) {
         qApp->setStyleSheet(sheet);
     } else {
