@@ -36,17 +36,13 @@ void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard)
 }
 
 // A style sheet applies a changed property only after a polish.
-void markRefusedEntries(QAbstractSpinBox *spinBox, LineEditCal *calculator)
+void markRefusedEntry(QAbstractSpinBox *spinBox, LineEditCal *calculator)
 {
-    const auto mark = [spinBox, calculator](bool isRefused) {
-        spinBox->setProperty("isEntryRefused", isRefused);
-        for (QWidget *widget :
-             {static_cast<QWidget *>(spinBox), static_cast<QWidget *>(calculator)}) {
-            widget->style()->unpolish(widget);
-            widget->style()->polish(widget);
-        }
-    };
-    QObject::connect(calculator, &LineEditCal::entryRefusedChanged, spinBox, mark);
+    spinBox->setProperty("isEntryRefused", calculator->isEntryRefused());
+    for (QWidget *widget : {static_cast<QWidget *>(spinBox), static_cast<QWidget *>(calculator)}) {
+        widget->style()->unpolish(widget);
+        widget->style()->polish(widget);
+    }
 }
 
 bool isFinishingKey(const QKeyEvent *event)
@@ -54,9 +50,11 @@ bool isFinishingKey(const QKeyEvent *event)
     return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
 }
 
-bool isEscape(const QEvent *keyEvent)
+// Qt compares a key with the bindings of every platform: only a host that asks for it pays.
+bool isRestoringKey(const QEvent *keyEvent, const LineEditCal *calculator)
 {
-    return static_cast<const QKeyEvent *>(keyEvent)->matches(QKeySequence::Cancel);
+    return calculator != nullptr && calculator->has(EscapeRestores)
+        && static_cast<const QKeyEvent *>(keyEvent)->matches(QKeySequence::Cancel);
 }
 
 void keepDecimalPoint(QAbstractSpinBox *spinBox, const QEvent *event)

@@ -27,12 +27,14 @@ namespace Internal {
 // keyboard: the kind of on-screen keyboard that the host should show.
 void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard);
 
-// Sets the dynamic property "isEntryRefused" while a failed expression is marked.
-void markRefusedEntries(QAbstractSpinBox *spinBox, LineEditCal *calculator);
+// Brings the dynamic property "isEntryRefused" up to date: it is true while a failed expression is
+// marked.
+void markRefusedEntry(QAbstractSpinBox *spinBox, LineEditCal *calculator);
 
 bool isFinishingKey(const QKeyEvent *event);
-// For a key press or a shortcut override.
-bool isEscape(const QEvent *keyEvent);
+// Whether a key press or a shortcut override is to show the value again, if there is anything to
+// restore.
+bool isRestoringKey(const QEvent *keyEvent, const LineEditCal *calculator);
 
 // Reverts a change of locale by the host: the calculator always writes a decimal point, and with
 // a German locale the spin box would read 0.25 as 25.
@@ -109,13 +111,11 @@ void keepEntry(SpinBox *spinBox, QLineEdit *field, const QString &valueText, Cha
     }
 }
 
-// Whether Escape shows the value again: if an entry is pending, or if the last one failed and is
-// still marked.
+// Whether an entry is pending, or the last one failed and is still marked.
 template <typename SpinBox>
 bool isRestorable(const SpinBox *spinBox, const LineEditCal *calculator, const QString &valueText)
 {
-    return calculator != nullptr && calculator->has(EscapeRestores)
-        && (calculator->isEntryRefused() || !showsValue(spinBox, valueText));
+    return calculator->isEntryRefused() || !showsValue(spinBox, valueText);
 }
 
 template <typename SpinBox> void restoreValue(SpinBox *spinBox, LineEditCal *calculator)

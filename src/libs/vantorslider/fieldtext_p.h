@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QMetaProperty>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
@@ -8,14 +9,37 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
+// Where a class of spin box keeps its prefix and suffix. Each key in a field reads them,
+// and to find a property by its name costs more than to read it: the last class found is
+// kept.
+struct UnitProperties
+{
+    static const UnitProperties &of(const QMetaObject *box)
+    {
+        static UnitProperties last;
+        if (last.box != box) {
+            last = {box, box->property(box->indexOfProperty("prefix")),
+                    box->property(box->indexOfProperty("suffix"))};
+        }
+        return last;
+    }
+
+    const QMetaObject *box = nullptr;
+    QMetaProperty prefix;
+    QMetaProperty suffix;
+};
+
 // The text of a line edit, split into the prefix and suffix of its spin box, of any class, and the
 // entry between them.
 struct FieldText
 {
     FieldText(const QObject *spinBox, const QString &text) : entry(text)
     {
-        prefix = spinBox != nullptr ? spinBox->property("prefix").toString() : QString();
-        suffix = spinBox != nullptr ? spinBox->property("suffix").toString() : QString();
+        if (spinBox != nullptr) {
+            const UnitProperties &units = UnitProperties::of(spinBox->metaObject());
+            prefix = units.prefix.read(spinBox).toString();
+            suffix = units.suffix.read(spinBox).toString();
+        }
         if (entry.startsWith(prefix)) {
             entry.remove(0, prefix.length());
         } else {

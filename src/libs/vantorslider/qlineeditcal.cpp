@@ -132,8 +132,11 @@ bool LineEditCal::event(QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto *key = static_cast<QKeyEvent *>(event);
-        if ((key->matches(QKeySequence::Undo) && !isUndoAvailable())
-            || (key->matches(QKeySequence::Redo) && !isRedoAvailable())) {
+        // matches() is slow, and most keys type a character.
+        const bool isTyping = !key->text().isEmpty() && key->text().at(0).isPrint();
+        if (!isTyping
+            && ((!isUndoAvailable() && key->matches(QKeySequence::Undo))
+                || (!isRedoAvailable() && key->matches(QKeySequence::Redo)))) {
             event->ignore();
             return false;
         }
@@ -318,11 +321,20 @@ void LineEditCal::setShowResult(const QString &strText)
     setShownEntry(m_beforeText);
 }
 
+QEvent::Type LineEditCal::entryRefusedChange()
+{
+    static const auto type = static_cast<QEvent::Type>(QEvent::registerEventType());
+    return type;
+}
+
 void LineEditCal::setEntryRefused(bool isRefused)
 {
     if (m_isEntryRefused != isRefused) {
         m_isEntryRefused = isRefused;
-        Q_EMIT entryRefusedChanged(isRefused);
+        if (parent() != nullptr) {
+            QEvent change(entryRefusedChange());
+            QCoreApplication::sendEvent(parent(), &change);
+        }
     }
 }
 
@@ -330,7 +342,8 @@ void LineEditCal::setEntryRefused(bool isRefused)
 // only if the entry was corrected.
 void LineEditCal::setEntryText(const QString &entry, int cursorPosition)
 {
-    const FieldText shown(parent(), text());
+    // Most keys need no correction, and most fields have neither prefix nor suffix.
+    const FieldText shown(entry == text() ? nullptr : parent(), text());
     if (entry != shown.entry) {
         setResultText(shown.with(entry));
     }

@@ -3,6 +3,7 @@
 #include "entryoptions.h"
 #include "hostwindow_p.h"
 
+#include <QtCore/QEvent>
 #include <QtWidgets/QLineEdit>
 
 #include <regex>
@@ -52,11 +53,13 @@ public:
     // The entry with decimal points instead of decimal commas.
     QString pointed(const QString &entry) const;
     Internal::HostWindow &hostWindow() { return m_hostWindow; }
+    // Sent to the parent when isEntryRefused() has changed. A signal for it would cost each row
+    // 400 bytes, and most entries are accepted.
+    static QEvent::Type entryRefusedChange();
 
 Q_SIGNALS:
     // An expression that ended in "=" was evaluated, also if that failed.
     void signalsResult();
-    void entryRefusedChanged(bool isRefused);
 
 protected Q_SLOTS:
     void onSlotTextChanged(QString text);

@@ -17,7 +17,6 @@ SliderEditDoubleSpinBox::SliderEditDoubleSpinBox(QWidget *parent)
 {
     Internal::setUpCalculatorSpinBox(this, QStringLiteral("Vk_NumberFloat"));
     setLineEdit(m_pLineEditCal);
-    Internal::markRefusedEntries(this, m_pLineEditCal);
     connect(m_pLineEditCal, &LineEditCal::signalsResult, this,
             &SliderEditDoubleSpinBox::onSlotResultFinished);
 }
@@ -164,12 +163,16 @@ void SliderEditDoubleSpinBox::wheelEvent(QWheelEvent *event)
     QDoubleSpinBox::wheelEvent(event);
 }
 
-// Takes precedence over a host's shortcut on the key that restores the value.
+// The key that restores the value takes precedence over a host's shortcut.
 bool SliderEditDoubleSpinBox::event(QEvent *event)
 {
-    if (event->type() == QEvent::ShortcutOverride && Internal::isEscape(event)
+    if (event->type() == QEvent::ShortcutOverride && Internal::isRestoringKey(event, m_pLineEditCal)
         && Internal::isRestorable(this, m_pLineEditCal, textFromValue(value()))) {
         event->accept();
+        return true;
+    }
+    if (event->type() == LineEditCal::entryRefusedChange() && m_pLineEditCal != nullptr) {
+        Internal::markRefusedEntry(this, m_pLineEditCal);
         return true;
     }
     return QDoubleSpinBox::event(event);
@@ -177,7 +180,7 @@ bool SliderEditDoubleSpinBox::event(QEvent *event)
 
 void SliderEditDoubleSpinBox::keyPressEvent(QKeyEvent *event)
 {
-    if (Internal::isEscape(event)
+    if (Internal::isRestoringKey(event, m_pLineEditCal)
         && Internal::isRestorable(this, m_pLineEditCal, textFromValue(value()))) {
         EditSpan::Scope edit(EditSpan::around(this));
         Internal::restoreValue(this, m_pLineEditCal);

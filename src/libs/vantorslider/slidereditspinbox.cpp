@@ -16,7 +16,6 @@ SliderEditSpinBox::SliderEditSpinBox(QWidget *parent)
 {
     Internal::setUpCalculatorSpinBox(this, QStringLiteral("Vk_Number"));
     setLineEdit(m_pLineEditCal);
-    Internal::markRefusedEntries(this, m_pLineEditCal);
     connect(m_pLineEditCal, &LineEditCal::signalsResult, this,
             &SliderEditSpinBox::onSlotResultFinished);
 }
@@ -124,12 +123,16 @@ void SliderEditSpinBox::wheelEvent(QWheelEvent *event)
     QSpinBox::wheelEvent(event);
 }
 
-// Takes precedence over a host's shortcut on the key that restores the value.
+// The key that restores the value takes precedence over a host's shortcut.
 bool SliderEditSpinBox::event(QEvent *event)
 {
-    if (event->type() == QEvent::ShortcutOverride && Internal::isEscape(event)
+    if (event->type() == QEvent::ShortcutOverride && Internal::isRestoringKey(event, m_pLineEditCal)
         && Internal::isRestorable(this, m_pLineEditCal, textFromValue(value()))) {
         event->accept();
+        return true;
+    }
+    if (event->type() == LineEditCal::entryRefusedChange() && m_pLineEditCal != nullptr) {
+        Internal::markRefusedEntry(this, m_pLineEditCal);
         return true;
     }
     return QSpinBox::event(event);
@@ -137,7 +140,7 @@ bool SliderEditSpinBox::event(QEvent *event)
 
 void SliderEditSpinBox::keyPressEvent(QKeyEvent *event)
 {
-    if (Internal::isEscape(event)
+    if (Internal::isRestoringKey(event, m_pLineEditCal)
         && Internal::isRestorable(this, m_pLineEditCal, textFromValue(value()))) {
         EditSpan::Scope edit(EditSpan::around(this));
         Internal::restoreValue(this, m_pLineEditCal);
