@@ -226,6 +226,12 @@ void tst_SliderEditFrame::sequences_data()
             "scale logarithmic" + refused + "hold 60: 60 | drop | " + scale + "singleStep 7 | "
                 + "range 0 200" + refused + "ranges: 0..200 | range 1 100 | ranges: 1..100 | "
                 + "groove after: 70 | right: 77 | shown: 77");
+    // Past the row, which would refuse it: there is no logarithm of the minimum.
+    addForBoth("logarithmic: a minimum of the spin box below 0", [](auto &user) {
+        user.play("range 1 100 | scale logarithmic | value 50");
+        user.row.spinBox->setProperty("minimum", -5 * user.position);
+        user.play("groove after: -5");
+    });
     addDouble("logarithmic: later decimals",
               scale + "value 316 | decimals 3 | ranges: 0..1000 | handle: 500 | plus: 317");
     addInt("sampled without release mode",

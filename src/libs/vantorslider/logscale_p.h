@@ -6,13 +6,14 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// The last position of a logarithmic slider, for the maximum. Position 0 is the minimum, which is
-// above 0; the value grows by the same factor at each position.
+// The last position of a logarithmic slider, for the maximum. Position 0 is the minimum; the value
+// grows by the same factor at each position. The minimum is above 0 unless a host has changed the
+// range of the spin box itself: there is only the minimum then.
 constexpr int lastLogPosition = 1000;
 
 inline int logPosition(double value, double least, double greatest)
 {
-    if (value <= least) {
+    if (value <= least || least <= 0) {
         return 0;
     }
     if (value >= greatest) {
@@ -25,7 +26,7 @@ inline int logPosition(double value, double least, double greatest)
 // Exact at both ends.
 inline double logValue(int position, double least, double greatest)
 {
-    if (position <= 0) {
+    if (position <= 0 || least <= 0) {
         return least;
     }
     if (position >= lastLogPosition) {
