@@ -8,30 +8,12 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-namespace {
-
-// Filters the locale event: Qt would write the value into the line edit, which the calculator
-// replaces next.
-class LocaleChangeFilter : public QObject
-{
-public:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        Q_UNUSED(watched)
-        return event->type() == QEvent::LocaleChange;
-    }
-};
-
-} // namespace
-
 void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard)
 {
     spinBox->setAttribute(Qt::WA_AcceptTouchEvents, true);
     spinBox->setAttribute(Qt::WA_MacShowFocusRect, false);
     spinBox->setFocusPolicy(Qt::StrongFocus);
     spinBox->setProperty("Quelmo_VK", keyboard);
-    LocaleChangeFilter filter;
-    spinBox->installEventFilter(&filter);
     spinBox->setLocale(QLocale::c());
 }
 

@@ -133,7 +133,8 @@ bool LineEditCal::event(QEvent *event)
     if (event->type() == QEvent::ShortcutOverride) {
         const auto *key = static_cast<QKeyEvent *>(event);
         // matches() is slow, and most keys type a character.
-        const bool isTyping = !key->text().isEmpty() && key->text().at(0).isPrint();
+        const bool isTyping = !key->text().isEmpty()
+            && (key->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier;
         if (!isTyping
             && ((!isUndoAvailable() && key->matches(QKeySequence::Undo))
                 || (!isRedoAvailable() && key->matches(QKeySequence::Redo)))) {

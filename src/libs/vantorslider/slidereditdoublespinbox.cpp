@@ -265,6 +265,12 @@ void SliderEditDoubleSpinBox::hideEvent(QHideEvent *event)
 
 void SliderEditDoubleSpinBox::changeEvent(QEvent *event)
 {
+    // The constructor sets the locale before it installs the field. Qt would write the value into
+    // the field that is replaced then.
+    if (event->type() == QEvent::LocaleChange && m_pLineEditCal != nullptr
+        && m_pLineEditCal->parent() == nullptr) {
+        return;
+    }
     QDoubleSpinBox::changeEvent(event);
     Internal::keepDecimalPoint(this, event);
 }

@@ -207,6 +207,12 @@ void SliderEditSpinBox::hideEvent(QHideEvent *event)
 
 void SliderEditSpinBox::changeEvent(QEvent *event)
 {
+    // The constructor sets the locale before it installs the field. Qt would write the value into
+    // the field that is replaced then.
+    if (event->type() == QEvent::LocaleChange && m_pLineEditCal != nullptr
+        && m_pLineEditCal->parent() == nullptr) {
+        return;
+    }
     QSpinBox::changeEvent(event);
     Internal::keepDecimalPoint(this, event);
 }
