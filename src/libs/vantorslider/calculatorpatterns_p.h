@@ -3,7 +3,6 @@
 #include <QtCore/QChar>
 
 #include <regex>
-#include <string_view>
 
 namespace Vantor {
 namespace Widgets {
@@ -18,9 +17,28 @@ public:
     static const CalculatorPatterns &instance();
 
     // Whether the user may type the character. No character outside ASCII is accepted.
-    static bool isAccepted(QChar character) { return contains("0123456789.-+*/(),=", character); }
+    static bool isAccepted(QChar character)
+    {
+        return (character >= QLatin1Char('0') && character <= QLatin1Char('9'))
+            || character == QLatin1Char('.') || isMark(character);
+    }
     // Operators, parentheses, comma and "=", which separate numbers.
-    static bool isMark(QChar character) { return contains("-+*/(),=", character); }
+    static bool isMark(QChar character)
+    {
+        switch (character.unicode()) {
+        case '-':
+        case '+':
+        case '*':
+        case '/':
+        case '(':
+        case ')':
+        case ',':
+        case '=':
+            return true;
+        default:
+            return false;
+        }
+    }
 
     const std::regex character;
     const std::regex mark;
@@ -29,11 +47,6 @@ public:
 
 private:
     CalculatorPatterns();
-
-    static bool contains(std::string_view set, QChar character)
-    {
-        return set.find(character.toLatin1()) != std::string_view::npos;
-    }
 };
 
 } // namespace Internal
