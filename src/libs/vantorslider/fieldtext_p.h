@@ -5,6 +5,8 @@
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
+#include <utility>
+
 namespace Vantor {
 namespace Widgets {
 namespace Internal {
@@ -33,7 +35,7 @@ struct UnitProperties
 // entry between them.
 struct FieldText
 {
-    FieldText(const QObject *spinBox, const QString &text) : entry(text)
+    FieldText(const QObject *spinBox, QString text) : entry(std::move(text))
     {
         if (spinBox != nullptr) {
             const UnitProperties &units = UnitProperties::of(spinBox->metaObject());

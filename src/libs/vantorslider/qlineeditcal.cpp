@@ -52,7 +52,7 @@ const QString &LineEditCal::beforeResult()
 
 QString LineEditCal::initialResultText() const
 {
-    const double given = static_cast<double>(m_initialResult);
+    const auto given = static_cast<double>(m_initialResult);
     if (!has(ExactEntry)) {
         return QString::number(given, 'g', 6);
     }

@@ -15,7 +15,7 @@ namespace {
 // placeholder of a hidden lock unless it is set, so that the rows of both panels stay aligned.
 void markBesideLock(QWidget *placeholder, bool isBesideLock)
 {
-    constexpr char property[] = "isBesideLock";
+    constexpr const char *property = "isBesideLock";
     if (placeholder->property(property).toBool() != isBesideLock) {
         placeholder->setProperty(property, isBesideLock);
         Internal::applyStyleSheet(placeholder);

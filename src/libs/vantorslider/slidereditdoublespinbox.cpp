@@ -237,7 +237,7 @@ void SliderEditDoubleSpinBox::focusOutEvent(QFocusEvent *event)
     }
     if (m_pLineEditCal != nullptr && m_pLineEditCal->isLeftForOwnPopup(event)) {
         m_pLineEditCal->event(event);
-        QWidget::focusOutEvent(event);
+        update(); // without the base, which would finish the entry
         return;
     }
     EditSpan::Scope edit(EditSpan::around(this));

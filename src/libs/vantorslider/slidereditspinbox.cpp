@@ -179,7 +179,7 @@ void SliderEditSpinBox::focusOutEvent(QFocusEvent *event)
     }
     if (m_pLineEditCal != nullptr && m_pLineEditCal->isLeftForOwnPopup(event)) {
         m_pLineEditCal->event(event);
-        QWidget::focusOutEvent(event);
+        update(); // without the base, which would finish the entry
         return;
     }
     EditSpan::Scope edit(EditSpan::around(this));
