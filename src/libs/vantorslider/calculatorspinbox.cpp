@@ -32,7 +32,7 @@ bool isFinishingKey(const QKeyEvent *event)
     return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
 }
 
-// Qt compares a key with the bindings of every platform: only a host that asks for it pays.
+// matches() compares a key with the bindings of every platform, so the option is tested first.
 bool isRestoringKey(const QEvent *keyEvent, const LineEditCal *calculator)
 {
     return calculator != nullptr && calculator->has(EscapeRestores)

@@ -53,7 +53,7 @@ inline std::optional<double> numberIn(const QString &text)
 // minimum for a number out of range, and for text that it can't read. A result can be out of
 // range: the calculator clamps it as float to the range of the last setSpinBoxCal() and rounds it
 // to decimals of its own. Text that is no number returns the current value. So does the result
-// that is shown instead of a failed expression, if it is the value in six digits.
+// that is shown instead of a failed expression, if it is the value formatted with six digits.
 template <typename SpinBox>
 double numberFromText(const SpinBox *spinBox, const LineEditCal *calculator, const QString &text)
 {

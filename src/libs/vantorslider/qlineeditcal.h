@@ -86,8 +86,8 @@ private:
     std::vector<QString> m_vecStringResults;
     QString m_beforeText;
     QString m_beforeResult;
-    // These four regular expressions and two of the flags below are part of the interface. They
-    // are copies of those in CalculatorPatterns, which the code uses.
+    // These four regular expressions and two of the flags below are part of the interface. No
+    // code uses them; the filter uses CalculatorPatterns::isAccepted() and isMark().
     std::regex m_regex;
     std::regex m_regexMark;
     std::regex m_regexFourOperation;

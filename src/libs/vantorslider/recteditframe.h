@@ -317,8 +317,8 @@ public:
     void setPositionLockEnable(bool b);
 
     /*!
-        Shows the button of the size lock if \a b is true, else its placeholder, and sets how the
-        lock works to \a type; false and SizeScaleLock by default. The lock is not turned on or
+        Shows the button of the size lock if \a b is true, else its placeholder, and sets the type
+        of the lock to \a type; false and SizeScaleLock by default. The lock is not turned on or
         off.
     */
     void setSizeLockEnable(bool b, LockType type);
@@ -335,7 +335,7 @@ public:
         by the current ratio.
 
         If it rounds to 0, the width is free and a change of the height sets the width to 0. A
-        negative ratio is invalid.
+        negative ratio is invalid: the sizes are then undefined.
     */
     void setSizeLock(qreal ratio);
 

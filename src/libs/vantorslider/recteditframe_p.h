@@ -11,7 +11,7 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// The four fields, the state of the two locks, and the signals of both.
+// The four fields and the state of the two locks; emits the editor's signals.
 class RectEditFramePrivate : public QObject
 {
     Q_OBJECT

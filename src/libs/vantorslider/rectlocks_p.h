@@ -21,10 +21,10 @@ struct LockedField
     // Its value when the lock was turned on, or its part of a ratio.
     int basis;
 
-    // Only for width and height: the field with the position of the side, and the one difference
-    // between the two. The height is computed from the limited width before it is tested, but the
-    // width from the height as the user set it.
+    // Only for width and height: the field with the position of the side.
     SliderEditFrame *position = nullptr;
+    // Whether the partner is computed from the limited value before it is tested. True only for the
+    // width; the width itself is computed from the height as the user set it.
     bool isLimitedFirst = false;
 };
 

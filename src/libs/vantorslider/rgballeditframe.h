@@ -68,7 +68,7 @@ public:
 
     /*!
         Sets the gap between label and slider to \a nLabelSlider, and the gaps between slider,
-        spin box and buttons to \a nSliderButton, in pixels, in all rows.
+        spin box and buttons to \a nSliderButton, in pixels, in all rows; 0 by default.
     */
     void setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton);
 
@@ -270,8 +270,9 @@ public:
     void setTimeSamplingRate(int val);
 
     /*!
-        Gives the spare height to the space below the rows if \a b is true, else to the rows. On a
-        visible editor this takes effect with its next layout pass.
+        Lets the space below the rows grow if \a b is true, else removes it; by default it is 20
+        pixels high. The RGBEditFrame with the channels also grows and has such a space of its
+        own. On a visible editor this takes effect with its next layout pass.
     */
     void setLastVerticalSpacerExpanding(bool b);
 

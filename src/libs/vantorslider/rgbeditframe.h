@@ -66,7 +66,7 @@ public:
 
     /*!
         Sets the gap between label and slider to \a nLabelSlider, and the gaps between slider,
-        spin box and buttons to \a nSliderButton, in pixels, in all rows.
+        spin box and buttons to \a nSliderButton, in pixels, in all rows; 0 by default.
     */
     void setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton);
 

@@ -77,8 +77,8 @@ public:
     ~SliderEditFrame() override;
 
     /*!
-        Sets the gap between label and slider to \a nLabelSlider, and the gaps between slider
-        and spin box and between spin box and buttons to \a nSliderButton, in pixels.
+        Sets the gap between label and slider to \a nLabelSlider, and the gaps between slider,
+        spin box and buttons to \a nSliderButton, in pixels; 0 by default.
     */
     void setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton);
 
@@ -91,19 +91,28 @@ public:
     /*! Returns the label's text. */
     QString labelText() const;
 
-    /*! Sets the label's maximum width to \a maxw and its minimum width to \a minw pixels. */
+    /*!
+        Sets the label's maximum width to \a maxw and its minimum width to \a minw pixels. If they
+        conflict, the minimum takes precedence.
+    */
     void setLabelWidthRange(int maxw, int minw);
 
     /*! Makes the label \a w pixels wide; by default it is as wide as its text. */
     void setLabelFixedWidth(int w);
 
-    /*! Sets each button's maximum width to \a maxw and its minimum width to \a minw pixels. */
+    /*!
+        Sets each button's maximum width to \a maxw and its minimum width to \a minw pixels. If they
+        conflict, the minimum takes precedence.
+    */
     void setButtonWidthRange(int maxw, int minw);
 
     /*! Makes each button \a w pixels wide; 49 by default. */
     void setButtonFixedWidth(int w);
 
-    /*! Sets the spin box's maximum width to \a maxw and its minimum width to \a minw pixels. */
+    /*!
+        Sets the spin box's maximum width to \a maxw and its minimum width to \a minw pixels. If
+        they conflict, the minimum takes precedence.
+    */
     void setSpinBoxWidthRange(int maxw, int minw);
 
     /*! Makes the spin box \a w pixels wide; 65 by default. */
@@ -131,7 +140,7 @@ public:
     /*! Shows or hides both buttons; they are visible by default. */
     void setButtonVisible(bool b);
 
-    /*! Sets the slider's dynamic property \a name to \a value, for style sheets. */
+    /*! Sets the slider's property \a name to \a value: one of Qt's, or one for style sheets. */
     void setSliderProperty(const char *name, const QVariant &value);
 
     /*!
@@ -227,7 +236,10 @@ public:
     /*! Returns the step of the buttons and the spin box. */
     int singleStep();
 
-    /*! Sets the step of a click on the slider's groove to \a val, 10 by default. */
+    /*!
+        Sets the step of a click on the slider's groove to the absolute value of \a val, 10 by
+        default.
+    */
     void setPageStep(int val);
 
     /*! Returns the step of a click on the slider's groove. */
@@ -281,8 +293,8 @@ public:
     void setValueChangeDirection(int directions, int val);
 
     /*!
-        Returns whether a mouse button is down on the slider; false as soon as the pointer
-        leaves it.
+        Returns whether a mouse button is down on the slider; false after a leave event, which Qt
+        does not send while a drag stays in the window.
     */
     bool isMousePressed() const;
 

@@ -19,7 +19,7 @@ namespace Internal {
 class HostWindow;
 } // namespace Internal
 
-// The slider of a row: knows whether a mouse button is down on it and ignores the wheel, so
+// The slider of a row: tracks whether a mouse button is down on it and ignores the wheel, so
 // that the page around it scrolls.
 class SliderEditSlider : public QSlider
 {

@@ -80,7 +80,7 @@ public:
     explicit SliderEditFrameDouble(QWidget *parent = nullptr);
     ~SliderEditFrameDouble() override;
 
-    /*! See SliderEditFrame::setHorizontalSpacing(); in pixels. */
+    /*! Sets the gaps in the row in pixels, see SliderEditFrame::setHorizontalSpacing(). */
     void setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton);
 
     /*! Shows \a text in the label, see SliderEditFrame::setLabelText(). */
@@ -89,19 +89,28 @@ public:
     /*! Returns the label's text. */
     QString labelText() const;
 
-    /*! Sets the label's maximum width to \a maxw and its minimum width to \a minw pixels. */
+    /*!
+        Sets the label's maximum width to \a maxw and its minimum width to \a minw pixels. If they
+        conflict, the minimum takes precedence.
+    */
     void setLabelWidthRange(int maxw, int minw);
 
     /*! Makes the label \a w pixels wide; 80 by default. */
     void setLabelFixedWidth(int w);
 
-    /*! Sets each button's maximum width to \a maxw and its minimum width to \a minw pixels. */
+    /*!
+        Sets each button's maximum width to \a maxw and its minimum width to \a minw pixels. If they
+        conflict, the minimum takes precedence.
+    */
     void setButtonWidthRange(int maxw, int minw);
 
     /*! Makes each button \a w pixels wide; 51 by default. */
     void setButtonFixedWidth(int w);
 
-    /*! Sets the spin box's maximum width to \a maxw and its minimum width to \a minw pixels. */
+    /*!
+        Sets the spin box's maximum width to \a maxw and its minimum width to \a minw pixels. If
+        they conflict, the minimum takes precedence.
+    */
     void setSpinBoxWidthRange(int maxw, int minw);
 
     /*! Makes the spin box \a w pixels wide; 65 by default. */
@@ -122,7 +131,7 @@ public:
     /*! Shows or hides both buttons; they are visible by default. \since 1.1 */
     void setButtonVisible(bool b);
 
-    /*! Sets the slider's dynamic property \a name to \a value, for style sheets. */
+    /*! Sets the slider's property \a name to \a value: one of Qt's, or one for style sheets. */
     void setSliderProperty(const char *name, const QVariant &value);
 
     /*!
@@ -267,8 +276,8 @@ public:
     void setValueChangeDirection(int directions, int val);
 
     /*!
-        Returns whether a mouse button is down on the slider; false as soon as the pointer
-        leaves it. \since 1.1
+        Returns whether a mouse button is down on the slider, see SliderEditFrame::isMousePressed().
+        \since 1.1
     */
     bool isMousePressed() const;
 
