@@ -3,6 +3,8 @@
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 
+#include <memory>
+
 namespace Vantor {
 namespace Widgets {
 namespace Internal {
@@ -12,6 +14,38 @@ namespace {
 void allowAnyDirection(SliderEditFrame *field)
 {
     field->setValueChangeDirection(SliderEditFrame::AllowedToAny, field->value());
+}
+
+// A spacer above or below a lock. It is never wider than the lock's placeholder: a style sheet
+// that collapses the placeholder collapses the column.
+class LockSpacer : public QSpacerItem
+{
+public:
+    LockSpacer(const QSpacerItem &form, const QWidget *placeholder)
+        : QSpacerItem(form), m_placeholder(placeholder)
+    {
+    }
+
+    QSize sizeHint() const override
+    {
+        return QSpacerItem::sizeHint().boundedTo(m_placeholder->maximumSize());
+    }
+    QSize minimumSize() const override
+    {
+        return QSpacerItem::minimumSize().boundedTo(m_placeholder->maximumSize());
+    }
+
+private:
+    const QWidget *m_placeholder;
+};
+
+// Replaces the form's spacer at that index.
+QSpacerItem *collapsibleSpacer(QBoxLayout *column, int index, const QWidget *placeholder)
+{
+    const std::unique_ptr<QLayoutItem> form(column->takeAt(index));
+    auto *spacer = new LockSpacer(*form->spacerItem(), placeholder);
+    column->insertItem(index, spacer);
+    return spacer;
 }
 
 } // namespace
@@ -36,6 +70,14 @@ void RectEditFramePrivate::createWidgets()
     // The buttons have no texts.
     ui->toolButtonLockPosition->setAccessibleName(RectEditFrame::tr("Lock position"));
     ui->toolButtonLockSize->setAccessibleName(RectEditFrame::tr("Lock size"));
+    ui->verticalSpacer_5 =
+        collapsibleSpacer(ui->verticalLayoutLockPosition, 0, ui->frameSpacerLockPosition);
+    ui->verticalSpacer_4 =
+        collapsibleSpacer(ui->verticalLayoutLockPosition, 2, ui->frameSpacerLockPosition);
+    ui->verticalSpacer_2 =
+        collapsibleSpacer(ui->verticalLayoutLockSize, 0, ui->frameSpacerLockSize);
+    ui->verticalSpacer_3 =
+        collapsibleSpacer(ui->verticalLayoutLockSize, 2, ui->frameSpacerLockSize);
     m_pEditer->setPositionLockEnable(false);
     m_pEditer->setSizeLockEnable(false, RectEditFrame::SizeScaleLock);
 }
