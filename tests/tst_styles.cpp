@@ -24,7 +24,9 @@ private Q_SLOTS:
     void cleanup();
     void contrast();
     void glyphs();
-    void largeFont();
+    void disabled();
+    void sizes_data();
+    void sizes();
     void edges();
     void newPalette();
     void lockColumn();
@@ -78,6 +80,21 @@ double contrastOfEdge(const QImage &edge)
     return most;
 }
 
+// That of the lightest and the darkest pixel.
+double contrastWithin(QWidget *widget)
+{
+    const QImage image = widget->grab().toImage();
+    QColor darkest = Qt::white, lightest = Qt::black;
+    for (int i = 0; i < image.width() * image.height(); ++i) {
+        const QColor color = image.pixelColor(i % image.width(), i / image.width());
+        if (qGray(color.rgb()) < qGray(darkest.rgb()))
+            darkest = color;
+        if (qGray(color.rgb()) > qGray(lightest.rgb()))
+            lightest = color;
+    }
+    return contrastOf(darkest, lightest);
+}
+
 // "#0b5cad" or "palette(highlighted-text)"
 QColor colorOf(const QString &text, const QPalette &palette)
 {
@@ -105,6 +122,13 @@ private:
         return QObject::eventFilter(watched, event);
     }
 };
+
+// The parts of an editor that the user handles.
+QList<QWidget *> partsOf(const QWidget *editor)
+{
+    return editor->findChildren<QWidget *>(
+        QRegularExpression("^(slider|spinBox|sliderEditSubtract|sliderEditPlus|toolButton.*)$"));
+}
 
 QImage picture(QWidget *widget)
 {
@@ -169,8 +193,9 @@ void tst_Styles::glyphs()
         QSKIP("The sheet has no pictures.");
     for (QWidget *editor : QList<QWidget *> {new RectEditFrame, new RGBEditFrame}) {
         EditorUser user(editor);
-        const QList<QWidget *> parts = editor->findChildren<QWidget *>(
-            QRegularExpression("^(slider|sliderEditSubtract|sliderEditPlus|toolButton.*)$"));
+        QList<QWidget *> parts = partsOf(editor);
+        for (const EditorRow &row : user.rows)
+            parts.removeOne(row.spinBox);
         const auto pictures = [&user, &parts](const QString &sheet) {
             user.page.setStyleSheet(sheet);
             QList<QImage> images;
@@ -186,20 +211,49 @@ void tst_Styles::glyphs()
     }
 }
 
-void tst_Styles::largeFont()
+// Each part is paler than while it is enabled.
+void tst_Styles::disabled()
+{
+    QFETCH_GLOBAL(QString, sheet);
+    for (QWidget *editor : QList<QWidget *> {new RectEditFrame, new RGBEditFrame}) {
+        EditorUser user(editor);
+        user.page.setStyleSheet(sheet);
+        if (auto *const rect = qobject_cast<RectEditFrame *>(editor))
+            rect->setPositionLock(true);
+        QVector<double> contrasts;
+        const auto parts = partsOf(editor);
+        for (QWidget *part : parts)
+            contrasts.append(contrastWithin(part));
+        editor->setEnabled(false);
+        for (int i = 0; i < parts.size(); ++i)
+            QVERIFY2(contrastWithin(parts[i]) < 0.8 * contrasts[i],
+                     qPrintable(parts[i]->objectName()));
+    }
+}
+
+void tst_Styles::sizes_data()
+{
+    QTest::addColumn<double>("points");
+    QTest::newRow("small font") << 9.0;
+    QTest::newRow("large font") << 1.5 * m_font.pointSizeF();
+}
+
+// Targets are large enough, and labels and fields have room for their texts.
+void tst_Styles::sizes()
 {
     QFETCH_GLOBAL(QString, sheet);
     QFETCH_GLOBAL(int, target);
     QFETCH_GLOBAL(int, slider);
+    QFETCH(const double, points);
     QFont font = m_font;
-    font.setPointSizeF(font.pointSizeF() * 1.5);
+    font.setPointSizeF(points);
     QApplication::setFont(font);
     EditorUser user(new RectEditFrame); // with its locks
     user.page.setStyleSheet(sheet);
     for (const EditorRow &row : user.rows) {
         row.whole->setLabelText("Height");
-        row.whole->setRange(-1920, 1920);
-        row.whole->setValue(-1920);
+        row.whole->setRange(0, 88888);
+        row.whole->setValue(88888);
     }
     // From the rows up to the page.
     for (int i = 0; i < 4; ++i)
