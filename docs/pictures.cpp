@@ -1,6 +1,5 @@
 // The guide's pictures of single rows and of a dialog: guide_pictures FOLDER. They show
 // real editors after real events.
-// editors after real events.
 #include "alignlabels.h"
 #include "slidereditframe.h"
 #include "slidereditframedouble.h"
@@ -27,8 +26,12 @@ namespace {
 
 // Four rows, of editors or of plain widgets of Qt, below a label and above a check box,
 // with OK beside them.
-QImage dialog(bool isOfEditors)
+QImage dialog(bool isOfEditors, int pointSize)
 {
+    QFont font = QApplication::font();
+    font.setPointSize(pointSize);
+    QApplication::setFont(font);
+    qApp->setStyleSheet(isOfEditors ? "file:///vantorslider:desktop.qss" : QString());
     QDialog window;
     auto *const layout = new QGridLayout(&window);
     int row = 0;
@@ -55,25 +58,22 @@ QImage dialog(bool isOfEditors)
         Vantor::Widgets::alignLabels(&window);
     window.show();
     QCoreApplication::processEvents();
-    window.resize(1, 1); // as small as its layout allows
+    window.adjustSize();
     QCoreApplication::processEvents();
     return window.grab().toImage();
 }
 
-// The two side by side at 12 points, and their sizes for the guide's text.
+// The two side by side at 12 points, and the sizes at 12 and 9 for the guide's text.
 bool saveDialogs(const QString &path)
 {
     const QFont usual = QApplication::font();
-    QFont font = usual;
-    font.setPointSize(12);
-    QApplication::setFont(font);
-    qApp->setStyleSheet("file:///vantorslider:desktop.qss");
-    const QImage ours = dialog(true);
-    qApp->setStyleSheet(QString());
-    const QImage plain = dialog(false);
+    for (const int points : {9, 12}) {
+        const QSize ours = dialog(true, points).size(), plain = dialog(false, points).size();
+        qInfo("dialog at %d points: %d x %d, of Qt %d x %d", points, ours.width(), ours.height(),
+              plain.width(), plain.height());
+    }
+    const QImage ours = dialog(true, 12), plain = dialog(false, 12);
     QApplication::setFont(usual);
-    qInfo("dialog: %d x %d, of Qt %d x %d", ours.width(), ours.height(), plain.width(),
-          plain.height());
     QImage pair(ours.width() + 16 + plain.width(), qMax(ours.height(), plain.height()),
                 QImage::Format_RGB32);
     pair.fill(Qt::white);
