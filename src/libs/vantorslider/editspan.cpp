@@ -40,8 +40,11 @@ EditSpan *EditSpan::around(const QWidget *widget)
     EditSpan *span = nullptr;
     while (span == nullptr && !widget->isWindow() && widget->parentWidget() != nullptr) {
         widget = widget->parentWidget();
-        span = find<SliderEditFrame, SliderEditFrameDouble, RectEditFrame, RGBEditFrame,
-                    RGBAllEditFrame, RGBOpacityEditFrame>(widget);
+        // One cast instead of six for the widgets between an editor and the child.
+        if (qobject_cast<const QFrame *>(widget) != nullptr) {
+            span = find<SliderEditFrame, SliderEditFrameDouble, RectEditFrame, RGBEditFrame,
+                        RGBAllEditFrame, RGBOpacityEditFrame>(widget);
+        }
     }
     return span;
 }

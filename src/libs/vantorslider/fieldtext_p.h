@@ -42,15 +42,15 @@ struct FieldText
             prefix = units.prefix.read(spinBox).toString();
             suffix = units.suffix.read(spinBox).toString();
         }
-        if (entry.startsWith(prefix)) {
-            entry.remove(0, prefix.length());
-        } else {
+        if (prefix.isEmpty() || !entry.startsWith(prefix)) {
             prefix.clear();
-        }
-        if (entry.endsWith(suffix)) {
-            entry.chop(suffix.length());
         } else {
+            entry.remove(0, prefix.length());
+        }
+        if (suffix.isEmpty() || !entry.endsWith(suffix)) {
             suffix.clear();
+        } else {
+            entry.chop(suffix.length());
         }
     }
 

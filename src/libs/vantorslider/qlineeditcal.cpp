@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
+#include <utility>
 
 namespace Vantor {
 namespace Widgets {
@@ -148,24 +149,22 @@ bool LineEditCal::event(QEvent *event)
 // Filters the text or, if it ends in "=", evaluates it and emits signalsResult().
 void LineEditCal::onSlotTextChanged(QString text)
 {
-    FieldText shown(parent(), text);
+    FieldText shown(parent(), std::move(text));
     Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     if (isModified()) {
         setEntryRefused(false); // the user may have typed the shown result
         edit.begin(Internal::EditSpan::Entry);
     }
-    const QString entry = pointed(shown.entry);
-    if (entry != shown.entry) {
+    if (has(DecimalComma)) {
+        shown.entry = pointed(shown.entry);
         const QSignalBlocker blocker(this);
-        setEntryText(entry, cursorPosition() - static_cast<int>(shown.prefix.length()));
-        shown.entry = entry;
+        setEntryText(shown.entry, cursorPosition() - static_cast<int>(shown.prefix.length()));
     }
     if (shown.entry == beforeResult()) {
         return;
     }
     setEntryRefused(false);
     if (shown.entry.isEmpty()) {
-        m_beforeText.clear();
         return;
     }
     m_cursorPosition = cursorPosition() - static_cast<int>(shown.prefix.length());
@@ -178,7 +177,7 @@ void LineEditCal::onSlotTextChanged(QString text)
         return;
     }
     const QSignalBlocker blocker(this);
-    setTextFormat(shown.entry);
+    setTextFormat(std::move(shown.entry));
 }
 
 // Only the character before the cursor is tested, so pasted text that ends in an accepted
@@ -190,7 +189,7 @@ void LineEditCal::setTextFormat(QString strText)
     }
     const int last = qMax(m_cursorPosition - 1, 0);
     if (CalculatorPatterns::isAccepted(strText.at(last))) {
-        setExpressionFormat(strText);
+        setExpressionFormat(std::move(strText));
         return;
     }
     // A character beyond U+FFFF is a surrogate pair; both halves are removed.
@@ -255,9 +254,9 @@ bool LineEditCal::takeToken(std::size_t index, const QString &text, int start, i
         isCorrected |= setRadixPointSeveral(token, static_cast<int>(index));
     }
     if (isKnown) {
-        m_vecStringResults[index] = token;
+        m_vecStringResults[index] = std::move(token);
     } else {
-        m_vecStringResults.push_back(token);
+        m_vecStringResults.push_back(std::move(token));
     }
     return isCorrected;
 }
@@ -282,9 +281,10 @@ bool LineEditCal::setRadixPointSeveral(QString &strText, const int &index)
     if (static_cast<std::size_t>(index) >= m_vecStringResults.size()) {
         return false;
     }
-    const auto point = strText.indexOf(QLatin1Char('.'));
-    const auto decimals = point < 0 ? 0 : strText.length() - point - 1;
-    const bool isSecondPoint = strText.count(QLatin1Char('.')) > 1;
+    const auto end = strText.cend();
+    const auto point = std::find(strText.cbegin(), end, QLatin1Char('.'));
+    const auto decimals = point == end ? 0 : end - point - 1;
+    const bool isSecondPoint = decimals > 0 && std::find(point + 1, end, QLatin1Char('.')) != end;
     if (!isSecondPoint && decimals <= typedDecimals()) {
         return false;
     }
@@ -315,11 +315,10 @@ void LineEditCal::setShowResult(const QString &strText)
     if (value < min) {
         value = min;
     }
-    m_beforeText = QString::number(value, 'f', shownDecimals());
-    m_beforeResult = m_beforeText;
+    m_beforeResult = QString::number(value, 'f', shownDecimals());
     m_isInitialResultPending = false;
     setEntryRefused(std::isnan(value));
-    setShownEntry(m_beforeText);
+    setShownEntry(m_beforeResult);
 }
 
 QEvent::Type LineEditCal::entryRefusedChange()
@@ -344,15 +343,16 @@ void LineEditCal::setEntryRefused(bool isRefused)
 void LineEditCal::setEntryText(const QString &entry, int cursorPosition)
 {
     // Most keys need no correction, and most fields have neither prefix nor suffix.
-    const FieldText shown(entry == text() ? nullptr : parent(), text());
-    if (entry != shown.entry) {
-        setResultText(shown.with(entry));
+    if (entry != text()) {
+        const FieldText shown(parent(), text());
+        if (entry != shown.entry) {
+            setResultText(shown.with(entry));
+        }
+        cursorPosition += static_cast<int>(shown.prefix.length());
     }
-    cursorPosition += static_cast<int>(shown.prefix.length());
     if (cursorPosition != this->cursorPosition()) {
         setCursorPosition(cursorPosition);
     }
-    m_beforeText = entry;
 }
 
 void LineEditCal::setResultText(QString text)
