@@ -24,7 +24,7 @@ FAILED = re.compile(r"^(?:FAIL!|XPASS|QFATAL) +: (\w+::\w+)\((.*?)\)(?: |$)", re
 # prefixes of the names of files that can affect them.
 CALCULATOR_PROGRAMS = {"tst_lineeditcal", "fuzz_corpus"}
 CALCULATOR_FUNCTIONS = {"tst_Robustness::pastedTexts"}
-CALCULATOR_FILES = re.compile("calculator|expression|hostwindow|qlineeditcal|scriptengine")
+CALCULATOR_FILES = re.compile("arithmetic|calculator|expression|hostwindow|qlineeditcal|scriptengine")
 
 
 def read_mutants(source):

@@ -9,12 +9,15 @@ namespace Widgets {
 namespace Internal {
 
 // The four regular expressions of the calculator, compiled once for the process. Each line edit has
-// copies of them as part of its interface. The filter runs on each keystroke, so what two of them
-// accept as a single character is looked up in a literal set.
-class CalculatorPatterns
+// copies of them as part of its interface. The filter runs on each keystroke, so it tests a single
+// character, which two of them accept, without them.
+struct CalculatorPatterns
 {
-public:
-    static const CalculatorPatterns &instance();
+    static const CalculatorPatterns &instance()
+    {
+        static const CalculatorPatterns patterns;
+        return patterns;
+    }
 
     // Whether the user may type the character. No character outside ASCII is accepted.
     static bool isAccepted(QChar character)
@@ -40,13 +43,11 @@ public:
         }
     }
 
-    const std::regex character;
-    const std::regex mark;
-    const std::regex fourOperation;
-    const std::regex letters;
-
-private:
-    CalculatorPatterns();
+    // The commas are members of the bracket expressions, not separators.
+    const std::regex character {"[0-9]*[-,+,*,/,.,(,),=]*"};
+    const std::regex mark {"[-,+,*,/,(,),=]*"};
+    const std::regex fourOperation {"[-,+,*,/]*"};
+    const std::regex letters {"^[\u4e00-\u9fa5a-zA-Z]+$"};
 };
 
 } // namespace Internal

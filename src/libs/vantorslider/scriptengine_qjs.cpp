@@ -4,9 +4,8 @@
 
 #include "arithmetic_p.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtQml/QJSEngine>
-
-#include <algorithm>
 
 namespace Vantor {
 namespace Widgets {
@@ -14,39 +13,26 @@ namespace Internal {
 
 namespace {
 
-// As in Qt Script, 017 is octal and 08 is decimal.
-QString modernNumber(const QString &number)
-{
-    if (number.size() < 2 || number[0] != QLatin1Char('0') || !number[1].isDigit()) {
-        return number;
-    }
-    const auto isOctalDigit = [](QChar digit) { return digit < QLatin1Char('8'); };
-    if (std::all_of(number.cbegin(), number.cend(), isOctalDigit)) {
-        return QStringLiteral("0o") + number.mid(1);
-    }
-    const auto isZero = [](QChar digit) { return digit == QLatin1Char('0'); };
-    return number.mid(std::find_if_not(number.cbegin(), number.cend(), isZero) - number.cbegin());
-}
-
-// The text rewritten so that QJSEngine returns the result of Qt Script: with its octal numbers, and
-// without commas at the end. Nothing if the two differ in a way that can't be rewritten, as for
-// the start of a regular expression literal, a comment or a power.
+// The text rewritten so that QJSEngine returns the result of Qt Script: 017 is octal, 08 is
+// decimal, and commas at the end are left out. Nothing if the two differ in a way that can't be
+// rewritten, as for the start of a regular expression literal, a comment or a power.
 std::optional<QString> modernForm(const QString &text)
 {
+    static const QRegularExpression leadingZeros(QStringLiteral("^0+(?=[0-9])"));
     if (!isArithmetic(text)) {
         return std::nullopt;
     }
     QString form;
     auto end = form.size();
-    const QChar *const last = text.constData() + text.size();
-    for (const QChar *at = text.constData(); at != last;) {
-        const auto token = ArithmeticToken::at(at, last);
-        at = token.end;
-        const QString part(token.begin, token.end - token.begin);
-        form += token.kind == ArithmeticToken::Number ? modernNumber(part) : part;
-        const bool isSpace =
-            token.kind == ArithmeticToken::Blank || token.kind == ArithmeticToken::LineBreak;
-        if (!isSpace && part != QLatin1String(",")) {
+    ArithmeticTokens tokens(text);
+    while (tokens.next()) {
+        QString part = tokens.text();
+        const bool isOctal = tokens.kind() == ArithmeticTokens::Octal;
+        if (isOctal || tokens.kind() == ArithmeticTokens::Number) {
+            part.replace(leadingZeros, isOctal ? QStringLiteral("0o") : QString());
+        }
+        form += part;
+        if (!part.at(0).isSpace() && part != QLatin1String(",")) {
             end = form.size();
         }
     }
