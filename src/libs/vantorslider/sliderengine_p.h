@@ -12,6 +12,7 @@
 #include <QtWidgets/QAbstractButton>
 
 #include <algorithm>
+#include <memory>
 #include <optional>
 
 namespace Vantor {
@@ -30,11 +31,6 @@ class SliderEngine : public QObject
 {
 public:
     explicit SliderEngine(Editor *editer) : m_pSliderEditer(editer), ui(new Form) { }
-    ~SliderEngine() override
-    {
-        delete ui;
-        ui = nullptr;
-    }
 
     void createWidgets()
     {
@@ -105,7 +101,6 @@ public:
         m_nTimeSamplingRate = milliseconds;
         m_isTimeSampling = true;
     }
-
     bool isReleaseMode() const { return m_isReleaseMode; }
     int timeSamplingRate() const { return m_isTimeSampling ? m_nTimeSamplingRate : 0; }
 
@@ -179,7 +174,8 @@ public:
     EditSpan *edits() { return &m_edits; }
 
 protected:
-    Form *form() const { return ui; }
+    static constexpr int typedDecimals = 2; // of a typed number, also in an int row
+    Form *form() const { return ui.get(); }
     Value lastValue() const { return m_nLastValue; }
     int lastPressedPosition() const { return m_nLastPressedValue; }
     Value lastPressedValue() const { return m_valueAtPress; }
@@ -368,9 +364,7 @@ private:
     // Clamped and rounded like the spin box's value.
     Value shownDefault() const
     {
-        const auto *const spinBox = engine().spinBox();
-        return engine().rounded(
-            std::clamp(*m_defaultValue, spinBox->minimum(), spinBox->maximum()));
+        return engine().rounded(std::clamp(*m_defaultValue, least(), greatest()));
     }
 
     Value least() const { return engine().spinBox()->minimum(); }
@@ -429,7 +423,7 @@ private:
     }
 
     Editor *m_pSliderEditer;
-    Form *ui;
+    const std::unique_ptr<Form> ui;
     EditSpan m_edits {m_pSliderEditer};
     // The last value that was applied or accepted; a child's report of it is ignored.
     Value m_nLastValue = 0;
@@ -450,9 +444,6 @@ private:
     // The user moved the handle meanwhile, so the next tick reports.
     bool m_isMovedInDelivery = false;
 };
-
-// Decimals of a number typed into an int or double editor.
-constexpr int typedDecimals = 2;
 
 } // namespace Internal
 } // namespace Widgets
