@@ -132,6 +132,8 @@ void tst_LineEditCal::pasted_data()
     // Part of what follows, where a "/" begins a regular expression literal.
     QTest::newRow("new line, ++") << "a\n++\n/(1*1*2)/(1)"
                                   << "fails";
+    QTest::newRow("half a surrogate pair")
+        << QString("eval('7'),'%1'").arg(QChar(0xD83D)) << "fails";
     // No text takes long or overflows the stack.
     for (const QString each : {"(", "- ", "!", "a=", "a:", "1?1:", "Math.abs(", "1,(", "a++,", ";",
                                "1 ", "1+", "'a'+", "1||", "x.", "'", "/ ", "0x", "\\"}) {

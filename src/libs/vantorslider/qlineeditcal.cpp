@@ -41,7 +41,8 @@ void LineEditCal::setInitialResult(const float &result)
     setEntryRefused(false);
 }
 
-// A drag sets a result at every move; its text is created only when the user types.
+// A drag sets a result at every move; its text is created only when the user types. Otherwise it
+// would take 4 % of a mouse move in a row, and 18 % in a crop editor.
 const QString &LineEditCal::beforeResult()
 {
     if (m_isInitialResultPending) {

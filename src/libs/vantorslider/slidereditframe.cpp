@@ -58,7 +58,8 @@ private:
 
 namespace {
 
-// text == QString::number(val), without creating the string.
+// text == QString::number(val), without creating the string: 5 % of a mouse move in a crop
+// editor, which compares all of its rows.
 bool isTextOf(const QString &text, int val)
 {
     std::array<char, 12> digits;
