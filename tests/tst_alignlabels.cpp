@@ -97,6 +97,7 @@ void tst_AlignLabels::column_data()
     };
     add("longer text", 1, [](Panel &p) { p.gain->setLabelText("Wider than all the others"); });
     add("shorter text", -1, [](Panel &p) { p.gamma->setLabelText("Small"); });
+    add("text of two lines", -1, [](Panel &p) { p.gamma->setLabelText("Middling\nand more"); });
     add("another language", -1, [](Panel &p) {
         p.page.setLayoutDirection(Qt::RightToLeft);
         p.page.setLocale(QLocale::Arabic);

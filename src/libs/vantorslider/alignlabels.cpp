@@ -11,6 +11,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QStyle>
 
+#include <algorithm>
 #include <vector>
 
 namespace Vantor {
@@ -31,10 +32,40 @@ bool isRich(const QLabel &label)
         || (label.textFormat() == Qt::AutoText && Qt::mightBeRichText(label.text()));
 }
 
+// Whether the text is drawn as it is: no line break, tab or mnemonic, nor a space at its end.
+bool isOneLine(const QString &text)
+{
+    return !text.endsWith(QLatin1Char(' '))
+        && std::all_of(text.begin(), text.end(), [](QChar character) {
+               return character.isPrint() && character != QLatin1Char('&')
+                   && character != QChar::LineSeparator;
+           });
+}
+
+// QFontMetrics::size() prepares a text for line breaks and mnemonics, also if it has none.
+int plainTextWidth(const QFontMetrics &metrics, const QString &text)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
+    if (isOneLine(text)) {
+        return qCeil(QFontMetricsF(metrics).horizontalAdvance(text));
+    }
+#endif
+    return metrics.size(Qt::TextShowMnemonic, text).width();
+}
+
+int letterWidth(const QFontMetrics &metrics)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
+    return metrics.horizontalAdvance(QLatin1Char('x'));
+#else
+    return metrics.width(QLatin1Char('x'));
+#endif
+}
+
 int textWidthOf(const QLabel &label)
 {
     if (!isRich(label)) {
-        return label.fontMetrics().size(Qt::TextShowMnemonic, label.text()).width();
+        return plainTextWidth(label.fontMetrics(), label.text());
     }
     QTextDocument document;
     document.setDocumentMargin(0);
@@ -50,8 +81,8 @@ int indentOf(const QLabel &label)
     if (label.indent() >= 0) {
         return label.indent();
     }
-    const int half = label.fontMetrics().size(Qt::TextSingleLine, QStringLiteral("x")).width() / 2;
-    return label.frameWidth() > 0 ? qMax(0, half - label.margin()) : 0;
+    return label.frameWidth() > 0 ? qMax(0, letterWidth(label.fontMetrics()) / 2 - label.margin())
+                                  : 0;
 }
 
 // A label and the width that its text needs. The label's size hint can't tell: it is never
