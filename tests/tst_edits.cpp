@@ -337,21 +337,20 @@ void tst_Edits::resets_data()
     crop("held in the area",
          "w default 100 | w reset: start crop(1,2,99,20) w(100) (1,2,100,20) end | shown: 1 2 99 "
          "20");
-    crop("the last crop is the one that is shown",
-         "x default 9 | x resetValue | x value 1 | x plus: start crop(2,2,40,20) x(2) (2,2,40,20) "
-         "end | x resetValue | x minus: start crop(8,2,40,20) x(8) (8,2,40,20) end");
     const auto mask = rowsAfter<MaskEditFrame>("area 100 100 | mask 0 0 80 10 | edits | ");
-    mask("held in the area",
-         "h default 50 | h resetValue | w plus: start mask(0,0,50,50) w(80) (0,0,80,50) end");
+    for (const QString reset : {"x resetValue", "resetValues"})
+        crop("back to the crop before, " + reset,
+             "x default 2 | " + reset + " | x minus: start crop(1,2,40,20) x(1) (1,2,40,20) end");
+    for (const QString reset : {"h resetValue", "resetValues"})
+        mask("held in the area, " + reset,
+             "h default 50 | " + reset + " | w plus: start mask(0,0,50,50) w(80) (0,0,80,50) end");
     const auto opacity = rowsAfter<RGBOpacityEditFrame>("edits | ");
     opacity("rows",
             "g default 9 | opacity default 8 | g reset: start (50,9,50,100) end | "
             "opacity reset: start (50,9,50,8) end | r reset");
-    addFor<RGBAllEditFrame>("all rows", [](auto &user) {
-        user.play("r default 1 | all default 4 | edits");
-        user.frame->resetValues();
-        user.play("shown: 1 50 50 4");
-    });
+    opacity("all rows", "g default 9 | opacity default 8 | resetValues | shown: 50 9 50 8");
+    const auto all = rowsAfter<RGBAllEditFrame>("edits | ");
+    all("all rows", "r default 1 | all default 4 | resetValues | shown: 1 50 50 4");
 }
 
 QTEST_MAIN(tst_Edits)

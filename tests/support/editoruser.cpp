@@ -291,7 +291,15 @@ template <typename Frame> void EditorUser::addComposite(Frame *frame)
     on("value", [=](const Step &step) { frame->setValue(type(step), step[0]); });
     on("range", [=](const Step &step) { frame->setRange(type(step), step[0], step[1]); });
     on("default", [=](const Step &step) { frame->setDefaultValue(type(step), step[0]); });
-    on("resetValue", [=](const Step &step) { frame->resetValue(type(step)); });
+    addResets(frame);
+}
+
+// These are not virtual.
+template <typename Frame> void EditorUser::addResets(Frame *frame)
+{
+    on("resetValue",
+       [=](const Step &step) { frame->resetValue(typename Frame::Type(2 << step.index)); });
+    on("resetValues", [=](const Step &) { frame->resetValues(); });
 }
 
 // The program around a rectangle editor.
@@ -325,8 +333,7 @@ void EditorUser::addRect(RectEditFrame *rect)
 void EditorUser::addCrop(CropEditFrame *crop)
 {
     log.watch(crop, &CropEditFrame::cropValueChanged, "crop");
-    on("resetValue",
-       [=](const Step &step) { crop->resetValue(RectEditFrame::Type(2 << step.index)); });
+    addResets(crop);
     on("area", [=](const Step &step) { crop->setCropRange(step[0], step[1]); });
     on("areaFrom", [=](const Step &step) {
         crop->setCropRange(step[0], step[1], step[2], step[3], step[4], step[5]);
@@ -341,8 +348,7 @@ void EditorUser::addCrop(CropEditFrame *crop)
 void EditorUser::addMask(MaskEditFrame *mask)
 {
     log.watch(mask, &MaskEditFrame::maskValueChanged, "mask");
-    on("resetValue",
-       [=](const Step &step) { mask->resetValue(RectEditFrame::Type(2 << step.index)); });
+    addResets(mask);
     on("area", [=](const Step &step) { mask->setMaskRange(step[0], step[1]); });
     on("leastSize", [=](const Step &step) { mask->setMaskMinSize(step[0], step[1]); });
     on("mask", [=](const Step &step) { mask->setMaskValue(step[0], step[1], step[2], step[3]); });

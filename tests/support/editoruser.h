@@ -94,7 +94,7 @@ private:
 //   lock position, size     clicks a lock button
 // What the program does to any row:
 //   value, range, default, resetValue, tick (of the sampling), focus, show, hide, disable,
-//   enable, delete;
+//   enable, delete; resetValues (of all rows of a composite editor);
 //   dialog (shows a modal one and closes it)
 // to all rows: sampled, released, autoRepeat; off ends the last two; options, any of
 //   exact, comma, escape and stays
@@ -152,6 +152,7 @@ private:
     template <typename Frame> void add(Frame *frame);
     template <typename Frame> void addModes(Frame *frame);
     template <typename Frame> void addComposite(Frame *frame);
+    template <typename Frame> void addResets(Frame *frame);
     void addRect(Vantor::Widgets::RectEditFrame *rect);
     void addCrop(Vantor::Widgets::CropEditFrame *crop);
     void addMask(Vantor::Widgets::MaskEditFrame *mask);
