@@ -11,7 +11,6 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QStyle>
 
-#include <algorithm>
 #include <vector>
 
 namespace Vantor {
@@ -32,27 +31,6 @@ bool isRich(const QLabel &label)
         || (label.textFormat() == Qt::AutoText && Qt::mightBeRichText(label.text()));
 }
 
-// Whether the text is drawn as it is: no line break, tab or mnemonic, nor a space at its end.
-bool isOneLine(const QString &text)
-{
-    return !text.endsWith(QLatin1Char(' '))
-        && std::all_of(text.begin(), text.end(), [](QChar character) {
-               return character.isPrint() && character != QLatin1Char('&')
-                   && character != QChar::LineSeparator;
-           });
-}
-
-// QFontMetrics::size() prepares a text for line breaks and mnemonics, also if it has none.
-int plainTextWidth(const QFontMetrics &metrics, const QString &text)
-{
-#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
-    if (isOneLine(text)) {
-        return qCeil(QFontMetricsF(metrics).horizontalAdvance(text));
-    }
-#endif
-    return metrics.size(Qt::TextShowMnemonic, text).width();
-}
-
 int letterWidth(const QFontMetrics &metrics)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
@@ -65,7 +43,8 @@ int letterWidth(const QFontMetrics &metrics)
 int textWidthOf(const QLabel &label)
 {
     if (!isRich(label)) {
-        return plainTextWidth(label.fontMetrics(), label.text());
+        // Not horizontalAdvance(): with advances in fractions of a pixel it can be a pixel less.
+        return label.fontMetrics().size(Qt::TextShowMnemonic, label.text()).width();
     }
     QTextDocument document;
     document.setDocumentMargin(0);
