@@ -1,5 +1,6 @@
 #include "arithmetic_p.h"
 
+#include <array>
 #include <vector>
 
 namespace Vantor {
@@ -8,33 +9,37 @@ namespace Internal {
 
 namespace {
 
-// A group for each kind of token, in the order of Kind. The possessive quantifiers prevent
-// backtracking. What matches no group is read as one word or as one character.
+// What matches a token of each kind, in the order of Kind. The possessive quantifiers prevent
+// backtracking.
+constexpr std::array<const char *, ArithmeticTokens::Closing> patterns {
+    R"([ \t\xA0]++)", // Space
+    R"([\n\r]++)", // LineBreak
+    R"(0[0-7]++(?![\w$.]))", // Octal
+    R"((?:0[xX][0-9a-fA-F]++)" // Number
+    R"(|(?!0[0-7]++[.a-zA-Z_$])(?:[0-9]++\.?+[0-9]*+|\.[0-9]++)(?:[eE][-+]?+[0-9]++)?+)(?![\w$.]))",
+    R"('[^'\\\r\n]*+'|"[^"\\\r\n]*+")", // Text
+    R"(Math\.(?:abs|acos|asin|atan2?|ceil|cos|exp|floor|log|max|min|pow|random)" // Function
+    R"(|round|sin|sqrt|tan)(?=\())",
+    R"((?:Math\.(?:E|LN2|LN10|LOG2E|LOG10E|PI|SQRT1_2|SQRT2))" // Name
+    R"(|true|false|null|undefined|NaN|Infinity|[a-z])(?![\w$.(]))",
+    R"(\+\+|--)", // Step
+    R"([-+*/]?=(?!=))", // Assignment
+    R"([=!]==?|>>>?|<<|[<>]=|&&|\|\||[*/%&|^>?:,]|<(?!!--))", // Operator; "<!--" is a comment
+    R"([-+~!])", // Sign
+    R"(;)", // Semicolon
+    R"(\()", // Opening
+    R"(\))" // Closing
+};
+
+// A group for each kind. What matches none is read as one number, word or character.
 QRegularExpression tokenPattern()
 {
-    return QRegularExpression(
-        QStringLiteral(
-            R"(([ \t\xA0]++))"
-            R"(|([\n\r]++))"
-            R"(|(0[0-7]++(?![\w$.])))"
-            R"(|((?:0[xX][0-9a-fA-F]++)"
-            R"(|(?!0[0-7]++[.a-zA-Z_$])(?:[0-9]++\.?+[0-9]*+|\.[0-9]++)(?:[eE][-+]?+[0-9]++)?+))"
-            R"((?![\w$.])))"
-            R"(|('[^'\\\r\n]*+'|"[^"\\\r\n]*+"))"
-            R"(|(Math\.(?:abs|acos|asin|atan2?|ceil|cos|exp|floor|log|max|min|pow|random|round|)"
-            R"(sin|sqrt|tan)(?=\()))"
-            R"(|((?:Math\.(?:E|LN2|LN10|LOG2E|LOG10E|PI|SQRT1_2|SQRT2)|)"
-            R"(true|false|null|undefined|NaN|Infinity|[a-z])(?![\w$.(])))"
-            R"(|(\+\+|--))"
-            R"(|([-+*/]?=(?!=)))"
-            // "<!--" starts a comment.
-            R"(|([=!]==?|>>>?|<<|[<>]=|&&|\|\||[*/%&|^>?:,]|<(?!!--)))"
-            R"(|([-+~!]))"
-            R"(|(;))"
-            R"(|(\())"
-            R"(|(\)))"
-            R"(|[0-9.]++|[\w$.]++|.)"),
-        QRegularExpression::DotMatchesEverythingOption);
+    QString pattern;
+    for (const char *const kind : patterns) {
+        pattern += QLatin1Char('(') + QLatin1String(kind) + QLatin1String(")|");
+    }
+    return QRegularExpression(pattern + QLatin1String(R"([0-9.]++|[\w$.]++|.)"),
+                              QRegularExpression::DotMatchesEverythingOption);
 }
 
 } // namespace
