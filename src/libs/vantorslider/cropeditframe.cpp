@@ -13,7 +13,7 @@ class CropEditFramePrivate : public QObject
     Q_OBJECT
 
 public:
-    explicit CropEditFramePrivate(CropEditFrame *editer);
+    explicit CropEditFramePrivate(CropEditFrame *editer) : m_pEditer(editer) { }
 
     // Each editor is set up in these two steps. Here the base class has created all widgets.
     void createWidgets() { }
@@ -39,8 +39,6 @@ private:
     int limit(RectEditFrame::Type position, RectEditFrame::Type size) const;
     void report(const FieldValues &crop);
 };
-
-CropEditFramePrivate::CropEditFramePrivate(CropEditFrame *editer) : m_pEditer(editer) { }
 
 // The base class emits the signal of a field before valueChanged(). So the crop is limited and
 // reported before the host receives the whole rectangle.

@@ -18,7 +18,7 @@ class MaskEditFramePrivate : public QObject
     Q_OBJECT
 
 public:
-    explicit MaskEditFramePrivate(MaskEditFrame *editer);
+    explicit MaskEditFramePrivate(MaskEditFrame *editer) : m_pEditer(editer) { }
 
     void createWidgets();
     void createConnects();
@@ -42,8 +42,6 @@ private Q_SLOTS:
 private:
     void report(const FieldValues &mask);
 };
-
-MaskEditFramePrivate::MaskEditFramePrivate(MaskEditFrame *editer) : m_pEditer(editer) { }
 
 void MaskEditFramePrivate::createWidgets()
 {

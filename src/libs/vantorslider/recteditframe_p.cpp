@@ -50,17 +50,6 @@ QSpacerItem *collapsibleSpacer(QBoxLayout *column, int index, const QWidget *pla
 
 } // namespace
 
-RectEditFramePrivate::RectEditFramePrivate(RectEditFrame *editer)
-    : m_pEditer(editer), ui(new Ui::RectEditFrame)
-{
-}
-
-RectEditFramePrivate::~RectEditFramePrivate()
-{
-    delete ui;
-    ui = nullptr;
-}
-
 void RectEditFramePrivate::createWidgets()
 {
     ui->toolButtonLockPosition->setProperty("lockoutstate", true);

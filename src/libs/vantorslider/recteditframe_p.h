@@ -7,6 +7,8 @@
 #include "slidereditframe.h"
 #include "ui_recteditframe.h"
 
+#include <memory>
+
 namespace Vantor {
 namespace Widgets {
 namespace Internal {
@@ -17,8 +19,7 @@ class RectEditFramePrivate : public QObject
     Q_OBJECT
 
 public:
-    explicit RectEditFramePrivate(RectEditFrame *editer);
-    ~RectEditFramePrivate() override;
+    explicit RectEditFramePrivate(RectEditFrame *editer) : m_pEditer(editer) { }
 
     void createWidgets();
     void createConnects();
@@ -36,7 +37,7 @@ public:
     }
 
     RectEditFrame *m_pEditer;
-    Ui::RectEditFrame *ui;
+    const std::unique_ptr<Ui::RectEditFrame> ui = std::make_unique<Ui::RectEditFrame>();
     EditSpan m_edits {m_pEditer};
     RectEditFrame::LockType m_sizeLockType = RectEditFrame::SizeScaleLock;
     QPoint m_lockedPosition;

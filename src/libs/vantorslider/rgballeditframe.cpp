@@ -4,6 +4,8 @@
 #include "rgbandrow_p.h"
 #include "ui_rgballeditframe.h"
 
+#include <memory>
+
 namespace Vantor {
 namespace Widgets {
 
@@ -15,8 +17,7 @@ class RGBAllEditFramePrivate : public QObject
     Q_OBJECT
 
 public:
-    explicit RGBAllEditFramePrivate(RGBAllEditFrame *editer);
-    ~RGBAllEditFramePrivate() override;
+    explicit RGBAllEditFramePrivate(RGBAllEditFrame *editer) : m_pEditer(editer) { }
 
     void createWidgets();
     void createConnects();
@@ -24,24 +25,13 @@ public:
     RGBAndRow rows() const { return {{{RGBAllEditFrame::ALL, ui->frameAll}}, ui->frameRGB}; }
 
     RGBAllEditFrame *m_pEditer;
-    Ui::RGBAllEditFrame *ui;
+    const std::unique_ptr<Ui::RGBAllEditFrame> ui = std::make_unique<Ui::RGBAllEditFrame>();
     EditSpan m_edits {m_pEditer};
 
 private Q_SLOTS:
     void allValueChanged(int val);
     void rgbValueChanged(int r, int g, int b);
 };
-
-RGBAllEditFramePrivate::RGBAllEditFramePrivate(RGBAllEditFrame *editer)
-    : m_pEditer(editer), ui(new Ui::RGBAllEditFrame)
-{
-}
-
-RGBAllEditFramePrivate::~RGBAllEditFramePrivate()
-{
-    delete ui;
-    ui = nullptr;
-}
 
 void RGBAllEditFramePrivate::createWidgets()
 {

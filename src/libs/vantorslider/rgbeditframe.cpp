@@ -5,6 +5,8 @@
 #include "slidereditframe.h"
 #include "ui_rgbeditframe.h"
 
+#include <memory>
+
 namespace Vantor {
 namespace Widgets {
 
@@ -16,8 +18,7 @@ class RGBEditFramePrivate : public QObject
     Q_OBJECT
 
 public:
-    explicit RGBEditFramePrivate(RGBEditFrame *editer);
-    ~RGBEditFramePrivate() override;
+    explicit RGBEditFramePrivate(RGBEditFrame *editer) : m_pEditer(editer) { }
 
     void createWidgets();
     void createConnects();
@@ -30,7 +31,7 @@ public:
     }
 
     RGBEditFrame *m_pEditer;
-    Ui::RGBEditFrame *ui;
+    const std::unique_ptr<Ui::RGBEditFrame> ui = std::make_unique<Ui::RGBEditFrame>();
     EditSpan m_edits {m_pEditer};
 
 private Q_SLOTS:
@@ -38,17 +39,6 @@ private Q_SLOTS:
     void greenValueChanged(int val);
     void blueValueChanged(int val);
 };
-
-RGBEditFramePrivate::RGBEditFramePrivate(RGBEditFrame *editer)
-    : m_pEditer(editer), ui(new Ui::RGBEditFrame)
-{
-}
-
-RGBEditFramePrivate::~RGBEditFramePrivate()
-{
-    delete ui;
-    ui = nullptr;
-}
 
 void RGBEditFramePrivate::createWidgets()
 {

@@ -4,6 +4,8 @@
 #include "rgbandrow_p.h"
 #include "ui_rgbopacityeditframe.h"
 
+#include <memory>
+
 namespace Vantor {
 namespace Widgets {
 
@@ -15,8 +17,7 @@ class RGBOpacityEditFramePrivate : public QObject
     Q_OBJECT
 
 public:
-    explicit RGBOpacityEditFramePrivate(RGBOpacityEditFrame *editer);
-    ~RGBOpacityEditFramePrivate() override;
+    explicit RGBOpacityEditFramePrivate(RGBOpacityEditFrame *editer) : m_pEditer(editer) { }
 
     void createWidgets();
     void createConnects();
@@ -27,24 +28,13 @@ public:
     }
 
     RGBOpacityEditFrame *m_pEditer;
-    Ui::RGBOpacityEditFrame *ui;
+    const std::unique_ptr<Ui::RGBOpacityEditFrame> ui = std::make_unique<Ui::RGBOpacityEditFrame>();
     EditSpan m_edits {m_pEditer};
 
 private Q_SLOTS:
     void opacityValueChanged(int val);
     void rgbValueChanged(int r, int g, int b);
 };
-
-RGBOpacityEditFramePrivate::RGBOpacityEditFramePrivate(RGBOpacityEditFrame *editer)
-    : m_pEditer(editer), ui(new Ui::RGBOpacityEditFrame)
-{
-}
-
-RGBOpacityEditFramePrivate::~RGBOpacityEditFramePrivate()
-{
-    delete ui;
-    ui = nullptr;
-}
 
 void RGBOpacityEditFramePrivate::createWidgets()
 {
