@@ -9,6 +9,8 @@
 namespace Vantor {
 namespace Widgets {
 
+using Row = SliderEditFrame;
+
 namespace {
 
 // Sets "isBesideLock" while the other panel's lock is shown. A style sheet can collapse the
@@ -41,14 +43,12 @@ RectEditFrame::~RectEditFrame()
 
 void RectEditFrame::setLabelText(Type type, const QString &text)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect label text", &SliderEditFrame::setLabelText,
-                  text);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect label text", &Row::setLabelText, text);
 }
 
 QString RectEditFrame::labelText(Type type) const
 {
-    const auto *field = d->rows().findOrWarn(type, VANTORSLIDER_HERE, "Set Rect label text");
-    return field != nullptr ? field->labelText() : QString();
+    return d->rows().get(type, VANTORSLIDER_HERE, "Set Rect label text", &Row::labelText);
 }
 
 void RectEditFrame::setEditerVisible(int types)
@@ -61,7 +61,7 @@ void RectEditFrame::setEditerVisible(int types)
 
 void RectEditFrame::setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton)
 {
-    d->rows().all(&SliderEditFrame::setHorizontalSpacing, nLabelSlider, nSliderButton);
+    d->rows().all(&Row::setHorizontalSpacing, nLabelSlider, nSliderButton);
     d->ui->horizontalLayout->setSpacing(nSliderButton);
     d->ui->horizontalLayout_2->setSpacing(nSliderButton);
 }
@@ -75,99 +75,99 @@ void RectEditFrame::setVerticalSpacing(const int &nVal)
 
 void RectEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect label width range",
-                  &SliderEditFrame::setLabelWidthRange, maxw, minw);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect label width range", &Row::setLabelWidthRange,
+                  maxw, minw);
 }
 
 void RectEditFrame::setLabelWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setLabelWidthRange, maxw, minw);
+    d->rows().all(&Row::setLabelWidthRange, maxw, minw);
 }
 
 void RectEditFrame::setLabelFixedWidth(Type type, int w)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect label fixed width",
-                  &SliderEditFrame::setLabelFixedWidth, w);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect label fixed width", &Row::setLabelFixedWidth,
+                  w);
 }
 
 void RectEditFrame::setLabelFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setLabelFixedWidth, w);
+    d->rows().all(&Row::setLabelFixedWidth, w);
 }
 
 void RectEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect button width range",
-                  &SliderEditFrame::setButtonWidthRange, maxw, minw);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect button width range", &Row::setButtonWidthRange,
+                  maxw, minw);
 }
 
 void RectEditFrame::setButtonWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setButtonWidthRange, maxw, minw);
+    d->rows().all(&Row::setButtonWidthRange, maxw, minw);
 }
 
 void RectEditFrame::setButtonFixedWidth(Type type, int w)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect button fixed width",
-                  &SliderEditFrame::setButtonFixedWidth, w);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect button fixed width", &Row::setButtonFixedWidth,
+                  w);
 }
 
 void RectEditFrame::setButtonFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setButtonFixedWidth, w);
+    d->rows().all(&Row::setButtonFixedWidth, w);
 }
 
 void RectEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect spinbox width range",
-                  &SliderEditFrame::setSpinBoxWidthRange, maxw, minw);
+                  &Row::setSpinBoxWidthRange, maxw, minw);
 }
 
 void RectEditFrame::setSpinBoxWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxWidthRange, maxw, minw);
+    d->rows().all(&Row::setSpinBoxWidthRange, maxw, minw);
 }
 
 void RectEditFrame::setSpinBoxFixedWidth(Type type, int w)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect spinbox fixed width",
-                  &SliderEditFrame::setSpinBoxFixedWidth, w);
+                  &Row::setSpinBoxFixedWidth, w);
 }
 
 void RectEditFrame::setSpinBoxFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxFixedWidth, w);
+    d->rows().all(&Row::setSpinBoxFixedWidth, w);
 }
 
 void RectEditFrame::setSpinBoxWheelEnable(bool b)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxWheelEnable, b);
+    d->rows().all(&Row::setSpinBoxWheelEnable, b);
 }
 
 void RectEditFrame::setSliderVisible(bool b)
 {
-    d->rows().all(&SliderEditFrame::setSliderVisible, b);
+    d->rows().all(&Row::setSliderVisible, b);
 }
 
 void RectEditFrame::setButtonVisible(bool b)
 {
-    d->rows().all(&SliderEditFrame::setButtonVisible, b);
+    d->rows().all(&Row::setButtonVisible, b);
 }
 
 void RectEditFrame::setSliderProperty(Type type, const char *name, const QVariant &value)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect slider property",
-                  &SliderEditFrame::setSliderProperty, name, value);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect slider property", &Row::setSliderProperty,
+                  name, value);
 }
 
 void RectEditFrame::setFieldFocus(Type type)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect field focus", &SliderEditFrame::setFieldFocus);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect field focus", &Row::setFieldFocus);
 }
 
 void RectEditFrame::setValue(Type type, int val)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect value", &SliderEditFrame::setValue, val);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect value", &Row::setValue, val);
 }
 
 void RectEditFrame::setValue(int x, int y, int w, int h)
@@ -196,37 +196,37 @@ void RectEditFrame::value(int &x, int &y, int &w, int &h)
 
 int RectEditFrame::valueOf(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect value", &SliderEditFrame::value);
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect value", &Row::value);
 }
 
 void RectEditFrame::setPrefix(Type type, const QString &text)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect prefix", &SliderEditFrame::setPrefix, text);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect prefix", &Row::setPrefix, text);
 }
 
 void RectEditFrame::setPrefixes(const QString &text)
 {
-    d->rows().all(&SliderEditFrame::setPrefix, text);
+    d->rows().all(&Row::setPrefix, text);
 }
 
 QString RectEditFrame::prefix(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect prefix", &SliderEditFrame::prefix);
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect prefix", &Row::prefix);
 }
 
 void RectEditFrame::setSuffix(Type type, const QString &text)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect suffix", &SliderEditFrame::setSuffix, text);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect suffix", &Row::setSuffix, text);
 }
 
 void RectEditFrame::setSuffixes(const QString &text)
 {
-    d->rows().all(&SliderEditFrame::setSuffix, text);
+    d->rows().all(&Row::setSuffix, text);
 }
 
 QString RectEditFrame::suffix(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect suffix", &SliderEditFrame::suffix);
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect suffix", &Row::suffix);
 }
 
 void RectEditFrame::value(QRect &rect)
@@ -237,8 +237,7 @@ void RectEditFrame::value(QRect &rect)
 
 void RectEditFrame::setRange(Type type, int min, int max)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect value range", &SliderEditFrame::setRange, min,
-                  max);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect value range", &Row::setRange, min, max);
 }
 
 void RectEditFrame::range(Type type, int &min, int &max)
@@ -251,64 +250,58 @@ void RectEditFrame::range(Type type, int &min, int &max)
 
 void RectEditFrame::setDefaultValue(Type type, int val)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect default value",
-                  &SliderEditFrame::setDefaultValue, val);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect default value", &Row::setDefaultValue, val);
 }
 
 int RectEditFrame::defaultValue(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect default value",
-                         &SliderEditFrame::defaultValue);
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect default value", &Row::defaultValue);
 }
 
 bool RectEditFrame::hasDefaultValue(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect default value",
-                         &SliderEditFrame::hasDefaultValue);
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect default value", &Row::hasDefaultValue);
 }
 
 void RectEditFrame::resetValue(Type type)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Reset Rect value", &SliderEditFrame::resetValue);
+    d->rows().one(type, VANTORSLIDER_HERE, "Reset Rect value", &Row::resetValue);
 }
 
 void RectEditFrame::resetValues()
 {
-    d->rows().all(&SliderEditFrame::resetValue);
+    d->rows().all(&Row::resetValue);
 }
 
 void RectEditFrame::setSingleStep(Type type, int val)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect single step", &SliderEditFrame::setSingleStep,
-                  val);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect single step", &Row::setSingleStep, val);
 }
 
 int RectEditFrame::singleStep(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect single step",
-                         &SliderEditFrame::singleStep);
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect single step", &Row::singleStep);
 }
 
 void RectEditFrame::setPageStep(Type type, int val)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect page step", &SliderEditFrame::setPageStep,
-                  val);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect page step", &Row::setPageStep, val);
 }
 
 int RectEditFrame::pageStep(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect page step", &SliderEditFrame::pageStep);
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect page step", &Row::pageStep);
 }
 
 void RectEditFrame::setValueChangeDirection(Type type, int directions, int val)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect value change direction",
-                  &SliderEditFrame::setValueChangeDirection, directions, val);
+                  &Row::setValueChangeDirection, directions, val);
 }
 
 void RectEditFrame::setEntryOptions(EntryOptions options)
 {
-    d->rows().all(&SliderEditFrame::setEntryOptions, options);
+    d->rows().all(&Row::setEntryOptions, options);
 }
 
 EntryOptions RectEditFrame::entryOptions() const
@@ -318,27 +311,27 @@ EntryOptions RectEditFrame::entryOptions() const
 
 void RectEditFrame::setAutoRepeat(bool b)
 {
-    d->rows().all(&SliderEditFrame::setAutoRepeat, b);
+    d->rows().all(&Row::setAutoRepeat, b);
 }
 
 void RectEditFrame::setAutoRepeatDelay(int val)
 {
-    d->rows().all(&SliderEditFrame::setAutoRepeatDelay, val);
+    d->rows().all(&Row::setAutoRepeatDelay, val);
 }
 
 void RectEditFrame::setAutoRepeatInterval(int val)
 {
-    d->rows().all(&SliderEditFrame::setAutoRepeatInterval, val);
+    d->rows().all(&Row::setAutoRepeatInterval, val);
 }
 
 void RectEditFrame::setReleaseMode(bool b)
 {
-    d->rows().all(&SliderEditFrame::setReleaseMode, b);
+    d->rows().all(&Row::setReleaseMode, b);
 }
 
 void RectEditFrame::setTimeSamplingRate(int val)
 {
-    d->rows().all(&SliderEditFrame::setTimeSamplingRate, val);
+    d->rows().all(&Row::setTimeSamplingRate, val);
 }
 
 void RectEditFrame::setLastVerticalSpacerExpanding(bool b)

@@ -9,6 +9,9 @@
 namespace Vantor {
 namespace Widgets {
 
+using Row = SliderEditFrame;
+using RGB = RGBEditFrame;
+
 namespace Internal {
 
 // The master row above the RGB editor, and the signal for their changes.
@@ -41,10 +44,8 @@ void RGBAllEditFramePrivate::createWidgets()
 
 void RGBAllEditFramePrivate::createConnects()
 {
-    connect(ui->frameAll, &SliderEditFrame::valueChanged, this,
-            &RGBAllEditFramePrivate::allValueChanged);
-    connect(ui->frameRGB, &RGBEditFrame::valueChanged, this,
-            &RGBAllEditFramePrivate::rgbValueChanged);
+    connect(ui->frameAll, &Row::valueChanged, this, &RGBAllEditFramePrivate::allValueChanged);
+    connect(ui->frameRGB, &RGB::valueChanged, this, &RGBAllEditFramePrivate::rgbValueChanged);
 }
 
 void RGBAllEditFramePrivate::allValueChanged(int val)
@@ -85,12 +86,12 @@ RGBAllEditFrame::~RGBAllEditFrame()
 
 void RGBAllEditFrame::setLabelText(Type type, const QString &text)
 {
-    d->rows().one(type, &SliderEditFrame::setLabelText, &RGBEditFrame::setLabelText, text);
+    d->rows().one(type, &Row::setLabelText, &RGB::setLabelText, text);
 }
 
 QString RGBAllEditFrame::labelText(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::labelText, &RGBEditFrame::labelText);
+    return d->rows().get(type, &Row::labelText, &RGB::labelText);
 }
 
 void RGBAllEditFrame::setEditerVisible(int types)
@@ -100,8 +101,8 @@ void RGBAllEditFrame::setEditerVisible(int types)
 
 void RGBAllEditFrame::setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton)
 {
-    d->rows().all(&SliderEditFrame::setHorizontalSpacing, &RGBEditFrame::setHorizontalSpacing,
-                  nLabelSlider, nSliderButton);
+    d->rows().all(&Row::setHorizontalSpacing, &RGB::setHorizontalSpacing, nLabelSlider,
+                  nSliderButton);
 }
 
 void RGBAllEditFrame::setVerticalSpacing(const int &nVal)
@@ -111,101 +112,92 @@ void RGBAllEditFrame::setVerticalSpacing(const int &nVal)
 
 void RGBAllEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
 {
-    d->rows().one(type, &SliderEditFrame::setLabelWidthRange, &RGBEditFrame::setLabelWidthRange,
-                  maxw, minw);
+    d->rows().one(type, &Row::setLabelWidthRange, &RGB::setLabelWidthRange, maxw, minw);
 }
 
 void RGBAllEditFrame::setLabelWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setLabelWidthRange, &RGBEditFrame::setLabelWidthRanges, maxw,
-                  minw);
+    d->rows().all(&Row::setLabelWidthRange, &RGB::setLabelWidthRanges, maxw, minw);
 }
 
 void RGBAllEditFrame::setLabelFixedWidth(Type type, int w)
 {
-    d->rows().one(type, &SliderEditFrame::setLabelFixedWidth, &RGBEditFrame::setLabelFixedWidth, w);
+    d->rows().one(type, &Row::setLabelFixedWidth, &RGB::setLabelFixedWidth, w);
 }
 
 void RGBAllEditFrame::setLabelFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setLabelFixedWidth, &RGBEditFrame::setLabelFixedWidths, w);
+    d->rows().all(&Row::setLabelFixedWidth, &RGB::setLabelFixedWidths, w);
 }
 
 void RGBAllEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
 {
-    d->rows().one(type, &SliderEditFrame::setButtonWidthRange, &RGBEditFrame::setButtonWidthRange,
-                  maxw, minw);
+    d->rows().one(type, &Row::setButtonWidthRange, &RGB::setButtonWidthRange, maxw, minw);
 }
 
 void RGBAllEditFrame::setButtonWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setButtonWidthRange, &RGBEditFrame::setButtonWidthRanges, maxw,
-                  minw);
+    d->rows().all(&Row::setButtonWidthRange, &RGB::setButtonWidthRanges, maxw, minw);
 }
 
 void RGBAllEditFrame::setButtonFixedWidth(Type type, int w)
 {
-    d->rows().one(type, &SliderEditFrame::setButtonFixedWidth, &RGBEditFrame::setButtonFixedWidth,
-                  w);
+    d->rows().one(type, &Row::setButtonFixedWidth, &RGB::setButtonFixedWidth, w);
 }
 
 void RGBAllEditFrame::setButtonFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setButtonFixedWidth, &RGBEditFrame::setButtonFixedWidths, w);
+    d->rows().all(&Row::setButtonFixedWidth, &RGB::setButtonFixedWidths, w);
 }
 
 void RGBAllEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
 {
-    d->rows().one(type, &SliderEditFrame::setSpinBoxWidthRange, &RGBEditFrame::setSpinBoxWidthRange,
-                  maxw, minw);
+    d->rows().one(type, &Row::setSpinBoxWidthRange, &RGB::setSpinBoxWidthRange, maxw, minw);
 }
 
 void RGBAllEditFrame::setSpinBoxWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxWidthRange, &RGBEditFrame::setSpinBoxWidthRanges,
-                  maxw, minw);
+    d->rows().all(&Row::setSpinBoxWidthRange, &RGB::setSpinBoxWidthRanges, maxw, minw);
 }
 
 void RGBAllEditFrame::setSpinBoxFixedWidth(Type type, int w)
 {
-    d->rows().one(type, &SliderEditFrame::setSpinBoxFixedWidth, &RGBEditFrame::setSpinBoxFixedWidth,
-                  w);
+    d->rows().one(type, &Row::setSpinBoxFixedWidth, &RGB::setSpinBoxFixedWidth, w);
 }
 
 void RGBAllEditFrame::setSpinBoxFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxFixedWidth, &RGBEditFrame::setSpinBoxFixedWidths, w);
+    d->rows().all(&Row::setSpinBoxFixedWidth, &RGB::setSpinBoxFixedWidths, w);
 }
 
 void RGBAllEditFrame::setSpinBoxWheelEnable(bool b)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxWheelEnable, &RGBEditFrame::setSpinBoxWheelEnable, b);
+    d->rows().all(&Row::setSpinBoxWheelEnable, &RGB::setSpinBoxWheelEnable, b);
 }
 
 void RGBAllEditFrame::setSliderVisible(bool b)
 {
-    d->rows().all(&SliderEditFrame::setSliderVisible, &RGBEditFrame::setSliderVisible, b);
+    d->rows().all(&Row::setSliderVisible, &RGB::setSliderVisible, b);
 }
 
 void RGBAllEditFrame::setButtonVisible(bool b)
 {
-    d->rows().all(&SliderEditFrame::setButtonVisible, &RGBEditFrame::setButtonVisible, b);
+    d->rows().all(&Row::setButtonVisible, &RGB::setButtonVisible, b);
 }
 
 void RGBAllEditFrame::setSliderProperty(Type type, const char *name, const QVariant &value)
 {
-    d->rows().one(type, &SliderEditFrame::setSliderProperty, &RGBEditFrame::setSliderProperty, name,
-                  value);
+    d->rows().one(type, &Row::setSliderProperty, &RGB::setSliderProperty, name, value);
 }
 
 void RGBAllEditFrame::setFieldFocus(Type type)
 {
-    d->rows().one(type, &SliderEditFrame::setFieldFocus, &RGBEditFrame::setFieldFocus);
+    d->rows().one(type, &Row::setFieldFocus, &RGB::setFieldFocus);
 }
 
 void RGBAllEditFrame::setValue(Type type, int val)
 {
-    d->rows().one(type, &SliderEditFrame::setValue, &RGBEditFrame::setValue, val);
+    d->rows().one(type, &Row::setValue, &RGB::setValue, val);
 }
 
 void RGBAllEditFrame::setValues(int r, int g, int b, int all)
@@ -222,47 +214,47 @@ void RGBAllEditFrame::value(int &r, int &g, int &b, int &all)
 
 int RGBAllEditFrame::valueOf(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::value, &RGBEditFrame::valueOf);
+    return d->rows().get(type, &Row::value, &RGB::valueOf);
 }
 
 void RGBAllEditFrame::setPrefix(Type type, const QString &text)
 {
-    d->rows().one(type, &SliderEditFrame::setPrefix, &RGBEditFrame::setPrefix, text);
+    d->rows().one(type, &Row::setPrefix, &RGB::setPrefix, text);
 }
 
 void RGBAllEditFrame::setPrefixes(const QString &text)
 {
-    d->rows().all(&SliderEditFrame::setPrefix, &RGBEditFrame::setPrefixes, text);
+    d->rows().all(&Row::setPrefix, &RGB::setPrefixes, text);
 }
 
 QString RGBAllEditFrame::prefix(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::prefix, &RGBEditFrame::prefix);
+    return d->rows().get(type, &Row::prefix, &RGB::prefix);
 }
 
 void RGBAllEditFrame::setSuffix(Type type, const QString &text)
 {
-    d->rows().one(type, &SliderEditFrame::setSuffix, &RGBEditFrame::setSuffix, text);
+    d->rows().one(type, &Row::setSuffix, &RGB::setSuffix, text);
 }
 
 void RGBAllEditFrame::setSuffixes(const QString &text)
 {
-    d->rows().all(&SliderEditFrame::setSuffix, &RGBEditFrame::setSuffixes, text);
+    d->rows().all(&Row::setSuffix, &RGB::setSuffixes, text);
 }
 
 QString RGBAllEditFrame::suffix(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::suffix, &RGBEditFrame::suffix);
+    return d->rows().get(type, &Row::suffix, &RGB::suffix);
 }
 
 void RGBAllEditFrame::setRange(Type type, int min, int max)
 {
-    d->rows().one(type, &SliderEditFrame::setRange, &RGBEditFrame::setRange, min, max);
+    d->rows().one(type, &Row::setRange, &RGB::setRange, min, max);
 }
 
 void RGBAllEditFrame::setRanges(int min, int max)
 {
-    d->rows().all(&SliderEditFrame::setRange, &RGBEditFrame::setRanges, min, max);
+    d->rows().all(&Row::setRange, &RGB::setRanges, min, max);
 }
 
 void RGBAllEditFrame::range(Type type, int &min, int &max) const
@@ -272,58 +264,58 @@ void RGBAllEditFrame::range(Type type, int &min, int &max) const
 
 void RGBAllEditFrame::setDefaultValue(Type type, int val)
 {
-    d->rows().one(type, &SliderEditFrame::setDefaultValue, &RGBEditFrame::setDefaultValue, val);
+    d->rows().one(type, &Row::setDefaultValue, &RGB::setDefaultValue, val);
 }
 
 int RGBAllEditFrame::defaultValue(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::defaultValue, &RGBEditFrame::defaultValue);
+    return d->rows().get(type, &Row::defaultValue, &RGB::defaultValue);
 }
 
 bool RGBAllEditFrame::hasDefaultValue(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::hasDefaultValue, &RGBEditFrame::hasDefaultValue);
+    return d->rows().get(type, &Row::hasDefaultValue, &RGB::hasDefaultValue);
 }
 
 void RGBAllEditFrame::resetValue(Type type)
 {
-    d->rows().one(type, &SliderEditFrame::resetValue, &RGBEditFrame::resetValue);
+    d->rows().one(type, &Row::resetValue, &RGB::resetValue);
 }
 
 void RGBAllEditFrame::resetValues()
 {
-    d->rows().all(&SliderEditFrame::resetValue, &RGBEditFrame::resetValues);
+    d->rows().all(&Row::resetValue, &RGB::resetValues);
 }
 
 void RGBAllEditFrame::setSingleStep(Type type, int val)
 {
-    d->rows().one(type, &SliderEditFrame::setSingleStep, &RGBEditFrame::setSingleStep, val);
+    d->rows().one(type, &Row::setSingleStep, &RGB::setSingleStep, val);
 }
 
 int RGBAllEditFrame::singleStep(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::singleStep, &RGBEditFrame::singleStep);
+    return d->rows().get(type, &Row::singleStep, &RGB::singleStep);
 }
 
 void RGBAllEditFrame::setPageStep(Type type, int val)
 {
-    d->rows().one(type, &SliderEditFrame::setPageStep, &RGBEditFrame::setPageStep, val);
+    d->rows().one(type, &Row::setPageStep, &RGB::setPageStep, val);
 }
 
 int RGBAllEditFrame::pageStep(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::pageStep, &RGBEditFrame::pageStep);
+    return d->rows().get(type, &Row::pageStep, &RGB::pageStep);
 }
 
 void RGBAllEditFrame::setValueChangeDirection(Type type, int directions, int val)
 {
-    d->rows().one(type, &SliderEditFrame::setValueChangeDirection,
-                  &RGBEditFrame::setValueChangeDirection, directions, val);
+    d->rows().one(type, &Row::setValueChangeDirection, &RGB::setValueChangeDirection, directions,
+                  val);
 }
 
 void RGBAllEditFrame::setEntryOptions(EntryOptions options)
 {
-    d->rows().all(&SliderEditFrame::setEntryOptions, &RGBEditFrame::setEntryOptions, options);
+    d->rows().all(&Row::setEntryOptions, &RGB::setEntryOptions, options);
 }
 
 EntryOptions RGBAllEditFrame::entryOptions() const
@@ -333,28 +325,27 @@ EntryOptions RGBAllEditFrame::entryOptions() const
 
 void RGBAllEditFrame::setAutoRepeat(bool b)
 {
-    d->rows().all(&SliderEditFrame::setAutoRepeat, &RGBEditFrame::setAutoRepeat, b);
+    d->rows().all(&Row::setAutoRepeat, &RGB::setAutoRepeat, b);
 }
 
 void RGBAllEditFrame::setAutoRepeatDelay(int val)
 {
-    d->rows().all(&SliderEditFrame::setAutoRepeatDelay, &RGBEditFrame::setAutoRepeatDelay, val);
+    d->rows().all(&Row::setAutoRepeatDelay, &RGB::setAutoRepeatDelay, val);
 }
 
 void RGBAllEditFrame::setAutoRepeatInterval(int val)
 {
-    d->rows().all(&SliderEditFrame::setAutoRepeatInterval, &RGBEditFrame::setAutoRepeatInterval,
-                  val);
+    d->rows().all(&Row::setAutoRepeatInterval, &RGB::setAutoRepeatInterval, val);
 }
 
 void RGBAllEditFrame::setReleaseMode(bool b)
 {
-    d->rows().all(&SliderEditFrame::setReleaseMode, &RGBEditFrame::setReleaseMode, b);
+    d->rows().all(&Row::setReleaseMode, &RGB::setReleaseMode, b);
 }
 
 void RGBAllEditFrame::setTimeSamplingRate(int val)
 {
-    d->rows().all(&SliderEditFrame::setTimeSamplingRate, &RGBEditFrame::setTimeSamplingRate, val);
+    d->rows().all(&Row::setTimeSamplingRate, &RGB::setTimeSamplingRate, val);
 }
 
 void RGBAllEditFrame::setLastVerticalSpacerExpanding(bool b)

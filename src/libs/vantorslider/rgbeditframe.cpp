@@ -10,6 +10,8 @@
 namespace Vantor {
 namespace Widgets {
 
+using Row = SliderEditFrame;
+
 namespace Internal {
 
 // The rows of the three channels, and the signal for their changes.
@@ -51,12 +53,9 @@ void RGBEditFramePrivate::createWidgets()
 
 void RGBEditFramePrivate::createConnects()
 {
-    connect(ui->frameR, &SliderEditFrame::valueChanged, this,
-            &RGBEditFramePrivate::redValueChanged);
-    connect(ui->frameG, &SliderEditFrame::valueChanged, this,
-            &RGBEditFramePrivate::greenValueChanged);
-    connect(ui->frameB, &SliderEditFrame::valueChanged, this,
-            &RGBEditFramePrivate::blueValueChanged);
+    connect(ui->frameR, &Row::valueChanged, this, &RGBEditFramePrivate::redValueChanged);
+    connect(ui->frameG, &Row::valueChanged, this, &RGBEditFramePrivate::greenValueChanged);
+    connect(ui->frameB, &Row::valueChanged, this, &RGBEditFramePrivate::blueValueChanged);
 }
 
 void RGBEditFramePrivate::redValueChanged(int val)
@@ -98,14 +97,12 @@ RGBEditFrame::~RGBEditFrame()
 
 void RGBEditFrame::setLabelText(Type type, const QString &text)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGBAll label text", &SliderEditFrame::setLabelText,
-                  text);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGBAll label text", &Row::setLabelText, text);
 }
 
 QString RGBEditFrame::labelText(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB label text",
-                         &SliderEditFrame::labelText);
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB label text", &Row::labelText);
 }
 
 void RGBEditFrame::setEditerVisible(int types)
@@ -115,7 +112,7 @@ void RGBEditFrame::setEditerVisible(int types)
 
 void RGBEditFrame::setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton)
 {
-    d->rows().all(&SliderEditFrame::setHorizontalSpacing, nLabelSlider, nSliderButton);
+    d->rows().all(&Row::setHorizontalSpacing, nLabelSlider, nSliderButton);
 }
 
 void RGBEditFrame::setVerticalSpacing(const int &nVal)
@@ -125,99 +122,99 @@ void RGBEditFrame::setVerticalSpacing(const int &nVal)
 
 void RGBEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB label width range",
-                  &SliderEditFrame::setLabelWidthRange, maxw, minw);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB label width range", &Row::setLabelWidthRange,
+                  maxw, minw);
 }
 
 void RGBEditFrame::setLabelWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setLabelWidthRange, maxw, minw);
+    d->rows().all(&Row::setLabelWidthRange, maxw, minw);
 }
 
 void RGBEditFrame::setLabelFixedWidth(Type type, int w)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB label fixed width",
-                  &SliderEditFrame::setLabelFixedWidth, w);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB label fixed width", &Row::setLabelFixedWidth,
+                  w);
 }
 
 void RGBEditFrame::setLabelFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setLabelFixedWidth, w);
+    d->rows().all(&Row::setLabelFixedWidth, w);
 }
 
 void RGBEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB button width range",
-                  &SliderEditFrame::setButtonWidthRange, maxw, minw);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB button width range", &Row::setButtonWidthRange,
+                  maxw, minw);
 }
 
 void RGBEditFrame::setButtonWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setButtonWidthRange, maxw, minw);
+    d->rows().all(&Row::setButtonWidthRange, maxw, minw);
 }
 
 void RGBEditFrame::setButtonFixedWidth(Type type, int w)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB button fixed width",
-                  &SliderEditFrame::setButtonFixedWidth, w);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB button fixed width", &Row::setButtonFixedWidth,
+                  w);
 }
 
 void RGBEditFrame::setButtonFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setButtonFixedWidth, w);
+    d->rows().all(&Row::setButtonFixedWidth, w);
 }
 
 void RGBEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB spinbox width range",
-                  &SliderEditFrame::setSpinBoxWidthRange, maxw, minw);
+                  &Row::setSpinBoxWidthRange, maxw, minw);
 }
 
 void RGBEditFrame::setSpinBoxWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxWidthRange, maxw, minw);
+    d->rows().all(&Row::setSpinBoxWidthRange, maxw, minw);
 }
 
 void RGBEditFrame::setSpinBoxFixedWidth(Type type, int w)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB spinbox fixed width",
-                  &SliderEditFrame::setSpinBoxFixedWidth, w);
+                  &Row::setSpinBoxFixedWidth, w);
 }
 
 void RGBEditFrame::setSpinBoxFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxFixedWidth, w);
+    d->rows().all(&Row::setSpinBoxFixedWidth, w);
 }
 
 void RGBEditFrame::setSpinBoxWheelEnable(bool b)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxWheelEnable, b);
+    d->rows().all(&Row::setSpinBoxWheelEnable, b);
 }
 
 void RGBEditFrame::setSliderVisible(bool b)
 {
-    d->rows().all(&SliderEditFrame::setSliderVisible, b);
+    d->rows().all(&Row::setSliderVisible, b);
 }
 
 void RGBEditFrame::setButtonVisible(bool b)
 {
-    d->rows().all(&SliderEditFrame::setButtonVisible, b);
+    d->rows().all(&Row::setButtonVisible, b);
 }
 
 void RGBEditFrame::setSliderProperty(Type type, const char *name, const QVariant &value)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB slider property",
-                  &SliderEditFrame::setSliderProperty, name, value);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB slider property", &Row::setSliderProperty, name,
+                  value);
 }
 
 void RGBEditFrame::setFieldFocus(Type type)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB field focus", &SliderEditFrame::setFieldFocus);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB field focus", &Row::setFieldFocus);
 }
 
 void RGBEditFrame::setValue(Type type, int val)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB value", &SliderEditFrame::setValue, val);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB value", &Row::setValue, val);
 }
 
 void RGBEditFrame::setValues(int r, int g, int b)
@@ -236,47 +233,47 @@ void RGBEditFrame::value(int &r, int &g, int &b)
 
 int RGBEditFrame::valueOf(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB value", &SliderEditFrame::value);
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB value", &Row::value);
 }
 
 void RGBEditFrame::setPrefix(Type type, const QString &text)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB prefix", &SliderEditFrame::setPrefix, text);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB prefix", &Row::setPrefix, text);
 }
 
 void RGBEditFrame::setPrefixes(const QString &text)
 {
-    d->rows().all(&SliderEditFrame::setPrefix, text);
+    d->rows().all(&Row::setPrefix, text);
 }
 
 QString RGBEditFrame::prefix(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB prefix", &SliderEditFrame::prefix);
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB prefix", &Row::prefix);
 }
 
 void RGBEditFrame::setSuffix(Type type, const QString &text)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB suffix", &SliderEditFrame::setSuffix, text);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB suffix", &Row::setSuffix, text);
 }
 
 void RGBEditFrame::setSuffixes(const QString &text)
 {
-    d->rows().all(&SliderEditFrame::setSuffix, text);
+    d->rows().all(&Row::setSuffix, text);
 }
 
 QString RGBEditFrame::suffix(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB suffix", &SliderEditFrame::suffix);
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB suffix", &Row::suffix);
 }
 
 void RGBEditFrame::setRange(Type type, int min, int max)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB range", &SliderEditFrame::setRange, min, max);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB range", &Row::setRange, min, max);
 }
 
 void RGBEditFrame::setRanges(int min, int max)
 {
-    d->rows().all(&SliderEditFrame::setRange, min, max);
+    d->rows().all(&Row::setRange, min, max);
 }
 
 void RGBEditFrame::range(Type type, int &min, int &max) const
@@ -289,63 +286,58 @@ void RGBEditFrame::range(Type type, int &min, int &max) const
 
 void RGBEditFrame::setDefaultValue(Type type, int val)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB default value",
-                  &SliderEditFrame::setDefaultValue, val);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB default value", &Row::setDefaultValue, val);
 }
 
 int RGBEditFrame::defaultValue(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB default value",
-                         &SliderEditFrame::defaultValue);
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB default value", &Row::defaultValue);
 }
 
 bool RGBEditFrame::hasDefaultValue(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB default value",
-                         &SliderEditFrame::hasDefaultValue);
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB default value", &Row::hasDefaultValue);
 }
 
 void RGBEditFrame::resetValue(Type type)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Reset RGB value", &SliderEditFrame::resetValue);
+    d->rows().one(type, VANTORSLIDER_HERE, "Reset RGB value", &Row::resetValue);
 }
 
 void RGBEditFrame::resetValues()
 {
-    d->rows().all(&SliderEditFrame::resetValue);
+    d->rows().all(&Row::resetValue);
 }
 
 void RGBEditFrame::setSingleStep(Type type, int val)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB single step", &SliderEditFrame::setSingleStep,
-                  val);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB single step", &Row::setSingleStep, val);
 }
 
 int RGBEditFrame::singleStep(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB single step",
-                         &SliderEditFrame::singleStep);
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB single step", &Row::singleStep);
 }
 
 void RGBEditFrame::setPageStep(Type type, int val)
 {
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB page step", &SliderEditFrame::setPageStep, val);
+    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB page step", &Row::setPageStep, val);
 }
 
 int RGBEditFrame::pageStep(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB page step", &SliderEditFrame::pageStep);
+    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB page step", &Row::pageStep);
 }
 
 void RGBEditFrame::setValueChangeDirection(Type type, int directions, int val)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB value change direction",
-                  &SliderEditFrame::setValueChangeDirection, directions, val);
+                  &Row::setValueChangeDirection, directions, val);
 }
 
 void RGBEditFrame::setEntryOptions(EntryOptions options)
 {
-    d->rows().all(&SliderEditFrame::setEntryOptions, options);
+    d->rows().all(&Row::setEntryOptions, options);
 }
 
 EntryOptions RGBEditFrame::entryOptions() const
@@ -355,27 +347,27 @@ EntryOptions RGBEditFrame::entryOptions() const
 
 void RGBEditFrame::setAutoRepeat(bool b)
 {
-    d->rows().all(&SliderEditFrame::setAutoRepeat, b);
+    d->rows().all(&Row::setAutoRepeat, b);
 }
 
 void RGBEditFrame::setAutoRepeatDelay(int val)
 {
-    d->rows().all(&SliderEditFrame::setAutoRepeatDelay, val);
+    d->rows().all(&Row::setAutoRepeatDelay, val);
 }
 
 void RGBEditFrame::setAutoRepeatInterval(int val)
 {
-    d->rows().all(&SliderEditFrame::setAutoRepeatInterval, val);
+    d->rows().all(&Row::setAutoRepeatInterval, val);
 }
 
 void RGBEditFrame::setReleaseMode(bool b)
 {
-    d->rows().all(&SliderEditFrame::setReleaseMode, b);
+    d->rows().all(&Row::setReleaseMode, b);
 }
 
 void RGBEditFrame::setTimeSamplingRate(int val)
 {
-    d->rows().all(&SliderEditFrame::setTimeSamplingRate, val);
+    d->rows().all(&Row::setTimeSamplingRate, val);
 }
 
 void RGBEditFrame::setLastVerticalSpacerExpanding(bool b)

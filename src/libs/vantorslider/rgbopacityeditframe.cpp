@@ -9,6 +9,9 @@
 namespace Vantor {
 namespace Widgets {
 
+using Row = SliderEditFrame;
+using RGB = RGBEditFrame;
+
 namespace Internal {
 
 // The RGB editor above the opacity row, and the signal for their changes.
@@ -45,10 +48,9 @@ void RGBOpacityEditFramePrivate::createWidgets()
 
 void RGBOpacityEditFramePrivate::createConnects()
 {
-    connect(ui->frameOpacity, &SliderEditFrame::valueChanged, this,
+    connect(ui->frameOpacity, &Row::valueChanged, this,
             &RGBOpacityEditFramePrivate::opacityValueChanged);
-    connect(ui->frameRGB, &RGBEditFrame::valueChanged, this,
-            &RGBOpacityEditFramePrivate::rgbValueChanged);
+    connect(ui->frameRGB, &RGB::valueChanged, this, &RGBOpacityEditFramePrivate::rgbValueChanged);
 }
 
 void RGBOpacityEditFramePrivate::opacityValueChanged(int val)
@@ -89,12 +91,12 @@ RGBOpacityEditFrame::~RGBOpacityEditFrame()
 
 void RGBOpacityEditFrame::setLabelText(Type type, const QString &text)
 {
-    d->rows().one(type, &SliderEditFrame::setLabelText, &RGBEditFrame::setLabelText, text);
+    d->rows().one(type, &Row::setLabelText, &RGB::setLabelText, text);
 }
 
 QString RGBOpacityEditFrame::labelText(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::labelText, &RGBEditFrame::labelText);
+    return d->rows().get(type, &Row::labelText, &RGB::labelText);
 }
 
 void RGBOpacityEditFrame::setEditerVisible(int types)
@@ -104,8 +106,8 @@ void RGBOpacityEditFrame::setEditerVisible(int types)
 
 void RGBOpacityEditFrame::setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton)
 {
-    d->rows().all(&SliderEditFrame::setHorizontalSpacing, &RGBEditFrame::setHorizontalSpacing,
-                  nLabelSlider, nSliderButton);
+    d->rows().all(&Row::setHorizontalSpacing, &RGB::setHorizontalSpacing, nLabelSlider,
+                  nSliderButton);
 }
 
 void RGBOpacityEditFrame::setVerticalSpacing(const int &nVal)
@@ -116,101 +118,92 @@ void RGBOpacityEditFrame::setVerticalSpacing(const int &nVal)
 
 void RGBOpacityEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
 {
-    d->rows().one(type, &SliderEditFrame::setLabelWidthRange, &RGBEditFrame::setLabelWidthRange,
-                  maxw, minw);
+    d->rows().one(type, &Row::setLabelWidthRange, &RGB::setLabelWidthRange, maxw, minw);
 }
 
 void RGBOpacityEditFrame::setLabelWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setLabelWidthRange, &RGBEditFrame::setLabelWidthRanges, maxw,
-                  minw);
+    d->rows().all(&Row::setLabelWidthRange, &RGB::setLabelWidthRanges, maxw, minw);
 }
 
 void RGBOpacityEditFrame::setLabelFixedWidth(Type type, int w)
 {
-    d->rows().one(type, &SliderEditFrame::setLabelFixedWidth, &RGBEditFrame::setLabelFixedWidth, w);
+    d->rows().one(type, &Row::setLabelFixedWidth, &RGB::setLabelFixedWidth, w);
 }
 
 void RGBOpacityEditFrame::setLabelFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setLabelFixedWidth, &RGBEditFrame::setLabelFixedWidths, w);
+    d->rows().all(&Row::setLabelFixedWidth, &RGB::setLabelFixedWidths, w);
 }
 
 void RGBOpacityEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
 {
-    d->rows().one(type, &SliderEditFrame::setButtonWidthRange, &RGBEditFrame::setButtonWidthRange,
-                  maxw, minw);
+    d->rows().one(type, &Row::setButtonWidthRange, &RGB::setButtonWidthRange, maxw, minw);
 }
 
 void RGBOpacityEditFrame::setButtonWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setButtonWidthRange, &RGBEditFrame::setButtonWidthRanges, maxw,
-                  minw);
+    d->rows().all(&Row::setButtonWidthRange, &RGB::setButtonWidthRanges, maxw, minw);
 }
 
 void RGBOpacityEditFrame::setButtonFixedWidth(Type type, int w)
 {
-    d->rows().one(type, &SliderEditFrame::setButtonFixedWidth, &RGBEditFrame::setButtonFixedWidth,
-                  w);
+    d->rows().one(type, &Row::setButtonFixedWidth, &RGB::setButtonFixedWidth, w);
 }
 
 void RGBOpacityEditFrame::setButtonFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setButtonFixedWidth, &RGBEditFrame::setButtonFixedWidths, w);
+    d->rows().all(&Row::setButtonFixedWidth, &RGB::setButtonFixedWidths, w);
 }
 
 void RGBOpacityEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
 {
-    d->rows().one(type, &SliderEditFrame::setSpinBoxWidthRange, &RGBEditFrame::setSpinBoxWidthRange,
-                  maxw, minw);
+    d->rows().one(type, &Row::setSpinBoxWidthRange, &RGB::setSpinBoxWidthRange, maxw, minw);
 }
 
 void RGBOpacityEditFrame::setSpinBoxWidthRanges(int maxw, int minw)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxWidthRange, &RGBEditFrame::setSpinBoxWidthRanges,
-                  maxw, minw);
+    d->rows().all(&Row::setSpinBoxWidthRange, &RGB::setSpinBoxWidthRanges, maxw, minw);
 }
 
 void RGBOpacityEditFrame::setSpinBoxFixedWidth(Type type, int w)
 {
-    d->rows().one(type, &SliderEditFrame::setSpinBoxFixedWidth, &RGBEditFrame::setSpinBoxFixedWidth,
-                  w);
+    d->rows().one(type, &Row::setSpinBoxFixedWidth, &RGB::setSpinBoxFixedWidth, w);
 }
 
 void RGBOpacityEditFrame::setSpinBoxFixedWidths(int w)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxFixedWidth, &RGBEditFrame::setSpinBoxFixedWidths, w);
+    d->rows().all(&Row::setSpinBoxFixedWidth, &RGB::setSpinBoxFixedWidths, w);
 }
 
 void RGBOpacityEditFrame::setSpinBoxWheelEnable(bool b)
 {
-    d->rows().all(&SliderEditFrame::setSpinBoxWheelEnable, &RGBEditFrame::setSpinBoxWheelEnable, b);
+    d->rows().all(&Row::setSpinBoxWheelEnable, &RGB::setSpinBoxWheelEnable, b);
 }
 
 void RGBOpacityEditFrame::setSliderVisible(bool b)
 {
-    d->rows().all(&SliderEditFrame::setSliderVisible, &RGBEditFrame::setSliderVisible, b);
+    d->rows().all(&Row::setSliderVisible, &RGB::setSliderVisible, b);
 }
 
 void RGBOpacityEditFrame::setButtonVisible(bool b)
 {
-    d->rows().all(&SliderEditFrame::setButtonVisible, &RGBEditFrame::setButtonVisible, b);
+    d->rows().all(&Row::setButtonVisible, &RGB::setButtonVisible, b);
 }
 
 void RGBOpacityEditFrame::setSliderProperty(Type type, const char *name, const QVariant &value)
 {
-    d->rows().one(type, &SliderEditFrame::setSliderProperty, &RGBEditFrame::setSliderProperty, name,
-                  value);
+    d->rows().one(type, &Row::setSliderProperty, &RGB::setSliderProperty, name, value);
 }
 
 void RGBOpacityEditFrame::setFieldFocus(Type type)
 {
-    d->rows().one(type, &SliderEditFrame::setFieldFocus, &RGBEditFrame::setFieldFocus);
+    d->rows().one(type, &Row::setFieldFocus, &RGB::setFieldFocus);
 }
 
 void RGBOpacityEditFrame::setValue(Type type, int val)
 {
-    d->rows().one(type, &SliderEditFrame::setValue, &RGBEditFrame::setValue, val);
+    d->rows().one(type, &Row::setValue, &RGB::setValue, val);
 }
 
 void RGBOpacityEditFrame::setValues(int r, int g, int b, int opacity)
@@ -227,42 +220,42 @@ void RGBOpacityEditFrame::value(int &r, int &g, int &b, int &opacity)
 
 int RGBOpacityEditFrame::valueOf(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::value, &RGBEditFrame::valueOf);
+    return d->rows().get(type, &Row::value, &RGB::valueOf);
 }
 
 void RGBOpacityEditFrame::setPrefix(Type type, const QString &text)
 {
-    d->rows().one(type, &SliderEditFrame::setPrefix, &RGBEditFrame::setPrefix, text);
+    d->rows().one(type, &Row::setPrefix, &RGB::setPrefix, text);
 }
 
 void RGBOpacityEditFrame::setPrefixes(const QString &text)
 {
-    d->rows().all(&SliderEditFrame::setPrefix, &RGBEditFrame::setPrefixes, text);
+    d->rows().all(&Row::setPrefix, &RGB::setPrefixes, text);
 }
 
 QString RGBOpacityEditFrame::prefix(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::prefix, &RGBEditFrame::prefix);
+    return d->rows().get(type, &Row::prefix, &RGB::prefix);
 }
 
 void RGBOpacityEditFrame::setSuffix(Type type, const QString &text)
 {
-    d->rows().one(type, &SliderEditFrame::setSuffix, &RGBEditFrame::setSuffix, text);
+    d->rows().one(type, &Row::setSuffix, &RGB::setSuffix, text);
 }
 
 void RGBOpacityEditFrame::setSuffixes(const QString &text)
 {
-    d->rows().all(&SliderEditFrame::setSuffix, &RGBEditFrame::setSuffixes, text);
+    d->rows().all(&Row::setSuffix, &RGB::setSuffixes, text);
 }
 
 QString RGBOpacityEditFrame::suffix(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::suffix, &RGBEditFrame::suffix);
+    return d->rows().get(type, &Row::suffix, &RGB::suffix);
 }
 
 void RGBOpacityEditFrame::setRange(Type type, int min, int max)
 {
-    d->rows().one(type, &SliderEditFrame::setRange, &RGBEditFrame::setRange, min, max);
+    d->rows().one(type, &Row::setRange, &RGB::setRange, min, max);
 }
 
 void RGBOpacityEditFrame::setRanges(int min, int max)
@@ -277,58 +270,58 @@ void RGBOpacityEditFrame::range(Type type, int &min, int &max) const
 
 void RGBOpacityEditFrame::setDefaultValue(Type type, int val)
 {
-    d->rows().one(type, &SliderEditFrame::setDefaultValue, &RGBEditFrame::setDefaultValue, val);
+    d->rows().one(type, &Row::setDefaultValue, &RGB::setDefaultValue, val);
 }
 
 int RGBOpacityEditFrame::defaultValue(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::defaultValue, &RGBEditFrame::defaultValue);
+    return d->rows().get(type, &Row::defaultValue, &RGB::defaultValue);
 }
 
 bool RGBOpacityEditFrame::hasDefaultValue(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::hasDefaultValue, &RGBEditFrame::hasDefaultValue);
+    return d->rows().get(type, &Row::hasDefaultValue, &RGB::hasDefaultValue);
 }
 
 void RGBOpacityEditFrame::resetValue(Type type)
 {
-    d->rows().one(type, &SliderEditFrame::resetValue, &RGBEditFrame::resetValue);
+    d->rows().one(type, &Row::resetValue, &RGB::resetValue);
 }
 
 void RGBOpacityEditFrame::resetValues()
 {
-    d->rows().all(&SliderEditFrame::resetValue, &RGBEditFrame::resetValues);
+    d->rows().all(&Row::resetValue, &RGB::resetValues);
 }
 
 void RGBOpacityEditFrame::setSingleStep(Type type, int val)
 {
-    d->rows().one(type, &SliderEditFrame::setSingleStep, &RGBEditFrame::setSingleStep, val);
+    d->rows().one(type, &Row::setSingleStep, &RGB::setSingleStep, val);
 }
 
 int RGBOpacityEditFrame::singleStep(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::singleStep, &RGBEditFrame::singleStep);
+    return d->rows().get(type, &Row::singleStep, &RGB::singleStep);
 }
 
 void RGBOpacityEditFrame::setPageStep(Type type, int val)
 {
-    d->rows().one(type, &SliderEditFrame::setPageStep, &RGBEditFrame::setPageStep, val);
+    d->rows().one(type, &Row::setPageStep, &RGB::setPageStep, val);
 }
 
 int RGBOpacityEditFrame::pageStep(Type type) const
 {
-    return d->rows().get(type, &SliderEditFrame::pageStep, &RGBEditFrame::pageStep);
+    return d->rows().get(type, &Row::pageStep, &RGB::pageStep);
 }
 
 void RGBOpacityEditFrame::setValueChangeDirection(Type type, int directions, int val)
 {
-    d->rows().one(type, &SliderEditFrame::setValueChangeDirection,
-                  &RGBEditFrame::setValueChangeDirection, directions, val);
+    d->rows().one(type, &Row::setValueChangeDirection, &RGB::setValueChangeDirection, directions,
+                  val);
 }
 
 void RGBOpacityEditFrame::setEntryOptions(EntryOptions options)
 {
-    d->rows().all(&SliderEditFrame::setEntryOptions, &RGBEditFrame::setEntryOptions, options);
+    d->rows().all(&Row::setEntryOptions, &RGB::setEntryOptions, options);
 }
 
 EntryOptions RGBOpacityEditFrame::entryOptions() const
@@ -338,28 +331,27 @@ EntryOptions RGBOpacityEditFrame::entryOptions() const
 
 void RGBOpacityEditFrame::setAutoRepeat(bool b)
 {
-    d->rows().all(&SliderEditFrame::setAutoRepeat, &RGBEditFrame::setAutoRepeat, b);
+    d->rows().all(&Row::setAutoRepeat, &RGB::setAutoRepeat, b);
 }
 
 void RGBOpacityEditFrame::setAutoRepeatDelay(int val)
 {
-    d->rows().all(&SliderEditFrame::setAutoRepeatDelay, &RGBEditFrame::setAutoRepeatDelay, val);
+    d->rows().all(&Row::setAutoRepeatDelay, &RGB::setAutoRepeatDelay, val);
 }
 
 void RGBOpacityEditFrame::setAutoRepeatInterval(int val)
 {
-    d->rows().all(&SliderEditFrame::setAutoRepeatInterval, &RGBEditFrame::setAutoRepeatInterval,
-                  val);
+    d->rows().all(&Row::setAutoRepeatInterval, &RGB::setAutoRepeatInterval, val);
 }
 
 void RGBOpacityEditFrame::setReleaseMode(bool b)
 {
-    d->rows().all(&SliderEditFrame::setReleaseMode, &RGBEditFrame::setReleaseMode, b);
+    d->rows().all(&Row::setReleaseMode, &RGB::setReleaseMode, b);
 }
 
 void RGBOpacityEditFrame::setTimeSamplingRate(int val)
 {
-    d->rows().all(&SliderEditFrame::setTimeSamplingRate, &RGBEditFrame::setTimeSamplingRate, val);
+    d->rows().all(&Row::setTimeSamplingRate, &RGB::setTimeSamplingRate, val);
 }
 
 void RGBOpacityEditFrame::setLastVerticalSpacerExpanding(bool b)
