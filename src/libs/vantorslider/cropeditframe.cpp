@@ -28,16 +28,16 @@ public:
     int m_nMinY = 0;
 
 private Q_SLOTS:
-    void slotXValueChanged(int val);
-    void slotYValueChanged(int val);
-    void slotWidthValueChanged(int val);
-    void slotHeightValueChanged(int val);
+    void slotXValueChanged(int val) { hold({fieldX, fieldWidth, horizontalLimit()}, val); }
+    void slotYValueChanged(int val) { hold({fieldY, fieldHeight, verticalLimit()}, val); }
+    void slotWidthValueChanged(int val) { hold({fieldWidth, fieldX, horizontalLimit()}, val); }
+    void slotHeightValueChanged(int val) { hold({fieldHeight, fieldY, verticalLimit()}, val); }
 
 private:
     int horizontalLimit() const { return limit(RectEditFrame::X, RectEditFrame::Width); }
     int verticalLimit() const { return limit(RectEditFrame::Y, RectEditFrame::Height); }
     int limit(RectEditFrame::Type position, RectEditFrame::Type size) const;
-    void report(const FieldValues &crop);
+    void hold(const HeldPair &pair, int val);
 };
 
 // The base class emits the signal of a field before valueChanged(). So the crop is limited and
@@ -58,31 +58,13 @@ int CropEditFramePrivate::limit(RectEditFrame::Type position, RectEditFrame::Typ
                         fieldRange(m_pEditer, size).greatest);
 }
 
-void CropEditFramePrivate::report(const FieldValues &crop)
+// The user has set the first field of the pair to val.
+void CropEditFramePrivate::hold(const HeldPair &pair, int val)
 {
+    const FieldValues crop = heldWithinLimit(m_pEditer, pair, val);
     if (showAsLast(m_pEditer, crop, m_lastCrop)) {
         Q_EMIT m_pEditer->cropValueChanged(crop.x, crop.y, crop.width, crop.height);
     }
-}
-
-void CropEditFramePrivate::slotXValueChanged(int val)
-{
-    report(heldWithinLimit(m_pEditer, {fieldX, fieldWidth, horizontalLimit()}, val));
-}
-
-void CropEditFramePrivate::slotYValueChanged(int val)
-{
-    report(heldWithinLimit(m_pEditer, {fieldY, fieldHeight, verticalLimit()}, val));
-}
-
-void CropEditFramePrivate::slotWidthValueChanged(int val)
-{
-    report(heldWithinLimit(m_pEditer, {fieldWidth, fieldX, horizontalLimit()}, val));
-}
-
-void CropEditFramePrivate::slotHeightValueChanged(int val)
-{
-    report(heldWithinLimit(m_pEditer, {fieldHeight, fieldY, verticalLimit()}, val));
 }
 
 } // namespace Internal

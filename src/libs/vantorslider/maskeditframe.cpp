@@ -34,13 +34,13 @@ public:
     int m_nMinHeight = 0;
 
 private Q_SLOTS:
-    void slotTopValueChanged(int val);
-    void slotBottomValueChanged(int val);
-    void slotLeftValueChanged(int val);
-    void slotRightValueChanged(int val);
+    void slotTopValueChanged(int val) { hold({fieldTop, fieldBottom, m_nMaxHeight}, val); }
+    void slotBottomValueChanged(int val) { hold({fieldBottom, fieldTop, m_nMaxHeight}, val); }
+    void slotLeftValueChanged(int val) { hold({fieldLeft, fieldRight, m_nMaxWidth}, val); }
+    void slotRightValueChanged(int val) { hold({fieldRight, fieldLeft, m_nMaxWidth}, val); }
 
 private:
-    void report(const FieldValues &mask);
+    void hold(const HeldPair &pair, int val);
 };
 
 void MaskEditFramePrivate::createWidgets()
@@ -60,31 +60,13 @@ void MaskEditFramePrivate::createConnects()
     connect(m_pEditer, &RectEditFrame::heightValueChanged, this, &Private::slotRightValueChanged);
 }
 
-void MaskEditFramePrivate::report(const FieldValues &mask)
+// The user has set the first field of the pair to val.
+void MaskEditFramePrivate::hold(const HeldPair &pair, int val)
 {
+    const FieldValues mask = heldWithinLimit(m_pEditer, pair, val);
     if (showAsLast(m_pEditer, mask, m_lastMask)) {
         Q_EMIT m_pEditer->maskValueChanged(mask.x, mask.y, mask.width, mask.height);
     }
-}
-
-void MaskEditFramePrivate::slotTopValueChanged(int val)
-{
-    report(heldWithinLimit(m_pEditer, {fieldTop, fieldBottom, m_nMaxHeight}, val));
-}
-
-void MaskEditFramePrivate::slotBottomValueChanged(int val)
-{
-    report(heldWithinLimit(m_pEditer, {fieldBottom, fieldTop, m_nMaxHeight}, val));
-}
-
-void MaskEditFramePrivate::slotLeftValueChanged(int val)
-{
-    report(heldWithinLimit(m_pEditer, {fieldLeft, fieldRight, m_nMaxWidth}, val));
-}
-
-void MaskEditFramePrivate::slotRightValueChanged(int val)
-{
-    report(heldWithinLimit(m_pEditer, {fieldRight, fieldLeft, m_nMaxWidth}, val));
 }
 
 } // namespace Internal

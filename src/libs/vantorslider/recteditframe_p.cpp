@@ -142,26 +142,6 @@ void RectEditFramePrivate::slotLockSizeButtonToggled(bool checked)
     Q_EMIT m_pEditer->sizeLockChanged(checked);
 }
 
-void RectEditFramePrivate::slotXValueChanged(int val)
-{
-    changePosition(x(), val, y());
-}
-
-void RectEditFramePrivate::slotYValueChanged(int val)
-{
-    changePosition(y(), val, x());
-}
-
-void RectEditFramePrivate::slotWidthValueChanged(int val)
-{
-    changeSize(width(), val, height());
-}
-
-void RectEditFramePrivate::slotHeightValueChanged(int val)
-{
-    changeSize(height(), val, width());
-}
-
 void RectEditFramePrivate::changePosition(const LockedField &changed, int val,
                                           const LockedField &partner)
 {

@@ -47,10 +47,10 @@ public:
     bool m_isLockedSize = false;
 
 private Q_SLOTS:
-    void slotXValueChanged(int val);
-    void slotYValueChanged(int val);
-    void slotWidthValueChanged(int val);
-    void slotHeightValueChanged(int val);
+    void slotXValueChanged(int val) { changePosition(x(), val, y()); }
+    void slotYValueChanged(int val) { changePosition(y(), val, x()); }
+    void slotWidthValueChanged(int val) { changeSize(width(), val, height()); }
+    void slotHeightValueChanged(int val) { changeSize(height(), val, width()); }
 
 private:
     LockedField x() const
