@@ -168,12 +168,12 @@ void SliderEditFrame::setLabelFixedWidth(int w)
 
 void SliderEditFrame::setButtonWidthRange(int maxw, int minw)
 {
-    d->row().setButtonWidthRange(maxw, minw);
+    d->row().bothButtons(Internal::setWidthRange, maxw, minw);
 }
 
 void SliderEditFrame::setButtonFixedWidth(int w)
 {
-    d->row().setButtonFixedWidth(w);
+    d->row().bothButtons(Internal::setFixedWidth, w);
 }
 
 void SliderEditFrame::setSpinBoxWidthRange(int maxw, int minw)
@@ -208,7 +208,7 @@ void SliderEditFrame::setSliderVisible(bool b)
 
 void SliderEditFrame::setButtonVisible(bool b)
 {
-    d->row().setButtonVisible(b);
+    d->row().bothButtons(Internal::setShown, b);
 }
 
 void SliderEditFrame::setSliderProperty(const char *name, const QVariant &value)
@@ -253,10 +253,8 @@ QString SliderEditFrame::suffix() const
 
 void SliderEditFrame::setRange(int min, int max)
 {
-    {
-        const QSignalBlocker blocker(d->spinBox());
-        d->spinBox()->setRange(min, max);
-    }
+    const QSignalBlocker blocker(d->spinBox());
+    d->spinBox()->setRange(min, max);
     d->setScale(min, max);
 }
 
@@ -335,7 +333,7 @@ int SliderEditFrame::pageStep() const
 
 void SliderEditFrame::setAutoRepeat(bool b)
 {
-    d->row().setAutoRepeat(b);
+    d->row().bothButtons(&QToolButton::setAutoRepeat, b);
 }
 
 bool SliderEditFrame::autoRepeat() const
@@ -345,12 +343,12 @@ bool SliderEditFrame::autoRepeat() const
 
 void SliderEditFrame::setAutoRepeatDelay(int val)
 {
-    d->row().setAutoRepeatDelay(val);
+    d->row().bothButtons(&QToolButton::setAutoRepeatDelay, val);
 }
 
 void SliderEditFrame::setAutoRepeatInterval(int val)
 {
-    d->row().setAutoRepeatInterval(val);
+    d->row().bothButtons(&QToolButton::setAutoRepeatInterval, val);
 }
 
 void SliderEditFrame::setReleaseMode(bool b)
@@ -391,18 +389,15 @@ bool SliderEditFrame::eventFilter(QObject *watched, QEvent *event)
         d->resetByUser();
         return true;
     }
-    if (watched != d->spinBox()) {
-        return QFrame::eventFilter(watched, event);
+    if (watched == d->spinBox()) {
+        d->row().selectAllOnEntry(this, event);
     }
-    d->row().selectAllOnEntry(this, event);
-    return false;
+    return QFrame::eventFilter(watched, event);
 }
 
 void SliderEditFrame::timerEvent(QTimerEvent *event)
 {
-    if (d->isSamplingTimer(event->timerId())) {
-        d->sample();
-    }
+    d->sample(event->timerId());
 }
 
 } // namespace Widgets

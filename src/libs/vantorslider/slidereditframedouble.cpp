@@ -106,12 +106,12 @@ void SliderEditFrameDouble::setLabelFixedWidth(int w)
 
 void SliderEditFrameDouble::setButtonWidthRange(int maxw, int minw)
 {
-    d->row().setButtonWidthRange(maxw, minw);
+    d->row().bothButtons(Internal::setWidthRange, maxw, minw);
 }
 
 void SliderEditFrameDouble::setButtonFixedWidth(int w)
 {
-    d->row().setButtonFixedWidth(w);
+    d->row().bothButtons(Internal::setFixedWidth, w);
 }
 
 void SliderEditFrameDouble::setSpinBoxWidthRange(int maxw, int minw)
@@ -146,7 +146,7 @@ void SliderEditFrameDouble::setSliderVisible(bool b)
 
 void SliderEditFrameDouble::setButtonVisible(bool b)
 {
-    d->row().setButtonVisible(b);
+    d->row().bothButtons(Internal::setShown, b);
 }
 
 void SliderEditFrameDouble::setSliderProperty(const char *name, const QVariant &value)
@@ -206,10 +206,8 @@ void SliderEditFrameDouble::setMinimum(double min)
     if (std::isnan(min)) {
         return;
     }
-    {
-        const QSignalBlocker blocker(d->spinBox());
-        d->spinBox()->setMinimum(min + Internal::minPrecision);
-    }
+    const QSignalBlocker blocker(d->spinBox());
+    d->spinBox()->setMinimum(min + Internal::minPrecision);
     setDecimals(d->precision());
     // Without decimals the slider already has the rounded bound of the spin box.
     if (decimals() != 0) {
@@ -222,16 +220,14 @@ void SliderEditFrameDouble::setMaximum(double max)
     if (std::isnan(max)) {
         return;
     }
-    {
-        const QSignalBlocker blocker(d->spinBox());
-        const double bound = max + Internal::minPrecision;
-        if (bound < minimum()) {
-            // setMaximum() would lower the minimum, too, but the next setDecimals() would
-            // restore the old one.
-            d->spinBox()->setMinimum(bound);
-        }
-        d->spinBox()->setMaximum(bound);
+    const QSignalBlocker blocker(d->spinBox());
+    const double bound = max + Internal::minPrecision;
+    if (bound < minimum()) {
+        // setMaximum() would lower the minimum, too, but the next setDecimals() would restore the
+        // old one.
+        d->spinBox()->setMinimum(bound);
     }
+    d->spinBox()->setMaximum(bound);
     setDecimals(d->precision());
     if (decimals() != 0) {
         const int highest = d->toPosition(max);
@@ -329,7 +325,7 @@ int SliderEditFrameDouble::pageStep() const
 
 void SliderEditFrameDouble::setAutoRepeat(bool b)
 {
-    d->row().setAutoRepeat(b);
+    d->row().bothButtons(&QToolButton::setAutoRepeat, b);
 }
 
 bool SliderEditFrameDouble::autoRepeat() const
@@ -339,12 +335,12 @@ bool SliderEditFrameDouble::autoRepeat() const
 
 void SliderEditFrameDouble::setAutoRepeatDelay(int val)
 {
-    d->row().setAutoRepeatDelay(val);
+    d->row().bothButtons(&QToolButton::setAutoRepeatDelay, val);
 }
 
 void SliderEditFrameDouble::setAutoRepeatInterval(int val)
 {
-    d->row().setAutoRepeatInterval(val);
+    d->row().bothButtons(&QToolButton::setAutoRepeatInterval, val);
 }
 
 void SliderEditFrameDouble::setReleaseMode(bool b)
@@ -385,18 +381,15 @@ bool SliderEditFrameDouble::eventFilter(QObject *watched, QEvent *event)
         d->resetByUser();
         return true;
     }
-    if (watched != d->spinBox()) {
-        return QFrame::eventFilter(watched, event);
+    if (watched == d->spinBox()) {
+        d->row().selectAllOnEntry(this, event);
     }
-    d->row().selectAllOnEntry(this, event);
-    return false;
+    return QFrame::eventFilter(watched, event);
 }
 
 void SliderEditFrameDouble::timerEvent(QTimerEvent *event)
 {
-    if (d->isSamplingTimer(event->timerId())) {
-        d->sample();
-    }
+    d->sample(event->timerId());
 }
 
 int SliderEditFrameDouble::getPrecision(float num)

@@ -74,10 +74,12 @@ public:
         engine().handToCalculator(val);
     }
 
-    // The sampling tick. A receiver may run a local event loop, in which the timer continues.
-    void sample()
+    // The tick of the sampling timer; the frame may have others. A receiver may run a local event
+    // loop, in which the timer continues.
+    void sample(int timer)
     {
-        if (m_isSampleInDelivery || spinPosition() == m_nLastTimerValue) {
+        if (timer != m_nSamplingTimer || m_isSampleInDelivery
+            || spinPosition() == m_nLastTimerValue) {
             return;
         }
         const QPointer<SliderEngine> self(this);
@@ -91,8 +93,6 @@ public:
             }
         }
     }
-
-    bool isSamplingTimer(int id) const { return id == m_nSamplingTimer; }
 
     // How a drag is reported. The buttons' auto-repeat does not change.
     void setReleaseMode(bool isOn) { m_isReleaseMode = isOn; }

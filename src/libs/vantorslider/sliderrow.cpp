@@ -72,46 +72,10 @@ void SliderRow::setSliderVisible(bool isVisible) const
     setShown(slider, isVisible);
 }
 
-void SliderRow::setButtonWidthRange(int maximum, int minimum) const
-{
-    setWidthRange(plus, maximum, minimum);
-    setWidthRange(minus, maximum, minimum);
-}
-
-void SliderRow::setButtonFixedWidth(int width) const
-{
-    setFixedWidth(plus, width);
-    setFixedWidth(minus, width);
-}
-
-void SliderRow::setButtonVisible(bool isVisible) const
-{
-    setShown(plus, isVisible);
-    setShown(minus, isVisible);
-}
-
 void SliderRow::setFieldFocus() const
 {
     spinBox->setFocus(Qt::OtherFocusReason);
     spinBox->selectAll();
-}
-
-void SliderRow::setAutoRepeat(bool isRepeating) const
-{
-    plus->setAutoRepeat(isRepeating);
-    minus->setAutoRepeat(isRepeating);
-}
-
-void SliderRow::setAutoRepeatDelay(int milliseconds) const
-{
-    plus->setAutoRepeatDelay(milliseconds);
-    minus->setAutoRepeatDelay(milliseconds);
-}
-
-void SliderRow::setAutoRepeatInterval(int milliseconds) const
-{
-    plus->setAutoRepeatInterval(milliseconds);
-    minus->setAutoRepeatInterval(milliseconds);
 }
 
 // Queued, because the spin box moves the cursor when it handles the event.

@@ -2,6 +2,8 @@
 
 #include <QtCore/QtGlobal>
 
+#include <functional>
+
 QT_BEGIN_NAMESPACE
 class QAbstractSpinBox;
 class QEvent;
@@ -39,14 +41,16 @@ struct SliderRow
     void setHorizontalSpacing(int labelToSlider, int sliderToRest) const;
     void setLabelText(const QString &text) const;
     void setSliderVisible(bool isVisible) const;
-
-    void setButtonWidthRange(int maximum, int minimum) const;
-    void setButtonFixedWidth(int width) const;
-    void setButtonVisible(bool isVisible) const;
     void setFieldFocus() const;
-    void setAutoRepeat(bool isRepeating) const;
-    void setAutoRepeatDelay(int milliseconds) const;
-    void setAutoRepeatInterval(int milliseconds) const;
+
+    // Calls the operation for plus, then for minus: a member function of theirs, or a function
+    // that takes a widget.
+    template <typename Operation, typename... Arguments>
+    void bothButtons(Operation operation, const Arguments &...arguments) const
+    {
+        std::invoke(operation, plus, arguments...);
+        std::invoke(operation, minus, arguments...);
+    }
 
     // Called by the frame's event filter: a click or Tab into the spin box selects its text.
     void selectAllOnEntry(QWidget *frame, const QEvent *event) const;
