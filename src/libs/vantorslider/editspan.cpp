@@ -22,16 +22,15 @@ EditSpan::~EditSpan()
 }
 
 // The EditSpan of the widget if it is of one of these classes, or null.
-template <typename... Editors> EditSpan *EditSpan::find(const QWidget *widget)
+template <typename Editor, typename... Others> EditSpan *EditSpan::find(const QWidget *widget)
 {
-    EditSpan *span = nullptr;
-    const auto isOf = [widget, &span](const auto *editor) {
-        editor = qobject_cast<decltype(editor)>(widget);
-        span = editor != nullptr ? of(*editor) : nullptr;
-        return editor != nullptr;
-    };
-    static_cast<void>((isOf(static_cast<const Editors *>(nullptr)) || ...));
-    return span;
+    if (const auto *editor = qobject_cast<const Editor *>(widget)) {
+        return of(*editor);
+    }
+    if constexpr (sizeof...(Others) != 0) {
+        return find<Others...>(widget);
+    }
+    return nullptr;
 }
 
 // A widget in its base class destructor is no longer of one of these classes.

@@ -59,7 +59,7 @@ private:
         Q_EMIT(isStart ? sender->editStarted() : sender->editFinished());
     }
 
-    template <typename... Editors> static EditSpan *find(const QWidget *widget);
+    template <typename Editor, typename... Others> static EditSpan *find(const QWidget *widget);
 
     // Each is defined in the file of its editor's private class.
     static EditSpan *of(const RectEditFrame &editor);
