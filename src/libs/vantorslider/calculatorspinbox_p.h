@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editspan_p.h"
 #include "fieldtext_p.h"
 #include "qlineeditcal.h"
 #include "saturation_p.h"
@@ -32,7 +33,7 @@ void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard);
 void markRefusedEntry(QAbstractSpinBox *spinBox, LineEditCal *calculator);
 
 bool isFinishingKey(const QKeyEvent *event);
-// Whether a key press or a shortcut override is to show the value again, if there is anything to
+// Whether a key press or a shortcut override shows the value again, if there is anything to
 // restore.
 bool isRestoringKey(const QEvent *keyEvent, const LineEditCal *calculator);
 
@@ -68,25 +69,35 @@ double numberFromText(const SpinBox *spinBox, const LineEditCal *calculator, con
     return std::clamp<double>(*number, spinBox->minimum(), spinBox->maximum());
 }
 
+// The text of the value as the spin box writes it, without prefix and suffix. textFromValue() is
+// protected in QSpinBox; the integer spin box declares this class its friend.
+struct ValueText
+{
+    template <typename SpinBox> static QString of(const SpinBox *spinBox)
+    {
+        return spinBox->textFromValue(spinBox->value());
+    }
+};
+
 // What the user has typed that is not part of the value yet.
 enum class Entry { None, Number, Expression };
 
 // Whether the text is the value, as the spin box writes it or as another text of the same number.
-// A number out of range is not the value. valueText: the value without prefix and suffix.
-template <typename SpinBox> bool showsValue(const SpinBox *spinBox, const QString &valueText)
+// A number out of range is not the value.
+template <typename SpinBox> bool showsValue(const SpinBox *spinBox)
 {
     const bool isSpecial =
         !spinBox->specialValueText().isEmpty() && spinBox->value() == spinBox->minimum();
     const QString text = spinBox->text();
     return text
         == (isSpecial ? spinBox->specialValueText()
-                      : spinBox->prefix() + valueText + spinBox->suffix())
+                      : spinBox->prefix() + ValueText::of(spinBox) + spinBox->suffix())
         || numberIn(FieldText(spinBox, text).entry) == double(spinBox->value());
 }
 
-template <typename SpinBox> Entry pendingEntry(const SpinBox *spinBox, const QString &valueText)
+template <typename SpinBox> Entry pendingEntry(const SpinBox *spinBox)
 {
-    if (showsValue(spinBox, valueText)) {
+    if (showsValue(spinBox)) {
         return Entry::None;
     }
     const QString text = spinBox->text();
@@ -98,9 +109,9 @@ template <typename SpinBox> Entry pendingEntry(const SpinBox *spinBox, const QSt
 
 // Changes prefix and suffix. Qt then writes the value; a pending entry is restored between them.
 template <typename SpinBox, typename Change>
-void keepEntry(SpinBox *spinBox, QLineEdit *field, const QString &valueText, Change change)
+void keepEntry(SpinBox *spinBox, QLineEdit *field, Change change)
 {
-    const bool isPending = pendingEntry(spinBox, valueText) != Entry::None;
+    const bool isPending = pendingEntry(spinBox) != Entry::None;
     const FieldText before(spinBox, spinBox->text());
     const auto cursor = field->cursorPosition() - before.prefix.length();
     change();
@@ -111,11 +122,13 @@ void keepEntry(SpinBox *spinBox, QLineEdit *field, const QString &valueText, Cha
     }
 }
 
-// Whether an entry is pending, or the last one failed and is still marked.
+// Whether the key restores the value of this spin box: an entry is pending, or the last one failed
+// and is still marked.
 template <typename SpinBox>
-bool isRestorable(const SpinBox *spinBox, const LineEditCal *calculator, const QString &valueText)
+bool isRestoredBy(const QEvent *keyEvent, const SpinBox *spinBox, const LineEditCal *calculator)
 {
-    return calculator->isEntryRefused() || !showsValue(spinBox, valueText);
+    return isRestoringKey(keyEvent, calculator)
+        && (calculator->isEntryRefused() || !showsValue(spinBox));
 }
 
 template <typename SpinBox> void restoreValue(SpinBox *spinBox, LineEditCal *calculator)
@@ -128,10 +141,9 @@ template <typename SpinBox> void restoreValue(SpinBox *spinBox, LineEditCal *cal
 }
 
 // Enter with the option EnterStays. Each receiver may delete the spin box.
-template <typename SpinBox>
-void finishAndStay(SpinBox *spinBox, QKeyEvent *event, const QString &valueText)
+template <typename SpinBox> void finishAndStay(SpinBox *spinBox, QKeyEvent *event)
 {
-    if (showsValue(spinBox, valueText)) {
+    if (showsValue(spinBox)) {
         // Leaves the key to a default button, except for auto-repeat of a held key.
         event->setAccepted(event->isAutoRepeat());
         return;
@@ -150,6 +162,48 @@ void finishAndStay(SpinBox *spinBox, QKeyEvent *event, const QString &valueText)
     if (self) {
         spinBox->selectAll();
     }
+}
+
+// Return, Enter and the key that restores the value. Returns false for any other key. Each receiver
+// may delete the spin box.
+template <typename SpinBox>
+bool handleKey(SpinBox *spinBox, LineEditCal *calculator, QKeyEvent *event)
+{
+    const bool isRestored = isRestoredBy(event, spinBox, calculator);
+    if (!isRestored && !isFinishingKey(event)) {
+        return false;
+    }
+    EditSpan::Scope edit(EditSpan::around(spinBox));
+    if (isRestored) {
+        restoreValue(spinBox, calculator);
+        edit.release(EditSpan::Entry);
+    } else if (spinBox->entryOptions().testFlag(EnterStays)) {
+        finishAndStay(spinBox, event);
+        edit.release(EditSpan::Entry);
+    } else {
+        const QPointer<SpinBox> self(spinBox);
+        Q_EMIT spinBox->editingFinished();
+        if (self) {
+            Q_EMIT spinBox->enterFinished();
+        }
+    }
+    return true;
+}
+
+// The key that restores the value takes precedence over a host's shortcut. The field reports when
+// an entry was refused. Returns false for any other event.
+template <typename SpinBox>
+bool handleEvent(SpinBox *spinBox, LineEditCal *calculator, QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && isRestoredBy(event, spinBox, calculator)) {
+        event->accept();
+        return true;
+    }
+    if (event->type() == LineEditCal::entryRefusedChange() && calculator != nullptr) {
+        markRefusedEntry(spinBox, calculator);
+        return true;
+    }
+    return false;
 }
 
 // Whether the spin box is hidden or loses the focus because its window is being destroyed. Its

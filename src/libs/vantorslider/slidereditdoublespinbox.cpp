@@ -41,8 +41,7 @@ void SliderEditDoubleSpinBox::stepBy(int steps)
 {
     EditSpan::Scope edit(EditSpan::around(this));
     edit.begin();
-    if (m_pLineEditCal != nullptr
-        && Internal::pendingEntry(this, textFromValue(value())) == Internal::Entry::Expression) {
+    if (m_pLineEditCal != nullptr && Internal::pendingEntry(this) == Internal::Entry::Expression) {
         m_pLineEditCal->setSlotEditingFinished();
     }
     QDoubleSpinBox::stepBy(steps);
@@ -69,7 +68,7 @@ void SliderEditDoubleSpinBox::setWheelEnable(bool b)
 void SliderEditDoubleSpinBox::setUnit(const QString &prefix, const QString &suffix)
 {
     const bool isEdited = hasFocus() || !m_btnFirstPress;
-    Internal::keepEntry(this, lineEdit(), textFromValue(value()), [&] {
+    Internal::keepEntry(this, lineEdit(), [&] {
         setPrefix(prefix);
         setSuffix(isEdited ? QString() : suffix);
     });
@@ -102,7 +101,7 @@ void SliderEditDoubleSpinBox::setSlotEditingFinished()
         return;
     }
     const QPointer<SliderEditDoubleSpinBox> self(this);
-    if (Internal::pendingEntry(this, textFromValue(value())) != Internal::Entry::None) {
+    if (Internal::pendingEntry(this) != Internal::Entry::None) {
         m_pLineEditCal->setSlotEditingFinished();
     }
     if (self) {
@@ -115,8 +114,7 @@ void SliderEditDoubleSpinBox::setSuffixShow()
     if (m_strSuffix.isEmpty()) {
         return;
     }
-    const bool isPending =
-        Internal::pendingEntry(this, textFromValue(value())) != Internal::Entry::None;
+    const bool isPending = Internal::pendingEntry(this) != Internal::Entry::None;
     QString entry = text();
     if (!entry.endsWith(m_strSuffix)) {
         entry += m_strSuffix;
@@ -143,7 +141,7 @@ void SliderEditDoubleSpinBox::onSlotResultFinished()
         }
     }
     // If the value differs, the entry stays pending until the spin box loses the focus.
-    if (self && Internal::pendingEntry(this, textFromValue(value())) == Internal::Entry::None) {
+    if (self && Internal::pendingEntry(this) == Internal::Entry::None) {
         edit.release(EditSpan::Entry);
     }
 }
@@ -163,44 +161,15 @@ void SliderEditDoubleSpinBox::wheelEvent(QWheelEvent *event)
     QDoubleSpinBox::wheelEvent(event);
 }
 
-// The key that restores the value takes precedence over a host's shortcut.
 bool SliderEditDoubleSpinBox::event(QEvent *event)
 {
-    if (event->type() == QEvent::ShortcutOverride && Internal::isRestoringKey(event, m_pLineEditCal)
-        && Internal::isRestorable(this, m_pLineEditCal, textFromValue(value()))) {
-        event->accept();
-        return true;
-    }
-    if (event->type() == LineEditCal::entryRefusedChange() && m_pLineEditCal != nullptr) {
-        Internal::markRefusedEntry(this, m_pLineEditCal);
-        return true;
-    }
-    return QDoubleSpinBox::event(event);
+    return Internal::handleEvent(this, m_pLineEditCal, event) || QDoubleSpinBox::event(event);
 }
 
 void SliderEditDoubleSpinBox::keyPressEvent(QKeyEvent *event)
 {
-    if (Internal::isRestoringKey(event, m_pLineEditCal)
-        && Internal::isRestorable(this, m_pLineEditCal, textFromValue(value()))) {
-        EditSpan::Scope edit(EditSpan::around(this));
-        Internal::restoreValue(this, m_pLineEditCal);
-        edit.release(EditSpan::Entry);
-        return;
-    }
-    if (!Internal::isFinishingKey(event)) {
+    if (!Internal::handleKey(this, m_pLineEditCal, event)) {
         QDoubleSpinBox::keyPressEvent(event);
-        return;
-    }
-    EditSpan::Scope edit(EditSpan::around(this));
-    if (entryOptions().testFlag(EnterStays)) {
-        Internal::finishAndStay(this, event, textFromValue(value()));
-        edit.release(EditSpan::Entry);
-        return;
-    }
-    const QPointer<SliderEditDoubleSpinBox> self(this);
-    Q_EMIT editingFinished();
-    if (self) {
-        Q_EMIT enterFinished();
     }
 }
 

@@ -17,6 +17,7 @@ class LineEditCal;
 
 namespace Internal {
 class HostWindow;
+struct ValueText;
 } // namespace Internal
 
 // The slider of a row: tracks whether a mouse button is down on it and ignores the wheel, so
@@ -164,6 +165,8 @@ protected:
     void childEvent(QChildEvent *event) override;
 
 private:
+    friend struct Internal::ValueText;
+
     bool m_isWheelEnabled = false;
     // Null if a subclass has set another line edit.
     LineEditCal *m_pLineEditCal;

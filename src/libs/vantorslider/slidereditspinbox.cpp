@@ -38,8 +38,7 @@ void SliderEditSpinBox::stepBy(int steps)
 {
     EditSpan::Scope edit(EditSpan::around(this));
     edit.begin();
-    if (m_pLineEditCal != nullptr
-        && Internal::pendingEntry(this, textFromValue(value())) == Internal::Entry::Expression) {
+    if (m_pLineEditCal != nullptr && Internal::pendingEntry(this) == Internal::Entry::Expression) {
         m_pLineEditCal->setSlotEditingFinished();
     }
     QSpinBox::stepBy(steps);
@@ -65,7 +64,7 @@ void SliderEditSpinBox::setWheelEnable(bool b)
 
 void SliderEditSpinBox::setUnit(const QString &prefix, const QString &suffix)
 {
-    Internal::keepEntry(this, lineEdit(), textFromValue(value()), [&] {
+    Internal::keepEntry(this, lineEdit(), [&] {
         setPrefix(prefix);
         setSuffix(suffix);
     });
@@ -85,8 +84,7 @@ void SliderEditSpinBox::setSpinBoxCal(const int &result, const int &max, const i
 
 void SliderEditSpinBox::setSlotEditingFinished()
 {
-    if (m_pLineEditCal != nullptr
-        && Internal::pendingEntry(this, textFromValue(value())) != Internal::Entry::None) {
+    if (m_pLineEditCal != nullptr && Internal::pendingEntry(this) != Internal::Entry::None) {
         m_pLineEditCal->setSlotEditingFinished();
     }
 }
@@ -123,44 +121,15 @@ void SliderEditSpinBox::wheelEvent(QWheelEvent *event)
     QSpinBox::wheelEvent(event);
 }
 
-// The key that restores the value takes precedence over a host's shortcut.
 bool SliderEditSpinBox::event(QEvent *event)
 {
-    if (event->type() == QEvent::ShortcutOverride && Internal::isRestoringKey(event, m_pLineEditCal)
-        && Internal::isRestorable(this, m_pLineEditCal, textFromValue(value()))) {
-        event->accept();
-        return true;
-    }
-    if (event->type() == LineEditCal::entryRefusedChange() && m_pLineEditCal != nullptr) {
-        Internal::markRefusedEntry(this, m_pLineEditCal);
-        return true;
-    }
-    return QSpinBox::event(event);
+    return Internal::handleEvent(this, m_pLineEditCal, event) || QSpinBox::event(event);
 }
 
 void SliderEditSpinBox::keyPressEvent(QKeyEvent *event)
 {
-    if (Internal::isRestoringKey(event, m_pLineEditCal)
-        && Internal::isRestorable(this, m_pLineEditCal, textFromValue(value()))) {
-        EditSpan::Scope edit(EditSpan::around(this));
-        Internal::restoreValue(this, m_pLineEditCal);
-        edit.release(EditSpan::Entry);
-        return;
-    }
-    if (!Internal::isFinishingKey(event)) {
+    if (!Internal::handleKey(this, m_pLineEditCal, event)) {
         QSpinBox::keyPressEvent(event);
-        return;
-    }
-    EditSpan::Scope edit(EditSpan::around(this));
-    if (entryOptions().testFlag(EnterStays)) {
-        Internal::finishAndStay(this, event, textFromValue(value()));
-        edit.release(EditSpan::Entry);
-        return;
-    }
-    const QPointer<SliderEditSpinBox> self(this);
-    Q_EMIT editingFinished();
-    if (self) {
-        Q_EMIT enterFinished();
     }
 }
 
