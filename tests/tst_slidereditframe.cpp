@@ -138,6 +138,12 @@ void tst_SliderEditFrame::sequences_data()
         QVERIFY(comesTrue([&] { return (heard += user.heard()) == "40"; }));
         user.play("drop");
     });
+    addForBoth("a timer of a derived class", [](auto &user) {
+        user.play("sampled | hold | move 20");
+        QTimerEvent event(user.frame->startTimer(60000));
+        QCoreApplication::sendEvent(user.frame, &event);
+        QCOMPARE(user.heard(), QString());
+    });
     addBoth("a host's value in a drag", "sampled | hold | value 50 | drop | shown: 50");
     const QString drag = " | hold 90 95 120 130: ";
     const QString before = "range 0 200 | value 100 | direction ";
