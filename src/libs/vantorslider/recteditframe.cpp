@@ -46,6 +46,7 @@ void RectEditFrame::setLabelText(Type type, const QString &text)
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect label text", &Row::setLabelText, text);
 }
 
+// The warning is that of the setter since 1.0; hosts may look for it in their logs.
 QString RectEditFrame::labelText(Type type) const
 {
     return d->rows().get(type, VANTORSLIDER_HERE, "Set Rect label text", &Row::labelText);

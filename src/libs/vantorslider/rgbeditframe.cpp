@@ -95,6 +95,7 @@ RGBEditFrame::~RGBEditFrame()
     d = nullptr;
 }
 
+// The warning names another class since 1.0; hosts may look for it in their logs.
 void RGBEditFrame::setLabelText(Type type, const QString &text)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGBAll label text", &Row::setLabelText, text);
