@@ -107,6 +107,13 @@ void tst_EntryOptions::fraction_data()
     row("options comma escape | type 2,5 | escape | shown: 50.00 | escape: key");
     row("options comma stays | type 2,5\n: 2.5 | keys 1,5\n: 1.5");
     row("options escape stays | type 2+\n | refused: yes | escape | refused: no | escape: key");
+    // The program sets the number at the first key: a text without a comma is not written again.
+    QTest::newRow("options comma, set at the start") << TestCode([] {
+        UserOf<SliderEditFrameDouble> user(1);
+        QObject::connect(user.frame, &SliderEditFrameDouble::editStarted, &user.page,
+                         [&user] { user.perform("value 7"); });
+        user.play("options comma | range 0 100 | type 7 | shown: 7.00");
+    });
 }
 
 // The options reach all rows, and a crop still limits an entry.

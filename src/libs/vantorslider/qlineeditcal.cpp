@@ -156,8 +156,9 @@ void LineEditCal::onSlotTextChanged(QString text)
         setEntryRefused(false); // the user may have typed the shown result
         edit.begin(Internal::EditSpan::Entry);
     }
-    if (has(DecimalComma)) {
-        shown.entry = pointed(shown.entry);
+    QString entry = pointed(shown.entry);
+    if (entry != shown.entry) {
+        shown.entry = std::move(entry);
         const QSignalBlocker blocker(this);
         setEntryText(shown.entry, cursorPosition() - static_cast<int>(shown.prefix.length()));
     }
