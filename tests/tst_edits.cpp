@@ -32,49 +32,6 @@ template <typename AnyUser> void leaveFocusInField(AnyUser &user)
         part->setFocusPolicy(Qt::NoFocus);
 }
 
-// The records while the editor's signals are blocked, and after they are unblocked.
-template <typename AnyUser> void blockedAtTheEnd(AnyUser &user)
-{
-    user.play("edits | hold 20: start 20");
-    user.frame->blockSignals(true);
-    user.play("drop");
-    user.frame->blockSignals(false);
-    QCoreApplication::processEvents();
-    QCOMPARE(user.heard(), QString("end"));
-    user.play("plus: start 21 end | hold 40: start 40");
-    // If the signals stay blocked, the next edit continues the one that the host knows.
-    user.frame->blockSignals(true);
-    user.play("drop");
-    QCoreApplication::processEvents();
-    user.play("hold 50");
-    user.frame->blockSignals(false);
-    user.play("move 60: 60 | drop: end");
-}
-
-template <typename AnyUser> void blockedAtTheStart(AnyUser &user)
-{
-    user.perform("edits");
-    user.frame->blockSignals(true);
-    user.play("hold 20 | drop | hold 30");
-    user.frame->blockSignals(false);
-    user.play("move 40: start 40 | drop: end");
-}
-
-template <typename AnyUser> void windowGoes(AnyUser &user, const QString &gesture)
-{
-    auto *const host = new QFrame;
-    user.frame->setParent(host);
-    QVERIFY(User::show(*host));
-    user.perform("edits");
-    if (gesture == "button")
-        User::pressAt(user.row.plus, user.row.plus->rect().center());
-    else
-        user.perform(gesture);
-    QVERIFY(user.heard().startsWith("start"));
-    delete host;
-    QCOMPARE(user.heard(), QString());
-}
-
 // All repetitions of a held button belong to one edit.
 template <typename AnyUser> void repeat(AnyUser &user)
 {
@@ -113,15 +70,13 @@ template <typename AnyUser> void nest(AnyUser &user, const QString &steps)
     user.perform("edits");
     user.row.slider->setFocus();
     bool isNested = false;
-    QObject::connect(user.frame, &std::remove_pointer_t<decltype(user.frame)>::valueChanged,
-                     &user.page, [&] {
-                         if (!std::exchange(isNested, true)) {
-                             user.perform("dialog");
-                             QTest::keyClick(user.row.slider, Qt::Key_Right);
-                         }
-                     });
-    for (const QString &step : steps.split(" | "))
-        user.perform(step);
+    user.onReport([&] {
+        if (!std::exchange(isNested, true)) {
+            user.perform("dialog");
+            QTest::keyClick(user.row.slider, Qt::Key_Right);
+        }
+    });
+    user.performAll(steps);
     const QStringList heard = user.heard().split(' ');
     QVERIFY2(heard.first() == "start" && heard.indexOf("end") == heard.size() - 1,
              qPrintable(heard.join(' ')));
@@ -132,8 +87,7 @@ template <typename AnyUser> void focusMoves(AnyUser &user)
 {
     user.perform("edits");
     user.row.slider->setFocus();
-    QObject::connect(user.frame, &std::remove_pointer_t<decltype(user.frame)>::valueChanged,
-                     &user.page, [&user] { user.row.plus->setFocus(); });
+    user.onReport([&user] { user.row.plus->setFocus(); });
     const QPoint groove(user.row.slider->width() - 2, user.row.slider->height() / 2);
     User::pressAt(user.row.slider, groove);
     QCOMPARE(user.heard(), QString("start 20"));
@@ -188,40 +142,43 @@ void tst_Edits::rows_data()
     QTest::addColumn<TestCode>("code");
     const auto addInt = rowsAfter<SliderEditFrame>("edits | ");
     const auto addDouble = rowsAfter<SliderEditFrameDouble>("edits | ");
-    const auto addBoth = [=](const QString &name, const QString &steps) {
-        addInt(name, steps);
-        addDouble(name, steps);
-    };
-    const QString all = "hold 20 60: start 20 60 | ", none = "hold 20 60: start | ";
+    const auto addBoth = rowsOfBothAfter("edits | ");
     for (const QString mode : {"", "released | ", "sampled | "}) {
-        const QString hold = mode + (mode.isEmpty() ? all : none);
-        const QString last = mode.isEmpty() ? ": end" : ": 60 end";
-        addBoth(mode + "drag", hold + "drop" + last);
-        addBoth(mode + "drag, slider hidden", hold + "hideSlider" + last + " | drop");
-        addBoth(mode + "drag, disabled", hold + "disable" + last + " | enable | drop");
+        const bool isAtOnce = mode.isEmpty();
+        const QString hold =
+            mode + (isAtOnce ? "hold 20 60 40: start 20 60 40 | " : "hold 20 60 40: start | ");
+        const QString last = isAtOnce ? ": end" : ": 40 end";
+        addBoth(mode + "drag", hold + "drop" + last + " | shown: 40 | timer: stands");
+        addBoth(mode + "drag, slider hidden",
+                hold + "hideSlider" + last + " | timer: stands | drop | shown: 40");
+        // The handle is no longer pressed.
+        addBoth(mode + "drag, disabled",
+                hold + "disable" + last + " | enable | move 70 | timer: stands | drop | shown: 40");
         addBoth(mode + "drag, dialog", hold + "dialog" + last + " | drop");
         addBoth(mode + "drag, left", hold + "leave | drop" + last);
         addBoth(mode + "nothing dragged", mode + "hold: start | drop: end");
-        addBoth(mode + "drag, deleted", hold + "delete");
+        addBoth(mode + "dropped where taken",
+                mode + "hold 30 10: start" + (isAtOnce ? " 30 10" : "")
+                    + " | drop: end | shown: 10");
         addBoth(mode + "steps",
                 mode
-                    + "groove after: start 20 end | right: start 21 end | plus: start 22 end | "
-                      "minus: start 21 end | space: start 22 end");
+                    + "pageStep 20 | groove after: start 30 end | right: start 31 end | "
+                      "groove before: start 11 end | plus: start 12 end | minus: start 11 end | "
+                      "minus: start 10 end | space: start 11 end | shown: 11");
     }
-    addBoth("ticks", "sampled | hold 20: start | tick: 20 | move 30 | tick: 30 | drop: end");
+    addBoth("ticks",
+            "sampled | hold: start | timer: runs | tick | move 20 30 | tick: 30 | tick | "
+            "move 50 30 | tick | move 40 | tick: 40 | drop: end | timer: stands | shown: 40");
     addBoth("nothing to step", "value 100 | plus: start end | right | focus | up");
     addBoth("wheel", "wheelEnabled | focus | wheel: page start 11 end");
     addBoth("the program", "value 20 | range 0 15 | value 9 | hide | show | disable | enable");
     addForBoth("repeated steps", [](auto &user) { repeat(user); });
     addForBoth("operated by a program", [](auto &user) { operateParts(user); });
-    for (const QString end : {"Enter\n", "Tab\t"}) {
-        const QString keys = " | keys " + end.right(1),
-                      left = end == "Tab\t" ? "" : "finished left ";
-        addInt("entry, " + end.left(3),
-               "type 5: start | keys 0" + keys + ": finished " + (left.isEmpty() ? "" : "finished ")
-                   + "50 " + (left.isEmpty() ? "finished " : left) + "end");
-        addDouble("entry, " + end.left(3), "type 5: start | keys 0/100" + keys + ": 50 end");
-    }
+    addInt("entry, Enter",
+           "type 5: start | keys 0 | keys \n: finished finished 50 finished left end");
+    addInt("entry, Tab", "type 5: start | keys 0 | keys \t: finished 50 finished end");
+    addDouble("entry, Enter", "type 5: start | keys 0/100 | keys \n: 50 end");
+    addDouble("entry, Tab", "type 5: start | keys 0/100 | keys \t: 50 end");
     addInt("entry, =", "type 5*4: start | keys =: finished 20 finished left end");
     addDouble("entry, =", "type 1/5: start | keys = | elsewhere: 20 end");
     addInt("refused, =", "type 5*: start | keys =: finished finished left end");
@@ -237,7 +194,6 @@ void tst_Edits::rows_data()
     addDouble("refused", "type 1/0: start | hide: end");
     addInt("entry, disabled", "type 5: start | disable: finished 5 finished end");
     addInt("entry, dialog", "type 5: start | dialog: finished 5 finished end");
-    addBoth("entry, deleted", "type 5: start | delete");
     addInt("entry, own menu", "type 1: start | menu 2 | keys \t: finished 12 finished end");
     addDouble("entry, own menu", "type .1: start | menu 2 | keys \t: 12 end");
     addInt("replaced by the program",
@@ -256,10 +212,14 @@ void tst_Edits::rows_data()
         user.play("edits | type 7: start | plus: 11 end | type 7: start | hold 30: 30 | drop: end");
     });
     addForBoth("focus moved, groove", [](auto &user) { focusMoves(user); });
-    addForBoth("blocked at the end", [](auto &user) { blockedAtTheEnd(user); });
-    addForBoth("blocked at the start", [](auto &user) { blockedAtTheStart(user); });
-    for (const QString gesture : {"hold", "button", "type 5"})
-        addForBoth("the window goes, " + gesture, [=](auto &user) { windowGoes(user, gesture); });
+    addBoth("blocked at the end",
+            "hold 20: start 20 | block | drop | unblock: end | plus: start 21 end");
+    // The next edit continues the one that the host knows.
+    addBoth(
+        "blocked from the end to the next start",
+        "hold 20: start 20 | block | drop | block | hold 50 | unblock | move 60: 60 | drop: end");
+    addBoth("blocked at the start",
+            "block | hold 20 | drop | hold 30 | unblock | move 40: start 40 | drop: end");
     for (const QString steps : {"plus", "hold 40 | drop", "groove after", "right", "type .5\t"})
         addForBoth("dialog in the report, " + steps, [=](auto &user) { nest(user, steps); });
 }
@@ -286,6 +246,8 @@ void tst_Edits::composites_data()
     rgb("drag", "g hold 60 70: start (50,60,50) (50,70,50) | g drop: end");
     const auto all = rowsAfter<RGBAllEditFrame>("edits | ");
     all("own row", "all plus: start (50,50,50,51) end");
+    all("blocked at the start",
+        "block | r hold 20 | unblock | r move 40: start (40,50,50,50) | r drop: end");
     all("block", "b hold 60: start (50,50,60,50) | b disable: end | b enable | b drop");
     const auto opacity = rowsAfter<RGBOpacityEditFrame>("edits | ");
     opacity("own row", "opacity minus: start (50,50,50,99) end");
@@ -298,13 +260,6 @@ void tst_Edits::composites_data()
         QTest::keyRelease(user.rows[1].plus, Qt::Key_Space);
         QCOMPARE(user.heard(), QString("y(1) (7,1,0,0) end"));
     });
-    addFor<RGBAllEditFrame>("blocked at the start", [](auto &user) {
-        user.perform("edits");
-        user.frame->blockSignals(true);
-        user.perform("r hold 20");
-        user.frame->blockSignals(false);
-        user.play("r move 40: start (40,50,50,50) | r drop: end");
-    });
 }
 
 // A double click on the label resets to the default, as a change by the user.
@@ -313,10 +268,7 @@ void tst_Edits::resets_data()
     QTest::addColumn<TestCode>("code");
     const auto addInt = rowsAfter<SliderEditFrame>("default 30 | edits | ");
     const auto addDouble = rowsAfter<SliderEditFrameDouble>("default 30 | edits | ");
-    const auto addBoth = [=](const QString &name, const QString &steps) {
-        addInt(name, steps);
-        addDouble(name, steps);
-    };
+    const auto addBoth = rowsOfBothAfter("default 30 | edits | ");
     addForBoth("found", [](auto &user) { findReset(user); });
     addForBoth("double tap", [](auto &user) { doubleTap(user); });
     addBoth("once", "reset: start 30 end | shown: 30 | reset | elsewhere");

@@ -146,12 +146,6 @@ void tst_Robustness::deletedInASignal_data()
 
 namespace {
 
-template <typename AnyUser, typename Action> void onReport(AnyUser &user, const Action &action)
-{
-    using Frame = std::remove_pointer_t<decltype(user.frame)>;
-    QObject::connect(user.frame, &Frame::valueChanged, &user.page, action);
-}
-
 // Removes the editor during the first report while the mouse button is down, or after it.
 // A button is pressed until it repeats.
 template <typename AnyUser>
@@ -171,7 +165,7 @@ void takeAwayHeld(AnyUser &user, const QString &steps, const QString &removal, b
         }
     };
     if (isInReport)
-        onReport(user, take);
+        user.onReport(take);
     const bool isButton = steps.endsWith("plus");
     if (isButton) {
         user.frame->setAutoRepeat(true);
@@ -183,8 +177,7 @@ void takeAwayHeld(AnyUser &user, const QString &steps, const QString &removal, b
             QTest::keyPress(row.plus, Qt::Key_Space);
         QVERIFY(comesTrue([&] { return row.slider->value() > 10; }));
     } else {
-        for (const QString &step : (steps + (isInReport ? " | tick | drop" : "")).split(" | "))
-            user.perform(step);
+        user.performAll(steps + (isInReport ? " | tick | drop" : ""));
     }
     take();
     QCOMPARE(qMax(samplingInterval(row.frame), samplingInterval(row.plus)), -1);
@@ -208,6 +201,7 @@ void takeAwayHeld(AnyUser &user, const QString &steps, const QString &removal, b
 void tst_Robustness::whileHeld_data()
 {
     QTest::addColumn<TestCode>("code");
+    const auto addBoth = rowsOfBothAfter();
     for (const QString removal : {"hide", "disable", "dialog"}) {
         for (const QString steps : {"hold 40", "mouse on plus", "space bar on plus",
                                     "released | hold 40", "sampled | hold 40"}) {
@@ -216,48 +210,18 @@ void tst_Robustness::whileHeld_data()
                            [=](auto &user) { takeAwayHeld(user, steps, removal, isInReport); });
         }
     }
-    addForBoth("the user drags on in a report", [](auto &user) {
-        user.play("sampled | hold 41");
-        onReport(user, [&user] {
-            user.perform("move 51");
-            user.perform("tick");
-        });
-        user.play("tick: 41 | drop: 51");
-    });
+    addBoth("the user drags on in a report",
+            "sampled | hold 41 | inReport move 51 | inReport tick | tick: 41 | drop: 51");
     // A value that is limited to one side is not a new value at the end.
-    addForBoth("a report of a value held on one side disables the editor", [](auto &user) {
-        user.play("sampled | direction 2 100 | hold 40");
-        onReport(user, [&user] { user.perform("disable"); });
-        user.play("tick: 100");
-    });
-    // A QFrame is already a plain QWidget when its destructor hides the editor.
-    addForBoth("the window goes", [](auto &user) {
-        auto *const host = new QFrame;
-        user.frame->setParent(host);
-        QVERIFY(User::show(*host));
-        user.play("released | hold 40");
-        delete host;
-        QCOMPARE(user.heard(), QString());
-    });
-    addForBoth("the host's dialog goes", [](auto &user) {
-        struct HostDialog : QDialog
-        {
-        };
-        auto *const host = new HostDialog;
-        user.frame->setParent(host);
-        user.frame->show();
-        QVERIFY(User::show(*host));
-        user.play("released | hold 40");
-        delete host;
-        QCOMPARE(user.heard(), QString());
-    });
+    addBoth("a report of a value held on one side disables the editor",
+            "sampled | direction 2 100 | hold 40 | inReport disable | tick: 100");
     // One click is one step.
     QTest::newRow("int, a report takes longer than a repetition") << TestCode([] {
         UserOf<SliderEditFrame> user;
         user.frame->setAutoRepeat(true);
         user.frame->setAutoRepeatDelay(20);
         user.frame->setAutoRepeatInterval(20);
-        onReport(user, [] { QTest::qSleep(300); });
+        user.onReport([] { QTest::qSleep(300); });
         user.perform("plus");
         QTest::qWait(60);
         QCOMPARE(user.heard(), QString("11"));

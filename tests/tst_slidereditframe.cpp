@@ -104,32 +104,9 @@ void tst_SliderEditFrame::sequences_data()
     QTest::addColumn<TestCode>("code");
     const auto addInt = rowsAfter<SliderEditFrame>();
     const auto addDouble = rowsAfter<SliderEditFrameDouble>();
-    const auto addBoth = [=](const QString &name, const QString &steps) {
-        addInt(name, steps);
-        addDouble(name, steps);
-    };
+    const auto addBoth = rowsOfBothAfter();
     addForBoth("setters", [](auto &user) { compareSetters(user); });
     addForBoth("silence", [](auto &user) { compareSilence(user); });
-    for (const QString mode : {"", "released | ", "sampled | "}) {
-        const bool isAtOnce = mode.isEmpty();
-        const QString hold = mode + (isAtOnce ? "hold 20 60 40: 20 60 40 | " : "hold 20 60 40 | ");
-        const QString last = isAtOnce ? "" : ": 40";
-        addBoth(mode + "drag", hold + "drop" + last + " | shown: 40 | timer: stands");
-        addBoth(mode + "slider hidden in a drag",
-                hold + "hideSlider" + last + " | timer: stands | drop | shown: 40");
-        // The handle is no longer pressed.
-        addBoth(mode + "editor disabled in a drag",
-                hold + "disable" + last + " | enable | move 70 | timer: stands | drop | shown: 40");
-        addBoth(mode + "dropped where taken",
-                mode + "hold 30 10" + (isAtOnce ? ": 30 10" : "") + " | drop | shown: 10");
-        addBoth(mode + "groove and keys",
-                mode
-                    + "pageStep 20 | groove after: 30 | right: 31 | groove before: 11 | plus: 12 | "
-                      "minus: 11 | minus: 10 | shown: 10");
-    }
-    addBoth("ticks",
-            "sampled | hold | timer: runs | tick | move 20 30 | tick: 30 | tick | "
-            "move 50 30 | tick | move 40 | tick: 40 | drop | timer: stands | shown: 40");
     // Other tests send the ticks themselves: here the timer runs.
     addForBoth("ticks in real time", [](auto &user) {
         user.frame->setTimeSamplingRate(5);
@@ -167,16 +144,6 @@ void tst_SliderEditFrame::sequences_data()
            "focus | disable: finished finished | selected: nothing");
     addDouble("a disabled field selects nothing", "focus | disable | selected: nothing");
     addBoth("a field that is gone selects nothing", "focus | delete");
-    // Each repetition is a step with its own report.
-    addForBoth("repeated steps", [](auto &user) {
-        user.perform("autoRepeat");
-        user.frame->setAutoRepeatDelay(10);
-        user.frame->setAutoRepeatInterval(5);
-        QTest::mousePress(user.row.plus, Qt::LeftButton);
-        QVERIFY(comesTrue([&] { return user.row.slider->value() >= 13; }));
-        QTest::mouseRelease(user.row.plus, Qt::LeftButton);
-        QCOMPARE(user.heard().left(8), QString("11 12 13"));
-    });
     addBoth("release mode alone stops repetition",
             "repeating: no no | autoRepeat | repeating: yes yes | released | repeating: no no | "
             "released off | repeating: yes yes | autoRepeat off | repeating: no no | sampled | "

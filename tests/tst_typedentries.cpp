@@ -197,27 +197,33 @@ template <typename SpinBox> struct WithPlainField : SpinBox
     WithPlainField() { this->setLineEdit(new QLineEdit); }
 };
 
-void typeAndDestroy(EditorUser &user, const QString &typed, QWidget *window)
+void destroyAfter(EditorUser &user, const QString &gesture, QWidget *window)
 {
     showIn(*window, user.rows[0]);
-    user.perform("type " + typed);
-    user.heard();
+    user.play("edits");
+    if (gesture == "button")
+        User::pressAt(user.rows[0].plus, user.rows[0].plus->rect().center());
+    else
+        user.performAll(gesture);
+    QVERIFY(user.heard().contains("start"));
     delete window;
     QCOMPARE(user.heard(), QString());
 }
 
 } // namespace
 
-// Qt hides a field after the host's part of its window is destroyed. A pending entry is
-// then dropped.
+// Qt hides an editor after the host's part of its window is destroyed. A pending entry is
+// then dropped, a gesture reports nothing, and its edit does not end.
 void tst_TypedEntries::windows_data()
 {
     QTest::addColumn<TestCode>("code");
-    for (const QString typed : {"42", "1+1", "7="}) {
-        addForBoth("widget, " + typed,
-                   [=](auto &user) { typeAndDestroy(user, typed, new QWidget); });
-        addForBoth("host's dialog, " + typed,
-                   [=](auto &user) { typeAndDestroy(user, typed, new HostDialog(user.row)); });
+    for (const QString gesture :
+         {"type 42", "type 1+1", "type 7=", "hold 40", "released | hold 40", "button"}) {
+        // A QFrame is then already a plain QWidget.
+        addForBoth("frame, " + gesture,
+                   [=](auto &user) { destroyAfter(user, gesture, new QFrame); });
+        addForBoth("host's dialog, " + gesture,
+                   [=](auto &user) { destroyAfter(user, gesture, new HostDialog(user.row)); });
     }
     addForBoth("shown by its constructor", [](auto &user) {
         HostDialog window(user.row);

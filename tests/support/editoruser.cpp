@@ -226,6 +226,14 @@ template <typename Frame> void EditorUser::addModes(Frame *frame)
         options.setFlag(EnterStays, step.text.contains("stays"));
         frame->setEntryOptions(options);
     });
+    on("block unblock", [=](const Step &step) {
+        frame->blockSignals(step.verb == "block");
+        QCoreApplication::processEvents();
+    });
+    on("inReport", [=](const Step &step) {
+        QObject::connect(frame, &Frame::valueChanged, &page,
+                         [this, action = step.text] { perform(action); });
+    });
     // So long that only the test sends ticks.
     on("sampled", [=](const Step &) { frame->setTimeSamplingRate(60000); });
     on("edits", [=](const Step &) {
@@ -374,6 +382,12 @@ void EditorUser::perform(const QString &action)
     QVERIFY2(m_actions.contains(verb), qPrintable("What is " + action));
     m_valuesBefore = values();
     m_actions[verb]({rows[index], index, verb, rest.section(' ', 1)});
+}
+
+void EditorUser::performAll(const QString &steps)
+{
+    for (const QString &step : steps.split(" | "))
+        perform(step);
 }
 
 void EditorUser::play(const QString &steps)

@@ -97,7 +97,8 @@ private:
 //   enable, delete; resetValues (of all rows of a composite editor);
 //   dialog (shows a modal one and closes it)
 // to all rows: sampled, released, autoRepeat; off ends the last two; options, any of
-//   exact, comma, escape and stays
+//   exact, comma, escape and stays; block and unblock (the editor's signals; posted events
+//   are then delivered); inReport, with the action that each report then causes
 // to a slider editor:
 //   minimum, maximum, singleStep, pageStep, decimals, direction (flags and value),
 //   wheelEnabled, suffix, prefix, scale, hideSlider, fieldFocus; specialValueText and
@@ -126,6 +127,8 @@ public:
     // Fails the test at the first step whose records differ from the expected ones.
     void play(const QString &steps);
     void perform(const QString &action);
+    // Performs steps that may record anything.
+    void performAll(const QString &steps);
     // The records since the last call.
     QString heard();
     QString shown() const;
@@ -179,6 +182,11 @@ public:
     {
     }
 
+    template <typename Action> void onReport(const Action &action)
+    {
+        QObject::connect(frame, &Frame::valueChanged, &page, action);
+    }
+
     Frame *const frame;
     // The only, or first, row.
     const EditorRow row = rows.first();
@@ -211,12 +219,21 @@ template <typename Code> void addForBoth(const QString &name, const Code &code)
     addFor<Vantor::Widgets::SliderEditFrameDouble>(name, code);
 }
 
-// Adds rows of steps that all begin with the same steps.
+// Returns what adds rows of steps that all begin with the same steps.
 template <typename Frame>
 auto rowsAfter(const QString &start = {}, double unit = UserOf<Frame>::position)
 {
     return [=](const QString &name, const QString &steps) {
         addFor<Frame>(
             name, [=](auto &user) { user.play(start + steps); }, unit);
+    };
+}
+
+// The same rows for the integer and the floating-point editor.
+inline auto rowsOfBothAfter(const QString &start = {})
+{
+    return [=](const QString &name, const QString &steps) {
+        rowsAfter<Vantor::Widgets::SliderEditFrame>(start)(name, steps);
+        rowsAfter<Vantor::Widgets::SliderEditFrameDouble>(start)(name, steps);
     };
 }
