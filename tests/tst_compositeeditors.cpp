@@ -35,7 +35,8 @@ QStringList settingsOf(EditorUser &user, const EditorRow &row)
              << "button=" + limits(row.plus->minimumWidth(), row.plus->maximumWidth())
              << "box=" + limits(row.spinBox->minimumWidth(), row.spinBox->maximumWidth())
              << "range=" + limits(row.slider->minimum(), row.slider->maximum())
-             << QString("pageStep=%1").arg(row.slider->pageStep());
+             << QString("pageStep=%1").arg(row.slider->pageStep())
+             << QString("options=%1").arg(int(row.whole->entryOptions()));
     for (const char *name : {"autoRepeat", "autoRepeatDelay", "autoRepeatInterval"})
         settings << name + ('=' + row.minus->property(name).toString()) + '/'
                 + row.plus->property(name).toString();
@@ -109,18 +110,6 @@ template <typename Frame> void checkVisibility()
         QVERIFY(row.slider->isHidden() && row.minus->isHidden() && row.plus->isHidden());
 }
 
-// Holds the handle of each row in turn.
-template <typename Frame> void checkMousePressed()
-{
-    UserOf<Frame> user;
-    for (const EditorRow &row : user.rows) {
-        user.perform(row.step("hold"));
-        QVERIFY(user.frame->isMousePressed());
-        user.perform(row.step("drop"));
-        QVERIFY(!user.frame->isMousePressed());
-    }
-}
-
 // Each row by its flag. A combination names no row.
 template <typename Frame> void checkReading()
 {
@@ -168,14 +157,19 @@ template <typename Frame> void checkReading()
     }
 }
 
-// The program gives the focus to each field.
-template <typename Frame> void checkFieldFocus()
+// Holds the handle of each row in turn; the program gives the focus to each field.
+template <typename Frame> void checkPressAndFocus()
 {
     UserOf<Frame> user;
-    for (int row = 0; row < user.rows.size(); ++row) {
-        user.frame->setFieldFocus(typename Frame::Type(2 << row));
-        QVERIFY(user.rows[row].spinBox->hasFocus());
-        QCOMPARE(user.rows[row].field->selectedText(), user.rows[row].field->text());
+    for (int i = 0; i < user.rows.size(); ++i) {
+        const EditorRow &row = user.rows[i];
+        user.perform(row.step("hold"));
+        QVERIFY(user.frame->isMousePressed());
+        user.perform(row.step("drop"));
+        QVERIFY(!user.frame->isMousePressed());
+        user.frame->setFieldFocus(typename Frame::Type(2 << i));
+        QVERIFY(row.spinBox->hasFocus());
+        QCOMPARE(row.field->selectedText(), row.field->text());
     }
 }
 
@@ -255,6 +249,7 @@ template <typename F, typename T = typename F::Type> void addChecks()
     add(" suffix", "unit=# px", [](F &f, T t) { f.setSuffix(t, " px"); });
     addAll(" prefixes", "unit=$#", [](F &f, T) { f.setPrefixes("$"); });
     addAll(" suffixes", "unit=# px", [](F &f, T) { f.setSuffixes(" px"); });
+    addAll(" options", "options=9", [](F &f, T) { f.setEntryOptions(ExactEntry | EnterStays); });
     addAll(" wheel", "wheel=61", [](F &f, T) { f.setSpinBoxWheelEnable(true); });
     addAll(" repeat", "autoRepeat=true/true", [](F &f, T) { f.setAutoRepeat(true); });
     addAll(" repeat delay", "autoRepeatDelay=321/321", [](F &f, T) { f.setAutoRepeatDelay(321); });
@@ -267,9 +262,8 @@ template <typename F, typename T = typename F::Type> void addChecks()
         QTest::addRow("%s %s", F::staticMetaObject.className(), name) << TestCode(check);
     };
     addCheck("visibility", checkVisibility<F>);
-    addCheck("pressed", checkMousePressed<F>);
     addCheck("reading", checkReading<F>);
-    addCheck("fields", checkFieldFocus<F>);
+    addCheck("press and focus", checkPressAndFocus<F>);
 }
 
 } // namespace
@@ -305,6 +299,8 @@ void tst_CompositeEditors::form()
         QCOMPARE(editor.layout()->contentsMargins(), QMargins());
         QCOMPARE(formOf(editor), form);
         QVERIFY(editor.property("isSliderFrame").toBool());
+        editor.setEntryOptions(DecimalComma);
+        QCOMPARE(int(editor.entryOptions()), int(DecimalComma));
         editor.setVerticalSpacing(9);
         editor.setLastVerticalSpacerExpanding(false);
         QCOMPARE(formOf(editor), ignored);

@@ -215,9 +215,9 @@ void tst_Edits::rows_data()
     addBoth("blocked at the end",
             "hold 20: start 20 | block | drop | unblock: end | plus: start 21 end");
     // The next edit continues the one that the host knows.
-    addBoth(
-        "blocked from the end to the next start",
-        "hold 20: start 20 | block | drop | block | hold 50 | unblock | move 60: 60 | drop: end");
+    addBoth("blocked from the end to the next start",
+            "hold 20: start 20 | block | drop | block | hold 50 | drop | hold 55 | unblock | move "
+            "60: 60 | drop: end");
     addBoth("blocked at the start",
             "block | hold 20 | drop | hold 30 | unblock | move 40: start 40 | drop: end");
     for (const QString steps : {"plus", "hold 40 | drop", "groove after", "right", "type .5\t"})

@@ -1,9 +1,5 @@
 #include "cropeditframe.h"
 #include "editoruser.h"
-#include "rgballeditframe.h"
-#include "rgbeditframe.h"
-#include "rgbopacityeditframe.h"
-#include "slidereditframe_p.h"
 
 #include <cmath>
 #include <random>
@@ -22,8 +18,6 @@ private Q_SLOTS:
     void fraction() { runTestCode(); }
     void composite_data();
     void composite() { runTestCode(); }
-    void bareBox_data();
-    void bareBox();
     void nearestValue_data();
     void nearestValue() { runTestCode(); }
 };
@@ -116,7 +110,7 @@ void tst_EntryOptions::fraction_data()
     });
 }
 
-// The options reach all rows, and a crop still limits an entry.
+// A crop still limits an entry.
 void tst_EntryOptions::composite_data()
 {
     QTest::addColumn<TestCode>("code");
@@ -130,77 +124,6 @@ void tst_EntryOptions::composite_data()
         "(0,0,129,100) | w keys 9 | w escape | w selected: all | "
         "w keys 999\n: finished crop(0,0,640,100) w(640) (0,0,640,100) | w keys \n: key | "
         "w keys \t: finished finished");
-    const auto all = [](auto *editor) {
-        QTest::newRow(editor->metaObject()->className()) << TestCode([editor] {
-            EditorUser user(editor);
-            user.perform("options exact stays");
-            QCOMPARE(int(editor->entryOptions()), 9);
-            for (const EditorRow &each : user.rows)
-                QCOMPARE(int(each.whole->entryOptions()), 9);
-        });
-    };
-    all(new RGBEditFrame);
-    all(new RGBAllEditFrame);
-    all(new RGBOpacityEditFrame);
-    all(new RectEditFrame);
-}
-
-void tst_EntryOptions::bareBox_data()
-{
-    QTest::addColumn<int>("options");
-    QTest::addColumn<bool>("isTracking");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("heard");
-    const auto row = [](int options, bool isTracking, const char *typed, const char *heard) {
-        QTest::addRow("%d %s %s", options, qPrintable(QString(typed).replace('\n', "Enter")),
-                      isTracking ? "tracking" : "")
-            << options << isTracking << QString(typed) << QString(heard);
-    };
-    row(0, false, "5\n", "5: editing() enter()");
-    row(ExactEntry, false, "0.1256=", "0.125: editing()");
-    row(DecimalComma, false, "2,5", "2.5:");
-    row(DecimalComma, true, "[2,5]", "2.5: value(2.5)");
-    row(EscapeRestores, false, "7\x1b", "1.000:");
-    row(EscapeRestores, false, "7\x1b\x1b", "1.000: key");
-    row(EnterStays, false, "5/2\n", "2.500: editing() value(2.5) enter()");
-    row(EnterStays, false, "5/2\n\n", "2.500: editing() value(2.5) enter() key");
-    row(EnterStays, false, "5/2=", "2.500: editing() value(2.5)");
-    row(EnterStays | DecimalComma, true, "2,5\n", "2.5: value(2) value(2.5) key");
-}
-
-// "[]" is pasted, "\x1b" is Escape.
-void tst_EntryOptions::bareBox()
-{
-    QFETCH(int, options);
-    QFETCH(bool, isTracking);
-    QFETCH(QString, typed);
-    EventLog log;
-    Page page(log);
-    auto *const box = new SliderEditDoubleSpinBox;
-    page.layout()->addWidget(box);
-    box->setEntryOptions(EntryOptions(options));
-    QCOMPARE(int(box->entryOptions()), options);
-    box->setKeyboardTracking(isTracking);
-    box->setDecimals(3);
-    box->setValue(1);
-    box->setSpinBoxCal(1, 9, 0, 3, 3, false);
-    log.watch(box, &QAbstractSpinBox::editingFinished, "editing");
-    log.watch(box, &SliderEditDoubleSpinBox::enterFinished, "enter");
-    log.watch(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), "value");
-    QVERIFY(User::show(page));
-    box->setFocus();
-    box->selectAll();
-    log.take();
-    for (const QChar &key : typed) {
-        if (key == '\x1b')
-            User::press(Qt::Key_Escape);
-        else if (!typed.startsWith('['))
-            User::type(key);
-    }
-    if (typed.startsWith('['))
-        User::paste(typed.mid(1, typed.size() - 2));
-    QVERIFY(box->hasFocus());
-    QTEST((box->text() + ": " + log.take().join(' ')).trimmed(), "heard");
 }
 
 namespace {

@@ -9,58 +9,100 @@ class tst_SpinBoxes : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void keys();
+    void keys_data();
+    void keys() { runTestCode(); }
     void suffix();
 };
 
 namespace {
 
-// The text and the signals of a box on a page after the user replaces its text and presses
-// the key. Like in the editors, keyboard tracking is off.
-template <typename SpinBox, typename... Settings>
-QString answer(const QString &typed, Qt::Key key, Settings... settings)
+// The text and the signals of a box on a page after the user replaces its text. "\r" is the
+// Enter key of the number pad, "\x1b" Escape, "[]" is pasted. Like in the editors, keyboard
+// tracking is off unless the host turns it on.
+template <typename SpinBox>
+void compare(const std::function<void(SpinBox &)> &setUp, const QString &typed,
+             const QString &expected)
 {
     EventLog log;
     Page page(log);
-    SpinBox box;
-    box.setSpinBoxCal(settings...);
-    box.setKeyboardTracking(false);
-    page.layout()->addWidget(&box);
-    log.watch(&box, &SpinBox::editingFinished, "editing");
-    log.watch(&box, &SpinBox::enterFinished, "enter");
-    log.watch(&box, QOverload<decltype(box.value())>::of(&SpinBox::valueChanged), "value");
-    if (!User::show(page))
-        return "not shown";
-    box.setFocus();
-    box.selectAll();
-    User::type(typed);
-    User::press(key);
-    return box.text() + ": " + log.take().join(' ');
+    auto *const box = new SpinBox;
+    box->setKeyboardTracking(false);
+    setUp(*box);
+    page.layout()->addWidget(box);
+    log.watch(box, &SpinBox::editingFinished, "editing");
+    log.watch(box, &SpinBox::enterFinished, "enter");
+    log.watch(box, QOverload<decltype(box->value())>::of(&SpinBox::valueChanged), "value");
+    QVERIFY(User::show(page));
+    box->setFocus();
+    box->selectAll();
+    log.take();
+    const bool isPasted = typed.startsWith('[');
+    if (isPasted)
+        User::paste(typed.mid(1, typed.size() - 2));
+    for (const QChar &key : isPasted ? QString() : typed) {
+        if (key == '\r' || key == '\x1b')
+            User::press(key == '\r' ? Qt::Key_Enter : Qt::Key_Escape);
+        else
+            User::type(key);
+    }
+    QVERIFY(box->hasFocus() != typed.endsWith('\t'));
+    QCOMPARE((box->text() + ": " + log.take().join(' ')).trimmed(), expected);
 }
 
 } // namespace
 
-// The base class does not interpret Enter, and the page does not receive it.
-void tst_SpinBoxes::keys()
+// The base class does not interpret Enter, and the page receives only an Enter or Escape that
+// ends no entry.
+void tst_SpinBoxes::keys_data()
 {
-    const auto answerOfInt = [](const QString &typed, Qt::Key key) {
-        return answer<SliderEditSpinBox>(typed, key, 7, 100, 0, 0, 2);
+    QTest::addColumn<TestCode>("code");
+    const auto add = [](const QString &name, const QString &typed, const TestCode &code) {
+        QString row = name + typed;
+        row.replace('\n', "Return").replace('\r', "Enter").replace('\t', "Tab");
+        QTest::newRow(qPrintable(row.replace('\x1b', "Escape"))) << code;
     };
-    QCOMPARE(answerOfInt("5", Qt::Key_Return), QString("5: editing() enter()"));
-    QCOMPARE(answerOfInt("5", Qt::Key_Enter), QString("5: editing() enter()"));
+    const auto whole = [&add](const QString &typed, const QString &expected) {
+        const auto setUp = [](auto &box) { box.setSpinBoxCal(7, 100, 0, 0, 2); };
+        add("int, ", typed, [=] { compare<SliderEditSpinBox>(setUp, typed, expected); });
+    };
+    whole("5\n", "5: editing() enter()");
+    whole("5\r", "5: editing() enter()");
     // Before the base class interprets it.
-    QCOMPARE(answerOfInt("5", Qt::Key_Tab), QString("5: editing() value(5) editing()"));
-    QCOMPARE(answerOfInt("2*3", Qt::Key_Equal), QString("6: enter()"));
-    QCOMPARE(answerOfInt("-1", Qt::Key_Equal), QString("0: enter()"));
-    QCOMPARE(answerOfInt("2+", Qt::Key_Equal), QString("7: enter()"));
-    const auto answerOfDouble = [](const QString &typed, Qt::Key key) {
-        return answer<SliderEditDoubleSpinBox>(typed, key, 7.5F, 9.5F, 0.5F, 2, 2, false);
+    whole("5\t", "5: editing() value(5) editing()");
+    whole("2*3=", "6: enter()");
+    whole("-1=", "0: enter()");
+    whole("2+=", "7: enter()");
+    const auto fraction = [&add](const QString &typed, const QString &expected) {
+        const auto setUp = [](auto &box) { box.setSpinBoxCal(7.5F, 9.5F, 0.5F, 2, 2, false); };
+        add("double, ", typed, [=] { compare<SliderEditDoubleSpinBox>(setUp, typed, expected); });
     };
-    QCOMPARE(answerOfDouble("5", Qt::Key_Return), QString("5: editing() enter()"));
-    QCOMPARE(answerOfDouble("5", Qt::Key_Tab), QString("5.00: value(5) editing()"));
-    QCOMPARE(answerOfDouble("1.259", Qt::Key_Equal), QString("1.25: editing()"));
-    QCOMPARE(answerOfDouble("1000", Qt::Key_Equal), QString("9.50: editing()"));
-    QCOMPARE(answerOfDouble("2+", Qt::Key_Equal), QString("7.5: editing()"));
+    fraction("5\n", "5: editing() enter()");
+    fraction("5\t", "5.00: value(5) editing()");
+    fraction("1.259=", "1.25: editing()");
+    fraction("1000=", "9.50: editing()");
+    fraction("2+=", "7.5: editing()");
+    const auto withOptions = [&add](int options, bool isTracking, const QString &typed,
+                                    const QString &expected) {
+        const auto setUp = [=](auto &box) {
+            box.setEntryOptions(EntryOptions(options));
+            QCOMPARE(int(box.entryOptions()), options);
+            box.setKeyboardTracking(isTracking);
+            box.setDecimals(3);
+            box.setValue(1);
+            box.setSpinBoxCal(1, 9, 0, 3, 3, false);
+        };
+        add(QString("options %1, %2").arg(options).arg(isTracking ? "tracking, " : ""), typed,
+            [=] { compare<SliderEditDoubleSpinBox>(setUp, typed, expected); });
+    };
+    withOptions(ExactEntry, false, "0.1256=", "0.125: editing()");
+    withOptions(DecimalComma, false, "2,5", "2.5:");
+    withOptions(DecimalComma, true, "[2,5]", "2.5: value(2.5)");
+    withOptions(EscapeRestores, false, "7\x1b", "1.000:");
+    withOptions(EscapeRestores, false, "7\x1b\x1b", "1.000: key");
+    withOptions(EnterStays, false, "5/2\n", "2.500: editing() value(2.5) enter()");
+    withOptions(EnterStays, false, "5/2\n\n", "2.500: editing() value(2.5) enter() key");
+    withOptions(EnterStays, false, "5/2=", "2.500: editing() value(2.5)");
+    withOptions(EnterStays | DecimalComma, true, "2,5\n", "2.5: value(2) value(2.5) key");
 }
 
 // The suffix is hidden while the field is edited, whenever it was set.
