@@ -70,12 +70,13 @@ QImage upperEdge(QWidget *widget)
     return widget->window()->grab(QRect(top, QSize(6, 4))).toImage();
 }
 
+// The greatest between a pixel and the inner one below it.
 double contrastOfEdge(const QImage &edge)
 {
     double most = 0;
-    for (int i = 0; i < edge.width() * edge.height(); ++i) {
-        const QPoint pixel(i % edge.width(), i / edge.width());
-        most = qMax(most, contrastOf(edge.pixelColor(pixel), edge.pixelColor(pixel.x(), 3)));
+    for (int x = 0; x < edge.width(); ++x) {
+        for (int y = 0; y < edge.height(); ++y)
+            most = qMax(most, contrastOf(edge.pixelColor(x, y), edge.pixelColor(x, 3)));
     }
     return most;
 }
@@ -83,16 +84,11 @@ double contrastOfEdge(const QImage &edge)
 // That of the lightest and the darkest pixel.
 double contrastWithin(QWidget *widget)
 {
-    const QImage image = widget->grab().toImage();
-    QColor darkest = Qt::white, lightest = Qt::black;
-    for (int i = 0; i < image.width() * image.height(); ++i) {
-        const QColor color = image.pixelColor(i % image.width(), i / image.width());
-        if (qGray(color.rgb()) < qGray(darkest.rgb()))
-            darkest = color;
-        if (qGray(color.rgb()) > qGray(lightest.rgb()))
-            lightest = color;
-    }
-    return contrastOf(darkest, lightest);
+    const QImage image = widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const auto *const pixels = reinterpret_cast<const QRgb *>(image.constBits());
+    const auto range = std::minmax_element(pixels, pixels + image.width() * image.height(),
+                                           [](QRgb a, QRgb b) { return qGray(a) < qGray(b); });
+    return contrastOf(*range.first, *range.second);
 }
 
 // "#0b5cad" or "palette(highlighted-text)"
@@ -106,22 +102,6 @@ QColor colorOf(const QString &text, const QPalette &palette)
     }
     return QColor(text);
 }
-
-// Qt reads the palette's colours when the sheet is set: as the guide says, a host sets it
-// again when they change.
-class PaletteFollower : public QObject
-{
-public:
-    PaletteFollower() { qApp->installEventFilter(this); }
-
-private:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange)
-            qApp->setStyleSheet(qApp->styleSheet());
-        return QObject::eventFilter(watched, event);
-    }
-};
 
 // The parts of an editor that the user handles.
 QList<QWidget *> partsOf(const QWidget *editor)
@@ -318,14 +298,13 @@ void tst_Styles::newPalette()
     QFETCH_GLOBAL(QPalette, palette);
     if (!sheet.contains("palette("))
         QSKIP("The sheet has colours of its own.");
-    const PaletteFollower follower;
-    qApp->setStyleSheet(sheet);
     EditorUser user(new SliderEditFrame);
     const EditorRow &row = user.rows[0];
     QSlider *const slider = row.slider;
     user.perform("elsewhere");
     for (const QPalette &next : {paletteOf("#182838", "#102030", "#f0e0d0", "#ff8000"), palette}) {
         QApplication::setPalette(next);
+        qApp->setStyleSheet(sheet); // Qt reads the palette's colours at this time
         QCoreApplication::processEvents();
         const QImage field = row.spinBox->grab().toImage();
         QCOMPARE(field.pixelColor(4, 4), next.color(QPalette::Base));
