@@ -219,7 +219,9 @@ void tst_TypedEntries::windows_data()
     QTest::addColumn<TestCode>("code");
     for (const QString gesture :
          {"type 42", "type 1+1", "type 7=", "hold 40", "released | hold 40", "button"}) {
-        // A QFrame is then already a plain QWidget.
+        addForBoth("widget, " + gesture,
+                   [=](auto &user) { destroyAfter(user, gesture, new QWidget); });
+        // It is then already a plain widget.
         addForBoth("frame, " + gesture,
                    [=](auto &user) { destroyAfter(user, gesture, new QFrame); });
         addForBoth("host's dialog, " + gesture,
