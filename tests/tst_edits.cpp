@@ -25,13 +25,6 @@ private Q_SLOTS:
 
 namespace {
 
-// If none of these takes the focus, a button replaces the pending entry by its step.
-template <typename AnyUser> void leaveFocusInField(AnyUser &user)
-{
-    for (QWidget *part : QWidgetList({&user.page, user.frame, user.row.plus, user.row.slider}))
-        part->setFocusPolicy(Qt::NoFocus);
-}
-
 // All repetitions of a held button belong to one edit.
 template <typename AnyUser> void repeat(AnyUser &user)
 {
@@ -208,7 +201,9 @@ void tst_Edits::rows_data()
     addInt("entry and handle",
            "type 10: start | hold 20: finished finished end start 20 | drop: end");
     addForBoth("entry and button without focus", [](auto &user) {
-        leaveFocusInField(user);
+        // If none of these takes the focus, a button replaces the pending entry by its step.
+        for (QWidget *part : QWidgetList({&user.page, user.frame, user.row.plus, user.row.slider}))
+            part->setFocusPolicy(Qt::NoFocus);
         user.play("edits | type 7: start | plus: 11 end | type 7: start | hold 30: 30 | drop: end");
     });
     addForBoth("focus moved, groove", [](auto &user) { focusMoves(user); });

@@ -103,6 +103,22 @@ QColor colorOf(const QString &text, const QPalette &palette)
     return QColor(text);
 }
 
+// Qt reads the palette's colours when the sheet is set: as the guide says, a host sets it
+// again when they change.
+class PaletteFollower : public QObject
+{
+public:
+    PaletteFollower() { qApp->installEventFilter(this); }
+
+private:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange)
+            qApp->setStyleSheet(qApp->styleSheet());
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 // The parts of an editor that the user handles.
 QList<QWidget *> partsOf(const QWidget *editor)
 {
@@ -298,13 +314,14 @@ void tst_Styles::newPalette()
     QFETCH_GLOBAL(QPalette, palette);
     if (!sheet.contains("palette("))
         QSKIP("The sheet has colours of its own.");
+    const PaletteFollower follower;
+    qApp->setStyleSheet(sheet);
     EditorUser user(new SliderEditFrame);
     const EditorRow &row = user.rows[0];
     QSlider *const slider = row.slider;
     user.perform("elsewhere");
     for (const QPalette &next : {paletteOf("#182838", "#102030", "#f0e0d0", "#ff8000"), palette}) {
         QApplication::setPalette(next);
-        qApp->setStyleSheet(sheet); // Qt reads the palette's colours at this time
         QCoreApplication::processEvents();
         const QImage field = row.spinBox->grab().toImage();
         QCOMPARE(field.pixelColor(4, 4), next.color(QPalette::Base));
