@@ -82,6 +82,8 @@ void tst_EntryOptions::fraction_data()
     row("options exact | range 0 300 | enter 250: 250 | range 0 400 | enter 999: 400");
     row("decimals 3 | range 0 9999999 | value 1234567.891 | options exact | suffix mm | click | "
         "elsewhere | shown: 1234567.891mm | enter 1/0 | shown: 1234567.891mm");
+    row("decimals 3 | range 0 9999999 | value 1234567.891 | options exact | type 1/0= | "
+        "refused: yes | shown: 1234567.891");
     row("options comma | enter 2,5: 2.5 | type 3,5, | shown: 3.5/250 | elsewhere: 3.5");
     row("options comma | click | paste 2,5 | keys \n: 2.5 | click | paste 0,5= | elsewhere: 0.5");
     row("options comma | click | paste Math.max(3,7)+Math.min((1,5),2) | keys \n: 8.5");
