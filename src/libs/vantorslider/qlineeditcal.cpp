@@ -317,10 +317,12 @@ void LineEditCal::setShowResult(const QString &strText)
     if (value < min) {
         value = min;
     }
-    m_beforeResult = QString::number(value, 'f', shownDecimals());
+    // A receiver of the mark may set another result.
+    const QString shown = QString::number(value, 'f', shownDecimals());
+    m_beforeResult = shown;
     m_isInitialResultPending = false;
     setEntryRefused(std::isnan(value));
-    setShownEntry(m_beforeResult);
+    setShownEntry(shown);
 }
 
 QEvent::Type LineEditCal::entryRefusedChange()

@@ -84,9 +84,10 @@ private:
 
     int m_cursorPosition = 0;
     std::vector<QString> m_vecStringResults;
-    // Part of the interface, like the four regular expressions and two of the flags below. No code
-    // uses them; the filter uses CalculatorPatterns::isAccepted() and isMark().
+    // Part of the interface, and so are the four regular expressions and two of the flags below. No
+    // code reads these; the filter calls CalculatorPatterns::isAccepted() and isMark().
     QString m_beforeText;
+
     QString m_beforeResult;
     std::regex m_regex;
     std::regex m_regexMark;

@@ -16,7 +16,7 @@ void allowAnyDirection(SliderEditFrame *field)
     field->setValueChangeDirection(SliderEditFrame::AllowedToAny, field->value());
 }
 
-// A spacer above or below a lock. It is never wider than the lock's placeholder: a style sheet
+// A spacer above or below a lock. It is never larger than the lock's placeholder: a style sheet
 // that collapses the placeholder collapses the column.
 class LockSpacer : public QSpacerItem
 {
