@@ -283,8 +283,8 @@ bool LineEditCal::setRadixPointSeveral(QString &strText, const int &index)
     if (static_cast<std::size_t>(index) >= m_vecStringResults.size()) {
         return false;
     }
-    const auto end = strText.cend();
-    const auto point = std::find(strText.cbegin(), end, QLatin1Char('.'));
+    const QChar *const end = strText.cend();
+    const QChar *const point = std::find(strText.cbegin(), end, QLatin1Char('.'));
     const auto decimals = point == end ? 0 : end - point - 1;
     const bool isSecondPoint = decimals > 0 && std::find(point + 1, end, QLatin1Char('.')) != end;
     if (!isSecondPoint && decimals <= typedDecimals()) {
