@@ -47,6 +47,7 @@ void tst_EntryOptions::whole_data()
         "shown: 50");
     row("options comma | enter 2,5*4: 10 | type 7,25,5 | shown: 7.25/10");
     row("options comma | click | paste 1,2,3 | hide: finished finished | refused: yes");
+    row("value 9 | options exact stays | type 9.\n: key | shown: 9");
     row("options comma | click | paste 2Math.max(3,7) | shown: 2Math.max(3,7)/50");
     row("options escape | type 12* | escape | shown: 50 | selected: all | escape: key | "
         "elsewhere: finished finished");

@@ -126,10 +126,9 @@ private:
             const auto most = qMax(1, int(m_isInEdit) + int(heard.count("start")));
             verifyEdits(heard);
             QVERIFY(!heard.contains("warning") && !heard.contains("too early"));
-            // What a lock has clamped is reported before the entry.
-            const int clamped =
-                QRegularExpression("enter|type").match(gesture).hasMatch() && !lock.isEmpty() ? 1
-                                                                                              : 0;
+            // What a lock has clamped is reported before the entry, also after it is open again.
+            const bool isEntry = QRegularExpression("enter|type").match(gesture).hasMatch();
+            const int clamped = isEntry && m_wasLocked[row / 2] ? 1 : 0;
             QVERIFY(heard.count(change) <= most + clamped);
             if (heard.lastIndexOf(change, -1, &match) >= 0)
                 changed = match.captured(1);
@@ -141,6 +140,7 @@ private:
         for (const EditorRow &each : m_user.rows)
             QVERIFY(!each.whole || each.whole->sliderScale() != SliderEditFrame::LinearScale
                     || each.whole->value() == each.slider->value());
+        m_wasLocked[row / 2] |= isLock;
         if (isLock)
             lock = lock.isEmpty() ? QVector<int> {value(row & 2), value(row | 1)} : QVector<int>();
         else if (!changed.isEmpty())
@@ -194,6 +194,7 @@ private:
     std::mt19937 &m_random;
     UserOf<Frame> m_user;
     QVector<int> m_locks[2]; // the positions and the sizes where they were locked
+    bool m_wasLocked[2] = {};
     QStringList m_done;
     QString m_reported;
     bool m_isInEdit = false;

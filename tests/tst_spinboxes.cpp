@@ -102,7 +102,7 @@ void tst_SpinBoxes::keys_data()
     withOptions(EnterStays, false, "5/2\n", "2.500: editing() value(2.5) enter()");
     withOptions(EnterStays, false, "5/2\n\n", "2.500: editing() value(2.5) enter() key");
     withOptions(EnterStays, false, "5/2=", "2.500: editing() value(2.5)");
-    withOptions(EnterStays | DecimalComma, true, "2,5\n", "2.5: value(2) value(2.5) key");
+    withOptions(EnterStays | DecimalComma, true, "2,5\n", "2.500: value(2) value(2.5) key");
 }
 
 // The suffix that is hidden while the field is edited.

@@ -144,6 +144,7 @@ template <typename SpinBox> void restoreValue(SpinBox *spinBox, LineEditCal *cal
 template <typename SpinBox> void finishAndStay(SpinBox *spinBox, QKeyEvent *event)
 {
     if (showsValue(spinBox)) {
+        spinBox->interpretText(); // writes the value where the text is another one of it, as 9.
         // Leaves the key to a default button, except for auto-repeat of a held key.
         event->setAccepted(event->isAutoRepeat());
         return;
