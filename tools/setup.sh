@@ -90,7 +90,7 @@ need() {
     local missing plan count fetch disk
     find_missing "$@"
     if [ ${#missing[@]} -eq 0 ]; then
-        say "All packages are installed already: $*"
+        say "All packages are installed already: $(printf '%s\n' "$@" | sort -u | paste -sd ' ')"
         return
     fi
     say "Missing Debian packages: ${missing[*]}"
