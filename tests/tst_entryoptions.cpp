@@ -1,6 +1,8 @@
 #include "cropeditframe.h"
 #include "editoruser.h"
 
+#include <QtCore/QFile>
+
 #include <cmath>
 #include <random>
 
@@ -12,96 +14,33 @@ class tst_EntryOptions : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void whole_data();
-    void whole() { runTestCode(); }
-    void fraction_data();
-    void fraction() { runTestCode(); }
+    void rows_data();
+    void rows() { runTestCode(); }
     void composite_data();
     void composite() { runTestCode(); }
     void nearestValue_data();
     void nearestValue() { runTestCode(); }
 };
 
-// An editor from 0 to 100 that shows 50.
-template <typename Frame> auto rowsOfSteps()
-{
-    return [row = rowsAfter<Frame>("range 0 100 | value 50 | ", 1)](const QString &steps) {
-        row(QString(steps).replace('\n', "Enter").replace('\t', "Tab"), steps);
-    };
-}
-
-void tst_EntryOptions::whole_data()
+// The rows of the table, for both kinds of editor.
+void tst_EntryOptions::rows_data()
 {
     QTest::addColumn<TestCode>("code");
-    const auto row = rowsOfSteps<SliderEditFrame>();
-    row("options exact | range 0 2147483647 | enter 16777217: 16777217 | shown: 16777217");
-    row("options exact | range -2147483648 99 | type 1-2147483648\t: finished -2147483647 "
-        "finished");
-    // Clamped to the current range, not to that of the last value.
-    row("options exact | range 0 300 | enter 250: 250 | range 0 400 | enter 999: 400");
-    row("options exact | type 1.5*3 | shown: 1.*3/50 | elsewhere: finished 3 finished");
-    row("options exact | enter 127/2: 64");
-    row("options exact | range 0 16777217 | value 16777217 | enter 1/0 | refused: yes | "
-        "shown: 16777217 | elsewhere");
-    row("options exact | enter 0/0 | refused: yes | click | elsewhere: finished finished | "
-        "shown: 50");
-    row("options comma | enter 2,5*4: 10 | type 7,25,5 | shown: 7.25/10");
-    row("options comma | click | paste 1,2,3 | hide: finished finished | refused: yes");
-    row("value 9 | options exact stays | type 9.\n: key | shown: 9");
-    row("options comma | click | paste 2Math.max(3,7) | shown: 2Math.max(3,7)/50");
-    row("options escape | type 12* | escape | shown: 50 | selected: all | escape: key | "
-        "elsewhere: finished finished");
-    row("options escape | type 7 | escape | keys 8\t: finished 8 finished");
-    row("options escape | enter 1/0 | refused: yes | focus | escape | refused: no | escape: key");
-    row("options escape | click | escape: key | keys 7\t: finished 7 finished");
-    row("options stays | type 12*3\n: finished 36 | selected: all | keys 7\n: finished 7 | "
-        "focused: other | keys \n: key | keys \t: finished finished");
-    row("options stays | type 12*3=: 36 | selected: all | keys 7=: 7 | keys 7\n: key");
-    row("options stays | type 2+\n: finished | refused: yes | selected: all | keys \n: key");
-    row("options stays | suffix  px | type 8\n: finished 8 | selected: 8 | shown: 8 px");
-    // Out of range, the value does not change; the text does.
-    row("options stays | value 100 | type 320\n: finished | shown: 100 | keys \n: key");
-    row("options escape | value 100 | type 320 | escape | shown: 100 | escape: key");
-    row("options stays | type 7 | hide: 7 finished finished");
-    row("options exact comma | enter 2,6*2: 4");
-    row("options exact escape | range 0 16777217 | value 16777217 | type 5 | escape | "
-        "shown: 16777217 | keys 1/0\t: finished finished | shown: 16777217");
-    row("options exact stays | range 0 16777217 | type 16777216+1\n: finished 16777217 | "
-        "keys \n: key");
-    row("options comma escape | type 2,5 | escape | shown: 50 | escape: key");
-    row("options comma stays | type 2,5*2\n: finished 5 | keys 1,5*2=: 3");
-    row("options escape stays | type 1/0\n: finished | refused: yes | escape | refused: no | "
-        "selected: all | escape: key | keys 8\n: finished 8 | escape: key");
-    row("type 12* | escape: key | elsewhere: finished finished");
-}
-
-void tst_EntryOptions::fraction_data()
-{
-    QTest::addColumn<TestCode>("code");
-    const auto row = rowsOfSteps<SliderEditFrameDouble>();
-    row("decimals 3 | options exact | enter 0.125: 0.125 | type 0.1269 | shown: 0.126/125");
-    row("options exact | range 0 300 | enter 250: 250 | range 0 400 | enter 999: 400");
-    row("decimals 3 | range 0 9999999 | value 1234567.891 | options exact | suffix mm | click | "
-        "elsewhere | shown: 1234567.891mm | enter 1/0 | shown: 1234567.891mm");
-    row("decimals 3 | range 0 9999999 | value 1234567.891 | options exact | type 1/0= | "
-        "refused: yes | shown: 1234567.891");
-    row("options comma | enter 2,5: 2.5 | type 3,5, | shown: 3.5/250 | elsewhere: 3.5");
-    row("options comma | click | paste 2,5 | keys \n: 2.5 | click | paste 0,5= | elsewhere: 0.5");
-    row("options comma | click | paste Math.max(3,7)+Math.min((1,5),2) | keys \n: 8.5");
-    row("options comma | prefix $ | suffix ,- | enter 2,5: 2.5 | shown: $2.50,-");
-    row("options escape | type 1/4 | escape | shown: 50.00 | selected: all | escape: key");
-    // An evaluated result is an entry until the field loses the focus.
-    row("options escape | type 1/4= | escape | shown: 50.00 | keys 1/0\t | shown: 50.00");
-    row("options stays | type 1/4\n: 0.25 | selected: all | keys 1/2\n: 0.5 | keys \n: key");
-    row("options stays | type 1/4=: 0.25 | selected: all | keys 1/2=: 0.5 | keys \t");
-    row("options stays | suffix mm | type 3/2\n: 1.5 | shown: 1.50mm | keys 3\n: 3 | elsewhere | "
-        "shown: 3.00mm");
-    row("decimals 3 | options exact comma | enter 0,125: 0.125");
-    row("decimals 3 | options exact escape | value 0.125 | type 9 | escape | shown: 0.125");
-    row("decimals 3 | options exact stays | type 1/8\n: 0.125 | keys 0.126=: 0.126");
-    row("options comma escape | type 2,5 | escape | shown: 50.00 | escape: key");
-    row("options comma stays | type 2,5\n: 2.5 | keys 1,5\n: 1.5");
-    row("options escape stays | type 2+\n | refused: yes | escape | refused: no | escape: key");
+    const auto whole = rowsAfter<SliderEditFrame>("range 0 100 | value 50 | ", 1);
+    const auto fraction = rowsAfter<SliderEditFrameDouble>("range 0 100 | value 50 | ", 1);
+    QFile table(ENTRY_OPTIONS);
+    QVERIFY(table.open(QIODevice::ReadOnly));
+    while (!table.atEnd()) {
+        const QString line = QString::fromUtf8(table.readLine()).trimmed();
+        const QString kind = line.section(' ', 0, 0), name = line.section(' ', 1);
+        const QString steps = QString(name).replace("\\n", "\n").replace("\\t", "\t");
+        if (kind == "int")
+            whole(name, steps);
+        else if (kind == "double")
+            fraction(name, steps);
+        else
+            QCOMPARE(kind, QString("#"));
+    }
     // The program sets the number at the first key: a text without a comma is not written again.
     QTest::newRow("options comma, set at the start") << TestCode([] {
         UserOf<SliderEditFrameDouble> user(1);
