@@ -8,9 +8,9 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// The four regular expressions of the calculator, compiled once for the process. Each line edit has
-// copies of them as part of its interface. The filter runs on each keystroke, so it tests a single
-// character, which two of them accept, without them.
+// The four regular expressions of the calculator, compiled once for the process; each line edit has
+// copies of them. The filter runs on each keystroke, so it tests a single character, which two of
+// them accept, without them.
 struct CalculatorPatterns
 {
     static const CalculatorPatterns &instance()

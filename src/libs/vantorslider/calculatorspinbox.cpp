@@ -1,7 +1,6 @@
 #include "calculatorspinbox_p.h"
 
-#include <QtGui/QKeyEvent>
-#include <QtWidgets/QAbstractSpinBox>
+#include <QtCore/QChildEvent>
 #include <QtWidgets/QStyle>
 
 namespace Vantor {
@@ -39,10 +38,10 @@ bool isRestoringKey(const QEvent *keyEvent, const LineEditCal *calculator)
         && static_cast<const QKeyEvent *>(keyEvent)->matches(QKeySequence::Cancel);
 }
 
-void keepDecimalPoint(QAbstractSpinBox *spinBox, const QEvent *event)
+void forgetIfRemoved(LineEditCal *&calculator, const QChildEvent *event)
 {
-    if (event->type() == QEvent::LocaleChange && spinBox->locale() != QLocale::c()) {
-        spinBox->setLocale(QLocale::c());
+    if (event->removed() && event->child() == calculator) {
+        calculator = nullptr;
     }
 }
 

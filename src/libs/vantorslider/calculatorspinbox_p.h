@@ -9,15 +9,11 @@
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
+#include <QtWidgets/QAbstractSpinBox>
 
 #include <algorithm>
 #include <cmath>
 #include <optional>
-
-QT_BEGIN_NAMESPACE
-class QAbstractSpinBox;
-class QEvent;
-QT_END_NAMESPACE
 
 namespace Vantor {
 namespace Widgets {
@@ -37,9 +33,8 @@ bool isFinishingKey(const QKeyEvent *event);
 // restore.
 bool isRestoringKey(const QEvent *keyEvent, const LineEditCal *calculator);
 
-// Reverts a change of locale by the host: the calculator always writes a decimal point, and with
-// a German locale the spin box would read 0.25 as 25.
-void keepDecimalPoint(QAbstractSpinBox *spinBox, const QEvent *event);
+// QAbstractSpinBox deletes the line edit when a subclass sets another one.
+void forgetIfRemoved(LineEditCal *&calculator, const QChildEvent *event);
 
 // The number in a text without prefix and suffix; nothing for an expression. A comma is an
 // operator here, but a group separator for Qt. Qt also accepts "inf" and "nan".
@@ -58,7 +53,7 @@ inline std::optional<double> numberIn(const QString &text)
 template <typename SpinBox>
 double numberFromText(const SpinBox *spinBox, const LineEditCal *calculator, const QString &text)
 {
-    QString bare = FieldText(spinBox, text).entry;
+    QString bare = FieldText(spinBox->prefix(), spinBox->suffix(), text).entry;
     bare = calculator != nullptr ? calculator->pointed(bare) : bare;
     const std::optional<double> number = numberIn(bare);
     const double value = spinBox->value();
@@ -82,29 +77,35 @@ struct ValueText
 // What the user has typed that is not part of the value yet.
 enum class Entry { None, Number, Expression };
 
-// Whether the text is the value, as the spin box writes it or as another text of the same number.
-// A number out of range is not the value.
-template <typename SpinBox> bool showsValue(const SpinBox *spinBox)
+// Whether the text is the value as the spin box writes it.
+template <typename SpinBox> bool isTextOfValue(const SpinBox *spinBox)
 {
     const bool isSpecial =
         !spinBox->specialValueText().isEmpty() && spinBox->value() == spinBox->minimum();
-    const QString text = spinBox->text();
-    return text
+    return spinBox->text()
         == (isSpecial ? spinBox->specialValueText()
-                      : spinBox->prefix() + ValueText::of(spinBox) + spinBox->suffix())
-        || numberIn(FieldText(spinBox, text).entry) == double(spinBox->value());
+                      : spinBox->prefix() + ValueText::of(spinBox) + spinBox->suffix());
+}
+
+// The same, or the text is another one of the same number. A number out of range is not the value.
+template <typename SpinBox> bool showsValue(const SpinBox *spinBox)
+{
+    return isTextOfValue(spinBox)
+        || numberIn(FieldText::of(spinBox).entry) == double(spinBox->value());
 }
 
 template <typename SpinBox> Entry pendingEntry(const SpinBox *spinBox)
 {
-    if (showsValue(spinBox)) {
+    if (isTextOfValue(spinBox)) {
         return Entry::None;
     }
-    const QString text = spinBox->text();
-    if (!numberIn(FieldText(spinBox, text).entry)) {
+    const std::optional<double> number = numberIn(FieldText::of(spinBox).entry);
+    if (!number) {
         return Entry::Expression;
     }
-    return spinBox->valueFromText(text) == spinBox->value() ? Entry::None : Entry::Number;
+    const bool isValue = number == double(spinBox->value())
+        || spinBox->valueFromText(spinBox->text()) == spinBox->value();
+    return isValue ? Entry::None : Entry::Number;
 }
 
 // Changes prefix and suffix. Qt then writes the value; a pending entry is restored between them.
@@ -112,7 +113,7 @@ template <typename SpinBox, typename Change>
 void keepEntry(SpinBox *spinBox, QLineEdit *field, Change change)
 {
     const bool isPending = pendingEntry(spinBox) != Entry::None;
-    const FieldText before(spinBox, spinBox->text());
+    const FieldText before = FieldText::of(spinBox);
     const auto cursor = field->cursorPosition() - before.prefix.length();
     change();
     if (isPending) {
@@ -207,6 +208,20 @@ bool handleEvent(SpinBox *spinBox, LineEditCal *calculator, QEvent *event)
     return false;
 }
 
+// In the functions below base passes the event on to Qt's class.
+
+template <typename SpinBox, typename Base>
+void handleStep(SpinBox *spinBox, LineEditCal *calculator, Base base)
+{
+    EditSpan::Scope edit(EditSpan::around(spinBox));
+    edit.begin();
+    if (calculator != nullptr && pendingEntry(spinBox) == Entry::Expression) {
+        calculator->setSlotEditingFinished();
+    }
+    base();
+    edit.release(EditSpan::Entry);
+}
+
 // Whether the spin box is hidden or loses the focus because its window is being destroyed. Its
 // pending entry is discarded then.
 template <typename SpinBox> bool isDroppedWithWindow(SpinBox *spinBox, LineEditCal *calculator)
@@ -217,6 +232,60 @@ template <typename SpinBox> bool isDroppedWithWindow(SpinBox *spinBox, LineEditC
     const QSignalBlocker blocker(spinBox);
     spinBox->setValue(spinBox->value());
     return true;
+}
+
+// finish ends the entry. It and base may delete the spin box.
+template <typename SpinBox, typename Finish, typename Base>
+void handleFocusOut(SpinBox *spinBox, LineEditCal *calculator, QFocusEvent *event, Finish finish,
+                    Base base)
+{
+    if (isDroppedWithWindow(spinBox, calculator)) {
+        return;
+    }
+    if (calculator != nullptr && calculator->isLeftForOwnPopup(event)) {
+        calculator->event(event);
+        spinBox->update(); // without the base, which would finish the entry
+        return;
+    }
+    EditSpan::Scope edit(EditSpan::around(spinBox));
+    const QPointer<SpinBox> self(spinBox);
+    finish();
+    if (self) {
+        base();
+    }
+    edit.release(EditSpan::Entry);
+}
+
+// If the spin box is hidden while it has the focus, the base interprets the text.
+template <typename SpinBox, typename Base>
+void handleHide(SpinBox *spinBox, LineEditCal *calculator, Base base)
+{
+    EditSpan::Scope edit(EditSpan::around(spinBox));
+    const QPointer<SpinBox> self(spinBox);
+    if (!isDroppedWithWindow(spinBox, calculator)) {
+        spinBox->setSlotEditingFinished();
+        edit.release(EditSpan::Entry);
+    }
+    if (self) {
+        base();
+    }
+}
+
+// The constructor sets the locale before it installs the field. Qt would write the value into the
+// field that is replaced then. Later a host's locale is reverted: the calculator always writes a
+// decimal point, and with a German locale the spin box would read 0.25 as 25.
+template <typename Base>
+void handleChange(QAbstractSpinBox *spinBox, const LineEditCal *calculator, const QEvent *event,
+                  Base base)
+{
+    const bool isLocale = event->type() == QEvent::LocaleChange;
+    if (isLocale && calculator != nullptr && calculator->parent() == nullptr) {
+        return;
+    }
+    base();
+    if (isLocale && spinBox->locale() != QLocale::c()) {
+        spinBox->setLocale(QLocale::c());
+    }
 }
 
 } // namespace Internal

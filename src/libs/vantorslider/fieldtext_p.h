@@ -31,10 +31,16 @@ struct UnitProperties
     QMetaProperty suffix;
 };
 
-// The text of a line edit, split into the prefix and suffix of its spin box, of any class, and the
-// entry between them.
+// The text of a line edit, split into the prefix and suffix of its spin box and the entry between
+// them.
 struct FieldText
 {
+    // Of a spin box of a known class.
+    template <typename SpinBox> static FieldText of(const SpinBox *spinBox)
+    {
+        return {spinBox->prefix(), spinBox->suffix(), spinBox->text()};
+    }
+
     FieldText(const QObject *spinBox, QString text) : entry(std::move(text))
     {
         if (spinBox != nullptr) {
@@ -42,6 +48,25 @@ struct FieldText
             prefix = units.prefix.read(spinBox).toString();
             suffix = units.suffix.read(spinBox).toString();
         }
+        split();
+    }
+
+    FieldText(QString before, QString after, QString text)
+        : prefix(std::move(before)), entry(std::move(text)), suffix(std::move(after))
+    {
+        split();
+    }
+
+    // The text with a different entry.
+    QString with(const QString &other) const { return prefix + other + suffix; }
+
+    QString prefix;
+    QString entry;
+    QString suffix;
+
+private:
+    void split()
+    {
         if (prefix.isEmpty() || !entry.startsWith(prefix)) {
             prefix.clear();
         } else {
@@ -53,13 +78,6 @@ struct FieldText
             entry.chop(suffix.length());
         }
     }
-
-    // The text with a different entry.
-    QString with(const QString &other) const { return prefix + other + suffix; }
-
-    QString prefix;
-    QString entry;
-    QString suffix;
 };
 
 } // namespace Internal

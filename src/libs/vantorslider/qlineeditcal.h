@@ -33,7 +33,7 @@ public:
     void setInputRadixPointSeveral(const int &inputSeveral);
     // Results are clamped to this range; if it is inverted, min takes precedence.
     void setLineEditMinOrMax(const float &min, const float &max);
-    // Part of the interface; has no effect.
+    // Has no effect: the field reads the suffix that the spin box has.
     void setSuffix(bool bSuffix);
     // Evaluates the text unless it is the last accepted result. Emits only textChanged().
     void setSlotEditingFinished();
@@ -77,6 +77,9 @@ private:
     void setEntryText(const QString &entry, int cursorPosition);
     void setResultText(QString text);
     const QString &beforeResult();
+    // Range and result are pushed by setSpinBoxCal(): without options they are the ones at that
+    // call, as float. An exact entry needs those of the moment, as double. They are pulled, because
+    // Qt's spin box changes them in functions that are not virtual.
     double ofSpinBox(const char *property, double otherwise) const;
     int shownDecimals() const;
     int typedDecimals() const { return has(ExactEntry) ? shownDecimals() : m_inputSeveral; }
@@ -84,10 +87,10 @@ private:
 
     int m_cursorPosition = 0;
     std::vector<QString> m_vecStringResults;
-    // Part of the interface, and so are the four regular expressions and two of the flags below. No
-    // code reads these; the filter calls CalculatorPatterns::isAccepted() and isMark().
+    // Not read, like the regular expressions, m_bSuffix and m_btnFirstPress: the filter runs at
+    // each key and calls CalculatorPatterns::isAccepted() and isMark(), which accept the same
+    // characters.
     QString m_beforeText;
-
     QString m_beforeResult;
     std::regex m_regex;
     std::regex m_regexMark;

@@ -39,13 +39,7 @@ double SliderEditDoubleSpinBox::valueFromText(const QString &text) const
 
 void SliderEditDoubleSpinBox::stepBy(int steps)
 {
-    EditSpan::Scope edit(EditSpan::around(this));
-    edit.begin();
-    if (m_pLineEditCal != nullptr && Internal::pendingEntry(this) == Internal::Entry::Expression) {
-        m_pLineEditCal->setSlotEditingFinished();
-    }
-    QDoubleSpinBox::stepBy(steps);
-    edit.release(EditSpan::Entry);
+    Internal::handleStep(this, m_pLineEditCal, [=] { QDoubleSpinBox::stepBy(steps); });
 }
 
 void SliderEditDoubleSpinBox::setEntryOptions(EntryOptions options)
@@ -178,7 +172,7 @@ void SliderEditDoubleSpinBox::focusInEvent(QFocusEvent *event)
     const QPointer<SliderEditDoubleSpinBox> self(this);
     if (m_btnFirstPress && !suffix().isEmpty()) {
         const bool isNumber = specialValueText().isEmpty() || text() != specialValueText();
-        QString number = Internal::FieldText(this, text()).entry;
+        QString number = Internal::FieldText::of(this).entry;
         number.remove(suffix()); // each occurrence
         m_strSuffix = suffix();
         setSuffix(QString());
@@ -201,56 +195,26 @@ void SliderEditDoubleSpinBox::focusInEvent(QFocusEvent *event)
 
 void SliderEditDoubleSpinBox::focusOutEvent(QFocusEvent *event)
 {
-    if (Internal::isDroppedWithWindow(this, m_pLineEditCal)) {
-        return;
-    }
-    if (m_pLineEditCal != nullptr && m_pLineEditCal->isLeftForOwnPopup(event)) {
-        m_pLineEditCal->event(event);
-        update(); // without the base, which would finish the entry
-        return;
-    }
-    EditSpan::Scope edit(EditSpan::around(this));
-    const QPointer<SliderEditDoubleSpinBox> self(this);
-    setSlotEditingFinished();
-    if (self) {
-        QDoubleSpinBox::focusOutEvent(event);
-    }
-    edit.release(EditSpan::Entry);
+    Internal::handleFocusOut(
+        this, m_pLineEditCal, event, [this] { setSlotEditingFinished(); },
+        [=] { QDoubleSpinBox::focusOutEvent(event); });
 }
 
-// If the spin box is hidden while it has the focus, the base class interprets the text here.
 void SliderEditDoubleSpinBox::hideEvent(QHideEvent *event)
 {
-    EditSpan::Scope edit(EditSpan::around(this));
-    const QPointer<SliderEditDoubleSpinBox> self(this);
-    if (!Internal::isDroppedWithWindow(this, m_pLineEditCal)) {
-        setSlotEditingFinished();
-        edit.release(EditSpan::Entry);
-    }
-    if (self) {
-        QDoubleSpinBox::hideEvent(event);
-    }
+    Internal::handleHide(this, m_pLineEditCal, [=] { QDoubleSpinBox::hideEvent(event); });
 }
 
 void SliderEditDoubleSpinBox::changeEvent(QEvent *event)
 {
-    // The constructor sets the locale before it installs the field. Qt would write the value into
-    // the field that is replaced then.
-    if (event->type() == QEvent::LocaleChange && m_pLineEditCal != nullptr
-        && m_pLineEditCal->parent() == nullptr) {
-        return;
-    }
-    QDoubleSpinBox::changeEvent(event);
-    Internal::keepDecimalPoint(this, event);
+    Internal::handleChange(this, m_pLineEditCal, event,
+                           [=] { QDoubleSpinBox::changeEvent(event); });
 }
 
-// QAbstractSpinBox deletes the line edit when a subclass sets another one.
 void SliderEditDoubleSpinBox::childEvent(QChildEvent *event)
 {
     QDoubleSpinBox::childEvent(event);
-    if (event->removed() && event->child() == m_pLineEditCal) {
-        m_pLineEditCal = nullptr;
-    }
+    Internal::forgetIfRemoved(m_pLineEditCal, event);
 }
 
 } // namespace Widgets

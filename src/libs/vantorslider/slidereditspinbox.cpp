@@ -36,13 +36,7 @@ int SliderEditSpinBox::valueFromText(const QString &text) const
 
 void SliderEditSpinBox::stepBy(int steps)
 {
-    EditSpan::Scope edit(EditSpan::around(this));
-    edit.begin();
-    if (m_pLineEditCal != nullptr && Internal::pendingEntry(this) == Internal::Entry::Expression) {
-        m_pLineEditCal->setSlotEditingFinished();
-    }
-    QSpinBox::stepBy(steps);
-    edit.release(EditSpan::Entry);
+    Internal::handleStep(this, m_pLineEditCal, [=] { QSpinBox::stepBy(steps); });
 }
 
 void SliderEditSpinBox::setEntryOptions(EntryOptions options)
@@ -143,56 +137,25 @@ void SliderEditSpinBox::focusInEvent(QFocusEvent *event)
 
 void SliderEditSpinBox::focusOutEvent(QFocusEvent *event)
 {
-    if (Internal::isDroppedWithWindow(this, m_pLineEditCal)) {
-        return;
-    }
-    if (m_pLineEditCal != nullptr && m_pLineEditCal->isLeftForOwnPopup(event)) {
-        m_pLineEditCal->event(event);
-        update(); // without the base, which would finish the entry
-        return;
-    }
-    EditSpan::Scope edit(EditSpan::around(this));
-    const QPointer<SliderEditSpinBox> self(this);
-    Q_EMIT editingFinished();
-    if (self) {
-        QSpinBox::focusOutEvent(event);
-    }
-    edit.release(EditSpan::Entry);
+    Internal::handleFocusOut(
+        this, m_pLineEditCal, event, [this] { Q_EMIT editingFinished(); },
+        [=] { QSpinBox::focusOutEvent(event); });
 }
 
-// If the spin box is hidden while it has the focus, the base class interprets the text here.
 void SliderEditSpinBox::hideEvent(QHideEvent *event)
 {
-    EditSpan::Scope edit(EditSpan::around(this));
-    const QPointer<SliderEditSpinBox> self(this);
-    if (!Internal::isDroppedWithWindow(this, m_pLineEditCal)) {
-        setSlotEditingFinished();
-        edit.release(EditSpan::Entry);
-    }
-    if (self) {
-        QSpinBox::hideEvent(event);
-    }
+    Internal::handleHide(this, m_pLineEditCal, [=] { QSpinBox::hideEvent(event); });
 }
 
 void SliderEditSpinBox::changeEvent(QEvent *event)
 {
-    // The constructor sets the locale before it installs the field. Qt would write the value into
-    // the field that is replaced then.
-    if (event->type() == QEvent::LocaleChange && m_pLineEditCal != nullptr
-        && m_pLineEditCal->parent() == nullptr) {
-        return;
-    }
-    QSpinBox::changeEvent(event);
-    Internal::keepDecimalPoint(this, event);
+    Internal::handleChange(this, m_pLineEditCal, event, [=] { QSpinBox::changeEvent(event); });
 }
 
-// QAbstractSpinBox deletes the line edit when a subclass sets another one.
 void SliderEditSpinBox::childEvent(QChildEvent *event)
 {
     QSpinBox::childEvent(event);
-    if (event->removed() && event->child() == m_pLineEditCal) {
-        m_pLineEditCal = nullptr;
-    }
+    Internal::forgetIfRemoved(m_pLineEditCal, event);
 }
 
 } // namespace Widgets
