@@ -288,6 +288,12 @@ void tst_Edits::resets_data()
     for (const QString reset : {"x resetValue", "resetValues"})
         crop("back to the crop before, " + reset,
              "x default 2 | " + reset + " | x minus: start crop(1,2,40,20) x(1) (1,2,40,20) end");
+    crop("away from the edge",
+         "w value 98 | w plus: start crop(1,2,99,20) w(99) (1,2,99,20) end | w default 9 | "
+         "w resetValue | w plus: start crop(1,2,10,20) w(10) (1,2,10,20) end");
+    crop("lock stays",
+         "lock position: positionLock(true) | x default 50 | resetValues | "
+         "x plus: start crop(51,52,40,20) x(51) (51,52,40,20) end");
     for (const QString reset : {"h resetValue", "resetValues"})
         mask("held in the area, " + reset,
              "h default 50 | " + reset + " | w plus: start mask(0,0,50,50) w(80) (0,0,80,50) end");

@@ -3,6 +3,7 @@
 #include <rgballeditframe.h>
 #include <rgbeditframe.h>
 #include <rgbopacityeditframe.h>
+#include <slidereditframe.h>
 
 #include <QtWidgets/QLabel>
 
@@ -20,13 +21,22 @@ void setUpChannels(Editor *editor, int min, int max, const std::array<int, 3> &d
     editor->setLabelText(Editor::G, Page::tr("Green"));
     editor->setLabelText(Editor::B, Page::tr("Blue"));
     editor->setRanges(min, max);
-    editor->setDefaultValue(Editor::R, defaults[0]);
-    editor->setDefaultValue(Editor::G, defaults[1]);
-    editor->setDefaultValue(Editor::B, defaults[2]);
-    editor->setSpinBoxFixedWidths(Page::fieldWidth);
+    editor->row(Editor::R)->setDefaultValue(defaults[0]);
+    editor->row(Editor::G)->setDefaultValue(defaults[1]);
+    editor->row(Editor::B)->setDefaultValue(defaults[2]);
+    for (auto *row : editor->rows()) {
+        row->setSpinBoxFixedWidth(Page::fieldWidth);
+    }
     editor->setVerticalSpacing(0);
     editor->setAutoRepeat(true);
     editor->setLastVerticalSpacerExpanding(false);
+}
+
+template <typename Editor> void setSuffix(Editor *editor, const QString &suffix)
+{
+    for (auto *row : editor->rows()) {
+        row->setSuffix(suffix);
+    }
 }
 
 } // namespace
@@ -49,7 +59,7 @@ void ColourPage::addGain()
     addHeading(tr("Gain"), tr("Percent of each channel."));
     auto *editor = addEditor<RGBEditFrame>();
     setUpChannels(editor, 0, 200, Colours().gain);
-    editor->setSuffixes(tr(" %"));
+    setSuffix(editor, tr(" %"));
     connect(editor, &RGBEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Gain"), QStringLiteral("valueChanged")));
     connect(editor, &RGBEditFrame::valueChanged, this, [this](int r, int g, int b) {
@@ -68,10 +78,10 @@ void ColourPage::addLift()
     // The channels are a separate editor with its own spacer at the end.
     editor->findChild<RGBEditFrame *>()->setLastVerticalSpacerExpanding(false);
     setUpChannels(editor, -100, 100, Colours().lift);
-    editor->setSuffixes(tr(" %"));
+    setSuffix(editor, tr(" %"));
     editor->setLabelText(RGBAllEditFrame::ALL, tr("Master"));
     editor->setRange(RGBAllEditFrame::ALL, 0, 100);
-    editor->setDefaultValue(RGBAllEditFrame::ALL, Colours().liftMaster);
+    editor->row(RGBAllEditFrame::ALL)->setDefaultValue(Colours().liftMaster);
     connect(editor, &RGBAllEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Lift"), QStringLiteral("valueChanged")));
     connect(editor, &RGBAllEditFrame::valueChanged, this, [this](int r, int g, int b, int all) {
@@ -102,8 +112,9 @@ void ColourPage::addWash()
     const QColor wash = Colours().wash;
     setUpChannels(editor, 0, 255, {wash.red(), wash.green(), wash.blue()});
     editor->setLabelText(RGBOpacityEditFrame::Opacity, tr("Opacity"));
-    editor->setSuffix(RGBOpacityEditFrame::Opacity, tr(" %"));
-    editor->setDefaultValue(RGBOpacityEditFrame::Opacity, Colours().washOpacity);
+    auto *const opacity = editor->row(RGBOpacityEditFrame::Opacity);
+    opacity->setSuffix(tr(" %"));
+    opacity->setDefaultValue(Colours().washOpacity);
     connect(editor, &RGBOpacityEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Wash"), QStringLiteral("valueChanged")));
     connect(editor, &RGBOpacityEditFrame::valueChanged, this,

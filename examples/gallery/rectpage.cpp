@@ -21,8 +21,10 @@ void RectPage::setUp(Rect *editor, const QString &name, const QStringList &label
         editor->setSingleStep(fields[i], step);
         editor->setPageStep(fields[i], 40);
     }
-    editor->setSpinBoxFixedWidths(fieldWidth);
-    editor->setSuffixes(tr(" px"));
+    for (auto *row : editor->rows()) {
+        row->setSpinBoxFixedWidth(fieldWidth);
+        row->setSuffix(tr(" px"));
+    }
     editor->setVerticalSpacing(controlSpacing);
     editor->setAutoRepeat(true);
     editor->setLastVerticalSpacerExpanding(false);
@@ -49,10 +51,10 @@ void RectPage::setUp(Rect *editor, const QString &name, const QStringList &label
 
 void RectPage::setDefaults(Rect *editor, int x, int y, int width, int height)
 {
-    editor->setDefaultValue(Rect::X, x);
-    editor->setDefaultValue(Rect::Y, y);
-    editor->setDefaultValue(Rect::Width, width);
-    editor->setDefaultValue(Rect::Height, height);
+    editor->row(Rect::X)->setDefaultValue(x);
+    editor->row(Rect::Y)->setDefaultValue(y);
+    editor->row(Rect::Width)->setDefaultValue(width);
+    editor->row(Rect::Height)->setDefaultValue(height);
 }
 
 RectRules RectPage::rulesOf(Rect *editor, const QSize &area)

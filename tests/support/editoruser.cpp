@@ -298,16 +298,13 @@ template <typename Frame> void EditorUser::addComposite(Frame *frame)
     addModes(frame);
     on("value", [=](const Step &step) { frame->setValue(type(step), step[0]); });
     on("range", [=](const Step &step) { frame->setRange(type(step), step[0], step[1]); });
-    on("default", [=](const Step &step) { frame->setDefaultValue(type(step), step[0]); });
-    addResets(frame);
-}
-
-// These are not virtual.
-template <typename Frame> void EditorUser::addResets(Frame *frame)
-{
-    on("resetValue",
-       [=](const Step &step) { frame->resetValue(typename Frame::Type(2 << step.index)); });
     on("resetValues", [=](const Step &) { frame->resetValues(); });
+    on("default", [=](const Step &step) { frame->row(type(step))->setDefaultValue(step[0]); });
+    on("resetValue", [=](const Step &step) { frame->row(type(step))->resetValue(); });
+    on("suffix", [=](const Step &step) { frame->row(type(step))->setSuffix(step.text); });
+    on("scale", [=](const Step &step) {
+        frame->row(type(step))->setSliderScale(SliderEditFrame::LogarithmicScale);
+    });
 }
 
 // The program around a rectangle editor.
@@ -341,7 +338,6 @@ void EditorUser::addRect(RectEditFrame *rect)
 void EditorUser::addCrop(CropEditFrame *crop)
 {
     log.watch(crop, &CropEditFrame::cropValueChanged, "crop");
-    addResets(crop);
     on("area", [=](const Step &step) { crop->setCropRange(step[0], step[1]); });
     on("areaFrom", [=](const Step &step) {
         crop->setCropRange(step[0], step[1], step[2], step[3], step[4], step[5]);
@@ -356,7 +352,6 @@ void EditorUser::addCrop(CropEditFrame *crop)
 void EditorUser::addMask(MaskEditFrame *mask)
 {
     log.watch(mask, &MaskEditFrame::maskValueChanged, "mask");
-    addResets(mask);
     on("area", [=](const Step &step) { mask->setMaskRange(step[0], step[1]); });
     on("leastSize", [=](const Step &step) { mask->setMaskMinSize(step[0], step[1]); });
     on("mask", [=](const Step &step) { mask->setMaskValue(step[0], step[1], step[2], step[3]); });

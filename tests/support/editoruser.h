@@ -155,7 +155,6 @@ private:
     template <typename Frame> void add(Frame *frame);
     template <typename Frame> void addModes(Frame *frame);
     template <typename Frame> void addComposite(Frame *frame);
-    template <typename Frame> void addResets(Frame *frame);
     void addRect(Vantor::Widgets::RectEditFrame *rect);
     void addCrop(Vantor::Widgets::CropEditFrame *crop);
     void addMask(Vantor::Widgets::MaskEditFrame *mask);

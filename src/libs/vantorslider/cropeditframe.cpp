@@ -1,6 +1,8 @@
 #include "cropeditframe.h"
 
-#include "heldpair_p.h"
+#include "limitedfields_p.h"
+#include "saturation_p.h"
+#include "slidereditframe.h"
 
 namespace Vantor {
 namespace Widgets {
@@ -8,36 +10,34 @@ namespace Widgets {
 namespace Internal {
 
 // The minima of the area; keeps the crop in the area and reports it.
-class CropEditFramePrivate : public QObject
+class CropEditFramePrivate : public LimitedFields
 {
     Q_OBJECT
 
 public:
-    explicit CropEditFramePrivate(CropEditFrame *editer) : m_pEditer(editer) { }
+    explicit CropEditFramePrivate(CropEditFrame *editer) : LimitedFields(editer), m_pEditer(editer)
+    {
+    }
 
-    // Each editor is set up in these two steps. Here the base class has created all widgets.
-    void createWidgets() { }
     void createConnects();
 
     CropEditFrame *m_pEditer;
-    // Last crop reported or set by setCropValue().
-    QRect m_lastCrop;
     int m_nMinWidth = 1;
     int m_nMinHeight = 1;
     int m_nMinX = 0;
     int m_nMinY = 0;
 
 private Q_SLOTS:
-    void slotXValueChanged(int val) { hold({fieldX, fieldWidth, horizontalLimit()}, val); }
-    void slotYValueChanged(int val) { hold({fieldY, fieldHeight, verticalLimit()}, val); }
-    void slotWidthValueChanged(int val) { hold({fieldWidth, fieldX, horizontalLimit()}, val); }
-    void slotHeightValueChanged(int val) { hold({fieldHeight, fieldY, verticalLimit()}, val); }
+    void slotXValueChanged(int val) { limit(horizontal(), val); }
+    void slotYValueChanged(int val) { limit(vertical(), val); }
+    void slotWidthValueChanged(int val) { limit(horizontal().reversed(), val); }
+    void slotHeightValueChanged(int val) { limit(vertical().reversed(), val); }
 
 private:
-    int horizontalLimit() const { return limit(RectEditFrame::X, RectEditFrame::Width); }
-    int verticalLimit() const { return limit(RectEditFrame::Y, RectEditFrame::Height); }
-    int limit(RectEditFrame::Type position, RectEditFrame::Type size) const;
-    void hold(const HeldPair &pair, int val);
+    LimitedPair horizontal() const override { return farEdge(fieldX, fieldWidth); }
+    LimitedPair vertical() const override { return farEdge(fieldY, fieldHeight); }
+    LimitedPair farEdge(const LimitedField &position, const LimitedField &size) const;
+    void limit(const LimitedPair &pair, int val);
 };
 
 // The base class emits the signal of a field before valueChanged(). So the crop is limited and
@@ -51,19 +51,21 @@ void CropEditFramePrivate::createConnects()
     connect(m_pEditer, &RectEditFrame::heightValueChanged, this, &Private::slotHeightValueChanged);
 }
 
-// The far edge of the area: the minimum position plus the maximum size.
-int CropEditFramePrivate::limit(RectEditFrame::Type position, RectEditFrame::Type size) const
+// The far edge of the area is the minimum position plus the maximum size.
+LimitedPair CropEditFramePrivate::farEdge(const LimitedField &position,
+                                          const LimitedField &size) const
 {
-    return saturatedSum(fieldRange(m_pEditer, position).lowest,
-                        fieldRange(m_pEditer, size).greatest);
+    return {position, size,
+            saturatedSum(m_pEditer->row(position.type)->minimum(),
+                         m_pEditer->row(size.type)->maximum())};
 }
 
 // The user has set the first field of the pair to val.
-void CropEditFramePrivate::hold(const HeldPair &pair, int val)
+void CropEditFramePrivate::limit(const LimitedPair &pair, int val)
 {
-    const FieldValues crop = heldWithinLimit(m_pEditer, pair, val);
-    if (showAsLast(m_pEditer, crop, m_lastCrop)) {
-        Q_EMIT m_pEditer->cropValueChanged(crop.x, crop.y, crop.width, crop.height);
+    if (change(pair, val)) {
+        const auto [x, y, w, h] = last();
+        Q_EMIT m_pEditer->cropValueChanged(x, y, w, h);
     }
 }
 
@@ -110,34 +112,19 @@ void CropEditFrame::setCropRange(int nMinX, int nMinY, int nMinWidth, int nMinHe
 
 void CropEditFrame::setCropValue(int x, int y, int w, int h)
 {
-    d->m_lastCrop = Internal::wrappedRect(x, y, w, h);
+    d->setLast({x, y, w, h});
     RectEditFrame::setValue(x, y, w, h);
 }
 
 void CropEditFrame::setCropValue(const QRect &rect)
 {
-    d->m_lastCrop = rect;
-    RectEditFrame::setValue(rect);
+    setCropValue(rect.left(), rect.top(), Internal::saturatedExtent(rect.left(), rect.right()),
+                 Internal::saturatedExtent(rect.top(), rect.bottom()));
 }
 
 void CropEditFrame::setRange(Type type, int min, int max)
 {
     RectEditFrame::setRange(type, min, max);
-}
-
-// Stores the shown crop as the last one, like the other setters.
-void CropEditFrame::resetValue(Type type)
-{
-    RectEditFrame::resetValue(type);
-    const auto [x, y, w, h] = Internal::fieldValues(this);
-    setCropValue(x, y, w, h);
-}
-
-void CropEditFrame::resetValues()
-{
-    RectEditFrame::resetValues();
-    const auto [x, y, w, h] = Internal::fieldValues(this);
-    setCropValue(x, y, w, h);
 }
 
 // These three are private here: a host calls setCropValue(), which stores the last crop.

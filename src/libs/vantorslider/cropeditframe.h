@@ -77,16 +77,6 @@ public:
     */
     void setRange(Type type, int min, int max) override;
 
-    /*!
-        Shows the default value of the field \a type; does nothing if there is none. Emits
-        nothing. \since 1.1
-    */
-    void resetValue(Type type);
-
-public Q_SLOTS:
-    /*! Shows the default value of each field that has one. Emits nothing. \since 1.1 */
-    void resetValues();
-
 Q_SIGNALS:
     /*!
         The user changed the crop. Not emitted if it equals the crop that was last reported or

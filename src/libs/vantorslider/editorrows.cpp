@@ -12,26 +12,27 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-SliderEditFrame *EditorRows::find(int type) const
+// QDebug adds a space on each side of the number, beside the one of each text.
+SliderEditFrame *EditorRows::findOrWarn(int type, const QMessageLogger &here,
+                                        const char *task) const
 {
     for (const Row &row : m_rows) {
         if (row.type == type) {
             return row.frame;
         }
     }
+    const QByteArray failure = QByteArray(task) + " has failed. The type ";
+    here.warning() << failure.constData() << type << " is invalid.";
     return nullptr;
 }
 
-// QDebug adds a space on each side of the number, beside the one of each text.
-SliderEditFrame *EditorRows::findOrWarn(int type, const QMessageLogger &here,
-                                        const char *task) const
+QList<SliderEditFrame *> EditorRows::frames() const
 {
-    SliderEditFrame *frame = find(type);
-    if (frame == nullptr) {
-        const QByteArray failure = QByteArray(task) + " has failed. The type ";
-        here.warning() << failure.constData() << type << " is invalid.";
+    QList<SliderEditFrame *> frames;
+    for (const Row &row : m_rows) {
+        frames.append(row.frame);
     }
-    return frame;
+    return frames;
 }
 
 void EditorRows::setVisible(int types) const
@@ -63,13 +64,23 @@ int EditorRows::labelMaxLength() const
     const QFontMetrics metrics = m_rows.first().frame->fontMetrics();
     int widest = 0;
     for (const Row &row : m_rows) {
-#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
-        widest = qMax(widest, metrics.horizontalAdvance(row.frame->labelText()));
-#else
-        widest = qMax(widest, metrics.width(row.frame->labelText()));
-#endif
+        widest = qMax(widest, labelWidth(*row.frame, metrics));
     }
     return widest;
+}
+
+int labelWidth(const SliderEditFrame &row)
+{
+    return labelWidth(row, row.fontMetrics());
+}
+
+int labelWidth(const SliderEditFrame &row, const QFontMetrics &metrics)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
+    return metrics.horizontalAdvance(row.labelText());
+#else
+    return metrics.width(row.labelText());
+#endif
 }
 
 void setSpacerExpanding(QSpacerItem *spacer, bool isExpanding)

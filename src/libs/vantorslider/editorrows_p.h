@@ -2,12 +2,14 @@
 
 #include "slidereditframe.h"
 
+#include <QtCore/QList>
 #include <QtCore/QMessageLogger>
 #include <QtCore/QVarLengthArray>
 
 #include <initializer_list>
 
 QT_BEGIN_NAMESPACE
+class QFontMetrics;
 class QSpacerItem;
 QT_END_NAMESPACE
 
@@ -32,11 +34,8 @@ public:
 
     EditorRows(std::initializer_list<Row> rows) : m_rows(rows) { }
 
-    // The row with this type flag, or null.
-    SliderEditFrame *find(int type) const;
-
-    // The same, with a warning in Qt's log if it is null. task names the failed call, as in
-    // "Set Rect value".
+    // The row with this type flag, or null and a warning in Qt's log. task names the failed call,
+    // as in "Set Rect value".
     SliderEditFrame *findOrWarn(int type, const QMessageLogger &here, const char *task) const;
 
     template <typename Operation, typename... Arguments>
@@ -48,14 +47,6 @@ public:
         }
     }
 
-    // What the getter of the row returns; empty or 0 if there is no such row.
-    template <typename Getter>
-    auto get(int type, const QMessageLogger &here, const char *task, Getter getter) const
-    {
-        SliderEditFrame *frame = findOrWarn(type, here, task);
-        return frame != nullptr ? (frame->*getter)() : decltype((frame->*getter)()) {};
-    }
-
     template <typename Operation, typename... Arguments>
     void all(Operation operation, const Arguments &...arguments) const
     {
@@ -63,6 +54,8 @@ public:
             (row.frame->*operation)(arguments...);
         }
     }
+
+    QList<SliderEditFrame *> frames() const;
 
     // Shows the rows whose flag is set in types and hides the others.
     void setVisible(int types) const;
@@ -78,6 +71,10 @@ public:
 private:
     QVarLengthArray<Row, 4> m_rows;
 };
+
+// The width of the label text in pixels, in the font of the row, or in that of another one.
+int labelWidth(const SliderEditFrame &row);
+int labelWidth(const SliderEditFrame &row, const QFontMetrics &metrics);
 
 // Gives the spare height to the spacer below the rows, or to the rows.
 void setSpacerExpanding(QSpacerItem *spacer, bool isExpanding);

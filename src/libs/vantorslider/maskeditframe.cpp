@@ -1,32 +1,31 @@
 #include "maskeditframe.h"
 
-#include "heldpair_p.h"
+#include "limitedfields_p.h"
 
 namespace Vantor {
 namespace Widgets {
 
 namespace Internal {
 
-constexpr HeldField fieldTop = fieldX;
-constexpr HeldField fieldBottom = fieldY;
-constexpr HeldField fieldLeft = fieldWidth;
-constexpr HeldField fieldRight = fieldHeight;
+constexpr LimitedField fieldTop = fieldX;
+constexpr LimitedField fieldBottom = fieldY;
+constexpr LimitedField fieldLeft = fieldWidth;
+constexpr LimitedField fieldRight = fieldHeight;
 
 // The limits of the margins; keeps them in the area and reports them.
-class MaskEditFramePrivate : public QObject
+class MaskEditFramePrivate : public LimitedFields
 {
     Q_OBJECT
 
 public:
-    explicit MaskEditFramePrivate(MaskEditFrame *editer) : m_pEditer(editer) { }
+    explicit MaskEditFramePrivate(MaskEditFrame *editer) : LimitedFields(editer), m_pEditer(editer)
+    {
+    }
 
     void createWidgets();
     void createConnects();
 
     MaskEditFrame *m_pEditer;
-    // The margins that were last reported or set. Left, top, width and height of the rectangle are
-    // the top, bottom, left and right margin.
-    QRect m_lastMask;
     // Limits of top + bottom and of left + right.
     int m_nMaxHeight = 0;
     int m_nMaxWidth = 0;
@@ -34,17 +33,20 @@ public:
     int m_nMinHeight = 0;
 
 private Q_SLOTS:
-    void slotTopValueChanged(int val) { hold({fieldTop, fieldBottom, m_nMaxHeight}, val); }
-    void slotBottomValueChanged(int val) { hold({fieldBottom, fieldTop, m_nMaxHeight}, val); }
-    void slotLeftValueChanged(int val) { hold({fieldLeft, fieldRight, m_nMaxWidth}, val); }
-    void slotRightValueChanged(int val) { hold({fieldRight, fieldLeft, m_nMaxWidth}, val); }
+    void slotTopValueChanged(int val) { limit(vertical(), val); }
+    void slotBottomValueChanged(int val) { limit(vertical().reversed(), val); }
+    void slotLeftValueChanged(int val) { limit(horizontal(), val); }
+    void slotRightValueChanged(int val) { limit(horizontal().reversed(), val); }
 
 private:
-    void hold(const HeldPair &pair, int val);
+    LimitedPair horizontal() const override { return {fieldLeft, fieldRight, m_nMaxWidth}; }
+    LimitedPair vertical() const override { return {fieldTop, fieldBottom, m_nMaxHeight}; }
+    void limit(const LimitedPair &pair, int val);
 };
 
 void MaskEditFramePrivate::createWidgets()
 {
+    LimitedFields::createWidgets();
     m_pEditer->setPositionLockEnable(false);
     m_pEditer->setSizeLockEnable(false, RectEditFrame::SizeScaleLock);
 }
@@ -61,11 +63,11 @@ void MaskEditFramePrivate::createConnects()
 }
 
 // The user has set the first field of the pair to val.
-void MaskEditFramePrivate::hold(const HeldPair &pair, int val)
+void MaskEditFramePrivate::limit(const LimitedPair &pair, int val)
 {
-    const FieldValues mask = heldWithinLimit(m_pEditer, pair, val);
-    if (showAsLast(m_pEditer, mask, m_lastMask)) {
-        Q_EMIT m_pEditer->maskValueChanged(mask.x, mask.y, mask.width, mask.height);
+    if (change(pair, val)) {
+        const auto [top, bottom, left, right] = last();
+        Q_EMIT m_pEditer->maskValueChanged(top, bottom, left, right);
     }
 }
 
@@ -103,34 +105,15 @@ void MaskEditFrame::setMaskRange(int width, int height)
 
 void MaskEditFrame::setMaskValue(int top, int bottom, int left, int right)
 {
-    d->m_lastMask = Internal::wrappedRect(top, bottom, left, right);
+    d->setLast({top, bottom, left, right});
     RectEditFrame::setValue(top, bottom, left, right);
-    const Internal::FieldValues mask {top, bottom, left, right};
-    Internal::allowWithinLimit(this, {Internal::fieldTop, Internal::fieldBottom, d->m_nMaxHeight},
-                               mask);
-    Internal::allowWithinLimit(this, {Internal::fieldLeft, Internal::fieldRight, d->m_nMaxWidth},
-                               mask);
+    d->allowWithinLimits({top, bottom, left, right});
 }
 
 void MaskEditFrame::getMaskValue(QRect &maskRect)
 {
-    const auto [top, bottom, left, right] = Internal::fieldValues(this);
+    const auto [top, bottom, left, right] = d->values();
     maskRect.setCoords(left, top, right, bottom);
-}
-
-// Stores the shown margins as the last ones, like the other setters.
-void MaskEditFrame::resetValue(Type type)
-{
-    RectEditFrame::resetValue(type);
-    const auto [top, bottom, left, right] = Internal::fieldValues(this);
-    setMaskValue(top, bottom, left, right);
-}
-
-void MaskEditFrame::resetValues()
-{
-    RectEditFrame::resetValues();
-    const auto [top, bottom, left, right] = Internal::fieldValues(this);
-    setMaskValue(top, bottom, left, right);
 }
 
 // These four are private here: a host calls setMaskValue(), which stores the last margins, and

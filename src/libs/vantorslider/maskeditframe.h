@@ -61,16 +61,6 @@ public:
     */
     void getMaskValue(QRect &maskRect);
 
-    /*!
-        Shows the default value of the margin \a type; does nothing if there is none. Emits
-        nothing. \since 1.1
-    */
-    void resetValue(Type type);
-
-public Q_SLOTS:
-    /*! Shows the default value of each margin that has one. Emits nothing. \since 1.1 */
-    void resetValues();
-
 Q_SIGNALS:
     /*!
         The user changed the margins. Not emitted if they equal the margins that were last

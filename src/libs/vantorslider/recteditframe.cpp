@@ -41,6 +41,16 @@ RectEditFrame::~RectEditFrame()
     d = nullptr;
 }
 
+SliderEditFrame *RectEditFrame::row(Type type) const
+{
+    return d->rows().findOrWarn(type, VANTORSLIDER_HERE, "Get Rect row");
+}
+
+QList<SliderEditFrame *> RectEditFrame::rows() const
+{
+    return d->rows().frames();
+}
+
 void RectEditFrame::setLabelText(Type type, const QString &text)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect label text", &Row::setLabelText, text);
@@ -49,7 +59,8 @@ void RectEditFrame::setLabelText(Type type, const QString &text)
 // The warning is that of the setter since 1.0; hosts may look for it in their logs.
 QString RectEditFrame::labelText(Type type) const
 {
-    return d->rows().get(type, VANTORSLIDER_HERE, "Set Rect label text", &Row::labelText);
+    const auto *field = d->rows().findOrWarn(type, VANTORSLIDER_HERE, "Set Rect label text");
+    return field != nullptr ? field->labelText() : QString();
 }
 
 void RectEditFrame::setEditerVisible(int types)
@@ -80,20 +91,10 @@ void RectEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
-void RectEditFrame::setLabelWidthRanges(int maxw, int minw)
-{
-    d->rows().all(&Row::setLabelWidthRange, maxw, minw);
-}
-
 void RectEditFrame::setLabelFixedWidth(Type type, int w)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect label fixed width", &Row::setLabelFixedWidth,
                   w);
-}
-
-void RectEditFrame::setLabelFixedWidths(int w)
-{
-    d->rows().all(&Row::setLabelFixedWidth, w);
 }
 
 void RectEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
@@ -102,20 +103,10 @@ void RectEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
-void RectEditFrame::setButtonWidthRanges(int maxw, int minw)
-{
-    d->rows().all(&Row::setButtonWidthRange, maxw, minw);
-}
-
 void RectEditFrame::setButtonFixedWidth(Type type, int w)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect button fixed width", &Row::setButtonFixedWidth,
                   w);
-}
-
-void RectEditFrame::setButtonFixedWidths(int w)
-{
-    d->rows().all(&Row::setButtonFixedWidth, w);
 }
 
 void RectEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
@@ -124,46 +115,15 @@ void RectEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
                   &Row::setSpinBoxWidthRange, maxw, minw);
 }
 
-void RectEditFrame::setSpinBoxWidthRanges(int maxw, int minw)
-{
-    d->rows().all(&Row::setSpinBoxWidthRange, maxw, minw);
-}
-
 void RectEditFrame::setSpinBoxFixedWidth(Type type, int w)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect spinbox fixed width",
                   &Row::setSpinBoxFixedWidth, w);
 }
 
-void RectEditFrame::setSpinBoxFixedWidths(int w)
-{
-    d->rows().all(&Row::setSpinBoxFixedWidth, w);
-}
-
 void RectEditFrame::setSpinBoxWheelEnable(bool b)
 {
     d->rows().all(&Row::setSpinBoxWheelEnable, b);
-}
-
-void RectEditFrame::setSliderVisible(bool b)
-{
-    d->rows().all(&Row::setSliderVisible, b);
-}
-
-void RectEditFrame::setButtonVisible(bool b)
-{
-    d->rows().all(&Row::setButtonVisible, b);
-}
-
-void RectEditFrame::setSliderProperty(Type type, const char *name, const QVariant &value)
-{
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect slider property", &Row::setSliderProperty,
-                  name, value);
-}
-
-void RectEditFrame::setFieldFocus(Type type)
-{
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect field focus", &Row::setFieldFocus);
 }
 
 void RectEditFrame::setValue(Type type, int val)
@@ -183,8 +143,8 @@ void RectEditFrame::setValue(const QRect &rect)
 {
     d->ui->frameX->setValue(rect.left());
     d->ui->frameY->setValue(rect.top());
-    d->ui->frameWidth->setValue(Internal::saturatedInt(qint64(rect.right()) - rect.left() + 1));
-    d->ui->frameHeight->setValue(Internal::saturatedInt(qint64(rect.bottom()) - rect.top() + 1));
+    d->ui->frameWidth->setValue(Internal::saturatedExtent(rect.left(), rect.right()));
+    d->ui->frameHeight->setValue(Internal::saturatedExtent(rect.top(), rect.bottom()));
 }
 
 void RectEditFrame::value(int &x, int &y, int &w, int &h)
@@ -193,41 +153,6 @@ void RectEditFrame::value(int &x, int &y, int &w, int &h)
     y = d->ui->frameY->value();
     w = d->ui->frameWidth->value();
     h = d->ui->frameHeight->value();
-}
-
-int RectEditFrame::valueOf(Type type) const
-{
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect value", &Row::value);
-}
-
-void RectEditFrame::setPrefix(Type type, const QString &text)
-{
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect prefix", &Row::setPrefix, text);
-}
-
-void RectEditFrame::setPrefixes(const QString &text)
-{
-    d->rows().all(&Row::setPrefix, text);
-}
-
-QString RectEditFrame::prefix(Type type) const
-{
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect prefix", &Row::prefix);
-}
-
-void RectEditFrame::setSuffix(Type type, const QString &text)
-{
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect suffix", &Row::setSuffix, text);
-}
-
-void RectEditFrame::setSuffixes(const QString &text)
-{
-    d->rows().all(&Row::setSuffix, text);
-}
-
-QString RectEditFrame::suffix(Type type) const
-{
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect suffix", &Row::suffix);
 }
 
 void RectEditFrame::value(QRect &rect)
@@ -249,26 +174,6 @@ void RectEditFrame::range(Type type, int &min, int &max)
     }
 }
 
-void RectEditFrame::setDefaultValue(Type type, int val)
-{
-    d->rows().one(type, VANTORSLIDER_HERE, "Set Rect default value", &Row::setDefaultValue, val);
-}
-
-int RectEditFrame::defaultValue(Type type) const
-{
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect default value", &Row::defaultValue);
-}
-
-bool RectEditFrame::hasDefaultValue(Type type) const
-{
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect default value", &Row::hasDefaultValue);
-}
-
-void RectEditFrame::resetValue(Type type)
-{
-    d->rows().one(type, VANTORSLIDER_HERE, "Reset Rect value", &Row::resetValue);
-}
-
 void RectEditFrame::resetValues()
 {
     d->rows().all(&Row::resetValue);
@@ -279,19 +184,9 @@ void RectEditFrame::setSingleStep(Type type, int val)
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect single step", &Row::setSingleStep, val);
 }
 
-int RectEditFrame::singleStep(Type type) const
-{
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect single step", &Row::singleStep);
-}
-
 void RectEditFrame::setPageStep(Type type, int val)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect page step", &Row::setPageStep, val);
-}
-
-int RectEditFrame::pageStep(Type type) const
-{
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get Rect page step", &Row::pageStep);
 }
 
 void RectEditFrame::setValueChangeDirection(Type type, int directions, int val)
@@ -343,11 +238,6 @@ void RectEditFrame::setLastVerticalSpacerExpanding(bool b)
 bool RectEditFrame::isMousePressed() const
 {
     return d->rows().isMousePressed();
-}
-
-int RectEditFrame::labelMaxLength() const
-{
-    return d->rows().labelMaxLength();
 }
 
 void RectEditFrame::setPositionLockEnable(bool b)

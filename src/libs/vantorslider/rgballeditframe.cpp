@@ -25,7 +25,7 @@ public:
     void createWidgets();
     void createConnects();
 
-    RGBAndRow rows() const { return {{{RGBAllEditFrame::ALL, ui->frameAll}}, ui->frameRGB}; }
+    RGBAndRow rows() const { return {{RGBAllEditFrame::ALL, ui->frameAll}, ui->frameRGB}; }
 
     RGBAllEditFrame *m_pEditer;
     const std::unique_ptr<Ui::RGBAllEditFrame> ui = std::make_unique<Ui::RGBAllEditFrame>();
@@ -84,14 +84,19 @@ RGBAllEditFrame::~RGBAllEditFrame()
     d = nullptr;
 }
 
+SliderEditFrame *RGBAllEditFrame::row(Type type) const
+{
+    return d->rows().row(type);
+}
+
+QList<SliderEditFrame *> RGBAllEditFrame::rows() const
+{
+    return d->rows().frames();
+}
+
 void RGBAllEditFrame::setLabelText(Type type, const QString &text)
 {
     d->rows().one(type, &Row::setLabelText, &RGB::setLabelText, text);
-}
-
-QString RGBAllEditFrame::labelText(Type type) const
-{
-    return d->rows().get(type, &Row::labelText, &RGB::labelText);
 }
 
 void RGBAllEditFrame::setEditerVisible(int types)
@@ -101,8 +106,7 @@ void RGBAllEditFrame::setEditerVisible(int types)
 
 void RGBAllEditFrame::setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton)
 {
-    d->rows().all(&Row::setHorizontalSpacing, &RGB::setHorizontalSpacing, nLabelSlider,
-                  nSliderButton);
+    d->rows().all(&Row::setHorizontalSpacing, nLabelSlider, nSliderButton);
 }
 
 void RGBAllEditFrame::setVerticalSpacing(const int &nVal)
@@ -115,19 +119,9 @@ void RGBAllEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
     d->rows().one(type, &Row::setLabelWidthRange, &RGB::setLabelWidthRange, maxw, minw);
 }
 
-void RGBAllEditFrame::setLabelWidthRanges(int maxw, int minw)
-{
-    d->rows().all(&Row::setLabelWidthRange, &RGB::setLabelWidthRanges, maxw, minw);
-}
-
 void RGBAllEditFrame::setLabelFixedWidth(Type type, int w)
 {
     d->rows().one(type, &Row::setLabelFixedWidth, &RGB::setLabelFixedWidth, w);
-}
-
-void RGBAllEditFrame::setLabelFixedWidths(int w)
-{
-    d->rows().all(&Row::setLabelFixedWidth, &RGB::setLabelFixedWidths, w);
 }
 
 void RGBAllEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
@@ -135,19 +129,9 @@ void RGBAllEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
     d->rows().one(type, &Row::setButtonWidthRange, &RGB::setButtonWidthRange, maxw, minw);
 }
 
-void RGBAllEditFrame::setButtonWidthRanges(int maxw, int minw)
-{
-    d->rows().all(&Row::setButtonWidthRange, &RGB::setButtonWidthRanges, maxw, minw);
-}
-
 void RGBAllEditFrame::setButtonFixedWidth(Type type, int w)
 {
     d->rows().one(type, &Row::setButtonFixedWidth, &RGB::setButtonFixedWidth, w);
-}
-
-void RGBAllEditFrame::setButtonFixedWidths(int w)
-{
-    d->rows().all(&Row::setButtonFixedWidth, &RGB::setButtonFixedWidths, w);
 }
 
 void RGBAllEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
@@ -155,44 +139,14 @@ void RGBAllEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
     d->rows().one(type, &Row::setSpinBoxWidthRange, &RGB::setSpinBoxWidthRange, maxw, minw);
 }
 
-void RGBAllEditFrame::setSpinBoxWidthRanges(int maxw, int minw)
-{
-    d->rows().all(&Row::setSpinBoxWidthRange, &RGB::setSpinBoxWidthRanges, maxw, minw);
-}
-
 void RGBAllEditFrame::setSpinBoxFixedWidth(Type type, int w)
 {
     d->rows().one(type, &Row::setSpinBoxFixedWidth, &RGB::setSpinBoxFixedWidth, w);
 }
 
-void RGBAllEditFrame::setSpinBoxFixedWidths(int w)
-{
-    d->rows().all(&Row::setSpinBoxFixedWidth, &RGB::setSpinBoxFixedWidths, w);
-}
-
 void RGBAllEditFrame::setSpinBoxWheelEnable(bool b)
 {
-    d->rows().all(&Row::setSpinBoxWheelEnable, &RGB::setSpinBoxWheelEnable, b);
-}
-
-void RGBAllEditFrame::setSliderVisible(bool b)
-{
-    d->rows().all(&Row::setSliderVisible, &RGB::setSliderVisible, b);
-}
-
-void RGBAllEditFrame::setButtonVisible(bool b)
-{
-    d->rows().all(&Row::setButtonVisible, &RGB::setButtonVisible, b);
-}
-
-void RGBAllEditFrame::setSliderProperty(Type type, const char *name, const QVariant &value)
-{
-    d->rows().one(type, &Row::setSliderProperty, &RGB::setSliderProperty, name, value);
-}
-
-void RGBAllEditFrame::setFieldFocus(Type type)
-{
-    d->rows().one(type, &Row::setFieldFocus, &RGB::setFieldFocus);
+    d->rows().all(&Row::setSpinBoxWheelEnable, b);
 }
 
 void RGBAllEditFrame::setValue(Type type, int val)
@@ -212,41 +166,6 @@ void RGBAllEditFrame::value(int &r, int &g, int &b, int &all)
     d->ui->frameRGB->value(r, g, b);
 }
 
-int RGBAllEditFrame::valueOf(Type type) const
-{
-    return d->rows().get(type, &Row::value, &RGB::valueOf);
-}
-
-void RGBAllEditFrame::setPrefix(Type type, const QString &text)
-{
-    d->rows().one(type, &Row::setPrefix, &RGB::setPrefix, text);
-}
-
-void RGBAllEditFrame::setPrefixes(const QString &text)
-{
-    d->rows().all(&Row::setPrefix, &RGB::setPrefixes, text);
-}
-
-QString RGBAllEditFrame::prefix(Type type) const
-{
-    return d->rows().get(type, &Row::prefix, &RGB::prefix);
-}
-
-void RGBAllEditFrame::setSuffix(Type type, const QString &text)
-{
-    d->rows().one(type, &Row::setSuffix, &RGB::setSuffix, text);
-}
-
-void RGBAllEditFrame::setSuffixes(const QString &text)
-{
-    d->rows().all(&Row::setSuffix, &RGB::setSuffixes, text);
-}
-
-QString RGBAllEditFrame::suffix(Type type) const
-{
-    return d->rows().get(type, &Row::suffix, &RGB::suffix);
-}
-
 void RGBAllEditFrame::setRange(Type type, int min, int max)
 {
     d->rows().one(type, &Row::setRange, &RGB::setRange, min, max);
@@ -254,37 +173,12 @@ void RGBAllEditFrame::setRange(Type type, int min, int max)
 
 void RGBAllEditFrame::setRanges(int min, int max)
 {
-    d->rows().all(&Row::setRange, &RGB::setRanges, min, max);
-}
-
-void RGBAllEditFrame::range(Type type, int &min, int &max) const
-{
-    d->rows().range(type, min, max);
-}
-
-void RGBAllEditFrame::setDefaultValue(Type type, int val)
-{
-    d->rows().one(type, &Row::setDefaultValue, &RGB::setDefaultValue, val);
-}
-
-int RGBAllEditFrame::defaultValue(Type type) const
-{
-    return d->rows().get(type, &Row::defaultValue, &RGB::defaultValue);
-}
-
-bool RGBAllEditFrame::hasDefaultValue(Type type) const
-{
-    return d->rows().get(type, &Row::hasDefaultValue, &RGB::hasDefaultValue);
-}
-
-void RGBAllEditFrame::resetValue(Type type)
-{
-    d->rows().one(type, &Row::resetValue, &RGB::resetValue);
+    d->rows().all(&Row::setRange, min, max);
 }
 
 void RGBAllEditFrame::resetValues()
 {
-    d->rows().all(&Row::resetValue, &RGB::resetValues);
+    d->rows().all(&Row::resetValue);
 }
 
 void RGBAllEditFrame::setSingleStep(Type type, int val)
@@ -292,30 +186,14 @@ void RGBAllEditFrame::setSingleStep(Type type, int val)
     d->rows().one(type, &Row::setSingleStep, &RGB::setSingleStep, val);
 }
 
-int RGBAllEditFrame::singleStep(Type type) const
-{
-    return d->rows().get(type, &Row::singleStep, &RGB::singleStep);
-}
-
 void RGBAllEditFrame::setPageStep(Type type, int val)
 {
     d->rows().one(type, &Row::setPageStep, &RGB::setPageStep, val);
 }
 
-int RGBAllEditFrame::pageStep(Type type) const
-{
-    return d->rows().get(type, &Row::pageStep, &RGB::pageStep);
-}
-
-void RGBAllEditFrame::setValueChangeDirection(Type type, int directions, int val)
-{
-    d->rows().one(type, &Row::setValueChangeDirection, &RGB::setValueChangeDirection, directions,
-                  val);
-}
-
 void RGBAllEditFrame::setEntryOptions(EntryOptions options)
 {
-    d->rows().all(&Row::setEntryOptions, &RGB::setEntryOptions, options);
+    d->rows().all(&Row::setEntryOptions, options);
 }
 
 EntryOptions RGBAllEditFrame::entryOptions() const
@@ -325,27 +203,27 @@ EntryOptions RGBAllEditFrame::entryOptions() const
 
 void RGBAllEditFrame::setAutoRepeat(bool b)
 {
-    d->rows().all(&Row::setAutoRepeat, &RGB::setAutoRepeat, b);
+    d->rows().all(&Row::setAutoRepeat, b);
 }
 
 void RGBAllEditFrame::setAutoRepeatDelay(int val)
 {
-    d->rows().all(&Row::setAutoRepeatDelay, &RGB::setAutoRepeatDelay, val);
+    d->rows().all(&Row::setAutoRepeatDelay, val);
 }
 
 void RGBAllEditFrame::setAutoRepeatInterval(int val)
 {
-    d->rows().all(&Row::setAutoRepeatInterval, &RGB::setAutoRepeatInterval, val);
+    d->rows().all(&Row::setAutoRepeatInterval, val);
 }
 
 void RGBAllEditFrame::setReleaseMode(bool b)
 {
-    d->rows().all(&Row::setReleaseMode, &RGB::setReleaseMode, b);
+    d->rows().all(&Row::setReleaseMode, b);
 }
 
 void RGBAllEditFrame::setTimeSamplingRate(int val)
 {
-    d->rows().all(&Row::setTimeSamplingRate, &RGB::setTimeSamplingRate, val);
+    d->rows().all(&Row::setTimeSamplingRate, val);
 }
 
 void RGBAllEditFrame::setLastVerticalSpacerExpanding(bool b)
@@ -353,14 +231,9 @@ void RGBAllEditFrame::setLastVerticalSpacerExpanding(bool b)
     Internal::setSpacerExpanding(d->ui->verticalSpacer, b);
 }
 
-bool RGBAllEditFrame::isMousePressed() const
-{
-    return d->rows().isMousePressed();
-}
-
 int RGBAllEditFrame::labelMaxLength()
 {
-    return d->rows().labelMaxLength();
+    return qMax(d->ui->frameRGB->labelMaxLength(), Internal::labelWidth(*d->ui->frameAll));
 }
 
 } // namespace Widgets

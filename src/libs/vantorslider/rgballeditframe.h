@@ -3,10 +3,13 @@
 #include "entryoptions.h"
 #include "vantorslider_global.h"
 
+#include <QtCore/QList>
 #include <QtWidgets/QFrame>
 
 namespace Vantor {
 namespace Widgets {
+
+class SliderEditFrame;
 
 namespace Internal {
 class EditSpan;
@@ -54,11 +57,18 @@ public:
     explicit RGBAllEditFrame(QWidget *parent = nullptr);
     ~RGBAllEditFrame() override;
 
+    /*!
+        Returns the row of the flag \a type: R, G, B or ALL. It has the settings that this class
+       does not forward: unit, default value, scale, step getters and so on. It belongs to the
+       editor and is deleted with it. Any other value returns null and logs one warning. \since 1.1
+    */
+    SliderEditFrame *row(Type type) const;
+
+    /*! Returns all rows in the order of their flags. \since 1.1 */
+    QList<SliderEditFrame *> rows() const;
+
     /*! Shows \a text in the label of the row \a type; empty by default. */
     void setLabelText(Type type, const QString &text);
-
-    /*! Returns the label text of the row \a type; empty if \a type is invalid. \since 1.1 */
-    QString labelText(Type type) const;
 
     /*!
         Shows the rows whose flag is set in \a types and hides the others; all are visible by
@@ -81,59 +91,23 @@ public:
     /*! Limits the width of the label in the row \a type to \a minw to \a maxw pixels. */
     void setLabelWidthRange(Type type, int maxw, int minw);
 
-    /*! Limits the width of all labels to \a minw to \a maxw pixels. \since 1.1 */
-    void setLabelWidthRanges(int maxw, int minw);
-
     /*! Makes the label in the row \a type \a w pixels wide. */
     void setLabelFixedWidth(Type type, int w);
-
-    /*! Makes all labels \a w pixels wide. \since 1.1 */
-    void setLabelFixedWidths(int w);
 
     /*! Limits the width of each button in the row \a type to \a minw to \a maxw pixels. */
     void setButtonWidthRange(Type type, int maxw, int minw);
 
-    /*! Limits the width of all buttons to \a minw to \a maxw pixels. \since 1.1 */
-    void setButtonWidthRanges(int maxw, int minw);
-
     /*! Makes each button in the row \a type \a w pixels wide; 49 by default. */
     void setButtonFixedWidth(Type type, int w);
-
-    /*! Makes all buttons \a w pixels wide; 49 by default. \since 1.1 */
-    void setButtonFixedWidths(int w);
 
     /*! Limits the width of the spin box in the row \a type to \a minw to \a maxw pixels. */
     void setSpinBoxWidthRange(Type type, int maxw, int minw);
 
-    /*! Limits the width of all spin boxes to \a minw to \a maxw pixels. \since 1.1 */
-    void setSpinBoxWidthRanges(int maxw, int minw);
-
     /*! Makes the spin box in the row \a type \a w pixels wide; 65 by default. */
     void setSpinBoxFixedWidth(Type type, int w);
 
-    /*! Makes all spin boxes \a w pixels wide; 65 by default. \since 1.1 */
-    void setSpinBoxFixedWidths(int w);
-
     /*! Lets the wheel step a spin box that has the focus, if \a b is true; false by default. */
     void setSpinBoxWheelEnable(bool b);
-
-    /*! Shows or hides the sliders of all rows; they are visible by default. \since 1.1 */
-    void setSliderVisible(bool b);
-
-    /*! Shows or hides the buttons of all rows; they are visible by default. \since 1.1 */
-    void setButtonVisible(bool b);
-
-    /*!
-        Sets the dynamic property \a name of the slider in the row \a type to \a value, for style
-        sheets. \since 1.1
-    */
-    void setSliderProperty(Type type, const char *name, const QVariant &value);
-
-    /*!
-        Gives the keyboard focus to the spin box of the row \a type and selects its text.
-        \since 1.1
-    */
-    void setFieldFocus(Type type);
 
     /*! Sets how all spin boxes handle what the user types; none by default. \since 1.1 */
     void setEntryOptions(EntryOptions options);
@@ -153,39 +127,6 @@ public:
     /*! Writes the current values to \a r, \a g, \a b and \a all. */
     void value(int &r, int &g, int &b, int &all);
 
-    /*! Returns the value of the row \a type, or 0 if \a type is invalid. \since 1.1 */
-    int valueOf(Type type) const;
-
-    /*!
-        Shows \a text before the number in the row \a type; empty by default. Emits nothing.
-        \since 1.1
-    */
-    void setPrefix(Type type, const QString &text);
-
-    /*! Shows \a text before the number in all rows. Emits nothing. \since 1.1 */
-    void setPrefixes(const QString &text);
-
-    /*!
-        Returns the text before the number in the row \a type; empty if \a type is invalid.
-        \since 1.1
-    */
-    QString prefix(Type type) const;
-
-    /*!
-        Shows \a text after the number in the row \a type; empty by default. Emits nothing.
-        \since 1.1
-    */
-    void setSuffix(Type type, const QString &text);
-
-    /*! Shows \a text after the number in all rows. Emits nothing. \since 1.1 */
-    void setSuffixes(const QString &text);
-
-    /*!
-        Returns the text after the number in the row \a type; empty if \a type is invalid.
-        \since 1.1
-    */
-    QString suffix(Type type) const;
-
     /*!
         Sets the range of the row \a type to \a min to \a max, 0 to 255 by default, see
         SliderEditFrame::setRange(). Emits nothing.
@@ -199,54 +140,12 @@ public:
     void setRanges(int min, int max);
 
     /*!
-        Writes the range of the row \a type to \a min and \a max; does not change them if \a type
-        is invalid. \since 1.1
-    */
-    void range(Type type, int &min, int &max) const;
-
-    /*!
-        Sets the default value of the row \a type to \a val, see
-        SliderEditFrame::setDefaultValue(). Emits nothing. \since 1.1
-    */
-    void setDefaultValue(Type type, int val);
-
-    /*! Returns the default value of the row \a type, or 0 if there is none. \since 1.1 */
-    int defaultValue(Type type) const;
-
-    /*! Returns whether the row \a type has a default value. \since 1.1 */
-    bool hasDefaultValue(Type type) const;
-
-    /*!
-        Shows the default value of the row \a type; does nothing if there is none. Emits nothing.
-        \since 1.1
-    */
-    void resetValue(Type type);
-
-    /*!
         Sets the step of buttons, arrow keys and wheel in the row \a type to \a val, 1 by default.
     */
     void setSingleStep(Type type, int val);
 
-    /*!
-        Returns the step of buttons, arrow keys and wheel in the row \a type, or 0 if \a type is
-        invalid. \since 1.1
-    */
-    int singleStep(Type type) const;
-
     /*! Sets the step of a click on the groove in the row \a type to \a val, 10 by default. */
     void setPageStep(Type type, int val);
-
-    /*!
-        Returns the step of a click on the groove in the row \a type, or 0 if \a type is invalid.
-        \since 1.1
-    */
-    int pageStep(Type type) const;
-
-    /*!
-        Keeps every value that the user sets in the row \a type on one side of \a val, see
-        SliderEditFrame::setValueChangeDirection(). \since 1.1
-    */
-    void setValueChangeDirection(Type type, int directions, int val);
 
     /*! Lets held buttons of all rows repeat their step, if \a b is true; false by default. */
     void setAutoRepeat(bool b);
@@ -275,9 +174,6 @@ public:
         own. On a visible editor this takes effect with its next layout pass.
     */
     void setLastVerticalSpacerExpanding(bool b);
-
-    /*! Returns whether a mouse button is down on the slider of any row. \since 1.1 */
-    bool isMousePressed() const;
 
     /*!
         Returns the width of the widest label text in pixels, measured in the font of the red row;

@@ -8,64 +8,52 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// The fourth row and the RGB editor of a four-value colour editor. A call takes two member
-// functions of the same name: the row's and the RGB editor's.
+// The fourth row and the RGB editor of a four-value colour editor.
 struct RGBAndRow
 {
-    // A flag other than the fourth row's goes to the RGB editor, which warns if it is no channel.
+    // A flag other than the fourth row's goes to the RGB editor, which warns if it is no channel:
+    // the two member functions have the same name.
     template <typename RowOperation, typename... BlockArguments, typename... Arguments>
     void one(int type, RowOperation rowOperation,
              void (RGBEditFrame::*blockOperation)(RGBEditFrame::Type, BlockArguments...),
              const Arguments &...arguments) const
     {
-        if (SliderEditFrame *frame = row.find(type)) {
-            (frame->*rowOperation)(arguments...);
+        if (type == fourth.type) {
+            (fourth.frame->*rowOperation)(arguments...);
         } else {
             (block->*blockOperation)(static_cast<RGBEditFrame::Type>(type), arguments...);
         }
     }
 
-    template <typename RowGetter, typename BlockGetter>
-    auto get(int type, RowGetter rowGetter, BlockGetter blockGetter) const
+    template <typename Operation, typename... Arguments>
+    void all(Operation operation, const Arguments &...arguments) const
     {
-        SliderEditFrame *frame = row.find(type);
-        return frame != nullptr ? (frame->*rowGetter)()
-                                : (block->*blockGetter)(static_cast<RGBEditFrame::Type>(type));
-    }
-
-    void range(int type, int &min, int &max) const
-    {
-        if (const SliderEditFrame *frame = row.find(type)) {
-            min = frame->minimum();
-            max = frame->maximum();
-        } else {
-            block->range(static_cast<RGBEditFrame::Type>(type), min, max);
+        (fourth.frame->*operation)(arguments...);
+        for (SliderEditFrame *channel : block->rows()) {
+            (channel->*operation)(arguments...);
         }
     }
 
-    bool isMousePressed() const { return row.isMousePressed() || block->isMousePressed(); }
-    int labelMaxLength() const { return qMax(block->labelMaxLength(), row.labelMaxLength()); }
-
-    template <typename RowOperation, typename BlockOperation, typename... Arguments>
-    void all(RowOperation rowOperation, BlockOperation blockOperation,
-             const Arguments &...arguments) const
+    SliderEditFrame *row(int type) const
     {
-        row.all(rowOperation, arguments...);
-        (block->*blockOperation)(arguments...);
+        return type == fourth.type ? fourth.frame
+                                   : block->row(static_cast<RGBEditFrame::Type>(type));
     }
+
+    QList<SliderEditFrame *> frames() const { return block->rows() << fourth.frame; }
 
     // Without a visible channel the RGB editor is hidden; its rows keep their visibility.
     void setVisible(int types) const
     {
         constexpr int channels = RGBEditFrame::R | RGBEditFrame::G | RGBEditFrame::B;
-        row.setVisible(types);
+        setShown(fourth.frame, (types & fourth.type) != 0);
         setShown(block, (types & channels) != 0);
         if ((types & channels) != 0) {
             block->setEditerVisible(types);
         }
     }
 
-    EditorRows row;
+    EditorRows::Row fourth;
     RGBEditFrame *block;
 };
 

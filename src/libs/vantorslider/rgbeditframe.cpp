@@ -95,15 +95,20 @@ RGBEditFrame::~RGBEditFrame()
     d = nullptr;
 }
 
+SliderEditFrame *RGBEditFrame::row(Type type) const
+{
+    return d->rows().findOrWarn(type, VANTORSLIDER_HERE, "Get RGB row");
+}
+
+QList<SliderEditFrame *> RGBEditFrame::rows() const
+{
+    return d->rows().frames();
+}
+
 // The warning names another class since 1.0; hosts may look for it in their logs.
 void RGBEditFrame::setLabelText(Type type, const QString &text)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGBAll label text", &Row::setLabelText, text);
-}
-
-QString RGBEditFrame::labelText(Type type) const
-{
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB label text", &Row::labelText);
 }
 
 void RGBEditFrame::setEditerVisible(int types)
@@ -127,20 +132,10 @@ void RGBEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
-void RGBEditFrame::setLabelWidthRanges(int maxw, int minw)
-{
-    d->rows().all(&Row::setLabelWidthRange, maxw, minw);
-}
-
 void RGBEditFrame::setLabelFixedWidth(Type type, int w)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB label fixed width", &Row::setLabelFixedWidth,
                   w);
-}
-
-void RGBEditFrame::setLabelFixedWidths(int w)
-{
-    d->rows().all(&Row::setLabelFixedWidth, w);
 }
 
 void RGBEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
@@ -149,20 +144,10 @@ void RGBEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
                   maxw, minw);
 }
 
-void RGBEditFrame::setButtonWidthRanges(int maxw, int minw)
-{
-    d->rows().all(&Row::setButtonWidthRange, maxw, minw);
-}
-
 void RGBEditFrame::setButtonFixedWidth(Type type, int w)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB button fixed width", &Row::setButtonFixedWidth,
                   w);
-}
-
-void RGBEditFrame::setButtonFixedWidths(int w)
-{
-    d->rows().all(&Row::setButtonFixedWidth, w);
 }
 
 void RGBEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
@@ -171,46 +156,15 @@ void RGBEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
                   &Row::setSpinBoxWidthRange, maxw, minw);
 }
 
-void RGBEditFrame::setSpinBoxWidthRanges(int maxw, int minw)
-{
-    d->rows().all(&Row::setSpinBoxWidthRange, maxw, minw);
-}
-
 void RGBEditFrame::setSpinBoxFixedWidth(Type type, int w)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB spinbox fixed width",
                   &Row::setSpinBoxFixedWidth, w);
 }
 
-void RGBEditFrame::setSpinBoxFixedWidths(int w)
-{
-    d->rows().all(&Row::setSpinBoxFixedWidth, w);
-}
-
 void RGBEditFrame::setSpinBoxWheelEnable(bool b)
 {
     d->rows().all(&Row::setSpinBoxWheelEnable, b);
-}
-
-void RGBEditFrame::setSliderVisible(bool b)
-{
-    d->rows().all(&Row::setSliderVisible, b);
-}
-
-void RGBEditFrame::setButtonVisible(bool b)
-{
-    d->rows().all(&Row::setButtonVisible, b);
-}
-
-void RGBEditFrame::setSliderProperty(Type type, const char *name, const QVariant &value)
-{
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB slider property", &Row::setSliderProperty, name,
-                  value);
-}
-
-void RGBEditFrame::setFieldFocus(Type type)
-{
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB field focus", &Row::setFieldFocus);
 }
 
 void RGBEditFrame::setValue(Type type, int val)
@@ -232,41 +186,6 @@ void RGBEditFrame::value(int &r, int &g, int &b)
     b = d->ui->frameB->value();
 }
 
-int RGBEditFrame::valueOf(Type type) const
-{
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB value", &Row::value);
-}
-
-void RGBEditFrame::setPrefix(Type type, const QString &text)
-{
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB prefix", &Row::setPrefix, text);
-}
-
-void RGBEditFrame::setPrefixes(const QString &text)
-{
-    d->rows().all(&Row::setPrefix, text);
-}
-
-QString RGBEditFrame::prefix(Type type) const
-{
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB prefix", &Row::prefix);
-}
-
-void RGBEditFrame::setSuffix(Type type, const QString &text)
-{
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB suffix", &Row::setSuffix, text);
-}
-
-void RGBEditFrame::setSuffixes(const QString &text)
-{
-    d->rows().all(&Row::setSuffix, text);
-}
-
-QString RGBEditFrame::suffix(Type type) const
-{
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB suffix", &Row::suffix);
-}
-
 void RGBEditFrame::setRange(Type type, int min, int max)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB range", &Row::setRange, min, max);
@@ -275,34 +194,6 @@ void RGBEditFrame::setRange(Type type, int min, int max)
 void RGBEditFrame::setRanges(int min, int max)
 {
     d->rows().all(&Row::setRange, min, max);
-}
-
-void RGBEditFrame::range(Type type, int &min, int &max) const
-{
-    if (const auto *row = d->rows().findOrWarn(type, VANTORSLIDER_HERE, "Get RGB range")) {
-        min = row->minimum();
-        max = row->maximum();
-    }
-}
-
-void RGBEditFrame::setDefaultValue(Type type, int val)
-{
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB default value", &Row::setDefaultValue, val);
-}
-
-int RGBEditFrame::defaultValue(Type type) const
-{
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB default value", &Row::defaultValue);
-}
-
-bool RGBEditFrame::hasDefaultValue(Type type) const
-{
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB default value", &Row::hasDefaultValue);
-}
-
-void RGBEditFrame::resetValue(Type type)
-{
-    d->rows().one(type, VANTORSLIDER_HERE, "Reset RGB value", &Row::resetValue);
 }
 
 void RGBEditFrame::resetValues()
@@ -315,25 +206,9 @@ void RGBEditFrame::setSingleStep(Type type, int val)
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB single step", &Row::setSingleStep, val);
 }
 
-int RGBEditFrame::singleStep(Type type) const
-{
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB single step", &Row::singleStep);
-}
-
 void RGBEditFrame::setPageStep(Type type, int val)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set RGB page step", &Row::setPageStep, val);
-}
-
-int RGBEditFrame::pageStep(Type type) const
-{
-    return d->rows().get(type, VANTORSLIDER_HERE, "Get RGB page step", &Row::pageStep);
-}
-
-void RGBEditFrame::setValueChangeDirection(Type type, int directions, int val)
-{
-    d->rows().one(type, VANTORSLIDER_HERE, "Set RGB value change direction",
-                  &Row::setValueChangeDirection, directions, val);
 }
 
 void RGBEditFrame::setEntryOptions(EntryOptions options)

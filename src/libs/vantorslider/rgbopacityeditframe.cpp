@@ -27,7 +27,7 @@ public:
 
     RGBAndRow rows() const
     {
-        return {{{RGBOpacityEditFrame::Opacity, ui->frameOpacity}}, ui->frameRGB};
+        return {{RGBOpacityEditFrame::Opacity, ui->frameOpacity}, ui->frameRGB};
     }
 
     RGBOpacityEditFrame *m_pEditer;
@@ -89,14 +89,19 @@ RGBOpacityEditFrame::~RGBOpacityEditFrame()
     d = nullptr;
 }
 
+SliderEditFrame *RGBOpacityEditFrame::row(Type type) const
+{
+    return d->rows().row(type);
+}
+
+QList<SliderEditFrame *> RGBOpacityEditFrame::rows() const
+{
+    return d->rows().frames();
+}
+
 void RGBOpacityEditFrame::setLabelText(Type type, const QString &text)
 {
     d->rows().one(type, &Row::setLabelText, &RGB::setLabelText, text);
-}
-
-QString RGBOpacityEditFrame::labelText(Type type) const
-{
-    return d->rows().get(type, &Row::labelText, &RGB::labelText);
 }
 
 void RGBOpacityEditFrame::setEditerVisible(int types)
@@ -106,8 +111,7 @@ void RGBOpacityEditFrame::setEditerVisible(int types)
 
 void RGBOpacityEditFrame::setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton)
 {
-    d->rows().all(&Row::setHorizontalSpacing, &RGB::setHorizontalSpacing, nLabelSlider,
-                  nSliderButton);
+    d->rows().all(&Row::setHorizontalSpacing, nLabelSlider, nSliderButton);
 }
 
 void RGBOpacityEditFrame::setVerticalSpacing(const int &nVal)
@@ -121,19 +125,9 @@ void RGBOpacityEditFrame::setLabelWidthRange(Type type, int maxw, int minw)
     d->rows().one(type, &Row::setLabelWidthRange, &RGB::setLabelWidthRange, maxw, minw);
 }
 
-void RGBOpacityEditFrame::setLabelWidthRanges(int maxw, int minw)
-{
-    d->rows().all(&Row::setLabelWidthRange, &RGB::setLabelWidthRanges, maxw, minw);
-}
-
 void RGBOpacityEditFrame::setLabelFixedWidth(Type type, int w)
 {
     d->rows().one(type, &Row::setLabelFixedWidth, &RGB::setLabelFixedWidth, w);
-}
-
-void RGBOpacityEditFrame::setLabelFixedWidths(int w)
-{
-    d->rows().all(&Row::setLabelFixedWidth, &RGB::setLabelFixedWidths, w);
 }
 
 void RGBOpacityEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
@@ -141,19 +135,9 @@ void RGBOpacityEditFrame::setButtonWidthRange(Type type, int maxw, int minw)
     d->rows().one(type, &Row::setButtonWidthRange, &RGB::setButtonWidthRange, maxw, minw);
 }
 
-void RGBOpacityEditFrame::setButtonWidthRanges(int maxw, int minw)
-{
-    d->rows().all(&Row::setButtonWidthRange, &RGB::setButtonWidthRanges, maxw, minw);
-}
-
 void RGBOpacityEditFrame::setButtonFixedWidth(Type type, int w)
 {
     d->rows().one(type, &Row::setButtonFixedWidth, &RGB::setButtonFixedWidth, w);
-}
-
-void RGBOpacityEditFrame::setButtonFixedWidths(int w)
-{
-    d->rows().all(&Row::setButtonFixedWidth, &RGB::setButtonFixedWidths, w);
 }
 
 void RGBOpacityEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
@@ -161,44 +145,14 @@ void RGBOpacityEditFrame::setSpinBoxWidthRange(Type type, int maxw, int minw)
     d->rows().one(type, &Row::setSpinBoxWidthRange, &RGB::setSpinBoxWidthRange, maxw, minw);
 }
 
-void RGBOpacityEditFrame::setSpinBoxWidthRanges(int maxw, int minw)
-{
-    d->rows().all(&Row::setSpinBoxWidthRange, &RGB::setSpinBoxWidthRanges, maxw, minw);
-}
-
 void RGBOpacityEditFrame::setSpinBoxFixedWidth(Type type, int w)
 {
     d->rows().one(type, &Row::setSpinBoxFixedWidth, &RGB::setSpinBoxFixedWidth, w);
 }
 
-void RGBOpacityEditFrame::setSpinBoxFixedWidths(int w)
-{
-    d->rows().all(&Row::setSpinBoxFixedWidth, &RGB::setSpinBoxFixedWidths, w);
-}
-
 void RGBOpacityEditFrame::setSpinBoxWheelEnable(bool b)
 {
-    d->rows().all(&Row::setSpinBoxWheelEnable, &RGB::setSpinBoxWheelEnable, b);
-}
-
-void RGBOpacityEditFrame::setSliderVisible(bool b)
-{
-    d->rows().all(&Row::setSliderVisible, &RGB::setSliderVisible, b);
-}
-
-void RGBOpacityEditFrame::setButtonVisible(bool b)
-{
-    d->rows().all(&Row::setButtonVisible, &RGB::setButtonVisible, b);
-}
-
-void RGBOpacityEditFrame::setSliderProperty(Type type, const char *name, const QVariant &value)
-{
-    d->rows().one(type, &Row::setSliderProperty, &RGB::setSliderProperty, name, value);
-}
-
-void RGBOpacityEditFrame::setFieldFocus(Type type)
-{
-    d->rows().one(type, &Row::setFieldFocus, &RGB::setFieldFocus);
+    d->rows().all(&Row::setSpinBoxWheelEnable, b);
 }
 
 void RGBOpacityEditFrame::setValue(Type type, int val)
@@ -218,41 +172,6 @@ void RGBOpacityEditFrame::value(int &r, int &g, int &b, int &opacity)
     d->ui->frameRGB->value(r, g, b);
 }
 
-int RGBOpacityEditFrame::valueOf(Type type) const
-{
-    return d->rows().get(type, &Row::value, &RGB::valueOf);
-}
-
-void RGBOpacityEditFrame::setPrefix(Type type, const QString &text)
-{
-    d->rows().one(type, &Row::setPrefix, &RGB::setPrefix, text);
-}
-
-void RGBOpacityEditFrame::setPrefixes(const QString &text)
-{
-    d->rows().all(&Row::setPrefix, &RGB::setPrefixes, text);
-}
-
-QString RGBOpacityEditFrame::prefix(Type type) const
-{
-    return d->rows().get(type, &Row::prefix, &RGB::prefix);
-}
-
-void RGBOpacityEditFrame::setSuffix(Type type, const QString &text)
-{
-    d->rows().one(type, &Row::setSuffix, &RGB::setSuffix, text);
-}
-
-void RGBOpacityEditFrame::setSuffixes(const QString &text)
-{
-    d->rows().all(&Row::setSuffix, &RGB::setSuffixes, text);
-}
-
-QString RGBOpacityEditFrame::suffix(Type type) const
-{
-    return d->rows().get(type, &Row::suffix, &RGB::suffix);
-}
-
 void RGBOpacityEditFrame::setRange(Type type, int min, int max)
 {
     d->rows().one(type, &Row::setRange, &RGB::setRange, min, max);
@@ -263,34 +182,9 @@ void RGBOpacityEditFrame::setRanges(int min, int max)
     d->ui->frameRGB->setRanges(min, max);
 }
 
-void RGBOpacityEditFrame::range(Type type, int &min, int &max) const
-{
-    d->rows().range(type, min, max);
-}
-
-void RGBOpacityEditFrame::setDefaultValue(Type type, int val)
-{
-    d->rows().one(type, &Row::setDefaultValue, &RGB::setDefaultValue, val);
-}
-
-int RGBOpacityEditFrame::defaultValue(Type type) const
-{
-    return d->rows().get(type, &Row::defaultValue, &RGB::defaultValue);
-}
-
-bool RGBOpacityEditFrame::hasDefaultValue(Type type) const
-{
-    return d->rows().get(type, &Row::hasDefaultValue, &RGB::hasDefaultValue);
-}
-
-void RGBOpacityEditFrame::resetValue(Type type)
-{
-    d->rows().one(type, &Row::resetValue, &RGB::resetValue);
-}
-
 void RGBOpacityEditFrame::resetValues()
 {
-    d->rows().all(&Row::resetValue, &RGB::resetValues);
+    d->rows().all(&Row::resetValue);
 }
 
 void RGBOpacityEditFrame::setSingleStep(Type type, int val)
@@ -298,30 +192,14 @@ void RGBOpacityEditFrame::setSingleStep(Type type, int val)
     d->rows().one(type, &Row::setSingleStep, &RGB::setSingleStep, val);
 }
 
-int RGBOpacityEditFrame::singleStep(Type type) const
-{
-    return d->rows().get(type, &Row::singleStep, &RGB::singleStep);
-}
-
 void RGBOpacityEditFrame::setPageStep(Type type, int val)
 {
     d->rows().one(type, &Row::setPageStep, &RGB::setPageStep, val);
 }
 
-int RGBOpacityEditFrame::pageStep(Type type) const
-{
-    return d->rows().get(type, &Row::pageStep, &RGB::pageStep);
-}
-
-void RGBOpacityEditFrame::setValueChangeDirection(Type type, int directions, int val)
-{
-    d->rows().one(type, &Row::setValueChangeDirection, &RGB::setValueChangeDirection, directions,
-                  val);
-}
-
 void RGBOpacityEditFrame::setEntryOptions(EntryOptions options)
 {
-    d->rows().all(&Row::setEntryOptions, &RGB::setEntryOptions, options);
+    d->rows().all(&Row::setEntryOptions, options);
 }
 
 EntryOptions RGBOpacityEditFrame::entryOptions() const
@@ -331,42 +209,32 @@ EntryOptions RGBOpacityEditFrame::entryOptions() const
 
 void RGBOpacityEditFrame::setAutoRepeat(bool b)
 {
-    d->rows().all(&Row::setAutoRepeat, &RGB::setAutoRepeat, b);
+    d->rows().all(&Row::setAutoRepeat, b);
 }
 
 void RGBOpacityEditFrame::setAutoRepeatDelay(int val)
 {
-    d->rows().all(&Row::setAutoRepeatDelay, &RGB::setAutoRepeatDelay, val);
+    d->rows().all(&Row::setAutoRepeatDelay, val);
 }
 
 void RGBOpacityEditFrame::setAutoRepeatInterval(int val)
 {
-    d->rows().all(&Row::setAutoRepeatInterval, &RGB::setAutoRepeatInterval, val);
+    d->rows().all(&Row::setAutoRepeatInterval, val);
 }
 
 void RGBOpacityEditFrame::setReleaseMode(bool b)
 {
-    d->rows().all(&Row::setReleaseMode, &RGB::setReleaseMode, b);
+    d->rows().all(&Row::setReleaseMode, b);
 }
 
 void RGBOpacityEditFrame::setTimeSamplingRate(int val)
 {
-    d->rows().all(&Row::setTimeSamplingRate, &RGB::setTimeSamplingRate, val);
+    d->rows().all(&Row::setTimeSamplingRate, val);
 }
 
 void RGBOpacityEditFrame::setLastVerticalSpacerExpanding(bool b)
 {
     Internal::setSpacerExpanding(d->ui->verticalSpacer, b);
-}
-
-bool RGBOpacityEditFrame::isMousePressed() const
-{
-    return d->rows().isMousePressed();
-}
-
-int RGBOpacityEditFrame::labelMaxLength() const
-{
-    return d->rows().labelMaxLength();
 }
 
 } // namespace Widgets

@@ -98,6 +98,12 @@ void makeResettable(QLabel *label, QWidget *row)
         QAccessible::uniqueId(QAccessible::queryAccessibleInterface(row)));
 }
 
+QEvent::Type rowResetEvent()
+{
+    static const auto type = static_cast<QEvent::Type>(QEvent::registerEventType());
+    return type;
+}
+
 bool isResetClick(const QLabel *label, const QObject *watched, const QEvent *event)
 {
     return watched == label && event->type() == QEvent::MouseButtonDblClick && label->isEnabled()

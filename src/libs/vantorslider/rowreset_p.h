@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QtCore/QtGlobal>
+#include <QtCore/QEvent>
 
 QT_BEGIN_NAMESPACE
-class QEvent;
 class QLabel;
 class QObject;
 class QWidget;
@@ -18,6 +17,9 @@ namespace Internal {
 
 // Sets up the label and the action, and installs the row as event filter of the label.
 void makeResettable(QLabel *label, QWidget *row);
+
+// The program has reset the row that receives this event.
+QEvent::Type rowResetEvent();
 
 bool isResetClick(const QLabel *label, const QObject *watched, const QEvent *event);
 

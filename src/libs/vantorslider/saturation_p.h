@@ -52,13 +52,10 @@ inline QRect saturatedRect(int x, int y, int w, int h)
     return {QPoint(x, y), QPoint(saturatedInt(qint64(x) + w - 1), saturatedInt(qint64(y) + h - 1))};
 }
 
-// For comparison only: the edges wrap around, so different values give different rectangles.
-inline QRect wrappedRect(int x, int y, int w, int h)
+// The width or height of a rectangle with these edges.
+inline int saturatedExtent(int first, int last)
 {
-    const auto edge = [](int position, int size) {
-        return static_cast<int>(static_cast<uint>(position) + static_cast<uint>(size) - 1U);
-    };
-    return {QPoint(x, y), QPoint(edge(x, w), edge(y, h))};
+    return saturatedInt(qint64(last) - first + 1);
 }
 
 } // namespace Internal

@@ -5,6 +5,7 @@
 #include "sliderengine_p.h"
 #include "ui_slidereditframe.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QTimerEvent>
 
 #include <array>
@@ -295,7 +296,11 @@ bool SliderEditFrame::hasDefaultValue() const
 
 void SliderEditFrame::resetValue()
 {
-    d->reset();
+    if (hasDefaultValue()) {
+        d->reset();
+        QEvent event(Internal::rowResetEvent());
+        QCoreApplication::sendEvent(this, &event);
+    }
 }
 
 void SliderEditFrame::setSliderScale(SliderScale scale)
