@@ -4,6 +4,8 @@
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QScrollArea>
+#include <QtWidgets/QStackedWidget>
+#include <QtWidgets/QToolBox>
 
 using namespace Vantor::Widgets;
 
@@ -23,7 +25,10 @@ namespace {
 
 int needOf(const QLabel *label)
 {
-    return label->fontMetrics().size(Qt::TextShowMnemonic, label->text()).width();
+    QLabel alone(label->text());
+    alone.setFont(label->font());
+    alone.setBuddy(&alone); // so that "&" marks a shortcut
+    return alone.sizeHint().width();
 }
 
 // Rows of both kinds, and a composite editor in a scroll area.
@@ -104,14 +109,44 @@ void compareWidths(int direction, const Change &change)
     }
 }
 
+QWidget *widerRow()
+{
+    auto *row = new SliderEditFrame;
+    row->setLabelText("Wider, and only now there");
+    return row;
+}
+
+void addRow(const char *name, int direction, const Change &change)
+{
+    QTest::newRow(name) << TestCode([=] { compareWidths(direction, change); });
+}
+
+// A row is put into a widget that was empty when the labels were aligned last.
+template <typename Widget, typename Put> void addPlace(const char *name, const Put &put)
+{
+    addRow(name, 1, [put](Panel &p) {
+        auto *const place = new Widget;
+        p.page.layout()->addWidget(place);
+        for (int i = 0; i < 4; ++i)
+            QCoreApplication::processEvents();
+        put(place, widerRow());
+    });
+}
+
 } // namespace
 
 void tst_AlignLabels::column_data()
 {
     QTest::addColumn<TestCode>("code");
-    const auto add = [](const char *name, int direction, const Change &change) {
-        QTest::newRow(name) << TestCode([=] { compareWidths(direction, change); });
-    };
+    const auto add = addRow;
+    addPlace<QScrollArea>("scroll area", [](auto *area, QWidget *row) { area->setWidget(row); });
+    addPlace<QToolBox>("tool box", [](auto *box, QWidget *row) { box->addItem(row, "Item"); });
+    addPlace<QStackedWidget>("stack", [](auto *stack, QWidget *row) { stack->addWidget(row); });
+    addPlace<QWidget>("no layout", [](auto *page, QWidget *row) {
+        row->setParent(page);
+        row->show();
+    });
+    add("rich text", 1, [](Panel &p) { p.gain->setLabelText("<b>Wider</b> than <i>others</i>"); });
     add("longer text", 1, [](Panel &p) { p.gain->setLabelText("Wider than all the others"); });
     add("shorter text", -1, [](Panel &p) { p.gamma->setLabelText("Small"); });
     add("text of two lines", -1, [](Panel &p) { p.gamma->setLabelText("Middling\nand more"); });
@@ -141,16 +176,8 @@ void tst_AlignLabels::column_data()
         QCoreApplication::processEvents();
         p.rgb->setEditerVisible(RGBEditFrame::R);
     });
-    add("new row", 1, [](Panel &p) {
-        auto *row = new SliderEditFrame;
-        row->setLabelText("Wider, and only now there");
-        p.rgb->parentWidget()->layout()->addWidget(row);
-    });
-    add("new content", 1, [](Panel &p) {
-        auto *row = new SliderEditFrame;
-        row->setLabelText("Wider, and only now there");
-        p.area->setWidget(row);
-    });
+    add("new row", 1, [](Panel &p) { p.rgb->parentWidget()->layout()->addWidget(widerRow()); });
+    add("new content", 1, [](Panel &p) { p.area->setWidget(widerRow()); });
     add("deleted row", -1, [](Panel &p) { delete p.gamma; });
     add("column of its own", 0, [](Panel &p) {
         alignLabels(p.area);

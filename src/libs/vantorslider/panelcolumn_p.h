@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+#include <vector>
+
+namespace Vantor {
+namespace Widgets {
+namespace Internal {
+
+// A column of the rows in a host's panel, which owns this object. It watches the panel and the
+// widgets in it, and aligns the column again after each change: before anything is painted, and
+// once for several changes.
+//
+// It keeps no list of rows: each pass collects them. The filters stay when a widget leaves the
+// panel, and do no harm there.
+class PanelColumn : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit PanelColumn(QWidget *panel);
+
+    // Aligns the column now.
+    void update();
+
+protected:
+    // The rows that are not hidden, in no special order. Rows of a panel with a column of the same
+    // class belong to that one.
+    virtual void align(const std::vector<QWidget *> &rows) = 0;
+    // The next pass, after the current event.
+    void updateLater();
+
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void collect(QWidget *widget, std::vector<QWidget *> &rows);
+    void collectBelow(const QWidget *widget, std::vector<QWidget *> &rows);
+    bool isOtherColumn(const QWidget *widget) const;
+
+    bool m_isPending = false;
+};
+
+// The panel's column of this class, which is created by the first call.
+template <typename Column> Column *columnOf(QWidget *panel)
+{
+    auto *column = panel->findChild<Column *>(QString(), Qt::FindDirectChildrenOnly);
+    return column != nullptr ? column : new Column(panel);
+}
+
+} // namespace Internal
+} // namespace Widgets
+} // namespace Vantor
