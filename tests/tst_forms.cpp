@@ -1,11 +1,19 @@
 #include "editoruser.h"
+#include "layouteditframe.h"
+#include "rgballeditframe.h"
+#include "rgbopacityeditframe.h"
 #include "ui_alleditors.h"
 
+#include <QtGui/QStandardItemModel>
 #include <QtWidgets/QDataWidgetMapper>
 
 #ifdef DESIGNER_PLUGIN
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 #include <QtUiTools/QUiLoader>
+#endif
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+Q_DECLARE_METATYPE(QMargins) // as a host does
 #endif
 
 using namespace Vantor::Widgets;
@@ -18,6 +26,7 @@ class tst_Forms : public QObject
 private Q_SLOTS:
     void silentWrites();
     void mapper();
+    void colors();
     void form();
     void designer();
 };
@@ -53,19 +62,27 @@ QStringList describe(const QWidget &form)
     return lines;
 }
 
-// The mapper's writes emit nothing, at first and in reply to the user's click.
-template <typename Frame> void compareMapping(const QString &modelled, const QString &stepped)
+// The mapper's writes emit nothing, at first and in reply to the user's click. It finds the value
+// and the signal of the editor by USER and NOTIFY.
+template <typename Frame>
+void compareMapping(const QVariant &modelled, const QString &step, const QVariant &stepped,
+                    const QString &setUp = "shown")
 {
     UserOf<Frame> user(1);
-    QStringListModel model({modelled});
+    user.performAll(setUp);
+    QStandardItemModel model(1, 1);
+    model.setData(model.index(0, 0), modelled, Qt::EditRole);
     QDataWidgetMapper mapper;
     mapper.setModel(&model);
     mapper.addMapping(user.frame, 0);
-    QObject::connect(user.frame, &Frame::valueChanged, &mapper, &QDataWidgetMapper::submit);
+    const QMetaProperty value = user.frame->metaObject()->userProperty();
+    QObject::connect(user.frame, value.notifySignal(), &mapper,
+                     mapper.metaObject()->method(mapper.metaObject()->indexOfSlot("submit()")));
     mapper.toFirst();
-    user.play("plus: " + stepped);
-    QCOMPARE(model.stringList(), QStringList(stepped));
-    QVERIFY(Frame::staticMetaObject.userProperty().notifySignal().name() == "valueChanged");
+    user.heard();
+    QCOMPARE(value.read(user.frame), modelled);
+    user.play(step);
+    QCOMPARE(model.data(model.index(0, 0), Qt::EditRole), stepped);
 }
 
 } // namespace
@@ -95,11 +112,43 @@ void tst_Forms::silentWrites()
         {"Gain -20 40 5 7 30", "Gain 2 -20 40 5 7 30"});
 }
 
-// A mapper finds value and signal of each editor by USER and NOTIFY of the properties.
 void tst_Forms::mapper()
 {
-    compareMapping<SliderEditFrame>("36", "37");
-    compareMapping<SliderEditFrameDouble>("0.5", "0.51");
+    compareMapping<SliderEditFrame>(36, "plus: 37", 37);
+    compareMapping<SliderEditFrameDouble>(0.5, "plus: 0.51", 0.51);
+    compareMapping<RGBEditFrame>(QColor(1, 2, 3), "g plus: (1,3,3)", QColor(1, 3, 3));
+    compareMapping<RGBAllEditFrame>(QColor(1, 2, 3), "b plus: (1,2,4,50)", QColor(1, 2, 4));
+    compareMapping<RGBOpacityEditFrame>(QColor(1, 2, 3, 255), "opacity enter 20: (1,2,3,20)",
+                                        QColor(1, 2, 3, 51));
+    compareMapping<RectEditFrame>(QRect(1, 2, 3, 4), "w plus: w(4) (1,2,4,4)", QRect(1, 2, 4, 4));
+    compareMapping<LayoutEditFrame>(QRect(1, 2, 3, 4), "y plus: y(3) (1,3,3,4)", QRect(1, 3, 3, 4));
+    compareMapping<CropEditFrame>(QRect(90, 2, 10, 4), "w plus: w(11) (90,2,11,4)",
+                                  QRect(90, 2, 10, 4), "area 100 100");
+    compareMapping<CropEditFrame>(QRect(0, 2, 10, 4), "w plus: crop(0,2,11,4) w(11) (0,2,11,4)",
+                                  QRect(0, 2, 11, 4), "area 100 100");
+    compareMapping<MaskEditFrame>(QVariant::fromValue(QMargins(3, 1, 4, 2)),
+                                  "h plus: mask(1,2,3,5) h(5) (1,2,3,5)",
+                                  QVariant::fromValue(QMargins(3, 1, 5, 2)), "area 100 100");
+}
+
+// A channel of a color is in proportion to the row's range.
+void tst_Forms::colors()
+{
+    RGBOpacityEditFrame opacity;
+    opacity.setRanges(-100, 923);
+    opacity.setColor(QColor(255, 0, 51, 128));
+    int r = 0, g = 0, b = 0, alpha = 0;
+    opacity.value(r, g, b, alpha);
+    QCOMPARE(QVector<int>({r, g, b, alpha}), QVector<int>({923, -100, 105, 50}));
+    for (int value = -100; value <= 923; ++value) {
+        opacity.setValue(RGBOpacityEditFrame::R, value);
+        opacity.setColor(opacity.color());
+        opacity.value(r, g, b, alpha);
+        QCOMPARE(QVector<int>({r, g, b, alpha}), QVector<int>({value, -100, 105, 50}));
+    }
+    opacity.setRange(RGBOpacityEditFrame::R, 7, 7);
+    opacity.setColor(QColor());
+    QCOMPARE(opacity.color(), QColor(0, 0, 0));
 }
 
 // As uic compiles it.

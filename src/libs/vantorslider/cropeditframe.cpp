@@ -122,6 +122,16 @@ void CropEditFrame::setCropValue(const QRect &rect)
                  Internal::saturatedExtent(rect.top(), rect.bottom()));
 }
 
+void CropEditFrame::setCrop(const QRect &rect)
+{
+    setCropValue(rect);
+}
+
+QRect CropEditFrame::crop() const
+{
+    return rectangle();
+}
+
 void CropEditFrame::setRange(Type type, int min, int max)
 {
     RectEditFrame::setRange(type, min, max);

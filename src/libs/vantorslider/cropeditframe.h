@@ -30,6 +30,7 @@ class CropEditFramePrivate;
 class VANTORSLIDER_EXPORT CropEditFrame : public RectEditFrame
 {
     Q_OBJECT
+    Q_PROPERTY(QRect crop READ crop WRITE setCrop NOTIFY cropValueChanged USER true)
 
 public:
     /*!
@@ -70,6 +71,12 @@ public:
 
     /*! Shows the crop \a rect, each component clamped to its field's range. Emits nothing. */
     void setCropValue(const QRect &rect);
+
+    /*! Shows the crop \a rect like setCropValue(). Emits nothing. \since 1.1 */
+    void setCrop(const QRect &rect);
+
+    /*! Returns the current crop. \since 1.1 */
+    QRect crop() const;
 
     /*!
         Sets the range of one field, see RectEditFrame::setRange(); for a field that differs from

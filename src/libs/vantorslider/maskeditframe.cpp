@@ -2,6 +2,13 @@
 
 #include "limitedfields_p.h"
 
+#include <QtCore/QMetaType>
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+// Not in the header: a host may have declared it.
+Q_DECLARE_METATYPE(QMargins)
+#endif
+
 namespace Vantor {
 namespace Widgets {
 
@@ -47,6 +54,9 @@ private:
 void MaskEditFramePrivate::createWidgets()
 {
     LimitedFields::createWidgets();
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    qRegisterMetaType<QMargins>(); // the type of a property
+#endif
     m_pEditer->setPositionLockEnable(false);
     m_pEditer->setSizeLockEnable(false, RectEditFrame::SizeScaleLock);
 }
@@ -114,6 +124,17 @@ void MaskEditFrame::getMaskValue(QRect &maskRect)
 {
     const auto [top, bottom, left, right] = d->values();
     maskRect.setCoords(left, top, right, bottom);
+}
+
+void MaskEditFrame::setMargins(const QMargins &margins)
+{
+    setMaskValue(margins.top(), margins.bottom(), margins.left(), margins.right());
+}
+
+QMargins MaskEditFrame::margins() const
+{
+    const auto [top, bottom, left, right] = d->values();
+    return {left, top, right, bottom};
 }
 
 // These four are private here: a host calls setMaskValue(), which stores the last margins, and

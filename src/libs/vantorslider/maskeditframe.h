@@ -2,6 +2,8 @@
 
 #include "recteditframe.h"
 
+#include <QtCore/QMargins>
+
 namespace Vantor {
 namespace Widgets {
 
@@ -30,6 +32,7 @@ class MaskEditFramePrivate;
 class VANTORSLIDER_EXPORT MaskEditFrame : public RectEditFrame
 {
     Q_OBJECT
+    Q_PROPERTY(QMargins margins READ margins WRITE setMargins NOTIFY maskValueChanged USER true)
 
 public:
     /*! Creates the editor for an area of size 0 by 0, with hidden lock buttons. */
@@ -60,6 +63,12 @@ public:
         on. The result is not a rectangle in the area.
     */
     void getMaskValue(QRect &maskRect);
+
+    /*! Shows \a margins like setMaskValue(). Emits nothing. \since 1.1 */
+    void setMargins(const QMargins &margins);
+
+    /*! Returns the current margins. \since 1.1 */
+    QMargins margins() const;
 
 Q_SIGNALS:
     /*!

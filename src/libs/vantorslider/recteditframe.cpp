@@ -157,7 +157,17 @@ void RectEditFrame::value(int &x, int &y, int &w, int &h)
 
 void RectEditFrame::value(QRect &rect)
 {
-    rect = Internal::saturatedRect(d->ui->frameX->value(), d->ui->frameY->value(),
+    rect = rectangle();
+}
+
+void RectEditFrame::setRectangle(const QRect &rectangle)
+{
+    RectEditFrame::setValue(rectangle);
+}
+
+QRect RectEditFrame::rectangle() const
+{
+    return Internal::saturatedRect(d->ui->frameX->value(), d->ui->frameY->value(),
                                    d->ui->frameWidth->value(), d->ui->frameHeight->value());
 }
 

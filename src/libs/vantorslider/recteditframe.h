@@ -4,6 +4,7 @@
 #include "vantorslider_global.h"
 
 #include <QtCore/QList>
+#include <QtCore/QRect>
 #include <QtWidgets/QFrame>
 
 namespace Vantor {
@@ -57,6 +58,7 @@ class VANTORSLIDER_EXPORT RectEditFrame : public QFrame
 {
     Q_OBJECT
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
+    Q_PROPERTY(QRect rectangle READ rectangle WRITE setRectangle NOTIFY valueChanged USER true)
 
 public:
     /*! The fields, as flags. setEditerVisible() accepts combinations. */
@@ -160,6 +162,15 @@ public:
 
     /*! Writes the current rectangle to \a rect. */
     void value(QRect &rect);
+
+    /*!
+        Shows \a rectangle, each component clamped to its field's range. Emits nothing. In a
+        CropEditFrame use setCrop(), in a MaskEditFrame setMargins(). \since 1.1
+    */
+    void setRectangle(const QRect &rectangle);
+
+    /*! Returns the current rectangle. \since 1.1 */
+    QRect rectangle() const;
 
     /*!
         Sets the range of the field \a type to \a min to \a max, 0 to 99 by default, see

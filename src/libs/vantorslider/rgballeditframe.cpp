@@ -160,6 +160,16 @@ void RGBAllEditFrame::setValues(int r, int g, int b, int all)
     d->ui->frameRGB->setValues(r, g, b);
 }
 
+void RGBAllEditFrame::setColor(const QColor &color)
+{
+    d->ui->frameRGB->setColor(color);
+}
+
+QColor RGBAllEditFrame::color() const
+{
+    return d->ui->frameRGB->color();
+}
+
 void RGBAllEditFrame::value(int &r, int &g, int &b, int &all)
 {
     all = d->ui->frameAll->value();

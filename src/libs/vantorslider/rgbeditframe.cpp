@@ -1,5 +1,6 @@
 #include "rgbeditframe.h"
 
+#include "colorchannel_p.h"
 #include "editorrows_p.h"
 #include "editspan_p.h"
 #include "slidereditframe.h"
@@ -177,6 +178,21 @@ void RGBEditFrame::setValues(int r, int g, int b)
     d->ui->frameR->setValue(r);
     d->ui->frameG->setValue(g);
     d->ui->frameB->setValue(b);
+}
+
+void RGBEditFrame::setColor(const QColor &color)
+{
+    const QRgba64 rgba = color.rgba64();
+    Internal::setChannel(*d->ui->frameR, rgba.red());
+    Internal::setChannel(*d->ui->frameG, rgba.green());
+    Internal::setChannel(*d->ui->frameB, rgba.blue());
+}
+
+QColor RGBEditFrame::color() const
+{
+    return QColor::fromRgba64(Internal::channelOf(*d->ui->frameR),
+                              Internal::channelOf(*d->ui->frameG),
+                              Internal::channelOf(*d->ui->frameB));
 }
 
 void RGBEditFrame::value(int &r, int &g, int &b)

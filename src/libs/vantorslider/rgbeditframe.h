@@ -4,6 +4,7 @@
 #include "vantorslider_global.h"
 
 #include <QtCore/QList>
+#include <QtGui/QColor>
 #include <QtWidgets/QFrame>
 
 namespace Vantor {
@@ -42,6 +43,7 @@ class VANTORSLIDER_EXPORT RGBEditFrame : public QFrame
 {
     Q_OBJECT
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY valueChanged USER true)
 
 public:
     /*! The channels, as flags. */
@@ -115,6 +117,15 @@ public:
 
     /*! Shows \a r, \a g and \a b, each clamped to its row's range. Emits nothing. \since 1.1 */
     void setValues(int r, int g, int b);
+
+    /*!
+        Shows \a color, each channel in proportion to the range of its row: from 0 to 255 its
+        value. An invalid color is shown as black. Emits nothing. \since 1.1
+    */
+    void setColor(const QColor &color);
+
+    /*! Returns the current values as a color, see setColor(). \since 1.1 */
+    QColor color() const;
 
     /*! Writes the current values to \a r, \a g and \a b. */
     void value(int &r, int &g, int &b);

@@ -1,5 +1,6 @@
 #include "rgbopacityeditframe.h"
 
+#include "colorchannel_p.h"
 #include "editspan_p.h"
 #include "rgbandrow_p.h"
 #include "ui_rgbopacityeditframe.h"
@@ -164,6 +165,19 @@ void RGBOpacityEditFrame::setValues(int r, int g, int b, int opacity)
 {
     d->ui->frameOpacity->setValue(opacity);
     d->ui->frameRGB->setValues(r, g, b);
+}
+
+void RGBOpacityEditFrame::setColor(const QColor &color)
+{
+    d->ui->frameRGB->setColor(color);
+    Internal::setChannel(*d->ui->frameOpacity, color.rgba64().alpha());
+}
+
+QColor RGBOpacityEditFrame::color() const
+{
+    QRgba64 rgba = d->ui->frameRGB->color().rgba64();
+    rgba.setAlpha(Internal::channelOf(*d->ui->frameOpacity));
+    return QColor::fromRgba64(rgba);
 }
 
 void RGBOpacityEditFrame::value(int &r, int &g, int &b, int &opacity)

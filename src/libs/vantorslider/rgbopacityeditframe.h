@@ -4,6 +4,7 @@
 #include "vantorslider_global.h"
 
 #include <QtCore/QList>
+#include <QtGui/QColor>
 #include <QtWidgets/QFrame>
 
 namespace Vantor {
@@ -43,6 +44,7 @@ class VANTORSLIDER_EXPORT RGBOpacityEditFrame : public QFrame
 {
     Q_OBJECT
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY valueChanged USER true)
 
 public:
     /*! The channels and the opacity, as flags. */
@@ -123,6 +125,16 @@ public:
         \since 1.1
     */
     void setValues(int r, int g, int b, int opacity);
+
+    /*!
+        Shows \a color, each channel in proportion to the range of its row: from 0 to 255 its
+        value. The opacity
+        is its alpha channel. An invalid color is shown as black. Emits nothing. \since 1.1
+    */
+    void setColor(const QColor &color);
+
+    /*! Returns the current values as a color, see setColor(). \since 1.1 */
+    QColor color() const;
 
     /*! Writes the current values to \a r, \a g, \a b and \a opacity. */
     void value(int &r, int &g, int &b, int &opacity);
