@@ -22,7 +22,7 @@ install(TARGETS vantorslider EXPORT ${package_name}Targets
         COMPONENT runtime NAMELINK_COMPONENT development
     PUBLIC_HEADER DESTINATION ${include_dir}/vantorslider COMPONENT development)
 install(DIRECTORY ${PROJECT_BINARY_DIR}/styles DESTINATION ${data_dir} COMPONENT runtime
-    FILES_MATCHING PATTERN *.qss PATTERN *.svg)
+    FILES_MATCHING PATTERN *.qss PATTERN *.svg PATTERN CMakeFiles EXCLUDE)
 
 install(EXPORT ${package_name}Targets NAMESPACE VantorSlider:: DESTINATION ${package_dir}
     COMPONENT development)

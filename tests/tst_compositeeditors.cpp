@@ -40,8 +40,7 @@ QStringList settingsOf(EditorUser &user, const EditorRow &row)
     for (const char *name : {"autoRepeat", "autoRepeatDelay", "autoRepeatInterval"})
         settings << name + ('=' + row.minus->property(name).toString()) + '/'
                 + row.plus->property(name).toString();
-    for (const QLayout *layout : row.frame->findChildren<QLayout *>())
-        settings << QString("gap=%1").arg(layout->contentsMargins().right());
+    settings << "gaps=" + gaps(row);
     const int value = row.whole->value();
     row.whole->setValue(20);
     for (const QString action : {"reset", "plus", "hold 60", "drop", "click", "wheel"}) {
@@ -216,7 +215,7 @@ template <typename F, typename T = typename F::Type> void addChecks()
         [](F &f, T t) { std::invoke(&F::setRange, f, t, -5, 110); });
     add(" single step", "plus=23", [](F &f, T t) { f.setSingleStep(t, 3); });
     add(" page step", "pageStep=7", [](F &f, T t) { f.setPageStep(t, 7); });
-    addAll(" spacing", "gap=17 gap=23 gap=23", [](F &f, T) { f.setHorizontalSpacing(17, 23); });
+    addAll(" spacing", "gaps=17 23 23 0", [](F &f, T) { f.setHorizontalSpacing(17, 23); });
     if constexpr (isRect<F>) {
         add(" value change direction", "plus=20 hold 60=20 drop=20 click=20 wheel=20",
             [](F &f, T t) { f.setValueChangeDirection(t, SliderEditFrame::AllowedToSmaller, 20); });

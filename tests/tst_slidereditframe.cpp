@@ -28,12 +28,15 @@ template <typename AnyUser> void compareSetters(AnyUser &user)
             texts.append(limits(widget->minimumWidth(), widget->maximumWidth()));
         return texts.join(' ');
     };
-    frame.setLabelText("Gain");
-    QStringList names {row.label->text()};
-    for (const QWidget *widget :
-         QWidgetList({&frame, row.slider, row.spinBox, row.minus, row.plus}))
-        names.append(widget->accessibleName());
-    QCOMPARE(names.join(", "), QString("Gain, Gain, Gain, Gain, Gain \u2212, Gain +"));
+    const QStringList texts {"Gain", "&Gain", "<b>Gain</b>"};
+    for (const QString &text : texts) {
+        frame.setLabelText(text);
+        QStringList names;
+        for (const QWidget *widget :
+             QWidgetList({&frame, row.slider, row.spinBox, row.minus, row.plus}))
+            names.append(widget->accessibleName());
+        QCOMPARE(names.join(", "), QString("Gain, Gain, Gain, Gain \u2212, Gain +"));
+    }
     frame.setSliderProperty("channel", 3);
     QCOMPARE(row.slider->property("channel"), QVariant(3));
 
@@ -47,16 +50,23 @@ template <typename AnyUser> void compareSetters(AnyUser &user)
     frame.setSpinBoxFixedWidth(33);
     QCOMPARE(widths(), QString("31..31 33..33 32..32 32..32"));
 
-    // A margin to the right of each child except the last, in addition to the host's.
+    // The host's own margin before the field stays.
     const QLayout *layout = frame.layout();
-    layout->itemAt(2)->layout()->setContentsMargins(1, 2, 3, 4);
+    layout->itemAt(2)->layout()->setContentsMargins(1, 0, 0, 0);
     frame.setHorizontalSpacing(5, 7);
-    QList<QMargins> margins;
-    for (int i = 0; i < 3; ++i)
-        margins.append(layout->itemAt(i)->layout()->contentsMargins());
-    QCOMPARE(margins, QList<QMargins>({{0, 0, 5, 0}, {0, 0, 7, 0}, {1, 2, 7, 4}}));
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        user.page.setLayoutDirection(direction);
+        QCoreApplication::processEvents();
+        QCOMPARE(gaps(row), QString("5 8 7 0"));
+    }
+    frame.setHorizontalSpacing(4, 6);
+    QCoreApplication::processEvents();
+    QCOMPARE(gaps(row), QString("4 7 6 0"));
+    user.page.setLayoutDirection(Qt::LeftToRight);
 
-    // A spacer replaces a hidden slider, and otherwise takes no space.
+    // A spacer replaces a hidden slider, and otherwise takes no space. The shortcut of the label
+    // gives the focus to the slider or, without it, to the field.
+    frame.setLabelText("&Gain");
     const QSpacerItem *spacer = layout->itemAt(3)->layout()->itemAt(2)->spacerItem();
     for (const bool isVisible : {false, true}) {
         frame.setSliderVisible(isVisible);
@@ -64,7 +74,10 @@ template <typename AnyUser> void compareSetters(AnyUser &user)
         QCOMPARE(row.slider->isHidden(), !isVisible);
         QCOMPARE(spacer->geometry().width() > 100, !isVisible);
         QCOMPARE(spacer->geometry().width() > 0, !isVisible);
+        QTest::keyClick(&user.page, Qt::Key_G, Qt::AltModifier);
+        QVERIFY(isVisible ? row.slider->hasFocus() : row.spinBox->hasFocus());
     }
+    user.heard();
     frame.setButtonVisible(false);
     QVERIFY(row.minus->isHidden() && row.plus->isHidden());
 

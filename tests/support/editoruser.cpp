@@ -41,6 +41,19 @@ QString limits(int min, int max)
     return QStringLiteral("%1..%2").arg(min).arg(max);
 }
 
+QString gaps(const EditorRow &row)
+{
+    QStringList gaps;
+    const QWidgetList children {row.label, row.slider, row.spinBox, row.minus, row.plus};
+    for (int i = 1; i < children.size(); ++i) {
+        const QRect before = children[i - 1]->geometry(), after = children[i]->geometry();
+        gaps << QString::number(row.frame->layoutDirection() == Qt::LeftToRight
+                                    ? after.left() - before.right() - 1
+                                    : before.left() - after.right() - 1);
+    }
+    return gaps.join(' ');
+}
+
 Page::Page(EventLog &log) : m_log(log)
 {
     setLayout(new QVBoxLayout);

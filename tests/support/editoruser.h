@@ -47,6 +47,9 @@ QVector<EditorRow> rowsOf(QWidget &editor);
 // "0..99"
 QString limits(int min, int max);
 
+// The pixels between label, slider, field, minus and plus, in either direction: "5 7 7 0"
+QString gaps(const EditorRow &row);
+
 // The page around the editor under test. It logs the events that it receives.
 class Page : public QWidget
 {

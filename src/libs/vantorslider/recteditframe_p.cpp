@@ -1,5 +1,6 @@
 #include "recteditframe_p.h"
 
+#include <QtCore/QEvent>
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 
@@ -56,9 +57,8 @@ void RectEditFramePrivate::createWidgets()
     ui->toolButtonLockSize->setProperty("lockoutstate", true);
     ui->frameSpacerLockPosition->setProperty("isLockPositionFrame", true);
     ui->toolButtonLockPosition->setProperty("isLockPositionFrame", true);
-    // The buttons have no texts.
-    ui->toolButtonLockPosition->setAccessibleName(RectEditFrame::tr("Lock position"));
-    ui->toolButtonLockSize->setAccessibleName(RectEditFrame::tr("Lock size"));
+    nameLocks();
+    ui->toolButtonLockSize->installEventFilter(this);
     ui->verticalSpacer_5 =
         collapsibleSpacer(ui->verticalLayoutLockPosition, 0, ui->frameSpacerLockPosition);
     ui->verticalSpacer_4 =
@@ -69,6 +69,28 @@ void RectEditFramePrivate::createWidgets()
         collapsibleSpacer(ui->verticalLayoutLockSize, 2, ui->frameSpacerLockSize);
     m_pEditer->setPositionLockEnable(false);
     m_pEditer->setSizeLockEnable(false, RectEditFrame::SizeScaleLock);
+}
+
+// Each widget of a window receives a change of the language.
+bool RectEditFramePrivate::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        nameLocks();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+// The buttons have no texts. A name that the host has set stays.
+void RectEditFramePrivate::nameLocks()
+{
+    const auto setName = [](QToolButton *button, QString &last, const QString &name) {
+        if (button->accessibleName() == last) {
+            button->setAccessibleName(name);
+            last = name;
+        }
+    };
+    setName(ui->toolButtonLockPosition, m_strPositionLock, RectEditFrame::tr("Lock position"));
+    setName(ui->toolButtonLockSize, m_strSizeLock, RectEditFrame::tr("Lock size"));
 }
 
 void RectEditFramePrivate::createConnects()

@@ -23,6 +23,7 @@ public:
 
     void createWidgets();
     void createConnects();
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void setPositionLock(bool bLock);
     void setSizeLock(bool bLock);
     void slotLockPositionButtonToggled(bool checked);
@@ -45,6 +46,9 @@ public:
     QSize m_lockedSize;
     bool m_isLockedPosition = false;
     bool m_isLockedSize = false;
+    // The accessible names as they were last translated.
+    QString m_strPositionLock;
+    QString m_strSizeLock;
 
 private Q_SLOTS:
     void slotXValueChanged(int val) { changePosition(x(), val, y()); }
@@ -73,6 +77,7 @@ private:
                 ui->frameY};
     }
 
+    void nameLocks();
     bool switchButton(QToolButton *button, bool isChecked);
     void changePosition(const LockedField &changed, int val, const LockedField &partner);
     void changeSize(const LockedField &changed, int val, const LockedField &partner);

@@ -395,7 +395,7 @@ bool SliderEditFrame::eventFilter(QObject *watched, QEvent *event)
         return true;
     }
     if (watched == d->spinBox()) {
-        d->row().selectAllOnEntry(this, event);
+        d->row().fieldReceives(this, event);
     }
     return QFrame::eventFilter(watched, event);
 }

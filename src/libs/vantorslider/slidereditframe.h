@@ -289,6 +289,9 @@ public:
         Keeps every value that the user sets on one side of \a val. \a directions combines flags
         of ValueChangeDirection, AllowedToAny by default; any value without AllowedToBigger acts
         as AllowedToSmaller. The current value does not change. Emits nothing.
+
+        A reference beyond the range is reported as it is, while the row shows the end of the
+        range.
     */
     void setValueChangeDirection(int directions, int val);
 

@@ -80,6 +80,8 @@ private:
     editingFinished(), then enterFinished(), and are accepted. An expression that ends in "=" is
     evaluated at once and emits enterFinished().
 
+    Numbers are typed in decimal: leave displayIntegerBase at 10.
+
     Style sheets select on the dynamic property "isEntryRefused", true after an expression that
     failed. "Quelmo_VK" is "Vk_Number" and tells a host which on-screen keyboard to show.
 */

@@ -382,7 +382,7 @@ bool SliderEditFrameDouble::eventFilter(QObject *watched, QEvent *event)
         return true;
     }
     if (watched == d->spinBox()) {
-        d->row().selectAllOnEntry(this, event);
+        d->row().fieldReceives(this, event);
     }
     return QFrame::eventFilter(watched, event);
 }

@@ -194,6 +194,9 @@ public:
         range and step are scaled by 10 to the power of \a prec. Range and value are rounded to
         the new decimals. The handle keeps its position until the next setValue(). Emits
         nothing.
+
+        Values that differ by less than 0.00000001 are the same: with nine decimals and more such
+        a change is shown but not reported, unless ExactEntry is set.
     */
     void setDecimals(int prec);
 
@@ -271,7 +274,8 @@ public:
 
     /*!
         Keeps every value that the user sets on one side of the whole number \a val, see
-        SliderEditFrame::setValueChangeDirection().
+        SliderEditFrame::setValueChangeDirection(). A reference beyond the range is reported as it
+        is, while the row shows the end of the range.
     */
     void setValueChangeDirection(int directions, int val);
 

@@ -7,6 +7,8 @@
 #include <QtCore/QEvent>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTimer>
+#include <QtGui/QTextDocument>
+#include <QtGui/QTextDocumentFragment>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QSpacerItem>
 #include <QtWidgets/QToolButton>
@@ -18,11 +20,32 @@ namespace Internal {
 
 namespace {
 
-void setRightMargin(QLayout *layout, int right)
+// The gap to the next child. Qt does not mirror the margins of a layout.
+void setGap(QLayout *layout, int gap, Qt::LayoutDirection direction)
 {
     QMargins margins = layout->contentsMargins();
-    margins.setRight(right);
+    direction == Qt::LeftToRight ? margins.setRight(gap) : margins.setLeft(gap);
     layout->setContentsMargins(margins);
+}
+
+void mirrorGaps(std::initializer_list<QLayout *> layouts)
+{
+    for (QLayout *layout : layouts) {
+        const QMargins margins = layout->contentsMargins();
+        layout->setContentsMargins(margins.right(), margins.top(), margins.left(),
+                                   margins.bottom());
+    }
+}
+
+// What a screen reader says. In a plain label "&" marks a shortcut and "&&" is shown as "&".
+QString spoken(const QLabel *label)
+{
+    const QString text = label->text();
+    const bool isRich = label->textFormat() == Qt::RichText
+        || (label->textFormat() == Qt::AutoText && Qt::mightBeRichText(text));
+    static const QRegularExpression shortcut(QStringLiteral("&(.?)"));
+    return isRich ? QTextDocumentFragment::fromHtml(text).toPlainText()
+                  : QString(text).replace(shortcut, QStringLiteral("\\1"));
 }
 
 } // namespace
@@ -40,9 +63,10 @@ void SliderRow::prepare(QWidget *frame) const
 
 void SliderRow::setHorizontalSpacing(int labelToSlider, int sliderToRest) const
 {
-    setRightMargin(nameLayout, labelToSlider);
-    setRightMargin(sliderLayout, sliderToRest);
-    setRightMargin(spinBoxLayout, sliderToRest);
+    const Qt::LayoutDirection direction = spinBox->layoutDirection();
+    setGap(nameLayout, labelToSlider, direction);
+    setGap(sliderLayout, sliderToRest, direction);
+    setGap(spinBoxLayout, sliderToRest, direction);
 }
 
 // Only the label says what the row is for. A screen reader needs its text as the accessible name
@@ -50,9 +74,7 @@ void SliderRow::setHorizontalSpacing(int labelToSlider, int sliderToRest) const
 void SliderRow::setLabelText(const QString &text) const
 {
     label->setText(text);
-    // In a label "&" marks a shortcut and "&&" is shown as "&".
-    const QString name =
-        QString(text).replace(QRegularExpression(QStringLiteral("&(.?)")), QStringLiteral("\\1"));
+    const QString name = spoken(label);
     spinBox->parentWidget()->setAccessibleName(name);
     slider->setAccessibleName(name);
     spinBox->setAccessibleName(name);
@@ -70,6 +92,8 @@ void SliderRow::setSliderVisible(bool isVisible) const
         lastSpacer->changeSize(20, 20, QSizePolicy::Expanding, QSizePolicy::Minimum);
     }
     setShown(slider, isVisible);
+    // The label's shortcut gives it the focus.
+    label->setBuddy(isVisible ? static_cast<QWidget *>(slider) : spinBox);
 }
 
 void SliderRow::setFieldFocus() const
@@ -78,9 +102,12 @@ void SliderRow::setFieldFocus() const
     spinBox->selectAll();
 }
 
-// Queued, because the spin box moves the cursor when it handles the event.
-void SliderRow::selectAllOnEntry(QWidget *frame, const QEvent *event) const
+// The selection is queued, because the spin box moves the cursor when it handles the event.
+void SliderRow::fieldReceives(QWidget *frame, const QEvent *event) const
 {
+    if (event->type() == QEvent::LayoutDirectionChange) {
+        mirrorGaps({nameLayout, sliderLayout, spinBoxLayout});
+    }
     if (event->type() != QEvent::FocusIn && event->type() != QEvent::MouseButtonPress) {
         return;
     }

@@ -52,8 +52,9 @@ struct SliderRow
         std::invoke(operation, minus, arguments...);
     }
 
-    // Called by the frame's event filter: a click or Tab into the spin box selects its text.
-    void selectAllOnEntry(QWidget *frame, const QEvent *event) const;
+    // Called by the frame's event filter. A click or Tab into the spin box selects its text. Its
+    // direction is that of the layout.
+    void fieldReceives(QWidget *frame, const QEvent *event) const;
 
     QVBoxLayout *nameLayout;
     QLabel *label;
