@@ -33,17 +33,20 @@ private Q_SLOTS:
 
 namespace {
 
-const QStringList editorsOfTheForm {"SliderEditFrame true Gain -20 200 5 10 120  dB options5",
-                                    "SliderEditFrameDouble true Gamma 1 0.5 2.5 0.1 10 1.2",
-                                    "RGBEditFrame true",
-                                    "RGBAllEditFrame true",
-                                    "RGBOpacityEditFrame true",
-                                    "RectEditFrame false",
-                                    "CropEditFrame true options10",
-                                    "MaskEditFrame true",
-                                    "LayoutEditFrame true",
-                                    "SliderEditSpinBox true 0 4000 1 1080",
-                                    "SliderEditDoubleSpinBox true 2 0 99.99 1 1.5  dB"};
+const QStringList editorsOfTheForm {
+    "SliderEditFrame true Gain -20 200 5 10 120  dB options5 "
+    "sliderVisible 40 ms",
+    "SliderEditFrameDouble true Gamma 1 0.5 2.5 0.1 10 1.2 buttonVisible "
+    "releaseMode",
+    "RGBEditFrame true #ff323232",
+    "RGBAllEditFrame true #ff323232",
+    "RGBOpacityEditFrame true #33010203",
+    "RectEditFrame false 0..-1",
+    "CropEditFrame true options10 0..-1",
+    "MaskEditFrame true",
+    "LayoutEditFrame true 1..3",
+    "SliderEditSpinBox true 0 4000 1 1080",
+    "SliderEditDoubleSpinBox true 2 0 99.99 1 1.5  dB"};
 
 // The editors of a form, each with those of its properties that a form may set.
 QStringList describe(const QWidget &form)
@@ -56,6 +59,18 @@ QStringList describe(const QWidget &form)
             texts.append(editor->property(name).toString());
         if (const int options = editor->property("entryOptions").toInt())
             texts.append("options" + QString::number(options));
+        for (const char *name : {"sliderVisible", "buttonVisible", "releaseMode", "autoRepeat"}) {
+            const QVariant isOn = editor->property(name);
+            if (isOn.isValid() && isOn.toBool() != QString(name).endsWith("Visible"))
+                texts.append(name);
+        }
+        if (const int rate = editor->property("timeSamplingRate").toInt())
+            texts.append(QString::number(rate) + " ms");
+        const QVariant value = editor->metaObject()->userProperty().read(editor);
+        if (value.userType() == QMetaType::QColor)
+            texts.append(value.value<QColor>().name(QColor::HexArgb));
+        if (value.userType() == QMetaType::QRect)
+            texts.append(limits(value.toRect().left(), value.toRect().right()));
         texts.removeAll(QString());
         lines.append(texts.join(' '));
     }

@@ -207,9 +207,19 @@ void SliderEditFrame::setSliderVisible(bool b)
     d->row().setSliderVisible(b);
 }
 
+bool SliderEditFrame::isSliderVisible() const
+{
+    return !d->slider()->isHidden();
+}
+
 void SliderEditFrame::setButtonVisible(bool b)
 {
     d->row().bothButtons(Internal::setShown, b);
+}
+
+bool SliderEditFrame::isButtonVisible() const
+{
+    return !d->row().plus->isHidden();
 }
 
 void SliderEditFrame::setSliderProperty(const char *name, const QVariant &value)
@@ -371,6 +381,13 @@ void SliderEditFrame::setTimeSamplingRate(int val)
 {
     d->setTimeSampling(val);
     setReleaseMode(false);
+}
+
+void SliderEditFrame::writeTimeSamplingRate(int val)
+{
+    if (val != 0) {
+        setTimeSamplingRate(val);
+    }
 }
 
 int SliderEditFrame::timeSamplingRate() const

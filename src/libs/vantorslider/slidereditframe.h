@@ -53,6 +53,12 @@ class VANTORSLIDER_EXPORT SliderEditFrame : public QFrame
     Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
     Q_PROPERTY(SliderScale sliderScale READ sliderScale WRITE setSliderScale)
+    Q_PROPERTY(bool sliderVisible READ isSliderVisible WRITE setSliderVisible)
+    Q_PROPERTY(bool buttonVisible READ isButtonVisible WRITE setButtonVisible)
+    // Sampling turns release mode off, and both set the auto-repeat.
+    Q_PROPERTY(int timeSamplingRate READ timeSamplingRate WRITE writeTimeSamplingRate)
+    Q_PROPERTY(bool releaseMode READ isReleaseMode WRITE setReleaseMode)
+    Q_PROPERTY(bool autoRepeat READ autoRepeat WRITE setAutoRepeat)
 
 public:
     /*! The side of a reference value on which reported values stay; can be combined. */
@@ -137,8 +143,14 @@ public:
     */
     void setSliderVisible(bool b);
 
+    /*! Returns whether the slider is not hidden. \since 1.1 */
+    bool isSliderVisible() const;
+
     /*! Shows or hides both buttons; they are visible by default. */
     void setButtonVisible(bool b);
+
+    /*! Returns whether the buttons are not hidden. \since 1.1 */
+    bool isButtonVisible() const;
 
     /*! Sets the slider's property \a name to \a value: one of Qt's, or one for style sheets. */
     void setSliderProperty(const char *name, const QVariant &value);
@@ -349,6 +361,9 @@ protected:
 
 private:
     friend class Internal::EditSpan;
+
+    // 0 leaves sampling off, so that all properties of a row can be copied to another one.
+    void writeTimeSamplingRate(int val);
 
     Internal::SliderEditPrivate *d;
 };

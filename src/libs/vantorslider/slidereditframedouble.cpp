@@ -144,9 +144,19 @@ void SliderEditFrameDouble::setSliderVisible(bool b)
     d->row().setSliderVisible(b);
 }
 
+bool SliderEditFrameDouble::isSliderVisible() const
+{
+    return !d->slider()->isHidden();
+}
+
 void SliderEditFrameDouble::setButtonVisible(bool b)
 {
     d->row().bothButtons(Internal::setShown, b);
+}
+
+bool SliderEditFrameDouble::isButtonVisible() const
+{
+    return !d->row().plus->isHidden();
 }
 
 void SliderEditFrameDouble::setSliderProperty(const char *name, const QVariant &value)
@@ -358,6 +368,13 @@ void SliderEditFrameDouble::setTimeSamplingRate(int val)
 {
     d->setTimeSampling(val);
     setReleaseMode(false);
+}
+
+void SliderEditFrameDouble::writeTimeSamplingRate(int val)
+{
+    if (val != 0) {
+        setTimeSamplingRate(val);
+    }
 }
 
 int SliderEditFrameDouble::timeSamplingRate() const

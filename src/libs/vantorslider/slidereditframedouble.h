@@ -55,6 +55,12 @@ class VANTORSLIDER_EXPORT SliderEditFrameDouble : public QFrame
     Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
     Q_PROPERTY(SliderScale sliderScale READ sliderScale WRITE setSliderScale)
+    Q_PROPERTY(bool sliderVisible READ isSliderVisible WRITE setSliderVisible)
+    Q_PROPERTY(bool buttonVisible READ isButtonVisible WRITE setButtonVisible)
+    // Sampling turns release mode off, and both set the auto-repeat.
+    Q_PROPERTY(int timeSamplingRate READ timeSamplingRate WRITE writeTimeSamplingRate)
+    Q_PROPERTY(bool releaseMode READ isReleaseMode WRITE setReleaseMode)
+    Q_PROPERTY(bool autoRepeat READ autoRepeat WRITE setAutoRepeat)
 
 public:
     /*! The side of a reference value on which reported values stay; can be combined. */
@@ -128,8 +134,14 @@ public:
     /*! Shows or hides the slider, see SliderEditFrame::setSliderVisible(). */
     void setSliderVisible(bool b);
 
+    /*! Returns whether the slider is not hidden. \since 1.1 */
+    bool isSliderVisible() const;
+
     /*! Shows or hides both buttons; they are visible by default. \since 1.1 */
     void setButtonVisible(bool b);
+
+    /*! Returns whether the buttons are not hidden. \since 1.1 */
+    bool isButtonVisible() const;
 
     /*! Sets the slider's property \a name to \a value: one of Qt's, or one for style sheets. */
     void setSliderProperty(const char *name, const QVariant &value);
@@ -317,6 +329,9 @@ private:
     int getMagnification(float num);
 
     friend class Internal::EditSpan;
+
+    // 0 leaves sampling off, so that all properties of a row can be copied to another one.
+    void writeTimeSamplingRate(int val);
 
     Internal::SliderEditDoublePrivate *d;
 };
