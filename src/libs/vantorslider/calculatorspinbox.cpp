@@ -1,7 +1,8 @@
 #include "calculatorspinbox_p.h"
 
+#include "childwidget_p.h"
+
 #include <QtCore/QChildEvent>
-#include <QtWidgets/QStyle>
 
 namespace Vantor {
 namespace Widgets {
@@ -16,14 +17,11 @@ void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard)
     spinBox->setLocale(QLocale::c());
 }
 
-// A style sheet applies a changed property only after a polish.
 void markRefusedEntry(QAbstractSpinBox *spinBox, LineEditCal *calculator)
 {
     spinBox->setProperty("isEntryRefused", calculator->isEntryRefused());
-    for (QWidget *widget : {static_cast<QWidget *>(spinBox), static_cast<QWidget *>(calculator)}) {
-        widget->style()->unpolish(widget);
-        widget->style()->polish(widget);
-    }
+    applyStyleSheet(spinBox);
+    applyStyleSheet(calculator);
 }
 
 bool isFinishingKey(const QKeyEvent *event)

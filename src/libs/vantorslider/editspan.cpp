@@ -1,49 +1,43 @@
 #include "editspan_p.h"
 
-#include "recteditframe.h"
-#include "rgballeditframe.h"
-#include "rgbeditframe.h"
-#include "rgbopacityeditframe.h"
-#include "slidereditframe.h"
-#include "slidereditframedouble.h"
-
+#include <QtCore/QHash>
 #include <QtCore/QTimer>
+#include <QtWidgets/QWidget>
 
 namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
+namespace {
+
+QHash<const QWidget *, EditSpan *> &spans()
+{
+    static QHash<const QWidget *, EditSpan *> ofEditors;
+    return ofEditors;
+}
+
+} // namespace
+
+EditSpan::EditSpan(QWidget *editor, Emit emit) : m_editor(editor), m_emit(emit)
+{
+    spans().insert(editor, this);
+}
+
 EditSpan::~EditSpan()
 {
+    spans().remove(m_editor);
     for (Scope *scope = m_innermost; scope != nullptr; scope = scope->m_outer) {
         scope->m_span = nullptr;
     }
     leaveOuter();
 }
 
-// The EditSpan of the widget if it is of one of these classes, or null.
-template <typename Editor, typename... Others> EditSpan *EditSpan::find(const QWidget *widget)
-{
-    if (const auto *editor = qobject_cast<const Editor *>(widget)) {
-        return of(*editor);
-    }
-    if constexpr (sizeof...(Others) != 0) {
-        return find<Others...>(widget);
-    }
-    return nullptr;
-}
-
-// A widget in its base class destructor is no longer of one of these classes.
 EditSpan *EditSpan::around(const QWidget *widget)
 {
     EditSpan *span = nullptr;
     while (span == nullptr && !widget->isWindow() && widget->parentWidget() != nullptr) {
         widget = widget->parentWidget();
-        // One cast instead of six for the widgets between an editor and the child.
-        if (qobject_cast<const QFrame *>(widget) != nullptr) {
-            span = find<SliderEditFrame, SliderEditFrameDouble, RectEditFrame, RGBEditFrame,
-                        RGBAllEditFrame, RGBOpacityEditFrame>(widget);
-        }
+        span = spans().value(widget);
     }
     return span;
 }
@@ -54,18 +48,17 @@ void EditSpan::begin()
         return;
     }
     const Scope scope(this);
-    EditSpan *const outer = m_isOpen && !m_isCounted ? nullptr : around(m_editor);
+    EditSpan *const outer = m_isOpen && m_outer == Outer::Unaware ? nullptr : around(m_editor);
     m_isOpen = true;
     if (outer != nullptr) {
-        if (!m_isCounted) {
-            m_isCounted = true;
-            m_isOuterTold = false;
+        if (m_outer == Outer::Unaware) {
+            m_outer = Outer::Counts;
             ++outer->m_openRows;
         }
         const Scope outerScope(outer);
         outer->begin();
-        if (scope && outerScope) {
-            m_isOuterTold = outer->isTold();
+        if (scope && outerScope && outer->isTold()) {
+            m_outer = Outer::IsTold;
         }
     }
     if (scope && !m_isTold && !m_editor->signalsBlocked()) {
@@ -73,45 +66,49 @@ void EditSpan::begin()
         if (m_hostWindow == nullptr) {
             m_hostWindow = std::make_unique<HostWindow>(m_editor);
         }
-        m_hostWindow->rememberType();
+        m_hostWindow->rememberNow();
         m_emit(m_editor, true);
     }
 }
 
-void EditSpan::endUnlessHeld()
+void EditSpan::endUnlessKept()
 {
-    if (!m_isOpen || m_innermost != nullptr || m_holders != Nobody || m_openRows != 0) {
+    if (!m_isOpen || m_innermost != nullptr || m_keepers != Nobody || m_openRows != 0) {
         return;
     }
     m_isOpen = false;
     const Scope scope(this);
     leaveOuter();
-    if (!scope || !m_isTold || m_hostWindow->isBeingDestroyed()) {
-        return;
-    }
-    if (m_editor->signalsBlocked()) {
-        // If they are still blocked then, the next edit continues this one.
-        QTimer::singleShot(0, m_editor, [this] { emitEnd(); });
-    } else {
-        emitEnd();
+    if (scope && m_isTold && !m_hostWindow->isBeingDestroyed()) {
+        emitEnd(0);
     }
 }
 
-void EditSpan::emitEnd()
+// Qt does not tell when signals are unblocked.
+void EditSpan::emitEnd(int retryInterval)
 {
-    if (m_isTold && !m_isOpen && !m_editor->signalsBlocked()) {
+    if (!m_isTold || m_isOpen) {
+        return;
+    }
+    if (!m_editor->signalsBlocked()) {
         m_isTold = false;
         m_emit(m_editor, false);
+    } else if (!m_isRetrying) {
+        m_isRetrying = true;
+        QTimer::singleShot(retryInterval, m_editor, [this] {
+            m_isRetrying = false;
+            emitEnd(50);
+        });
     }
 }
 
 void EditSpan::leaveOuter()
 {
-    EditSpan *const outer = m_isCounted ? around(m_editor) : nullptr;
-    m_isCounted = false;
+    EditSpan *const outer = m_outer != Outer::Unaware ? around(m_editor) : nullptr;
+    m_outer = Outer::Unaware;
     if (outer != nullptr) {
         --outer->m_openRows;
-        outer->endUnlessHeld();
+        outer->endUnlessKept();
     }
 }
 
@@ -127,29 +124,29 @@ EditSpan::Scope::~Scope()
 {
     if (m_span != nullptr) {
         m_span->m_innermost = m_outer;
-        m_span->endUnlessHeld();
+        m_span->endUnlessKept();
     }
 }
 
-void EditSpan::Scope::begin(Holder holder)
+void EditSpan::Scope::begin(Keeper keeper)
 {
     if (m_span != nullptr) {
-        hold(holder);
+        keep(keeper);
         m_span->begin();
     }
 }
 
-void EditSpan::Scope::hold(Holder holder)
+void EditSpan::Scope::keep(Keeper keeper)
 {
     if (m_span != nullptr) {
-        m_span->m_holders |= holder;
+        m_span->m_keepers |= keeper;
     }
 }
 
-void EditSpan::Scope::release(Holder holder)
+void EditSpan::Scope::release(Keeper keeper)
 {
     if (m_span != nullptr) {
-        m_span->release(holder);
+        m_span->release(keeper);
     }
 }
 

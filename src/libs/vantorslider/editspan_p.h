@@ -12,31 +12,23 @@ QT_END_NAMESPACE
 
 namespace Vantor {
 namespace Widgets {
-
-class RectEditFrame;
-class RGBAllEditFrame;
-class RGBEditFrame;
-class RGBOpacityEditFrame;
-class SliderEditFrame;
-class SliderEditFrameDouble;
-
 namespace Internal {
 
 // One edit by the user, from editStarted() to editFinished(). Each editor has an EditSpan; the
 // edit of a composite editor lasts as long as that of any of its rows.
 //
-// The edit is opened before the first change. It ends with the outermost Scope when no holder is
-// left. So the two signals are paired, and valueChanged() is emitted only between them.
+// The edit is opened before the first change. It ends with the outermost Scope when nothing keeps
+// it open. So the two signals are paired, and valueChanged() is emitted only between them.
 class EditSpan
 {
 public:
     // What keeps the edit of a row open between two events.
-    enum Holder : unsigned { Nobody = 0, Handle = 1, Button = 2, Entry = 4 };
+    enum Keeper : unsigned { Nobody = 0, Handle = 1, Button = 2, Entry = 4 };
 
     class Scope;
 
     template <typename Editor>
-    explicit EditSpan(Editor *editor) : m_editor(editor), m_emit(&emitSignal<Editor>)
+    explicit EditSpan(Editor *editor) : EditSpan(editor, &emitSignal<Editor>)
     {
     }
     ~EditSpan();
@@ -48,10 +40,16 @@ public:
 
     bool isOpen() const { return m_isOpen; }
     // The edit ends with the current or the next outermost Scope.
-    void release(Holder holder) { m_holders &= ~holder; }
+    void release(Keeper keeper) { m_keepers &= ~keeper; }
 
 private:
     using Emit = void (*)(QWidget *editor, bool isStart);
+
+    // What the composite editor around this one knows of the edit: nothing; it counts this row in
+    // m_openRows; its host knows, too.
+    enum class Outer : unsigned char { Unaware, Counts, IsTold };
+
+    EditSpan(QWidget *editor, Emit emit);
 
     template <typename Editor> static void emitSignal(QWidget *editor, bool isStart)
     {
@@ -59,36 +57,32 @@ private:
         Q_EMIT(isStart ? sender->editStarted() : sender->editFinished());
     }
 
-    template <typename Editor, typename... Others> static EditSpan *find(const QWidget *widget);
-
-    // Each is defined in the file of its editor's private class.
-    static EditSpan *of(const RectEditFrame &editor);
-    static EditSpan *of(const RGBAllEditFrame &editor);
-    static EditSpan *of(const RGBEditFrame &editor);
-    static EditSpan *of(const RGBOpacityEditFrame &editor);
-    static EditSpan *of(const SliderEditFrame &editor);
-    static EditSpan *of(const SliderEditFrameDouble &editor);
-
-    // Whether editStarted() was emitted, also by the composite editor around this one.
-    bool isTold() const { return m_isOpen && m_isTold && (!m_isCounted || m_isOuterTold); }
+    // Whether each host knows of this edit: that of the composite editor, too.
+    bool isTold() const { return m_isOpen && m_isTold && m_outer != Outer::Counts; }
 
     void begin();
-    void endUnlessHeld();
-    void emitEnd();
+    void endUnlessKept();
+    void emitEnd(int retryInterval);
     void leaveOuter();
 
     QWidget *const m_editor;
     const Emit m_emit;
     Scope *m_innermost = nullptr;
     std::unique_ptr<HostWindow> m_hostWindow;
-    unsigned m_holders = Nobody;
+    unsigned m_keepers = Nobody;
     unsigned char m_openRows = 0;
+    // Signals may be blocked at any time, so the host can lag behind:
+    //
+    //   m_isOpen  m_isTold
+    //   false     false     no edit
+    //   true      false     editStarted() is due: it is emitted with the next change
+    //   true      true      editStarted() was emitted
+    //   false     true      editFinished() is due, unless the next edit continues this one
     bool m_isOpen = false;
-    // editStarted() was emitted and editFinished() not yet; signals may be blocked since.
     bool m_isTold = false;
-    // Counted in m_openRows of the composite editor around this one.
-    bool m_isCounted = false;
-    bool m_isOuterTold = false;
+    Outer m_outer = Outer::Unaware;
+    // A timer looks whether the signals are still blocked.
+    bool m_isRetrying = false;
 };
 
 // The edit does not end during the lifetime of a Scope. A Scope can outlive the editor.
@@ -99,10 +93,10 @@ public:
     ~Scope();
     Q_DISABLE_COPY(Scope)
 
-    // Opens the edit unless it is open, and adds the holder. A receiver may delete the editor.
-    void begin(Holder holder = Nobody);
-    void hold(Holder holder);
-    void release(Holder holder);
+    // Opens the edit unless it is open, and adds the keeper. A receiver may delete the editor.
+    void begin(Keeper keeper = Nobody);
+    void keep(Keeper keeper);
+    void release(Keeper keeper);
     // Whether there is an editor that has not been deleted.
     explicit operator bool() const { return m_span != nullptr; }
 

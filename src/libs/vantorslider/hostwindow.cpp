@@ -8,13 +8,13 @@ namespace Widgets {
 namespace Internal {
 
 // A host may show its window in a constructor; its dynamic type changes after that.
-void HostWindow::remember()
+void HostWindow::rememberNowAndSoon()
 {
-    rememberType();
-    QTimer::singleShot(0, m_widget, [this] { rememberType(); });
+    rememberNow();
+    QTimer::singleShot(0, m_widget, [this] { rememberNow(); });
 }
 
-void HostWindow::rememberType()
+void HostWindow::rememberNow()
 {
     const QWidget &window = *m_widget->window();
     m_window = &window;

@@ -21,9 +21,9 @@ public:
     explicit HostWindow(const QWidget *widget) : m_widget(widget) { }
 
     // Called when the user enters the widget: the window is constructed then, or soon.
-    void remember();
-    // The same if the window is certainly constructed.
-    void rememberType();
+    void rememberNowAndSoon();
+    // If the window is certainly constructed.
+    void rememberNow();
     bool isBeingDestroyed() const;
 
 private:

@@ -13,7 +13,6 @@ namespace Widgets {
 class SliderEditFrame;
 
 namespace Internal {
-class EditSpan;
 class RectEditFramePrivate;
 } // namespace Internal
 
@@ -319,8 +318,6 @@ Q_SIGNALS:
     void editFinished();
 
 private:
-    friend class Internal::EditSpan;
-
     Internal::RectEditFramePrivate *d;
 };
 

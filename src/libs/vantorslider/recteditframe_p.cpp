@@ -204,11 +204,6 @@ void RectEditFramePrivate::report(const LockedField &changed, int val)
     }
 }
 
-EditSpan *EditSpan::of(const RectEditFrame &editor)
-{
-    return editor.d != nullptr ? &editor.d->m_edits : nullptr;
-}
-
 } // namespace Internal
 } // namespace Widgets
 } // namespace Vantor

@@ -62,11 +62,6 @@ void RGBAllEditFramePrivate::rgbValueChanged(int r, int g, int b)
     Q_EMIT m_pEditer->valueChanged(r, g, b, ui->frameAll->value());
 }
 
-EditSpan *EditSpan::of(const RGBAllEditFrame &editor)
-{
-    return editor.d != nullptr ? &editor.d->m_edits : nullptr;
-}
-
 } // namespace Internal
 
 RGBAllEditFrame::RGBAllEditFrame(QWidget *parent)

@@ -13,7 +13,6 @@ namespace Widgets {
 class SliderEditFrame;
 
 namespace Internal {
-class EditSpan;
 class RGBAllEditFramePrivate;
 } // namespace Internal
 
@@ -211,8 +210,6 @@ Q_SIGNALS:
     void editFinished();
 
 private:
-    friend class Internal::EditSpan;
-
     Internal::RGBAllEditFramePrivate *d;
 };
 

@@ -74,11 +74,6 @@ void RGBEditFramePrivate::blueValueChanged(int val)
     Q_EMIT m_pEditer->valueChanged(ui->frameR->value(), ui->frameG->value(), val);
 }
 
-EditSpan *EditSpan::of(const RGBEditFrame &editor)
-{
-    return editor.d != nullptr ? &editor.d->m_edits : nullptr;
-}
-
 } // namespace Internal
 
 RGBEditFrame::RGBEditFrame(QWidget *parent)

@@ -13,7 +13,6 @@ namespace Widgets {
 class SliderEditFrame;
 
 namespace Internal {
-class EditSpan;
 class RGBEditFramePrivate;
 } // namespace Internal
 
@@ -201,8 +200,6 @@ Q_SIGNALS:
     void editFinished();
 
 private:
-    friend class Internal::EditSpan;
-
     Internal::RGBEditFramePrivate *d;
 };
 

@@ -68,11 +68,6 @@ void RGBOpacityEditFramePrivate::rgbValueChanged(int r, int g, int b)
     Q_EMIT m_pEditer->valueChanged(r, g, b, ui->frameOpacity->value());
 }
 
-EditSpan *EditSpan::of(const RGBOpacityEditFrame &editor)
-{
-    return editor.d != nullptr ? &editor.d->m_edits : nullptr;
-}
-
 } // namespace Internal
 
 RGBOpacityEditFrame::RGBOpacityEditFrame(QWidget *parent)

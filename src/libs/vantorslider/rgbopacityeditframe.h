@@ -13,7 +13,6 @@ namespace Widgets {
 class SliderEditFrame;
 
 namespace Internal {
-class EditSpan;
 class RGBOpacityEditFramePrivate;
 } // namespace Internal
 
@@ -204,8 +203,6 @@ Q_SIGNALS:
     void editFinished();
 
 private:
-    friend class Internal::EditSpan;
-
     Internal::RGBOpacityEditFramePrivate *d;
 };
 

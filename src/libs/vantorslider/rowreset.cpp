@@ -1,27 +1,58 @@
 #include "rowreset_p.h"
 
+#include "childwidget_p.h"
 #include "slidereditframe.h"
 #include "slidereditframedouble.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtGui/QAccessible>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QAccessibleWidget>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QStyle>
 
 namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
+// A child of the row's label, which exists if the row has a default value.
+class RowReset : public QObject
+{
+    Q_OBJECT
+
+public:
+    RowReset(QLabel *label, std::function<void()> reset)
+        : QObject(label), m_label(label), m_reset(std::move(reset))
+    {
+        label->installEventFilter(this);
+    }
+
+    void perform() const
+    {
+        if (m_label->isEnabled()) {
+            m_reset();
+        }
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const bool isClick = watched == m_label && event->type() == QEvent::MouseButtonDblClick
+            && static_cast<const QMouseEvent *>(event)->button() == Qt::LeftButton;
+        if (isClick) {
+            perform();
+        }
+        return isClick;
+    }
+
+private:
+    QLabel *const m_label;
+    const std::function<void()> m_reset;
+};
+
 namespace {
 
-constexpr const char *resettable = "isResettable";
-
-QLabel *resettableLabel(const QObject *row)
+RowReset *resetOf(const QObject *row)
 {
-    auto *label = row->findChild<QLabel *>(QStringLiteral("labelName"));
-    return label != nullptr && label->property(resettable).toBool() ? label : nullptr;
+    return row->findChild<RowReset *>();
 }
 
 // A row with a default value. Qt's interface of a QFrame has no action except setting the focus.
@@ -41,17 +72,14 @@ public:
                                      : QAccessibleWidget::localizedActionName(name);
     }
 
-    // Sends the double click that a user makes on the label.
     void doAction(const QString &name) override
     {
-        QLabel *const label = resettableLabel(widget());
-        if (name != resetAction() || label == nullptr) {
+        const RowReset *const reset = resetOf(widget());
+        if (name == resetAction() && reset != nullptr) {
+            reset->perform();
+        } else {
             QAccessibleWidget::doAction(name);
-            return;
         }
-        QMouseEvent click(QEvent::MouseButtonDblClick, QPointF(), QPointF(), Qt::LeftButton,
-                          Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(label, &click);
     }
 
 private:
@@ -62,9 +90,8 @@ QAccessibleInterface *createInterface(const QString &className, QObject *object)
 {
     const bool isRow = className == QLatin1String(SliderEditFrame::staticMetaObject.className())
         || className == QLatin1String(SliderEditFrameDouble::staticMetaObject.className());
-    return isRow && resettableLabel(object) != nullptr
-        ? new ResettableRow(static_cast<QWidget *>(object))
-        : nullptr;
+    return isRow && resetOf(object) != nullptr ? new ResettableRow(static_cast<QWidget *>(object))
+                                               : nullptr;
 }
 
 // Removed again, because a host may unload the library.
@@ -77,20 +104,15 @@ struct AccessibleFactory
 
 } // namespace
 
-void makeResettable(QLabel *label, QWidget *row)
+void makeResettable(QLabel *label, QWidget *row, const std::function<void()> &reset)
 {
-    if (label->property(resettable).toBool()) {
-        return;
-    }
-    label->setProperty(resettable, true);
+    new RowReset(label, reset);
+    label->setProperty("isResettable", true);
     label->setCursor(Qt::PointingHandCursor);
     if (label->toolTip().isEmpty()) {
         label->setToolTip(SliderEditFrame::tr("Double-click to reset"));
     }
-    // A style sheet applies a changed property only after a polish.
-    label->style()->unpolish(label);
-    label->style()->polish(label);
-    label->installEventFilter(row);
+    applyStyleSheet(label);
 
     static const AccessibleFactory factory;
     // An interface that Qt created earlier for the row does not have the action.
@@ -104,12 +126,8 @@ QEvent::Type rowResetEvent()
     return type;
 }
 
-bool isResetClick(const QLabel *label, const QObject *watched, const QEvent *event)
-{
-    return watched == label && event->type() == QEvent::MouseButtonDblClick && label->isEnabled()
-        && static_cast<const QMouseEvent *>(event)->button() == Qt::LeftButton;
-}
-
 } // namespace Internal
 } // namespace Widgets
 } // namespace Vantor
+
+#include "rowreset.moc"

@@ -2,9 +2,10 @@
 
 #include <QtCore/QEvent>
 
+#include <functional>
+
 QT_BEGIN_NAMESPACE
 class QLabel;
-class QObject;
 class QWidget;
 QT_END_NAMESPACE
 
@@ -15,13 +16,11 @@ namespace Internal {
 // The user resets a row to its default value by a double click or double tap on its label, or by
 // the action "Reset" of a screen reader.
 
-// Sets up the label and the action, and installs the row as event filter of the label.
-void makeResettable(QLabel *label, QWidget *row);
+// Sets up the label and the action of the row, once.
+void makeResettable(QLabel *label, QWidget *row, const std::function<void()> &reset);
 
 // The program has reset the row that receives this event.
 QEvent::Type rowResetEvent();
-
-bool isResetClick(const QLabel *label, const QObject *watched, const QEvent *event);
 
 } // namespace Internal
 } // namespace Widgets

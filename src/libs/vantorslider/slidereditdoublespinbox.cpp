@@ -188,7 +188,7 @@ void SliderEditDoubleSpinBox::focusInEvent(QFocusEvent *event)
         return;
     }
     if (m_pLineEditCal != nullptr) {
-        m_pLineEditCal->hostWindow().remember();
+        m_pLineEditCal->hostWindow().rememberNowAndSoon();
     }
     QDoubleSpinBox::focusInEvent(event);
 }

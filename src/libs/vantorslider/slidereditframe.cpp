@@ -32,7 +32,8 @@ public:
     static int rounded(double val) { return saturatedInt(std::round(val)); }
     int sliderStep() const { return spinBox()->singleStep(); }
     bool isLastValue(int val) const { return val == lastValue(); }
-    bool isNewAtRelease(int position) const { return !isLastValue(valueAt(position)); }
+    bool isNewAtRelease(int position) const { return !isLastValue(scale().valueAt(position)); }
+    std::optional<int> stepped(int direction) const;
     static constexpr bool spinBoxFollowsInReleaseMode = false;
     void showInSpinBox(int val);
     void handToCalculator(int val);
@@ -41,10 +42,10 @@ private Q_SLOTS:
     // All thirteen slots are part of the interface.
     void slotSpinBoxEditingFinished();
     void slotSpinBoxEnterFinished();
-    void slotButtonSubtractClicked();
+    void slotButtonSubtractClicked() { step(-1); }
     void slotButtonSubtractPressed() { buttonPressed(); }
     void slotButtonSubtractReleased() { buttonReleased(); }
-    void slotButtonPlusClicked();
+    void slotButtonPlusClicked() { step(1); }
     void slotButtonPlusPressed() { buttonPressed(); }
     void slotButtonPlusReleased() { buttonReleased(); }
     void slotSpinBoxValueChanged(int val) { spinBoxValueChanged(val); }
@@ -103,27 +104,11 @@ void SliderEditPrivate::slotSpinBoxEnterFinished()
     }
 }
 
-void SliderEditPrivate::slotButtonSubtractClicked()
+std::optional<int> SliderEditPrivate::stepped(int direction) const
 {
-    const EditSpan::Scope edit(edits());
-    const qint64 next = qint64(spinValue()) - spinBox()->singleStep();
-    if (next >= spinBox()->minimum()) {
-        report(saturatedInt(next));
-    }
-}
-
-void SliderEditPrivate::slotButtonPlusClicked()
-{
-    const EditSpan::Scope edit(edits());
-    const qint64 next = qint64(spinValue()) + spinBox()->singleStep();
-    if (next <= spinBox()->maximum()) {
-        report(saturatedInt(next));
-    }
-}
-
-EditSpan *EditSpan::of(const SliderEditFrame &editor)
-{
-    return editor.d != nullptr ? editor.d->edits() : nullptr;
+    const qint64 next = spinValue() + qint64(direction) * spinBox()->singleStep();
+    const bool isInRange = next >= spinBox()->minimum() && next <= spinBox()->maximum();
+    return isInRange ? std::optional<int>(static_cast<int>(next)) : std::nullopt;
 }
 
 } // namespace Internal
@@ -266,7 +251,7 @@ void SliderEditFrame::setRange(int min, int max)
 {
     const QSignalBlocker blocker(d->spinBox());
     d->spinBox()->setRange(min, max);
-    d->setScale(min, max);
+    d->scale().setEnds(min, max);
 }
 
 void SliderEditFrame::setMinimum(int min)
@@ -315,18 +300,18 @@ void SliderEditFrame::resetValue()
 
 void SliderEditFrame::setSliderScale(SliderScale scale)
 {
-    d->setLogarithmic(scale == LogarithmicScale);
+    d->scale().setLogarithmic(scale == LogarithmicScale);
 }
 
 SliderEditFrame::SliderScale SliderEditFrame::sliderScale() const
 {
-    return d->isLogarithmic() ? LogarithmicScale : LinearScale;
+    return d->scale().isLogarithmic() ? LogarithmicScale : LinearScale;
 }
 
 void SliderEditFrame::setSingleStep(int val)
 {
     d->spinBox()->setSingleStep(val);
-    if (!d->isLogarithmic()) {
+    if (!d->scale().isLogarithmic()) {
         d->slider()->setSingleStep(val);
     }
 }
@@ -379,7 +364,7 @@ bool SliderEditFrame::isReleaseMode() const
 
 void SliderEditFrame::setTimeSamplingRate(int val)
 {
-    d->setTimeSampling(val);
+    d->sampling().setRate(val);
     setReleaseMode(false);
 }
 
@@ -392,7 +377,7 @@ void SliderEditFrame::writeTimeSamplingRate(int val)
 
 int SliderEditFrame::timeSamplingRate() const
 {
-    return d->timeSamplingRate();
+    return d->sampling().rate();
 }
 
 void SliderEditFrame::setValueChangeDirection(int directions, int val)
@@ -407,13 +392,7 @@ bool SliderEditFrame::isMousePressed() const
 
 bool SliderEditFrame::eventFilter(QObject *watched, QEvent *event)
 {
-    if (d->isResetClick(watched, event)) {
-        d->resetByUser();
-        return true;
-    }
-    if (watched == d->spinBox()) {
-        d->row().fieldReceives(this, event);
-    }
+    d->filter(watched, event);
     return QFrame::eventFilter(watched, event);
 }
 

@@ -9,7 +9,6 @@ namespace Vantor {
 namespace Widgets {
 
 namespace Internal {
-class EditSpan;
 class SliderEditPrivate;
 } // namespace Internal
 
@@ -360,8 +359,6 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
-    friend class Internal::EditSpan;
-
     // 0 leaves sampling off, so that all properties of a row can be copied to another one.
     void writeTimeSamplingRate(int val);
 

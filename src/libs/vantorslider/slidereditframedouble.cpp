@@ -40,27 +40,13 @@ void SliderEditDoublePrivate::handToCalculator(double val)
                              hasSuffix);
 }
 
-void SliderEditDoublePrivate::slotButtonSubtractClicked()
+// Only the upper end has a tolerance.
+std::optional<double> SliderEditDoublePrivate::stepped(int direction) const
 {
-    const EditSpan::Scope edit(edits());
-    const double next = spinValue() - spinBox()->singleStep();
-    if (next >= spinBox()->minimum()) {
-        report(next);
-    }
-}
-
-void SliderEditDoublePrivate::slotButtonPlusClicked()
-{
-    const EditSpan::Scope edit(edits());
-    const double next = spinValue() + spinBox()->singleStep();
-    if (next <= spinBox()->maximum() + minPrecision) {
-        report(next);
-    }
-}
-
-EditSpan *EditSpan::of(const SliderEditFrameDouble &editor)
-{
-    return editor.d != nullptr ? editor.d->edits() : nullptr;
+    const double next = spinValue() + direction * spinBox()->singleStep();
+    const bool isInRange =
+        next >= spinBox()->minimum() && next <= spinBox()->maximum() + minPrecision;
+    return isInRange ? std::optional<double>(next) : std::nullopt;
 }
 
 } // namespace Internal
@@ -221,7 +207,7 @@ void SliderEditFrameDouble::setMinimum(double min)
     setDecimals(d->precision());
     // Without decimals the slider already has the rounded bound of the spin box.
     if (decimals() != 0) {
-        d->setScale(d->toPosition(min), d->slider()->maximum());
+        d->scale().setEnds(d->toPosition(min), d->slider()->maximum());
     }
 }
 
@@ -241,7 +227,7 @@ void SliderEditFrameDouble::setMaximum(double max)
     setDecimals(d->precision());
     if (decimals() != 0) {
         const int highest = d->toPosition(max);
-        d->setScale(qMin(d->slider()->minimum(), highest), highest);
+        d->scale().setEnds(qMin(d->slider()->minimum(), highest), highest);
     }
 }
 
@@ -287,8 +273,8 @@ void SliderEditFrameDouble::setDecimals(int prec)
     const int highest = d->toPosition(maximum());
     d->spinBox()->setRange(d->toValue(lowest), d->toValue(highest));
 
-    d->setScale(lowest, highest);
-    if (d->singleStep() > Internal::minPrecision && !d->isLogarithmic()) {
+    d->scale().setEnds(lowest, highest);
+    if (d->singleStep() > Internal::minPrecision && !d->scale().isLogarithmic()) {
         const QSignalBlocker sliderBlocker(d->slider());
         d->slider()->setSingleStep(d->toPosition(d->singleStep()));
     }
@@ -301,12 +287,12 @@ int SliderEditFrameDouble::decimals() const
 
 void SliderEditFrameDouble::setSliderScale(SliderScale scale)
 {
-    d->setLogarithmic(scale == LogarithmicScale);
+    d->scale().setLogarithmic(scale == LogarithmicScale);
 }
 
 SliderEditFrameDouble::SliderScale SliderEditFrameDouble::sliderScale() const
 {
-    return d->isLogarithmic() ? LogarithmicScale : LinearScale;
+    return d->scale().isLogarithmic() ? LogarithmicScale : LinearScale;
 }
 
 void SliderEditFrameDouble::setSingleStep(double val)
@@ -366,7 +352,7 @@ bool SliderEditFrameDouble::isReleaseMode() const
 
 void SliderEditFrameDouble::setTimeSamplingRate(int val)
 {
-    d->setTimeSampling(val);
+    d->sampling().setRate(val);
     setReleaseMode(false);
 }
 
@@ -379,7 +365,7 @@ void SliderEditFrameDouble::writeTimeSamplingRate(int val)
 
 int SliderEditFrameDouble::timeSamplingRate() const
 {
-    return d->timeSamplingRate();
+    return d->sampling().rate();
 }
 
 void SliderEditFrameDouble::setValueChangeDirection(int directions, int val)
@@ -394,13 +380,7 @@ bool SliderEditFrameDouble::isMousePressed() const
 
 bool SliderEditFrameDouble::eventFilter(QObject *watched, QEvent *event)
 {
-    if (d->isResetClick(watched, event)) {
-        d->resetByUser();
-        return true;
-    }
-    if (watched == d->spinBox()) {
-        d->row().fieldReceives(this, event);
-    }
+    d->filter(watched, event);
     return QFrame::eventFilter(watched, event);
 }
 

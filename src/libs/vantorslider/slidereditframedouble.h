@@ -9,7 +9,6 @@ namespace Vantor {
 namespace Widgets {
 
 namespace Internal {
-class EditSpan;
 class SliderEditDoublePrivate;
 } // namespace Internal
 
@@ -327,8 +326,6 @@ private:
 
     /*! Returns the power of ten that makes \a num whole, from 10 to 1 000 000 000. */
     int getMagnification(float num);
-
-    friend class Internal::EditSpan;
 
     // 0 leaves sampling off, so that all properties of a row can be copied to another one.
     void writeTimeSamplingRate(int val);

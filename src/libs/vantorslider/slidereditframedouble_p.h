@@ -36,8 +36,10 @@ public:
     bool isNewAtRelease(int pos) const
     {
         return isReleaseMode()
-            && (isLogarithmic() ? !isLastValue(lastPressedValue()) : pos != lastPressedPosition());
+            && (scale().isLogarithmic() ? !isLastValue(scale().pressedValue())
+                                        : pos != scale().pressedPosition());
     }
+    std::optional<double> stepped(int direction) const;
     void showInSpinBox(double val);
     void handToCalculator(double val);
 
@@ -52,10 +54,10 @@ private Q_SLOTS:
     // All thirteen slots are part of the interface.
     void slotSpinBoxEditingFinished() { editingFinished(); }
     void slotSpinBoxEnterFinished() { enterFinished(); }
-    void slotButtonSubtractClicked();
+    void slotButtonSubtractClicked() { step(-1); }
     void slotButtonSubtractPressed() { buttonPressed(); }
     void slotButtonSubtractReleased() { buttonReleased(); }
-    void slotButtonPlusClicked();
+    void slotButtonPlusClicked() { step(1); }
     void slotButtonPlusPressed() { buttonPressed(); }
     void slotButtonPlusReleased() { buttonReleased(); }
     void slotSpinBoxValueChanged(double val) { spinBoxValueChanged(val); }

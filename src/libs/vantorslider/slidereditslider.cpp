@@ -44,7 +44,7 @@ void SliderEditSlider::mousePressEvent(QMouseEvent *event)
     if (m_hostWindow == nullptr) {
         m_hostWindow = std::make_unique<Internal::HostWindow>(this);
     }
-    m_hostWindow->remember();
+    m_hostWindow->rememberNowAndSoon();
     Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     QSlider::mousePressEvent(event);
     if (!edit || repeatAction() == SliderNoAction) {
@@ -53,7 +53,7 @@ void SliderEditSlider::mousePressEvent(QMouseEvent *event)
     // A pressed groove repeats its page step. QSlider starts that after the first step, even
     // if a receiver of that step has hidden or disabled the slider.
     if (!m_isPointerTaken) {
-        edit.hold(Internal::EditSpan::Handle);
+        edit.keep(Internal::EditSpan::Handle);
     } else {
         setRepeatAction(SliderNoAction);
     }

@@ -130,7 +130,7 @@ void SliderEditSpinBox::keyPressEvent(QKeyEvent *event)
 void SliderEditSpinBox::focusInEvent(QFocusEvent *event)
 {
     if (m_pLineEditCal != nullptr) {
-        m_pLineEditCal->hostWindow().remember();
+        m_pLineEditCal->hostWindow().rememberNowAndSoon();
     }
     QSpinBox::focusInEvent(event);
 }

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "editspan_p.h"
-#include "logscale_p.h"
 #include "rowreset_p.h"
+#include "rowscale_p.h"
+#include "sampling_p.h"
 #include "slidereditframe_p.h"
 #include "sliderrow_p.h"
 
-#include <QtCore/QDebug>
 #include <QtCore/QPointer>
-#include <QtCore/QSignalBlocker>
 #include <QtWidgets/QAbstractButton>
 
 #include <algorithm>
@@ -35,7 +34,7 @@ public:
     void createWidgets()
     {
         ui->setupUi(m_pSliderEditer);
-        row().prepare(m_pSliderEditer);
+        row().prepare();
     }
 
     // The order matters: slots of the same sender run in order of connection.
@@ -60,63 +59,59 @@ public:
         connectTo(minus, &QAbstractButton::released, &Engine::slotButtonSubtractReleased);
     }
 
-    SliderRow row() const { return {*ui, engine().spinBox()}; }
+    SliderRow row() const { return {*ui, engine().spinBox(), m_pSliderEditer}; }
+
+    // The frame filters the events of its spin box.
+    void filter(const QObject *watched, const QEvent *event) const
+    {
+        if (watched == engine().spinBox()) {
+            row().fieldReceives(event);
+        }
+    }
 
     // Shows a value on both children and passes it to the calculator. Emits nothing.
     void apply(Value val)
     {
         m_nLastValue = val;
         engine().showInSpinBox(val);
-        {
-            const QSignalBlocker blocker(ui->slider);
-            ui->slider->setValue(handlePosition(val));
-        }
+        m_scale.show(val);
         engine().handToCalculator(val);
     }
 
-    // The tick of the sampling timer; the frame may have others. A receiver may run a local event
-    // loop, in which the timer continues.
+    // A tick of one of the frame's timers.
     void sample(int timer)
     {
-        if (timer != m_nSamplingTimer || m_isSampleInDelivery
-            || spinPosition() == m_nLastTimerValue) {
+        if (!m_sampling.isDue(timer, m_scale.spinPosition())) {
             return;
         }
         const QPointer<SliderEngine> self(this);
-        m_isSampleInDelivery = true;
-        m_isMovedInDelivery = false;
+        m_sampling.beginTick();
         emitValueChanged(spinValue());
         if (self) {
-            m_isSampleInDelivery = false;
-            if (!m_isMovedInDelivery) {
-                m_nLastTimerValue = spinPosition();
-            }
+            m_sampling.endTick(m_scale.spinPosition());
         }
     }
 
     // How a drag is reported. The buttons' auto-repeat does not change.
     void setReleaseMode(bool isOn) { m_isReleaseMode = isOn; }
-    void setTimeSampling(int milliseconds)
-    {
-        m_nTimeSamplingRate = milliseconds;
-        m_isTimeSampling = true;
-    }
     bool isReleaseMode() const { return m_isReleaseMode; }
-    int timeSamplingRate() const { return m_isTimeSampling ? m_nTimeSamplingRate : 0; }
+    Sampling &sampling() { return m_sampling; }
 
     // The side of the reference on which reported values stay.
     void setDirection(int directions, Value reference)
     {
         m_valueChangeDirection = directions;
-        m_readValue = reference;
+        m_reference = reference;
     }
 
     bool hasDefaultValue() const { return m_defaultValue.has_value(); }
     Value defaultValue() const { return m_defaultValue.value_or(0); }
     void setDefaultValue(Value val)
     {
+        if (!hasDefaultValue()) {
+            makeResettable(ui->labelName, m_pSliderEditer, [this] { resetByUser(); });
+        }
         m_defaultValue = val;
-        makeResettable(ui->labelName, m_pSliderEditer);
     }
 
     // Emits nothing, like the host's other setters.
@@ -127,80 +122,21 @@ public:
         }
     }
 
-    // A value that is already shown is not reported again.
-    void resetByUser()
-    {
-        if (hasDefaultValue() && !engine().isLastValue(shownDefault())) {
-            report(shownDefault());
-        }
-    }
+    RowScale<SliderEngine, Value> &scale() { return m_scale; }
+    const RowScale<SliderEngine, Value> &scale() const { return m_scale; }
 
-    bool isResetClick(const QObject *watched, const QEvent *event) const
-    {
-        return Internal::isResetClick(ui->labelName, watched, event);
-    }
-
-    bool isLogarithmic() const { return m_isLogarithmic; }
-
-    void setLogarithmic(bool isOn)
-    {
-        if (isOn == m_isLogarithmic || (isOn && !isAboveZero())) {
-            return;
-        }
-        m_isLogarithmic = isOn;
-        setScale(engine().toPosition(least()), engine().toPosition(greatest()));
-        if (!isOn) {
-            leaveLogarithm();
-        }
-    }
-
-    // The ends of a linear scale. A logarithmic one becomes linear if the minimum is 0 or less.
-    void setScale(int lowest, int highest)
-    {
-        const QSignalBlocker blocker(ui->slider);
-        if (m_isLogarithmic && isAboveZero()) {
-            ui->slider->setRange(0, least() < greatest() ? lastLogPosition : 0);
-            ui->slider->setSingleStep(1);
-            ui->slider->setValue(spinPosition());
-            return;
-        }
-        ui->slider->setScale(lowest, highest);
-        if (m_isLogarithmic) {
-            leaveLogarithm();
-        }
-    }
-
+    const Engine &engine() const { return static_cast<const Engine &>(*this); }
     SliderEditSlider *slider() const { return ui->slider; }
-    EditSpan *edits() { return &m_edits; }
+    Value lastValue() const { return m_nLastValue; }
 
 protected:
     static constexpr int typedDecimals = 2; // of a typed number, also in an int row
     Form *form() const { return ui.get(); }
-    Value lastValue() const { return m_nLastValue; }
-    int lastPressedPosition() const { return m_nLastPressedValue; }
-    Value lastPressedValue() const { return m_valueAtPress; }
-
-    // The value at a position. On a logarithmic scale several values share a position: the last
-    // value keeps its position, and the pressed position returns the value at the press.
-    Value valueAt(int position) const
-    {
-        if (!m_isLogarithmic) {
-            return engine().toValue(position);
-        }
-        if (position == positionOf(m_nLastValue)) {
-            return m_nLastValue;
-        }
-        if (position == m_nLastPressedValue && ui->slider->isSliderDown()) {
-            return m_valueAtPress;
-        }
-        return logValueAt(position);
-    }
     Value spinValue() const { return engine().spinBox()->value(); }
 
     // The direction filter: without AllowedToBigger only smaller values are allowed, whatever the
-    // other flags are. A value that a tick reports is not reported again if a receiver ends the
-    // drag. The report ends a pending entry. The receiver may delete the frame: neither this
-    // function nor a caller for which it is the last call uses the frame after the signal.
+    // other flags are. The report ends a pending entry. The receiver may delete the frame: neither
+    // this function nor a caller for which it is the last call uses the frame after the signal.
     void emitValueChanged(Value val)
     {
         EditSpan::Scope edit(&m_edits);
@@ -209,12 +145,12 @@ protected:
             return;
         }
         if ((m_valueChangeDirection & Editor::AllowedToAny) != Editor::AllowedToAny) {
-            const bool isHeldAbove = (m_valueChangeDirection & Editor::AllowedToBigger) != 0;
-            val = isHeldAbove ? qMax(val, m_readValue) : qMin(val, m_readValue);
+            const bool isLowerBound = (m_valueChangeDirection & Editor::AllowedToBigger) != 0;
+            val = isLowerBound ? qMax(val, m_reference) : qMin(val, m_reference);
             apply(val);
         }
-        if (m_isSampleInDelivery) {
-            m_nLastTimerValue = spinPosition();
+        if (m_sampling.isInTick()) {
+            m_sampling.setLast(m_scale.spinPosition());
         }
         edit.release(EditSpan::Entry);
         Q_EMIT m_pSliderEditer->valueChanged(val);
@@ -266,6 +202,15 @@ protected:
     // clicked() follows.
     void buttonReleased() { m_edits.release(EditSpan::Button); }
 
+    // One step of a button, unless it would pass the range.
+    void step(int direction)
+    {
+        const EditSpan::Scope edit(&m_edits);
+        if (const std::optional<Value> next = engine().stepped(direction)) {
+            report(*next);
+        }
+    }
+
     void spinBoxValueChanged(Value val)
     {
         if (engine().isLastValue(val)) {
@@ -285,16 +230,15 @@ protected:
         if (!edit) {
             return;
         }
-        if (m_isTimeSampling) {
-            startSamplingTimer();
+        if (m_sampling.isOn()) {
+            m_sampling.start(m_scale.spinPosition());
         }
-        m_nLastPressedValue = ui->slider->value();
-        m_valueAtPress = m_nLastValue;
+        m_scale.press();
     }
 
     void sliderMoved(int position)
     {
-        const Value val = valueAt(position);
+        const Value val = m_scale.valueAt(position);
         if (engine().isLastValue(val)
             || (m_isReleaseMode && !Engine::spinBoxFollowsInReleaseMode)) {
             return;
@@ -308,24 +252,21 @@ protected:
         if (m_isReleaseMode) {
             return;
         }
-        if (!m_isTimeSampling) {
+        if (m_sampling.isOn()) {
+            m_sampling.move(position);
+        } else {
             emitValueChanged(spinValue());
-        } else if (position != m_nLastTimerValue) {
-            m_isTimeSamplingValueChanged = true;
-            m_isMovedInDelivery = true;
         }
     }
 
     // After a release in release mode, a page step or a key. No mode delays the report.
     void sliderValueChanged(int position)
     {
-        const Value val = valueAt(position);
+        const Value val = m_scale.valueAt(position);
         if (engine().isLastValue(val)) {
             return;
         }
-        if (position != m_nLastTimerValue) {
-            m_isTimeSamplingValueChanged = true;
-        }
+        m_sampling.move(position);
         report(val);
     }
 
@@ -335,25 +276,25 @@ protected:
         EditSpan::Scope edit(&m_edits);
         edit.release(EditSpan::Handle);
         const int position = ui->slider->value();
-        if (!m_isTimeSampling) {
+        const Value val = m_scale.valueAt(position);
+        if (!m_sampling.isOn()) {
             if (engine().isNewAtRelease(position)) {
-                report(valueAt(position));
+                report(val);
             }
             return;
         }
-        stopSamplingTimer();
-        if (positionOf(valueAt(position)) == m_nLastTimerValue) {
+        m_sampling.stop();
+        if (m_sampling.isLast(m_scale.positionOf(val))) {
             return;
         }
-        apply(valueAt(position));
-        if (m_isTimeSamplingValueChanged) {
+        apply(val);
+        if (m_sampling.isMoved()) {
             emitValueChanged(spinValue());
         }
     }
 
 private:
     Engine &engine() { return static_cast<Engine &>(*this); }
-    const Engine &engine() const { return static_cast<const Engine &>(*this); }
 
     template <typename Sender, typename Signal, typename Slot>
     void connectTo(const Sender *sender, Signal signal, Slot slot)
@@ -361,88 +302,31 @@ private:
         QObject::connect(sender, signal, &engine(), slot);
     }
 
+    // A value that is already shown is not reported again.
+    void resetByUser()
+    {
+        if (!engine().isLastValue(shownDefault())) {
+            report(shownDefault());
+        }
+    }
+
     // Clamped and rounded like the spin box's value.
     Value shownDefault() const
     {
-        return engine().rounded(std::clamp(*m_defaultValue, least(), greatest()));
-    }
-
-    Value least() const { return engine().spinBox()->minimum(); }
-    Value greatest() const { return engine().spinBox()->maximum(); }
-    int positionOf(Value val) const
-    {
-        return m_isLogarithmic ? logPosition(val, least(), greatest()) : engine().toPosition(val);
-    }
-    int spinPosition() const { return positionOf(spinValue()); }
-    Value logValueAt(int position) const
-    {
-        return engine().rounded(logValue(position, least(), greatest()));
-    }
-
-    // Several positions of a logarithmic scale can have the same value, too: a held handle
-    // stays under the pointer.
-    int handlePosition(Value val) const
-    {
-        const int held = ui->slider->sliderPosition();
-        return m_isLogarithmic && ui->slider->isSliderDown() && logValueAt(held) == val
-            ? held
-            : positionOf(val);
-    }
-
-    bool isAboveZero() const
-    {
-        if (least() <= 0) {
-            qWarning() << "Set SliderEdit slider scale has failed. The minimum " << least()
-                       << " is invalid.";
-        }
-        return least() > 0;
-    }
-
-    void leaveLogarithm()
-    {
-        m_isLogarithmic = false;
-        const QSignalBlocker blocker(ui->slider);
-        ui->slider->setSingleStep(engine().sliderStep());
-        ui->slider->setValue(spinPosition());
-    }
-
-    void startSamplingTimer()
-    {
-        stopSamplingTimer();
-        m_isTimeSamplingValueChanged = false;
-        m_nLastTimerValue = spinPosition();
-        m_nSamplingTimer = m_pSliderEditer->startTimer(m_nTimeSamplingRate);
-    }
-
-    void stopSamplingTimer()
-    {
-        if (m_nSamplingTimer != -1) {
-            m_pSliderEditer->killTimer(m_nSamplingTimer);
-        }
-        m_nSamplingTimer = -1;
+        return engine().rounded(std::clamp(*m_defaultValue, m_scale.least(), m_scale.greatest()));
     }
 
     Editor *m_pSliderEditer;
     const std::unique_ptr<Form> ui;
     EditSpan m_edits {m_pSliderEditer};
+    RowScale<SliderEngine, Value> m_scale {*this};
+    Sampling m_sampling {m_pSliderEditer};
     // The last value that was applied or accepted; a child's report of it is ignored.
     Value m_nLastValue = 0;
-    // Slider positions: at the last press, and at the start of sampling or the last tick.
-    int m_nLastPressedValue = -1;
-    int m_nLastTimerValue = -1;
-    Value m_valueAtPress = 0;
-    bool m_isLogarithmic = false;
     bool m_isReleaseMode = false;
-    bool m_isTimeSampling = false;
-    bool m_isTimeSamplingValueChanged = false;
-    int m_nTimeSamplingRate = 100;
-    int m_nSamplingTimer = -1;
-    Value m_readValue = 0;
+    Value m_reference = 0;
     int m_valueChangeDirection = Editor::AllowedToAny;
     std::optional<Value> m_defaultValue;
-    bool m_isSampleInDelivery = false;
-    // The user moved the handle meanwhile, so the next tick reports.
-    bool m_isMovedInDelivery = false;
 };
 
 } // namespace Internal

@@ -50,7 +50,7 @@ QString spoken(const QLabel *label)
 
 } // namespace
 
-void SliderRow::prepare(QWidget *frame) const
+void SliderRow::prepare() const
 {
     // Enter in the spin box gives the focus to the frame.
     frame->setFocusPolicy(Qt::StrongFocus);
@@ -75,7 +75,7 @@ void SliderRow::setLabelText(const QString &text) const
 {
     label->setText(text);
     const QString name = spoken(label);
-    spinBox->parentWidget()->setAccessibleName(name);
+    frame->setAccessibleName(name);
     slider->setAccessibleName(name);
     spinBox->setAccessibleName(name);
     minus->setAccessibleName(name + QStringLiteral(" \u2212"));
@@ -103,7 +103,7 @@ void SliderRow::setFieldFocus() const
 }
 
 // The selection is queued, because the spin box moves the cursor when it handles the event.
-void SliderRow::fieldReceives(QWidget *frame, const QEvent *event) const
+void SliderRow::fieldReceives(const QEvent *event) const
 {
     if (event->type() == QEvent::LayoutDirectionChange) {
         mirrorGaps({nameLayout, sliderLayout, spinBoxLayout});

@@ -27,16 +27,16 @@ namespace Internal {
 struct SliderRow
 {
     template <typename Form>
-    SliderRow(const Form &form, QAbstractSpinBox *field)
-        : nameLayout(form.nameLayout), label(form.labelName), sliderLayout(form.sliderLayout),
-          slider(form.slider), spinBoxLayout(form.spinBoxLayout), spinBox(field),
-          minus(form.sliderEditSubtract), plus(form.sliderEditPlus),
+    SliderRow(const Form &form, QAbstractSpinBox *field, QWidget *editor)
+        : frame(editor), nameLayout(form.nameLayout), label(form.labelName),
+          sliderLayout(form.sliderLayout), slider(form.slider), spinBoxLayout(form.spinBoxLayout),
+          spinBox(field), minus(form.sliderEditSubtract), plus(form.sliderEditPlus),
           lastSpacer(form.lastHorizontalSpacer)
     {
     }
 
     // Called once after setupUi(): sets focus policies, style properties and the event filter.
-    void prepare(QWidget *frame) const;
+    void prepare() const;
 
     void setHorizontalSpacing(int labelToSlider, int sliderToRest) const;
     void setLabelText(const QString &text) const;
@@ -52,10 +52,11 @@ struct SliderRow
         std::invoke(operation, minus, arguments...);
     }
 
-    // Called by the frame's event filter. A click or Tab into the spin box selects its text. Its
+    // A click or Tab into the spin box selects its text. Its
     // direction is that of the layout.
-    void fieldReceives(QWidget *frame, const QEvent *event) const;
+    void fieldReceives(const QEvent *event) const;
 
+    QWidget *frame;
     QVBoxLayout *nameLayout;
     QLabel *label;
     QVBoxLayout *sliderLayout;
