@@ -176,6 +176,15 @@ void tst_SliderEditFrame::sequences_data()
                 + "singleStep 7 | pageStep 100 | value 100 | groove after: 316 | right: 320 | "
                   "groove before: 101 | plus: 108 | minus: 101 | scale linear | "
                   "ranges: 1..100000 | handle: 101 | groove after: 201 | right: 208");
+    const QString decades = "width 3000 | range 1 1000000 | scale logarithmic | ";
+    addBoth("logarithmic: from beside an end to the end",
+            decades
+                + "value 996000 | handle: 999 | hold | drop | end: 1000000 | value 996000 | "
+                  "right: 1000000 | value 996000 | hold 1000: 1000000 | drop | shown: 1000000");
+    addDouble("logarithmic: from beside the minimum to the minimum",
+              decades + "decimals 5 | value 1.004 | handle: 1 | hold | drop | home: 1 | shown: 1");
+    addBoth("logarithmic: the program sets the value between two keys",
+            scale + "value 1 | hold | drop | right | value 1 | right | value 1 | handle: 2");
     // Below 1.5 all positions are 1.
     addBoth("logarithmic: many positions of one value",
             scale
@@ -225,6 +234,9 @@ void tst_SliderEditFrame::sequences_data()
     for (const QString end : {"drop", "focus", "hideSlider", "disable", "leave"})
         addBoth("pressed until " + end,
                 "pressed: no | hold | pressed: yes | " + end + " | pressed: no");
+    addBoth("either bound",
+            "minimum 20 | bounds: 20..100 | ranges: 20..100 | maximum 90 | "
+            "bounds: 20..90 | ranges: 20..90");
     addInt("minus at the minimum",
            "singleStep 5 | value 5 | minus: 0 | value 3 | minus | shown: 3");
     addInt("plus at the maximum",
@@ -235,6 +247,10 @@ void tst_SliderEditFrame::sequences_data()
 
     addDouble("10 to the power of 12 is no int",
               "decimals 12 | range 0 100 | value 100 | shown: 100/2147483647");
+    addDouble(
+        "nine decimals, exact",
+        "options exact | decimals 9 | range 0 100 | value 10 | enter 0.100000001: 10.0000001 | "
+        "enter 0.100000002: 10.0000002");
     addDouble("NaN changes nothing",
               "value nan | range 0 nan | minimum nan | maximum nan | singleStep nan | "
               "bounds: 0..100 | plus: 11 | shown: 11");

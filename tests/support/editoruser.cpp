@@ -4,7 +4,9 @@
 #include "rgbeditframe.h"
 #include "rgbopacityeditframe.h"
 
+#include <QtCore/QMetaEnum>
 #include <QtCore/QTimer>
+#include <QtGui/QAccessible>
 #include <QtGui/QClipboard>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QMenu>
@@ -86,8 +88,11 @@ static bool isHandleAt(const EditorRow &row, double value)
     if (row.frame->property("sliderScale").toInt() == SliderEditFrame::LinearScale)
         return position == shown;
     const double least = row.frame->property("minimum").toDouble();
-    const double factor = row.frame->property("maximum").toDouble() / least;
-    return position == std::round(1000 * std::log(value / least) / std::log(factor))
+    const double greatest = row.frame->property("maximum").toDouble();
+    const double factor = greatest / least;
+    const double between = std::round(1000 * std::log(value / least) / std::log(factor));
+    const double end = value == least ? 0 : 1000;
+    return position == (value == least || value == greatest ? end : qBound(1.0, between, 999.0))
         || shown == std::round(least * std::pow(factor, position / 1000.0) * scaleOf(row));
 }
 
@@ -151,7 +156,6 @@ void EditorUser::addGestures()
                                 step.row.spinBox->mapToGlobal(center));
         QApplication::sendEvent(step.row.spinBox, &event);
     });
-    on("escape", [](const Step &) { User::press(Qt::Key_Escape); });
     on("pageMenu", [this](const Step &) {
         QMenu menu(&page);
         menu.addAction("Save");
@@ -161,9 +165,10 @@ void EditorUser::addGestures()
         });
         menu.exec();
     });
-    on("up", [](const Step &) { User::press(Qt::Key_Up); });
-    on("down", [](const Step &) { User::press(Qt::Key_Down); });
-    on("right", [](const Step &) { User::press(Qt::Key_Right); });
+    for (const QByteArray key : {"Up", "Down", "Right", "Home", "End", "Escape"}) {
+        const int code = QMetaEnum::fromType<Qt::Key>().keyToValue("Key_" + key);
+        on(key.toLower(), [code](const Step &) { User::press(Qt::Key(code)); });
+    }
     on("elsewhere", [this](const Step &) {
         QTest::mouseClick(page.windowHandle(), Qt::LeftButton, {}, QPoint(1, 1));
         page.setFocus();
@@ -177,6 +182,9 @@ void EditorUser::addGestures()
         QApplication::sendEvent(step.row.slider, &leave);
     });
     on("reset", [](const Step &step) { QTest::mouseDClick(step.row.label, Qt::LeftButton); });
+    on("screenReader", [](const Step &step) {
+        QAccessible::queryAccessibleInterface(step.row.frame)->actionInterface()->doAction("Reset");
+    });
     on("tick", [](const Step &step) { tick(step.row.frame); });
     on("focus", [](const Step &step) { step.row.spinBox->setFocus(); });
     on("show hide", [](const Step &step) { step.row.frame->setVisible(step.verb == "show"); });

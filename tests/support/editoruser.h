@@ -90,10 +90,10 @@ private:
 //   enter 12*3              types and presses Enter; its messages are implied
 //   menu 07                 pastes by the field's own menu; pageMenu: opens one of the page
 //   undo, redo              presses their keys
-//   up, down, right, escape presses that key
+//   up, down, right, home, end, escape presses that key
 //   wheel                   turns it over the slider, then over the field
 //   leave                   moves the pointer off the slider
-//   reset                   double-clicks the label
+//   reset, screenReader     double-clicks the label, performs the action of a screen reader
 //   lock position, size     clicks a lock button
 // What the program does to any row:
 //   value, range, default, resetValue, tick (of the sampling), focus, show, hide, disable,

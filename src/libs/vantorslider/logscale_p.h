@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 
 namespace Vantor {
@@ -7,8 +8,9 @@ namespace Widgets {
 namespace Internal {
 
 // The last position of a logarithmic slider, for the maximum. Position 0 is the minimum; the value
-// grows by the same factor at each position. The minimum is above 0 unless a host has changed the
-// range of the spin box itself: there is only the minimum then.
+// grows by the same factor at each position. No other value has one of these two positions: from
+// there a key or a drag could not reach the end. The minimum is above 0 unless a host has changed
+// the range of the spin box itself: there is only the minimum then.
 constexpr int lastLogPosition = 1000;
 
 inline int logPosition(double value, double least, double greatest)
@@ -19,8 +21,8 @@ inline int logPosition(double value, double least, double greatest)
     if (value >= greatest) {
         return lastLogPosition;
     }
-    return static_cast<int>(
-        std::round(lastLogPosition * std::log(value / least) / std::log(greatest / least)));
+    const double position = lastLogPosition * std::log(value / least) / std::log(greatest / least);
+    return std::clamp(static_cast<int>(std::round(position)), 1, lastLogPosition - 1);
 }
 
 // Exact at both ends.

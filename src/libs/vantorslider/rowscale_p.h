@@ -73,12 +73,12 @@ public:
     }
 
     // Moves the handle to the value. Several positions of a logarithmic scale can have the same
-    // value, too: a pressed handle stays under the pointer.
+    // value, too: the handle stays under the pointer, and a key that has moved it goes on from
+    // there.
     void show(Value val) const
     {
         const int position = slider()->sliderPosition();
-        const bool isThere =
-            m_isLogarithmic && slider()->isSliderDown() && logValueAt(position) == val;
+        const bool isThere = m_isLogarithmic && least() > 0 && logValueAt(position) == val;
         const QSignalBlocker blocker(slider());
         slider()->setValue(isThere ? position : positionOf(val));
     }

@@ -19,6 +19,14 @@ void SliderEditDoublePrivate::setPrecision(int decimals)
     m_nMagnification = qMax(1, saturatedInt(std::pow(10.0, decimals)));
 }
 
+// An exact entry can change a value by less.
+double SliderEditDoublePrivate::tolerance() const
+{
+    const bool isExact = spinBox()->entryOptions().testFlag(ExactEntry);
+    return isExact ? qMin(minPrecision, 0.5 * std::pow(10.0, -spinBox()->decimals()))
+                   : minPrecision;
+}
+
 // Rounds like QDoubleSpinBox.
 double SliderEditDoublePrivate::rounded(double val) const
 {
@@ -45,7 +53,7 @@ std::optional<double> SliderEditDoublePrivate::stepped(int direction) const
 {
     const double next = spinValue() + direction * spinBox()->singleStep();
     const bool isInRange =
-        next >= spinBox()->minimum() && next <= spinBox()->maximum() + minPrecision;
+        next >= spinBox()->minimum() && next <= spinBox()->maximum() + tolerance();
     return isInRange ? std::optional<double>(next) : std::nullopt;
 }
 

@@ -225,8 +225,9 @@ public:
 
     /*!
         Sets the slider's scale to \a scale, LinearScale by default. A logarithmic scale has the
-        positions 0 to 1,000; the page step counts them, and an arrow key on the slider moves by
-        one. Buttons and typed values still reach every value. Emits nothing.
+        positions 0 to 1,000, of which the first and the last are only those of minimum and
+        maximum; the page step counts them, and an arrow key on the slider moves by one. Buttons
+        and typed values still reach every value. Emits nothing.
 
         Set the range first; later ranges and decimals keep the scale. If the minimum is 0 or
         less, now or later, a warning is logged and the scale stays or becomes linear.

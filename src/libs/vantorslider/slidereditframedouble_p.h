@@ -29,7 +29,7 @@ public:
     int toPosition(double val) const { return saturatedInt(std::round(val * m_nMagnification)); }
     double rounded(double val) const;
     double toValue(int position) const { return double(position) / m_nMagnification; }
-    bool isLastValue(double val) const { return std::fabs(val - lastValue()) < minPrecision; }
+    bool isLastValue(double val) const { return std::fabs(val - lastValue()) < tolerance(); }
     // Unlike the integer spin box this one follows the handle in release mode, too. So does the
     // slider's value: the slider does not emit valueChanged() at release.
     static constexpr bool spinBoxFollowsInReleaseMode = true;
@@ -68,6 +68,8 @@ private Q_SLOTS:
 
 private:
     friend SliderEngine; // connects the slots
+
+    double tolerance() const;
 
     int m_nPrecision = 2;
     double m_dSingleStep = 0.01;
