@@ -4,8 +4,8 @@
 #include "rgbopacityeditframe.h"
 
 #include <QtGui/QAccessible>
-#include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QDialog>
+#include <QtGui/QHelpEvent>
+#include <QtWidgets/QToolTip>
 
 using namespace Vantor::Widgets;
 
@@ -55,6 +55,33 @@ template <typename AnyUser> void operateParts(AnyUser &user)
     QCOMPARE(user.heard(), QString("start 50"));
     user.row.slider->setSliderDown(false);
     QCOMPARE(user.heard(), QString("end"));
+}
+
+// The value is the row's, not the position of the handle, and can be set to any value.
+template <typename AnyUser> void readSlider(AnyUser &user)
+{
+    user.play("edits | range 1 100000 | scale logarithmic | value 7 | shown: 7");
+    QAccessibleInterface *const slider = QAccessible::queryAccessibleInterface(user.row.slider);
+    QAccessibleValueInterface *const value = slider->valueInterface();
+    QCOMPARE(slider->text(QAccessible::Value), QString::number(7 * user.position));
+    QCOMPARE(value->currentValue().toDouble(), 7 * user.position);
+    QCOMPARE(value->minimumValue().toDouble(), user.position);
+    QCOMPARE(value->maximumValue().toDouble(), 100000 * user.position);
+    QCOMPARE(value->minimumStepSize().toDouble(), user.position);
+    value->setCurrentValue(12345 * user.position);
+    QCOMPARE(user.heard(), QString("start 12345 end"));
+}
+
+// A menu of the program takes the release.
+template <typename AnyUser> void openMenu(AnyUser &user)
+{
+    user.play("edits | autoRepeat");
+    User::pressAt(user.row.plus, user.row.plus->rect().center());
+    QCOMPARE(user.heard(), QString("start"));
+    user.play("pageMenu: end");
+    QVERIFY(!user.row.plus->isDown());
+    QCOMPARE(samplingInterval(user.row.plus), -1);
+    user.play("plus: start 11 end");
 }
 
 // A dialog of the receiver, and the user's actions with the same row while it is open.
@@ -148,6 +175,7 @@ void tst_Edits::rows_data()
         addBoth(mode + "drag, disabled",
                 hold + "disable" + last + " | enable | move 70 | timer: stands | drop | shown: 40");
         addBoth(mode + "drag, dialog", hold + "dialog" + last + " | drop");
+        addBoth(mode + "drag, menu", hold + "pageMenu" + last + " | timer: stands | drop");
         addBoth(mode + "drag, left", hold + "leave | drop" + last);
         addBoth(mode + "nothing dragged", mode + "hold: start | drop: end");
         addBoth(mode + "dropped where taken",
@@ -159,6 +187,10 @@ void tst_Edits::rows_data()
                       "groove before: start 11 end | plus: start 12 end | minus: start 11 end | "
                       "minus: start 10 end | space: start 11 end | shown: 11");
     }
+    for (const QString removal : {"hide", "hideSlider", "disable", "dialog"})
+        addBoth("taken at the start of a drag, " + removal,
+                "sampled | inStart " + removal + " | hold 40: start end | timer: stands | drop");
+    addForBoth("menu over a button", [](auto &user) { openMenu(user); });
     addBoth("ticks",
             "sampled | hold: start | timer: runs | tick | move 20 30 | tick: 30 | tick | "
             "move 50 30 | tick | move 40 | tick: 40 | drop: end | timer: stands | shown: 40");
@@ -206,9 +238,23 @@ void tst_Edits::rows_data()
             part->setFocusPolicy(Qt::NoFocus);
         user.play("edits | type 7: start | plus: 11 end | type 7: start | hold 30: 30 | drop: end");
     });
+    addForBoth("entry and button, which alone takes the focus", [](auto &user) {
+        user.page.setFocusPolicy(Qt::NoFocus);
+        user.frame->setFocusPolicy(Qt::NoFocus);
+        user.perform("edits");
+        for (const QString button : {"plus", "minus"}) {
+            user.performAll("value 50 | type .1 | " + button);
+            QVERIFY(user.heard().contains("end start"));
+        }
+    });
     addForBoth("focus moved, groove", [](auto &user) { focusMoves(user); });
     addBoth("blocked at the end",
             "hold 20: start 20 | block | drop | unblock: end | plus: start 21 end");
+    addForBoth("unblocked long after the end", [](auto &user) {
+        user.play("edits | hold 20: start 20 | block | drop | block | unblock");
+        QVERIFY(comesTrue([&user] { return user.heard() == "end"; }));
+        user.play("plus: start 21 end");
+    });
     // The next edit continues the one that the host knows.
     addBoth("blocked from the end to the next start",
             "hold 20: start 20 | block | drop | block | hold 50 | drop | hold 55 | unblock | move "
@@ -233,6 +279,8 @@ void tst_Edits::composites_data()
     crop("from row to row",
          "x type 5: start | y minus: finished crop(5,2,40,20) x(5) (5,2,40,20) finished end start "
          "crop(5,1,40,20) y(1) (5,1,40,20) end");
+    crop("taken at the start of a drag",
+         "x sampled | inStart x disable | x hold 60: start end | x timer: stands | crop 5 6 7 8");
     crop("held at the edge", "w hold 99: start crop(1,2,99,20) w(99) (1,2,99,20) | w drop: end");
     crop("the program", "sizeLock on: sizeLock(true) | crop 3 4 5 6 | hide | show");
     const auto mask = rowsAfter<MaskEditFrame>("area 100 100 | edits | ");
@@ -243,6 +291,8 @@ void tst_Edits::composites_data()
     all("own row", "all plus: start (50,50,50,51) end");
     all("blocked at the start",
         "block | r hold 20 | unblock | r move 40: start (40,50,50,50) | r drop: end");
+    rgb("blocked at the start",
+        "block | r hold 20 | unblock | r move 40: start (40,50,50) | r drop: end");
     all("block", "b hold 60: start (50,50,60,50) | b disable: end | b enable | b drop");
     const auto opacity = rowsAfter<RGBOpacityEditFrame>("edits | ");
     opacity("own row", "opacity minus: start (50,50,50,99) end");

@@ -170,6 +170,7 @@ void takeAwayHeld(AnyUser &user, const QString &steps, const QString &removal, b
     take();
     QCOMPARE(qMax(samplingInterval(row.frame), samplingInterval(row.plus)), -1);
     QVERIFY(!row.slider->isSliderDown() && !row.plus->isDown());
+    QCOMPARE(row.plus->autoRepeat(), isButton || steps.startsWith("sampled"));
     QVERIFY(!row.whole || !row.whole->isMousePressed());
     const QString heard = user.heard();
     QVERIFY2(isButton || heard == "40", qPrintable(heard));

@@ -255,6 +255,10 @@ template <typename Frame> void EditorUser::addModes(Frame *frame)
         QObject::connect(frame, &Frame::valueChanged, &page,
                          [this, action = step.text] { perform(action); });
     });
+    on("inStart", [=](const Step &step) {
+        QObject::connect(frame, &Frame::editStarted, &page,
+                         [this, action = step.text] { perform(action); });
+    });
     // So long that only the test sends ticks.
     on("sampled", [=](const Step &) { frame->setTimeSamplingRate(60000); });
     on("edits", [=](const Step &) {

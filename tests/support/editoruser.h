@@ -101,7 +101,8 @@ private:
 //   dialog (shows a modal one and closes it)
 // to all rows: sampled, released, autoRepeat; off ends the last two; options, any of
 //   exact, comma, escape and stays; block and unblock (the editor's signals; posted events
-//   are then delivered); inReport, with the action that each report then causes
+//   are then delivered); inReport and inStart, with the action that each report or start
+//   of an edit then causes
 // to a slider editor:
 //   minimum, maximum, singleStep, pageStep, decimals, direction (flags and value),
 //   wheelEnabled, suffix, prefix, scale, hideSlider, fieldFocus; specialValueText and

@@ -1,7 +1,6 @@
 #include "editspan_p.h"
+#include "lostpointer_p.h"
 #include "slidereditframe_p.h"
-
-#include <QtCore/QEvent>
 
 namespace Vantor {
 namespace Widgets {
@@ -12,9 +11,7 @@ bool SliderEditButton::event(QEvent *event)
 {
     const Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     const bool isHandled = QToolButton::event(event);
-    const QEvent::Type type = event->type();
-    if (type == QEvent::Hide || type == QEvent::WindowBlocked
-        || (type == QEvent::EnabledChange && !isEnabled())) {
+    if (Internal::isPointerLostBy(event, this)) {
         letGo();
     }
     return isHandled;

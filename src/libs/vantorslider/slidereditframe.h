@@ -346,7 +346,7 @@ Q_SIGNALS:
 
     /*!
         The edit has ended, after its last valueChanged(). Hiding or disabling the row, or a
-        modal dialog that blocks it, also ends an edit.
+        modal dialog or a popup that takes the release, also ends an edit.
 
         \since 1.1
     */

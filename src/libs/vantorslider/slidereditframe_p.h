@@ -41,21 +41,19 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void leaveEvent(QEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
-    void changeEvent(QEvent *event) override;
 
 private:
     void releasePointer();
     void letGo(QMouseEvent *event);
 
     bool m_isMousePressed = false;
-    // Hidden, disabled or blocked since the last press: no release event follows.
+    // No release event follows the last press.
     bool m_isPointerTaken = false;
     std::unique_ptr<Internal::HostWindow> m_hostWindow;
 };
 
 // The minus or plus button of a row: stops its auto-repeat when it is hidden, disabled or
-// blocked by a modal dialog. It has no Q_OBJECT: style sheets and tools see a QToolButton.
+// blocked by a dialog or a menu. It has no Q_OBJECT: style sheets and tools see a QToolButton.
 class SliderEditButton : public QToolButton
 {
 public:

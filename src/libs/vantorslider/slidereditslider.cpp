@@ -1,5 +1,6 @@
 #include "editspan_p.h"
 #include "hostwindow_p.h"
+#include "lostpointer_p.h"
 #include "slidereditframe_p.h"
 
 #include <QtGui/QMouseEvent>
@@ -30,8 +31,9 @@ bool SliderEditSlider::event(QEvent *event)
 {
     const Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     const bool isHandled = QSlider::event(event);
-    // A modal dialog receives the mouse release instead of the slider.
-    if (event->type() == QEvent::WindowBlocked) {
+    // Without a HostWindow the slider has never been pressed.
+    if (m_hostWindow != nullptr && Internal::isPointerLostBy(event, this)
+        && !m_hostWindow->isBeingDestroyed()) {
         releasePointer();
     }
     return isHandled;
@@ -88,25 +90,8 @@ void SliderEditSlider::leaveEvent(QEvent *event)
     QSlider::leaveEvent(event);
 }
 
-void SliderEditSlider::hideEvent(QHideEvent *event)
-{
-    QSlider::hideEvent(event);
-    m_isMousePressed = false;
-    if (m_hostWindow != nullptr && !m_hostWindow->isBeingDestroyed()) {
-        releasePointer();
-    }
-}
-
-void SliderEditSlider::changeEvent(QEvent *event)
-{
-    QSlider::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange && !isEnabled()) {
-        releasePointer();
-    }
-}
-
-// No release event follows when the slider is hidden, disabled or blocked during a drag. The
-// drag ends here as by a release: its last value is reported and sampling stops.
+// No release event follows. The drag ends here as by a release: its last value is reported and
+// sampling stops.
 void SliderEditSlider::releasePointer()
 {
     m_isMousePressed = false;

@@ -227,8 +227,8 @@ protected:
     {
         EditSpan::Scope edit(&m_edits);
         edit.begin(EditSpan::Handle);
-        if (!edit) {
-            return;
+        if (!edit || !ui->slider->isSliderDown()) {
+            return; // a receiver has ended the drag
         }
         if (m_sampling.isOn()) {
             m_sampling.start(m_scale.spinPosition());
