@@ -135,9 +135,16 @@ template <typename AnyUser> void findReset(AnyUser &user)
     QVERIFY(user.frame->hasDefaultValue() && user.frame->defaultValue() == 30 * user.position);
     QCOMPARE(signsOf(user.row),
              QStringList({"Reset", "Double-click to reset", "border", "hand", "true"}));
-    user.perform("edits");
-    QAccessible::queryAccessibleInterface(user.frame)->actionInterface()->doAction("Reset");
-    QCOMPARE(user.heard(), QString("start 30 end"));
+    user.play("edits | screenReader: start 30 end | disable | value 9 | screenReader | enable");
+    // Only where there is no other tool tip.
+    for (const QString tip : {"Double-click to reset", "Gain in dB"}) {
+        if (tip != user.row.label->toolTip())
+            user.frame->setToolTip(tip);
+        const QPoint pos = user.row.label->rect().center();
+        QHelpEvent event(QEvent::ToolTip, pos, user.row.label->mapToGlobal(pos));
+        QApplication::sendEvent(user.row.label, &event);
+        QCOMPARE(QToolTip::text(), tip);
+    }
 }
 
 // Two taps of a finger on the label.
@@ -199,6 +206,7 @@ void tst_Edits::rows_data()
     addBoth("the program", "value 20 | range 0 15 | value 9 | hide | show | disable | enable");
     addForBoth("repeated steps", [](auto &user) { repeat(user); });
     addForBoth("operated by a program", [](auto &user) { operateParts(user); });
+    addForBoth("read by a screen reader", [](auto &user) { readSlider(user); });
     addInt("entry, Enter",
            "type 5: start | keys 0 | keys \n: finished finished 50 finished left end");
     addInt("entry, Tab", "type 5: start | keys 0 | keys \t: finished 50 finished end");
@@ -325,12 +333,35 @@ void tst_Edits::resets_data()
     addInt("held on one side", "direction 4 20 | reset: start 20 end | reset: start 20 end");
     addBoth("disabled", "disable | reset");
     addInt("entry", "type 7: start | reset: finished 7 finished end start 30 end");
+    addInt("entry, by a screen reader",
+           "type 7: start | screenReader: finished 7 finished end start 30 end");
+    addDouble("entry, by a screen reader", "type .07: start | screenReader: 7 end start 30 end");
+    addInt("entry over the default, by a screen reader",
+           "value 30 | type 7: start | screenReader: finished 7 finished end start 30 end");
+    addForBoth("entry in the focus proxy, by a screen reader", [](auto &user) {
+        user.frame->setFocusProxy(user.row.spinBox);
+        const QString typed = user.isWhole ? "5*4" : "1/5";
+        user.play("default 30 | edits | type " + typed
+                  + ": start | screenReader: 20 end start 30 end");
+    });
+    addInt("a refused entry over the default",
+           "value 30 | type 1/0: start | elsewhere: finished finished end | refused: yes | reset | "
+           "refused: no | shown: 30");
+    addDouble("a refused entry over the default",
+              "value 30 | enter 1/0: start end | refused: yes | reset | refused: no | shown: 30");
     addDouble("between two positions", "default 30.4 | reset: start 30 end | reset | elsewhere");
     addDouble("NaN", "default nan | reset: start 30 end");
     const auto crop = rowsAfter<CropEditFrame>("area 100 100 | crop 1 2 40 20 | edits | ");
     crop("locked position",
          "lock position: positionLock(true) | x default 9 | x reset: start crop(9,10,40,20) x(9) "
          "(9,10,40,20) end");
+    crop(
+        "entry in another row, by a screen reader",
+        "y default 9 | x type 5: start | y screenReader: finished crop(5,2,40,20) x(5) (5,2,40,20) "
+        "finished end start crop(5,9,40,20) y(9) (5,9,40,20) end");
+    crop("entry in another row, by the program",
+         "y default 9 | x type 5: start | y resetValue | elsewhere: finished crop(5,9,40,20) x(5) "
+         "(5,9,40,20) finished end");
     crop("held in the area",
          "w default 100 | w reset: start crop(1,2,99,20) w(100) (1,2,100,20) end | shown: 1 2 99 "
          "20");

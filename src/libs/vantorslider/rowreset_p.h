@@ -1,12 +1,12 @@
 #pragma once
 
 #include <QtCore/QEvent>
+#include <QtCore/QObject>
 
 #include <functional>
 
 QT_BEGIN_NAMESPACE
 class QLabel;
-class QWidget;
 QT_END_NAMESPACE
 
 namespace Vantor {
@@ -14,10 +14,28 @@ namespace Widgets {
 namespace Internal {
 
 // The user resets a row to its default value by a double click or double tap on its label, or by
-// the action "Reset" of a screen reader.
+// the action "Reset" of a screen reader. A child of the label, once the row has a default value.
+class RowReset : public QObject
+{
+    Q_OBJECT
 
-// Sets up the label and the action of the row, once.
-void makeResettable(QLabel *label, QWidget *row, const std::function<void()> &reset);
+public:
+    RowReset(QLabel *label, std::function<void()> reset);
+
+    static const RowReset *of(const QObject *row) { return row->findChild<RowReset *>(); }
+
+    void perform() const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool isHintInTheWay() const;
+
+    QLabel *const m_label;
+    const std::function<void()> m_reset;
+    QString m_hint;
+};
 
 // The program has reset the row that receives this event.
 QEvent::Type rowResetEvent();

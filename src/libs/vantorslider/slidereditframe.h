@@ -213,9 +213,10 @@ public:
 
         A double click or double tap on the label then resets the value. That is an edit by the
         user: valueChanged() reports it once, clamped to the range and the allowed direction,
-        unless the value is shown already. The label gets the dynamic property "isResettable", a
-        cursor and, unless the host has set one, a tool tip. Assistive technology finds the
-        action "Reset" on the row. \since 1.1
+        unless the value is shown already. An entry that is pending in a field ends first. The
+        label gets the dynamic property "isResettable", a cursor and a tool tip, which is shown
+        unless the row or a widget around it has one. Assistive technology finds the action
+        "Reset" on the row. \since 1.1
     */
     void setDefaultValue(int val);
 

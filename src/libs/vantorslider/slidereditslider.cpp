@@ -1,3 +1,4 @@
+#include "accessiblerow_p.h"
 #include "editspan_p.h"
 #include "hostwindow_p.h"
 #include "lostpointer_p.h"
@@ -8,12 +9,15 @@
 namespace Vantor {
 namespace Widgets {
 
-SliderEditSlider::SliderEditSlider(QWidget *parent) : QSlider(parent) { }
+SliderEditSlider::SliderEditSlider(QWidget *parent) : QSlider(parent)
+{
+    Internal::provideAccessibleRows();
+}
 
 SliderEditSlider::~SliderEditSlider() = default;
 
 // True from a button press on the slider until its release, or until the pointer leaves the
-// slider or the slider loses the focus, is hidden, disabled or blocked by a modal dialog.
+// slider or the slider loses the focus, is hidden, disabled or blocked by a dialog or a menu.
 bool SliderEditSlider::isMousePressed() const
 {
     return m_isMousePressed;

@@ -9,6 +9,8 @@
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAbstractSpinBox>
+#include <QtWidgets/QApplication>
 
 #include <algorithm>
 #include <memory>
@@ -109,7 +111,7 @@ public:
     void setDefaultValue(Value val)
     {
         if (!hasDefaultValue()) {
-            makeResettable(ui->labelName, m_pSliderEditer, [this] { resetByUser(); });
+            new RowReset(ui->labelName, [this] { resetByUser(); });
         }
         m_defaultValue = val;
     }
@@ -178,17 +180,12 @@ protected:
 
     bool staysInField() const { return engine().spinBox()->entryOptions().testFlag(EnterStays); }
 
-    // Keyboard tracking is off: the spin box interprets its text and reports the value when it
-    // loses the focus. As the focus proxy of the frame it keeps the focus, so its text is
-    // interpreted here. With EnterStays it was interpreted already.
+    // With EnterStays the text was interpreted already.
     void enterFinished()
     {
         EditSpan::Scope edit(&m_edits);
         if (!staysInField()) {
-            m_pSliderEditer->setFocus(Qt::OtherFocusReason);
-            if (edit && engine().spinBox()->hasFocus()) {
-                engine().spinBox()->interpretText();
-            }
+            leaveField(edit);
         }
         edit.release(EditSpan::Entry);
     }
@@ -302,10 +299,36 @@ private:
         QObject::connect(sender, signal, &engine(), slot);
     }
 
-    // A value that is already shown is not reported again.
+    // Keyboard tracking is off: the spin box interprets its text and reports the value when it
+    // loses the focus. As the focus proxy of the frame it keeps the focus, so its text is
+    // interpreted here.
+    void leaveField(const EditSpan::Scope &edit)
+    {
+        m_pSliderEditer->setFocus(Qt::OtherFocusReason);
+        if (edit && engine().spinBox()->hasFocus()) {
+            engine().spinBox()->interpretText();
+        }
+    }
+
+    // An entry that is pending in this or another row ends first: a screen reader does not move the
+    // focus. A value that is already shown is not reported again, but shown without a mark.
     void resetByUser()
     {
-        if (!engine().isLastValue(shownDefault())) {
+        const QPointer<SliderEngine> self(this);
+        if (qobject_cast<QAbstractSpinBox *>(QApplication::focusWidget()) != nullptr) {
+            EditSpan::Scope edit(&m_edits);
+            engine().spinBox()->setSlotEditingFinished();
+            if (edit) {
+                leaveField(edit);
+            }
+            edit.release(EditSpan::Entry);
+        }
+        if (!self) {
+            return;
+        }
+        if (engine().isLastValue(shownDefault())) {
+            apply(shownDefault());
+        } else {
             report(shownDefault());
         }
     }
