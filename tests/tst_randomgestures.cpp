@@ -34,7 +34,8 @@ const QStringList gestures =
         "click | up | down | down | keys \n; groove before; groove after; wheel; hold | drop; "
         "hold | move # | move # | tick | drop; hold | move # | tick | move # | drop; "
         "hold | move # | dialog | drop; type #/1 | dialog; type # | minus; hold | move # | hide "
-        "| show; type # | disable | enable; space | type # | hold | drop; reset")
+        "| show; type # | disable | enable; space | type # | hold | drop; reset; "
+        "hold | move # | pageMenu | drop; type # | screenReader")
         .split("; ");
 
 // The user's action during which the program deletes the editor.
