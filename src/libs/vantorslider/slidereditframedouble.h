@@ -315,7 +315,7 @@ Q_SIGNALS:
     void editFinished();
 
 protected:
-    /*! Selects the text of an entered spin box; resets on a double click on the label. */
+    /*! Selects the text of an entered spin box. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     /*! Reports a drag at each tick of time sampling. */

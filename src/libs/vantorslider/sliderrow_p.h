@@ -52,8 +52,7 @@ struct SliderRow
         std::invoke(operation, minus, arguments...);
     }
 
-    // A click or Tab into the spin box selects its text. Its
-    // direction is that of the layout.
+    // A click or Tab into the spin box selects its text. Its direction is that of the layout.
     void fieldReceives(const QEvent *event) const;
 
     QWidget *frame;
