@@ -2,6 +2,7 @@
 
 // What the guide's samples assume: the headers, and a host with editors
 // that have the names used in the samples.
+#include <alignfields.h>
 #include <alignlabels.h>
 #include <cropeditframe.h>
 #include <layouteditframe.h>

@@ -87,6 +87,7 @@ void LabelColumn::align(const std::vector<QWidget *> &rows)
     std::vector<QLabel *> labels;
     int width = 0;
     for (const QWidget *row : rows) {
+        polish(row);
         auto *label =
             row->findChild<QLabel *>(QStringLiteral("labelName"), Qt::FindDirectChildrenOnly);
         if (label != nullptr) {

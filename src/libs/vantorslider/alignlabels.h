@@ -28,6 +28,7 @@ namespace Widgets {
 
     Emits nothing. A null \a panel does nothing.
 
+    \sa alignFields()
     \since 1.1
 */
 VANTORSLIDER_EXPORT void alignLabels(QWidget *panel, Qt::Alignment alignment = Qt::Alignment());

@@ -64,13 +64,19 @@ double numberFromText(const SpinBox *spinBox, const LineEditCal *calculator, con
     return std::clamp<double>(*number, spinBox->minimum(), spinBox->maximum());
 }
 
-// The text of the value as the spin box writes it, without prefix and suffix. textFromValue() is
+// The text of a value as the spin box writes it, without prefix and suffix. textFromValue() is
 // protected in QSpinBox; the integer spin box declares this class its friend.
 struct ValueText
 {
+    template <typename SpinBox, typename Value>
+    static QString of(const SpinBox *spinBox, Value value)
+    {
+        return spinBox->textFromValue(value);
+    }
+
     template <typename SpinBox> static QString of(const SpinBox *spinBox)
     {
-        return spinBox->textFromValue(spinBox->value());
+        return of(spinBox, spinBox->value());
     }
 };
 

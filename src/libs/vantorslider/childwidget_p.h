@@ -1,10 +1,8 @@
 #pragma once
 
-#include <QtCore/qglobal.h>
+#include <QtWidgets/QWidget>
 
-QT_BEGIN_NAMESPACE
-class QWidget;
-QT_END_NAMESPACE
+#include <algorithm>
 
 namespace Vantor {
 namespace Widgets {
@@ -16,6 +14,24 @@ namespace Internal {
 void setShown(QWidget *child, bool isShown);
 void setWidthRange(QWidget *child, int maximum, int minimum);
 void setFixedWidth(QWidget *child, int width);
+
+// The widths that the host permits: what the last of these setters was called with, also while a
+// style sheet overrides it.
+struct WidthRange
+{
+    int within(int wanted) const { return std::max(least, std::min(wanted, greatest)); }
+
+    int least = 0;
+    int greatest = QWIDGETSIZE_MAX;
+};
+WidthRange hostWidths(const QWidget *child);
+
+// A field whose width alignFields() sets. Style sheets read the property, too.
+constexpr const char *alignedFieldProperty = "isFieldAligned";
+
+// Called after a change of the texts that a row's field can show: has its column aligned again,
+// if there is one.
+void fieldTextsChanged(QWidget *field);
 
 // Polishes the widget, so that its style sheet applies a changed property and its widths. Does
 // nothing without a style sheet.

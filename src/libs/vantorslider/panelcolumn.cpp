@@ -22,7 +22,10 @@ bool isRow(const QWidget *widget)
 
 } // namespace
 
-PanelColumn::PanelColumn(QWidget *panel) : QObject(panel) { }
+PanelColumn::PanelColumn(QWidget *panel)
+    : QObject(panel), m_isPolished(panel->testAttribute(Qt::WA_WState_Polished))
+{
+}
 
 void PanelColumn::update()
 {
@@ -63,6 +66,13 @@ bool PanelColumn::isOtherColumn(const QWidget *widget) const
     });
 }
 
+void PanelColumn::polish(const QWidget *row) const
+{
+    if (m_isPolished) {
+        row->ensurePolished();
+    }
+}
+
 void PanelColumn::updateLater()
 {
     if (!m_isPending) {
@@ -82,12 +92,15 @@ bool PanelColumn::event(QEvent *event)
     return true;
 }
 
-// A child that changes its need makes its row request a layout. When the panel lays out its rows
-// or is shown, the column must be right at once.
+// A child that changes its need makes its row request a layout. When the panel is polished, which
+// is before it gets its first size, lays out its rows or is shown, the column must be right at
+// once.
 bool PanelColumn::eventFilter(QObject *watched, QEvent *event)
 {
+    m_isPolished = m_isPolished || (watched == parent() && event->type() == QEvent::Polish);
     switch (event->type()) {
     case QEvent::LayoutRequest:
+    case QEvent::Polish:
     case QEvent::Show:
         if (watched == parent()) {
             update();

@@ -28,6 +28,9 @@ protected:
     // The rows that are not hidden, in no special order. Rows of a panel with a column of the same
     // class belong to that one.
     virtual void align(const std::vector<QWidget *> &rows) = 0;
+    // Called before a row is measured: a style sheet sets its font then. Does nothing before the
+    // panel is polished, as its sheet may change.
+    void polish(const QWidget *row) const;
     // The next pass, after the current event.
     void updateLater();
 
@@ -40,6 +43,7 @@ private:
     bool isOtherColumn(const QWidget *widget) const;
 
     bool m_isPending = false;
+    bool m_isPolished;
 };
 
 // The panel's column of this class, which is created by the first call.

@@ -230,6 +230,7 @@ int SliderEditFrame::value()
 void SliderEditFrame::setPrefix(const QString &text)
 {
     d->spinBox()->setUnit(text, suffix());
+    Internal::fieldTextsChanged(d->spinBox());
 }
 
 QString SliderEditFrame::prefix() const
@@ -240,6 +241,7 @@ QString SliderEditFrame::prefix() const
 void SliderEditFrame::setSuffix(const QString &text)
 {
     d->spinBox()->setUnit(prefix(), text);
+    Internal::fieldTextsChanged(d->spinBox());
 }
 
 QString SliderEditFrame::suffix() const
@@ -252,6 +254,7 @@ void SliderEditFrame::setRange(int min, int max)
     const QSignalBlocker blocker(d->spinBox());
     d->spinBox()->setRange(min, max);
     d->scale().setEnds(min, max);
+    Internal::fieldTextsChanged(d->spinBox());
 }
 
 void SliderEditFrame::setMinimum(int min)

@@ -178,6 +178,7 @@ double SliderEditFrameDouble::value()
 void SliderEditFrameDouble::setPrefix(const QString &text)
 {
     d->spinBox()->setUnit(text, suffix());
+    Internal::fieldTextsChanged(d->spinBox());
 }
 
 QString SliderEditFrameDouble::prefix() const
@@ -188,6 +189,7 @@ QString SliderEditFrameDouble::prefix() const
 void SliderEditFrameDouble::setSuffix(const QString &text)
 {
     d->spinBox()->setUnit(prefix(), text);
+    Internal::fieldTextsChanged(d->spinBox());
 }
 
 QString SliderEditFrameDouble::suffix() const
@@ -282,6 +284,7 @@ void SliderEditFrameDouble::setDecimals(int prec)
     d->spinBox()->setRange(d->toValue(lowest), d->toValue(highest));
 
     d->scale().setEnds(lowest, highest);
+    Internal::fieldTextsChanged(d->spinBox());
     if (d->singleStep() > Internal::minPrecision && !d->scale().isLogarithmic()) {
         const QSignalBlocker sliderBlocker(d->slider());
         d->slider()->setSingleStep(d->toPosition(d->singleStep()));

@@ -1,0 +1,309 @@
+#include "alignfields.h"
+#include "editoruser.h"
+#include "rgbeditframe.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QPointer>
+
+using namespace Vantor::Widgets;
+
+// One width for the fields of a panel in which every value fits, and the events that update it.
+class tst_AlignFields : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void fits_data();
+    void fits();
+    void column_data();
+    void column() { runTestCode(); }
+    void hostWidth();
+    void firstSize();
+    void refusedEntry();
+
+private:
+    const QFont m_font = QApplication::font();
+};
+
+namespace {
+
+QString theme(const QString &name)
+{
+    QFile file(STYLES_DIR "/" + name + ".qss");
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+void settle()
+{
+    for (int i = 0; i < 5; ++i) // from the field up to the page, and down again
+        QCoreApplication::processEvents();
+}
+
+// The size of the text in the picture of a field. The edge of the picture is blank.
+QSize inkOf(QLineEdit *field)
+{
+    const QImage image = field->grab().toImage();
+    QRect ink;
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y) {
+            if (image.pixel(x, y) != image.pixel(0, 0))
+                ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return ink.size();
+}
+
+// With 65 pixels, those of the form, the column sets the width.
+QVector<QSize> inksOf(const QVector<EditorRow> &rows, int width)
+{
+    QVector<QSize> inks;
+    for (const EditorRow &row : rows)
+        row.spinBox->setFixedWidth(width);
+    settle();
+    for (const EditorRow &row : rows)
+        inks.append(inkOf(row.field));
+    return inks;
+}
+
+// Rows of both kinds and of a composite editor.
+struct Panel
+{
+    Panel()
+    {
+        auto *layout = new QVBoxLayout(&page);
+        for (QWidget *editor : QList<QWidget *> {gain, gamma, rgb})
+            layout->addWidget(editor);
+        gamma->setRange(0, 1000);
+        alignFields(&page);
+    }
+
+    // The width that all visible fields have; -1 if they differ, or if it is too narrow.
+    int width() const
+    {
+        QList<int> widths;
+        for (const QAbstractSpinBox *field : page.findChildren<QAbstractSpinBox *>()) {
+            if (field->isVisible()) {
+                const int text = field->fontMetrics().boundingRect(field->text()).width();
+                widths.append(field->width() > text ? field->width() : -1);
+            }
+        }
+        return widths.count(widths.first()) == widths.size() ? widths.first() : -1;
+    }
+
+    QWidget page;
+    SliderEditFrame *const gain = new SliderEditFrame;
+    QPointer<SliderEditFrameDouble> gamma = new SliderEditFrameDouble;
+    RGBEditFrame *const rgb = new RGBEditFrame;
+};
+
+using Change = std::function<void(Panel &)>;
+
+// The width then changes in that direction, in a panel that is visible and in one that is
+// shown later.
+void compareWidths(int direction, const Change &change)
+{
+    for (const bool isShownFirst : {true, false}) {
+        Panel panel;
+        QVERIFY(User::show(panel.page));
+        const int before = panel.width();
+        QVERIFY(before > 0);
+        if (!isShownFirst)
+            panel.page.hide();
+        change(panel);
+        panel.page.show();
+        QVERIFY(comesTrue([&] {
+            const int after = panel.width();
+            return after > 0 && (after > before) - (after < before) == direction;
+        }));
+    }
+}
+
+struct Range
+{
+    double min, max;
+    int decimals; // of the row for double
+    const char *prefix, *suffix;
+};
+
+} // namespace
+
+void tst_AlignFields::initTestCase()
+{
+    QDir::addSearchPath("vantorslider", STYLES_DIR);
+    const int dpi = qEnvironmentVariableIntValue("QT_FONT_DPI");
+    QVERIFY(dpi == 0 || QWidget().logicalDpiX() == dpi);
+}
+
+void tst_AlignFields::fits_data()
+{
+    QTest::addColumn<QString>("sheet");
+    QTest::newRow("none") << QString();
+    for (const char *name : {"desktop", "touch-dark", "touch-light"})
+        QTest::newRow(name) << theme(name);
+    QTest::newRow("host") << "QAbstractSpinBox { border: 3px solid red; padding: 0 7px; }"
+                             "QSpinBox { font: bold 15px; } QDoubleSpinBox { margin: 2px; }";
+}
+
+// No pixel of either end of a range is clipped, in any font size, and the fields are not wider
+// than needed. CTest runs this function with other sizes in dots per inch, too.
+void tst_AlignFields::fits()
+{
+    QFETCH(QString, sheet);
+    const Range ranges[] = {{0, 9, 1, "", ""},           {0, 99999, 2, "", ""},
+                            {-88888, 88888, 2, "", ""},  {-1, 1, 6, "", ""},
+                            {0, 4444, 2, "x ", " mm/s"}, {-100, 0, 0, "", " %"}};
+    for (int points = 8; points <= 16; ++points) {
+        QFont font = m_font;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        QWidget page;
+        page.setStyleSheet(sheet);
+        auto *const layout = new QVBoxLayout(&page);
+        QVector<EditorRow> rows;
+        for (const Range &range : ranges) {
+            for (QWidget *row : QList<QWidget *> {new SliderEditFrame, new SliderEditFrameDouble}) {
+                row->setProperty("decimals", range.decimals);
+                row->setProperty("minimum", range.min);
+                row->setProperty("maximum", range.max);
+                row->setProperty("prefix", range.prefix);
+                row->setProperty("suffix", range.suffix);
+                layout->addWidget(row);
+                alignFields(row);
+                rows.append({QString(), row});
+            }
+        }
+        QVERIFY(User::show(page));
+        page.setFocus();
+        for (const char *end : {"minimum", "maximum"}) {
+            for (const EditorRow &row : rows)
+                row.frame->setProperty("value", row.frame->property(end));
+            const QVector<QSize> shown = inksOf(rows, 65);
+            const QVector<QSize> whole = inksOf(rows, 600);
+            for (int i = 0; i < rows.size(); ++i)
+                QVERIFY2(shown[i] == whole[i] && whole[i].width() > 1,
+                         qPrintable(QStringLiteral("%1 at %2 points: %3 of %4 pixels")
+                                        .arg(rows[i].field->text())
+                                        .arg(points)
+                                        .arg(shown[i].width())
+                                        .arg(whole[i].width())));
+        }
+        inksOf(rows, 65);
+        for (const EditorRow &row : rows) {
+            int text = 0;
+            for (const char *end : {"minimum", "maximum"}) {
+                row.frame->setProperty("value", row.frame->property(end));
+                text = qMax(text, row.field->fontMetrics().boundingRect(row.field->text()).width());
+            }
+            QVERIFY2(row.field->width() < text + row.field->fontMetrics().height(),
+                     qPrintable(QStringLiteral("%1 %2 %3")
+                                    .arg(row.field->text())
+                                    .arg(row.field->width())
+                                    .arg(text)));
+        }
+    }
+    QApplication::setFont(m_font);
+}
+
+void tst_AlignFields::column_data()
+{
+    QTest::addColumn<TestCode>("code");
+    const auto add = [](const char *name, int direction, const Change &change) {
+        QTest::newRow(name) << TestCode([=] { compareWidths(direction, change); });
+    };
+    add("longer range", 1, [](Panel &p) { p.gain->setRange(0, 12345678); });
+    add("longer range of a composite", 1,
+        [](Panel &p) { p.rgb->setRange(RGBEditFrame::G, -12345678, 0); });
+    add("shorter range", -1, [](Panel &p) { p.gamma->setRange(0, 1); });
+    add("lower minimum", 1, [](Panel &p) { p.gamma->setMinimum(-1000); });
+    add("more decimals", 1, [](Panel &p) { p.gamma->setDecimals(5); });
+    add("prefix", 1, [](Panel &p) { p.gain->setPrefix("about "); });
+    add("suffix", 1, [](Panel &p) { p.gain->setSuffix(" kilometres"); });
+    add("suffix of a double", 1, [](Panel &p) { p.gamma->setSuffix(" km"); });
+    add("suffix that the focus hides", 1, [](Panel &p) {
+        p.gamma->setFieldFocus();
+        p.gamma->setSuffix(" km");
+    });
+    add("special value text", 1, [](Panel &p) {
+        rowsOf(*p.gain)[0].spinBox->setProperty("specialValueText", "None of them all");
+    });
+    add("font of the panel", 1, [](Panel &p) { p.page.setFont(QFont("", 30)); });
+    add("font of a sheet", 1, [](Panel &p) { p.page.setStyleSheet("* { font: 40px; }"); });
+    add("padding of a sheet", 1,
+        [](Panel &p) { p.page.setStyleSheet("QAbstractSpinBox { padding: 0 19px; }"); });
+    add("hidden row", -1, [](Panel &p) { p.gamma->hide(); });
+    add("deleted row", -1, [](Panel &p) { delete p.gamma; });
+    add("new row", 1, [](Panel &p) {
+        auto *row = new SliderEditFrame;
+        row->setRange(0, 12345678);
+        p.page.layout()->addWidget(row);
+    });
+    add("column of its own", 0, [](Panel &p) {
+        alignFields(p.rgb);
+        p.rgb->setRange(RGBEditFrame::G, 0, 12345678);
+        settle();
+        p.rgb->hide();
+    });
+}
+
+// A width that the host sets stays, whatever the sheet, and is not that of the other fields.
+void tst_AlignFields::hostWidth()
+{
+    for (const QString &sheet : {QString(), theme("desktop"), theme("touch-dark")}) {
+        Panel panel;
+        panel.page.setStyleSheet(sheet);
+        QVERIFY(User::show(panel.page));
+        const int others = panel.width();
+        const auto gainWidth = [&] {
+            settle();
+            const bool isSame = rowsOf(*panel.gamma)[0].spinBox->width() == others;
+            return isSame ? rowsOf(*panel.gain)[0].spinBox->width() : -1;
+        };
+        QCOMPARE(gainWidth(), others);
+        panel.gain->setSpinBoxFixedWidth(200);
+        QCOMPARE(gainWidth(), 200);
+        panel.gain->setRange(0, 12345678);
+        panel.page.setStyleSheet(sheet + ' ');
+        QCOMPARE(gainWidth(), 200);
+        panel.gain->setRange(0, 1);
+        panel.gain->setSpinBoxWidthRange(300, 150);
+        QCOMPARE(gainWidth(), 150);
+        panel.gain->setSpinBoxWidthRange(300, 10);
+        QCOMPARE(gainWidth(), others);
+        panel.gain->setObjectName("gain");
+        panel.page.setStyleSheet(sheet + "#gain #spinBox { min-width: 170px; max-width: 170px }");
+        QVERIFY(gainWidth() >= 170 && gainWidth() < 180);
+        panel.page.setStyleSheet(sheet);
+        QCOMPARE(gainWidth(), others);
+    }
+}
+
+// A window opens in the size that it keeps.
+void tst_AlignFields::firstSize()
+{
+    Panel panel;
+    panel.page.setStyleSheet(theme("desktop") + "* { font: 30px; }");
+    panel.gain->setRange(0, 12345678);
+    panel.page.show();
+    const QSize size = panel.page.size();
+    settle();
+    QCOMPARE(panel.page.sizeHint(), size);
+}
+
+// The sheet is then applied again.
+void tst_AlignFields::refusedEntry()
+{
+    Panel panel;
+    panel.page.setStyleSheet(theme("desktop"));
+    QVERIFY(User::show(panel.page));
+    const int width = panel.width();
+    const EditorRow row = rowsOf(*panel.gain)[0];
+    row.type("1/0\n");
+    QVERIFY(row.spinBox->property("isEntryRefused").toBool());
+    settle();
+    QCOMPARE(panel.width(), width);
+}
+
+QTEST_MAIN(tst_AlignFields)
+
+#include "tst_alignfields.moc"
