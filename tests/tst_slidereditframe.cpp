@@ -95,10 +95,10 @@ template <typename AnyUser> void compareSilence(AnyUser &user)
 {
     QAbstractSpinBox *const spinBox = user.row.spinBox;
     QSlider *const slider = user.row.slider;
-    const QSignalSpy sliderReports(slider, &QSlider::valueChanged);
-    const QSignalSpy spinBoxReports(
-        spinBox, user.isWhole ? SIGNAL(valueChanged(int)) : SIGNAL(valueChanged(double)));
     for (const bool isBlocked : {true, false}) {
+        const QSignalSpy sliderReports(slider, &QSlider::valueChanged);
+        const QSignalSpy spinBoxReports(
+            spinBox, user.isWhole ? SIGNAL(valueChanged(int)) : SIGNAL(valueChanged(double)));
         spinBox->blockSignals(isBlocked);
         slider->blockSignals(isBlocked);
         user.play("range 0 50 | value 70 | range 5 40 | singleStep 2 | maximum 30 | minimum 40");
@@ -106,8 +106,9 @@ template <typename AnyUser> void compareSilence(AnyUser &user)
             user.play("decimals 1 | decimals 2");
         user.play("shown: 40");
         QVERIFY(spinBox->signalsBlocked() == isBlocked && slider->signalsBlocked() == isBlocked);
+        if (!isBlocked)
+            QVERIFY(sliderReports.isEmpty() && spinBoxReports.isEmpty());
     }
-    QVERIFY(sliderReports.isEmpty() && spinBoxReports.isEmpty());
 }
 
 } // namespace

@@ -356,6 +356,7 @@ void EditorUser::addRect(RectEditFrame *rect)
             log.add(isLocked ? "yes" : "no");
         log.add(QString::number(rect->sizeLockRatio()));
     });
+    on("ratioOf", [=](const Step &step) { rect->setSizeLockRatio(QSize(step[0], step[1])); });
     on("ratio", [=](const Step &step) { rect->setSizeLock(step.text.toDouble()); });
     on("set", [=](const Step &step) { rect->setValue(step[0], step[1], step[2], step[3]); });
 }

@@ -276,6 +276,13 @@ void RectEditFrame::setSizeLock(qreal ratio)
     d->m_lockedSize = QSize(Internal::saturatedInt(std::round(ratio * basis)), basis);
 }
 
+void RectEditFrame::setSizeLockRatio(const QSize &ratio)
+{
+    if (!ratio.isEmpty()) {
+        d->m_lockedSize = ratio;
+    }
+}
+
 void RectEditFrame::setPositionLock(bool bLock)
 {
     d->setPositionLock(bLock);

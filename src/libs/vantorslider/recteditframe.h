@@ -41,6 +41,9 @@ class RectEditFramePrivate;
     All, changes nothing and logs one warning. No setter emits valueChanged() or the signal of a
     field.
 
+    The notify signal of a property is emitted for the user's changes only, never by its setter.
+    The getters of 1.0 are not const: rectangle() reads a const editor.
+
     While the position lock is on, x and y change by the same amount. While the size lock is on,
     width and height change by the same amount (OffsetLock) or keep their ratio (SizeScaleLock).
     The user switches a lock with its button. The button is hidden until the host enables it; a
@@ -74,7 +77,9 @@ public:
     /*! How the size lock relates width and height. */
     enum LockType : int {
         OffsetLock = 0, //!< Both change by the same amount.
-        SizeScaleLock = 1, //!< They keep the ratio from when the lock was turned on.
+        //! They keep the ratio from when the lock was turned on, and the rectangle in an area that
+        //! begins at the minima of x and y and is as large as the maxima of width and height.
+        SizeScaleLock = 1,
     };
 
     /*!
@@ -253,9 +258,17 @@ public:
         by the current ratio.
 
         If it rounds to 0, the width is free and a change of the height sets the width to 0. A
-        negative ratio is invalid: the sizes are then undefined.
+        negative ratio is invalid: the sizes are then undefined. An integer argument is ambiguous
+        between the two overloads: write setSizeLock(1.0). For an exact ratio there is
+        setSizeLockRatio().
     */
     void setSizeLock(qreal ratio);
+
+    /*!
+        Sets the ratio of the size lock to the width and height of \a ratio, exactly, like
+        setSizeLock(qreal). A ratio that is not above 0 changes nothing. \since 1.1
+    */
+    void setSizeLockRatio(const QSize &ratio);
 
     /*!
         Turns the position lock on or off; off by default. Each call with true takes the current

@@ -33,7 +33,8 @@ class RGBAllEditFramePrivate;
     \endcode
 
     Each row is a SliderEditFrame. A function with a Type argument addresses the row of that flag.
-    Any other value changes nothing and logs one warning. No setter emits a signal.
+    Any other value changes nothing and logs one warning. No setter emits a signal, also none of
+    a property. The getters of 1.0 are not const: color() and rows() read a const editor.
 
     Style sheets select on the dynamic property "isSliderFrame" and the object names "frameAll" of
     the master row and "frameRGB" of the RGBEditFrame with the channels.

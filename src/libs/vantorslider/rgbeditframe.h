@@ -32,7 +32,8 @@ class RGBEditFramePrivate;
     \endcode
 
     Each row is a SliderEditFrame. A function with a Type argument addresses the row of that flag.
-    Any other value changes nothing and logs one warning. No setter emits a signal.
+    Any other value changes nothing and logs one warning. No setter emits a signal, also none of
+    a property. The getters of 1.0 are not const: color() and rows() read a const editor.
 
     Style sheets select on the dynamic property "isSliderFrame", on the rows' object names
     "frameR", "frameG" and "frameB", and on the dynamic properties "isColorControl_Red",

@@ -34,7 +34,8 @@ class RGBOpacityEditFramePrivate;
     \endcode
 
     Each row is a SliderEditFrame. A function with a Type argument addresses the row of that flag.
-    Any other value changes nothing and logs one warning. No setter emits a signal.
+    Any other value changes nothing and logs one warning. No setter emits a signal, also none of
+    a property. The getters of 1.0 are not const: color() and rows() read a const editor.
 
     Style sheets select on the dynamic property "isSliderFrame" and the object names
     "frameOpacity" of the opacity row and "frameRGB" of the RGBEditFrame with the channels.

@@ -35,7 +35,11 @@ class SliderEditPrivate;
     Style sheets select on the dynamic properties "isSliderFrame" of the frame,
     "isSliderEditSubtract" and "isSliderEditPlus" of the buttons, and on the children's object
     names "labelName", "slider", "spinBox", "sliderEditSubtract" and "sliderEditPlus". A width
-    that a style sheet gives a child takes precedence over one that the host sets.
+    that a style sheet gives a child takes precedence over one that the host sets. A width range
+    takes the maximum first.
+
+    The notify signal of a property is emitted for the user's changes only, never by its setter.
+    Some getters are not const since 1.0: the properties of the same name read a const row.
 */
 class VANTORSLIDER_EXPORT SliderEditFrame : public QFrame
 {
