@@ -145,6 +145,14 @@ template <typename AnyUser> void findReset(AnyUser &user)
         QApplication::sendEvent(user.row.label, &event);
         QCOMPARE(QToolTip::text(), tip);
     }
+    {
+        const User::UpperCase language;
+        QCOMPARE(user.row.label->toolTip(), QString("DOUBLE-CLICK TO RESET"));
+    }
+    user.frame->clearDefaultValue();
+    QVERIFY(!user.frame->hasDefaultValue());
+    QCOMPARE(signsOf(user.row), QStringList({"", "border", "", ""}));
+    user.play("reset");
 }
 
 // Two taps of a finger on the label.

@@ -3,7 +3,6 @@
 #include "maskeditframe.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QTranslator>
 
 using namespace Vantor::Widgets;
 
@@ -19,19 +18,6 @@ private Q_SLOTS:
     void sequences() { runTestCode(); }
     void setsThroughTheVirtuals();
 };
-
-namespace {
-
-struct UpperCase : QTranslator
-{
-    bool isEmpty() const override { return false; }
-    QString translate(const char *, const char *text, const char *, int) const override
-    {
-        return QString(text).toUpper();
-    }
-};
-
-} // namespace
 
 // The lock buttons replace their placeholders.
 void tst_RectEditFrames::lockButtons()
@@ -57,10 +43,8 @@ void tst_RectEditFrames::lockButtons()
     frame.setSizeLockEnable(true, RectEditFrame::SizeScaleLock);
     QCoreApplication::processEvents();
     QCOMPARE(places(), texts.arg("38..60", "hidden", " isBesideLock=true").trimmed());
-    UpperCase upperCase;
     frame.findChild<QWidget *>("toolButtonLockSize")->setAccessibleName("Ratio");
-    QCoreApplication::installTranslator(&upperCase);
-    QCoreApplication::processEvents();
+    const User::UpperCase language;
     QVERIFY(places().contains("LOCK POSITION") && places().contains("Ratio"));
 }
 

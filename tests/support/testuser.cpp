@@ -29,6 +29,18 @@ bool User::show(QWidget &window)
     return QTest::qWaitForWindowActive(&window);
 }
 
+User::UpperCase::UpperCase()
+{
+    QCoreApplication::installTranslator(this);
+    QCoreApplication::processEvents();
+}
+
+User::UpperCase::~UpperCase()
+{
+    QCoreApplication::removeTranslator(this);
+    QCoreApplication::processEvents();
+}
+
 void User::paste(const QString &text)
 {
     QApplication::clipboard()->setText(text);

@@ -3,6 +3,7 @@
 #include "userevents.h"
 
 #include <QtCore/QLocale>
+#include <QtCore/QTranslator>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QSlider>
@@ -15,6 +16,17 @@ namespace User {
 // Shows the window and waits until it is active; false if it never is.
 [[nodiscard]] bool show(QWidget &window);
 void paste(const QString &text);
+// A language of upper case letters, until it is destroyed.
+struct UpperCase : QTranslator
+{
+    UpperCase();
+    ~UpperCase() override;
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QString(text).toUpper();
+    }
+};
 // A click on the groove before (false) or after (true) the handle.
 void clickGroove(QSlider *slider, bool behind);
 

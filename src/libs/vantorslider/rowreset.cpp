@@ -17,14 +17,38 @@ RowReset::RowReset(QLabel *label, std::function<void()> reset)
     label->installEventFilter(this);
     label->setProperty("isResettable", true);
     label->setCursor(Qt::PointingHandCursor);
-    if (label->toolTip().isEmpty()) {
+    showHint();
+    updateLabel();
+}
+
+// A tool tip of the host stays.
+void RowReset::showHint()
+{
+    if (m_label->toolTip() == m_hint) {
         m_hint = SliderEditFrame::tr("Double-click to reset");
-        label->setToolTip(m_hint);
+        m_label->setToolTip(m_hint);
     }
-    applyStyleSheet(label);
-    // An interface that Qt created earlier for the row does not have the action.
+}
+
+void RowReset::remove()
+{
+    m_label->removeEventFilter(this);
+    m_label->setProperty("isResettable", QVariant());
+    m_label->unsetCursor();
+    if (m_label->toolTip() == m_hint) {
+        m_label->setToolTip(QString());
+    }
+    setParent(nullptr);
+    deleteLater();
+    updateLabel();
+}
+
+void RowReset::updateLabel()
+{
+    applyStyleSheet(m_label);
+    // An interface that Qt created earlier for the row has other actions.
     QAccessible::deleteAccessibleInterface(
-        QAccessible::uniqueId(QAccessible::queryAccessibleInterface(label->parentWidget())));
+        QAccessible::uniqueId(QAccessible::queryAccessibleInterface(m_label->parentWidget())));
 }
 
 void RowReset::perform() const
@@ -41,6 +65,9 @@ bool RowReset::eventFilter(QObject *watched, QEvent *event)
         && static_cast<const QMouseEvent *>(event)->button() == Qt::LeftButton) {
         perform();
         return true;
+    }
+    if (event->type() == QEvent::LanguageChange) {
+        showHint();
     }
     if (event->type() == QEvent::ToolTip && isHintInTheWay()) {
         event->ignore(); // Qt passes it to the parents

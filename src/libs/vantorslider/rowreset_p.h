@@ -22,14 +22,18 @@ class RowReset : public QObject
 public:
     RowReset(QLabel *label, std::function<void()> reset);
 
-    static const RowReset *of(const QObject *row) { return row->findChild<RowReset *>(); }
+    static RowReset *of(const QObject *row) { return row->findChild<RowReset *>(); }
 
     void perform() const;
+    // Leaves the label as it was. The object is deleted later: perform() may be on the stack.
+    void remove();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void showHint();
+    void updateLabel();
     bool isHintInTheWay() const;
 
     QLabel *const m_label;

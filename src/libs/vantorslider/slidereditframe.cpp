@@ -282,6 +282,11 @@ void SliderEditFrame::setDefaultValue(int val)
     d->setDefaultValue(val);
 }
 
+void SliderEditFrame::clearDefaultValue()
+{
+    d->clearDefaultValue();
+}
+
 int SliderEditFrame::defaultValue() const
 {
     return d->defaultValue();

@@ -258,6 +258,11 @@ void SliderEditFrameDouble::setDefaultValue(double val)
     }
 }
 
+void SliderEditFrameDouble::clearDefaultValue()
+{
+    d->clearDefaultValue();
+}
+
 double SliderEditFrameDouble::defaultValue() const
 {
     return d->defaultValue();

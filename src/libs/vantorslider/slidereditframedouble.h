@@ -49,7 +49,8 @@ class VANTORSLIDER_EXPORT SliderEditFrameDouble : public QFrame
     Q_PROPERTY(double singleStep READ singleStep WRITE setSingleStep)
     Q_PROPERTY(int pageStep READ pageStep WRITE setPageStep)
     Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged USER true)
-    Q_PROPERTY(double defaultValue READ defaultValue WRITE setDefaultValue)
+    Q_PROPERTY(double defaultValue READ defaultValue WRITE setDefaultValue RESET clearDefaultValue
+                   STORED hasDefaultValue)
     Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
     Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
@@ -222,6 +223,9 @@ public:
 
     /*! Returns whether there is a default value. \since 1.1 */
     bool hasDefaultValue() const;
+
+    /*! Removes the default value: the label no longer resets the row. \since 1.1 */
+    void clearDefaultValue();
 
     /*!
         Sets the slider's scale to \a scale, LinearScale by default. A logarithmic scale has the

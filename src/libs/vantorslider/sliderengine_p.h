@@ -115,6 +115,13 @@ public:
         }
         m_defaultValue = val;
     }
+    void clearDefaultValue()
+    {
+        if (hasDefaultValue()) {
+            RowReset::of(m_pSliderEditer)->remove();
+            m_defaultValue.reset();
+        }
+    }
 
     // Emits nothing, like the host's other setters.
     void reset()
