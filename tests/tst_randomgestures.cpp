@@ -35,7 +35,7 @@ const QStringList gestures =
         "hold | move # | move # | tick | drop; hold | move # | tick | move # | drop; "
         "hold | move # | dialog | drop; type #/1 | dialog; type # | minus; hold | move # | hide "
         "| show; type # | disable | enable; space | type # | hold | drop; reset; "
-        "hold | move # | pageMenu | drop; type # | screenReader")
+        "hold | move # | pageMenu | drop; type # | screenReader | keys \t")
         .split("; ");
 
 // The user's action during which the program deletes the editor.

@@ -97,7 +97,7 @@ void EditSpan::emitEnd(int retryInterval)
         m_isRetrying = true;
         QTimer::singleShot(retryInterval, m_editor, [this] {
             m_isRetrying = false;
-            emitEnd(50);
+            emitEnd(10);
         });
     }
 }
