@@ -22,6 +22,15 @@ qt6_packages=(
     libgl-dev qmake6 qt6-base-dev qt6-declarative-dev qt6-svg-dev 'qt6-svg-plugins|libqt6svg6'
     qt6-tools-dev qt6-tools-dev-tools
 )
+# Qt for Python with its generator, which needs the headers of its compiler.
+pyside2_packages=(
+    libclang-dev libpyside2-dev libshiboken2-dev python3-dev python3-pyside2.qttest
+    python3-pyside2.qtwidgets shiboken2
+)
+pyside6_packages=(
+    libclang-dev libpyside6-dev libshiboken6-dev python3-dev python3-pyside6.qttest
+    python3-pyside6.qtwidgets shiboken6
+)
 build_packages=(cmake fonts-dejavu-core g++ make ninja-build pkg-config)
 
 # With VANTORSLIDER_QT=6 a command works on the build for Qt 6. Its presets and
@@ -30,10 +39,12 @@ case ${VANTORSLIDER_QT:-5} in
 5)
     ending=
     build_packages+=("${qt5_packages[@]}")
+    python_packages=("${pyside2_packages[@]}")
     ;;
 6)
     ending=-qt6
     build_packages+=("${qt6_packages[@]}")
+    python_packages=("${pyside6_packages[@]}")
     ;;
 *) fail "VANTORSLIDER_QT is $VANTORSLIDER_QT; it must be 5 or 6" ;;
 esac
@@ -67,13 +78,18 @@ apt_install() {
         apt-get install -q --no-install-recommends "$@"
 }
 
+# Whether this Debian has the package.
+has() {
+    [ -n "$(apt-cache show "$1" 2>/dev/null)" ]
+}
+
 # Sets missing to those of the named Debian packages that are not installed, without
 # duplicates. Of names joined by "|" it takes the first that this Debian has, or the last.
 find_missing() {
     local names name
     missing=()
     for names in "$@"; do
-        while [ "$names" != "${names#*|}" ] && [ -z "$(apt-cache show "${names%%|*}" 2>/dev/null)" ]; do
+        while [ "$names" != "${names#*|}" ] && ! has "${names%%|*}"; do
             names=${names#*|}
         done
         name=${names%%|*}
