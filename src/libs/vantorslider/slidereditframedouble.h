@@ -49,8 +49,13 @@ class VANTORSLIDER_EXPORT SliderEditFrameDouble : public QFrame
     Q_PROPERTY(double singleStep READ singleStep WRITE setSingleStep)
     Q_PROPERTY(int pageStep READ pageStep WRITE setPageStep)
     Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged USER true)
+    // The moc of Qt 6 refuses a function here.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     Q_PROPERTY(double defaultValue READ defaultValue WRITE setDefaultValue RESET clearDefaultValue
                    STORED hasDefaultValue)
+#else
+    Q_PROPERTY(double defaultValue READ defaultValue WRITE setDefaultValue RESET clearDefaultValue)
+#endif
     Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
     Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
