@@ -102,7 +102,24 @@ void tst_SpinBoxes::keys_data()
     withOptions(EnterStays, false, "5/2\n", "2.500: editing() value(2.5) enter()");
     withOptions(EnterStays, false, "5/2\n\n", "2.500: editing() value(2.5) enter() key");
     withOptions(EnterStays, false, "5/2=", "2.500: editing() value(2.5)");
-    withOptions(EnterStays | DecimalComma, true, "2,5\n", "2.500: value(2) value(2.5) key");
+    withOptions(EnterStays | DecimalComma, true, "2,5\n",
+                "2.500: value(2) value(2.5) editing() enter()");
+    // What can be restored is no value yet.
+    withOptions(EscapeRestores, true, "2*3\x1b", "1.000:");
+    withOptions(EscapeRestores, true, "2*3\t", "6.000: value(6) editing()");
+    withOptions(EscapeRestores, true, "2*3=", "6.000: value(6) editing()");
+    for (const QString typed : {"12*3\x1b", "12*3=\t"})
+        add("int, options 4, tracking, ", typed, [=] {
+            const auto setUp = [](auto &box) {
+                box.setEntryOptions(EscapeRestores);
+                box.setKeyboardTracking(true);
+                box.setValue(50);
+                box.setSpinBoxCal(50, 100, 0, 0, 2);
+            };
+            compare<SliderEditSpinBox>(
+                setUp, typed,
+                typed.endsWith('\t') ? "36: value(36) enter() editing() editing()" : "50:");
+        });
 }
 
 // The suffix that is hidden while the field is edited.
@@ -130,6 +147,12 @@ void tst_SpinBoxes::suffix()
     QCOMPARE(box.suffix(), QString("s"));
     box.clearFocus();
     QCOMPARE(box.suffix(), QString("mm"));
+    // It is read without each occurrence of the suffix, as float.
+    box.setMaximum(99999999);
+    box.setSuffix("5");
+    box.setValue(16775217.25);
+    box.setFocus();
+    QCOMPARE(box.value(), 1677217.25);
 }
 
 QTEST_MAIN(tst_SpinBoxes)

@@ -74,6 +74,11 @@ void tst_TypedEntries::whole_data()
     row("0 100 50", "prefix $ | type 12*3\t: finished 36 finished", "$36");
     row("0 100 50", "prefix + | suffix /s | type 07a | up: 8 | hide: finished finished", "+8/s");
     row("0 9999999 1234567", "suffix  px | enter 1/0", "1234567 px");
+    row("0 1000 50", "suffix  mm | click | press End | keys 9\t: finished 509 finished", "509 mm");
+    row("0 1000 50", "suffix  mm | click | press End | keys *2\t: finished 100 finished", "100 mm");
+    row("0 1000 50", "suffix  mm | click | press End | keys \b\t: finished 5 finished", "5 mm");
+    row("0 1000 50", "prefix 1 | click | press Home | keys 2\t: finished 250 finished", "1250");
+    row("0 1000 50", "suffix  mm | click | press Ctrl+K | keys 7\t: finished 7 finished", "7 mm");
     // Another unit keeps the entry and the cursor position.
     row("0 100 50",
         "prefix + | type 12*3 | suffix  px | prefix >> | shown: >>12*3 px/50 | keys 1\t: "
@@ -105,6 +110,15 @@ void tst_TypedEntries::whole_data()
     row("0 100 50", "type 12*3 | range 0 90 | elsewhere: finished 36 finished", "36");
     // At the end of the range there is no step, and the entry stays.
     row("0 100 100", "type 5/1 | up | elsewhere: finished 5 finished", "5");
+    // The program ends an entry as Enter does, and the focus stays.
+    row("0 100 50",
+        "type 12*3 | pending: yes | finish: finished 36 | pending: no | keys +4\t: finished 40 "
+        "finished",
+        "40");
+    row("0 100 50", "finish | type 50 | pending: yes | finish: finished | pending: no", "50");
+    row("0 100 50", "type 1/0 | finish: finished | refused: yes | pending: no", "50");
+    // A held Enter ends one entry.
+    row("0 100 50", "enter 12*3: 36 | held | held | keys \n: key", "36");
     // An entry stays refused until something else is typed, stepped or set.
     row("0 100 10", "type 2+=: finished finished left | refused: yes", "10");
     row("0 100 10", "click | paste while(1) | hide: finished finished | refused: yes", "10");
@@ -135,9 +149,9 @@ void tst_TypedEntries::fraction_data()
     row("0 1e7 1234567 2", "enter 1/0", "1234567.00"); // shown as 1.23457e+06
     row("0 99999 12345.67 2", "prefix $ | type 1/0\t", "$12345.67");
     row("0 10 1", "locale de_DE | enter 2.5: 2.5", "2.50");
-    row("0 9999999 1234567.891 3", "suffix mm | click: 1234567.875 | elsewhere", "1234567.875mm");
-    row("0 99999999 16777217", "suffix mm | click: 16777216 | elsewhere", "16777216.00mm");
-    row("0 100 2.5", "suffix 5 | click: 2 | elsewhere", "2.005");
+    row("0 9999999 1234567.891 3", "suffix mm | click | elsewhere", "1234567.891mm");
+    row("0 100 12.25", "suffix 5 | click | elsewhere", "12.255");
+    row("0 100 2", "suffix 5 | enter 12.25: 12.25", "12.255");
     row("0 100 12.5", "prefix $ | suffix mm | click | elsewhere", "$12.50mm");
     row("-5 100 -5", "specialValueText off | suffix mm | click | elsewhere", "off/-500");
     row("0 100 10", "suffix mm | type 12* | menu 2 | selected: nothing | elsewhere: 24", "24.00mm");
@@ -147,6 +161,9 @@ void tst_TypedEntries::fraction_data()
     row("0 10 1", "prefix $ | enter 3/2: 1.5", "$1.50");
     row("0 100 0.1", "suffix mm | type 1/4=+1\n: 1.25", "1.25mm");
     row("0 100 0.1", "suffix mm | enter 1/0", "0.10mm");
+    row("0 10 1", "suffix mm | type 3/2 | finish: 1.5 | pending: no | press End | keys *2\t: 3",
+        "3.00mm");
+    row("0 10 1", "enter 3/2: 1.5 | held | keys \n: key", "1.50");
     // The unit that was set last is restored, and is hidden while the field is edited.
     row("0 10 1", "click | suffix mm | shown: 1.00 | prefix $ | elsewhere", "$1.00mm");
     row("0 10 1", "suffix mm | type 3/2 | suffix s | prefix $ | shown: $3/2/100 | elsewhere: 1.5",

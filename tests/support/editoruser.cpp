@@ -169,6 +169,13 @@ void EditorUser::addGestures()
         const int code = QMetaEnum::fromType<Qt::Key>().keyToValue("Key_" + key);
         on(key.toLower(), [code](const Step &) { User::press(Qt::Key(code)); });
     }
+    on("press", [](const Step &step) {
+        QTest::keySequence(QApplication::focusWidget(), QKeySequence(step.text));
+    });
+    on("held", [](const Step &) {
+        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+        QApplication::sendEvent(QApplication::focusWidget(), &repeated);
+    });
     on("elsewhere", [this](const Step &) {
         QTest::mouseClick(page.windowHandle(), Qt::LeftButton, {}, QPoint(1, 1));
         page.setFocus();
@@ -300,6 +307,8 @@ template <typename Frame> void EditorUser::add(Frame *frame)
     on("fieldFocus", [=](const Step &) { frame->setFieldFocus(); });
     on("pressed", [=](const Step &) { log.add(frame->isMousePressed() ? "yes" : "no"); });
     on("wheelEnabled", [=](const Step &) { frame->setSpinBoxWheelEnable(true); });
+    on("finish", [=](const Step &) { frame->finishEntry(); });
+    on("pending", [=](const Step &) { log.add(frame->hasPendingEntry() ? "yes" : "no"); });
     on("bounds", [=](const Step &) {
         log.add(inUnits(frame->minimum()) + ".." + inUnits(frame->maximum()));
     });

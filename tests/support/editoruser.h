@@ -90,7 +90,8 @@ private:
 //   enter 12*3              types and presses Enter; its messages are implied
 //   menu 07                 pastes by the field's own menu; pageMenu: opens one of the page
 //   undo, redo              presses their keys
-//   up, down, right, home, end, escape presses that key
+//   up, down, right, home, end, escape presses that key; press Del: any key
+//   held                    Enter again, as a key that is held repeats it
 //   wheel                   turns it over the slider, then over the field
 //   leave                   moves the pointer off the slider
 //   reset, screenReader     double-clicks the label, performs the action of a screen reader
@@ -105,7 +106,7 @@ private:
 //   of an edit then causes
 // to a slider editor:
 //   minimum, maximum, singleStep, pageStep, decimals, direction (flags and value),
-//   wheelEnabled, suffix, prefix, scale, hideSlider, fieldFocus; specialValueText and
+//   wheelEnabled, suffix, prefix, scale, hideSlider, fieldFocus, finish; specialValueText and
 //   locale of the spin box
 // to a rectangle, a crop or a mask:
 //   set, sizeLock and positionLock on or off, ratio; area, areaFrom, leastPosition,
@@ -120,6 +121,7 @@ private:
 //   selected   "all" of the field's text, "nothing" or the text, after all posted events
 //   locks      of a rectangle: is the position locked, is the size, and its ratio
 //   pressed, refused   whether the handle is held, whether the entry was refused
+//   pending    whether a slider editor has a pending entry
 //   repeating  whether minus and plus repeat while they are held
 class EditorUser
 {

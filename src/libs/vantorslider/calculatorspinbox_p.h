@@ -2,6 +2,7 @@
 
 #include "editspan_p.h"
 #include "fieldtext_p.h"
+#include "itemeditor_p.h"
 #include "qlineeditcal.h"
 #include "saturation_p.h"
 
@@ -45,18 +46,27 @@ inline std::optional<double> numberIn(const QString &text)
     return isNumber && std::isfinite(number) ? std::optional<double>(number) : std::nullopt;
 }
 
+template <typename SpinBox> Unit unitOf(const SpinBox *spinBox)
+{
+    return {spinBox->prefix(), spinBox->suffix()};
+}
+
 // The number in the text of a calculator spin box, clamped to the range. Qt would return the
 // minimum for a number out of range, and for text that it can't read. A result can be out of
 // range: the calculator clamps it as float to the range of the last setSpinBoxCal() and rounds it
 // to decimals of its own. Text that is no number returns the current value. So does the result
-// that is shown instead of a failed expression, if it is the value formatted with six digits.
+// that is shown instead of a failed expression, if it is the value formatted with six digits, and
+// what the user types with EscapeRestores, until the entry ends.
 template <typename SpinBox>
 double numberFromText(const SpinBox *spinBox, const LineEditCal *calculator, const QString &text)
 {
-    QString bare = FieldText(spinBox->prefix(), spinBox->suffix(), text).entry;
+    const double value = spinBox->value();
+    if (calculator != nullptr && calculator->isUntracked()) {
+        return value;
+    }
+    QString bare = FieldText(unitOf(spinBox), text).entry;
     bare = calculator != nullptr ? calculator->pointed(bare) : bare;
     const std::optional<double> number = numberIn(bare);
-    const double value = spinBox->value();
     const bool isRefused = calculator != nullptr && calculator->isEntryRefused();
     if (!number || (isRefused && bare == QString::number(double(saturatedFloat(value)), 'g', 6))) {
         return value;
@@ -97,7 +107,7 @@ template <typename SpinBox> bool isTextOfValue(const SpinBox *spinBox)
 template <typename SpinBox> bool showsValue(const SpinBox *spinBox)
 {
     return isTextOfValue(spinBox)
-        || numberIn(FieldText::of(spinBox).entry) == double(spinBox->value());
+        || numberIn(FieldText(unitOf(spinBox), spinBox->text()).entry) == double(spinBox->value());
 }
 
 template <typename SpinBox> Entry pendingEntry(const SpinBox *spinBox)
@@ -105,7 +115,8 @@ template <typename SpinBox> Entry pendingEntry(const SpinBox *spinBox)
     if (isTextOfValue(spinBox)) {
         return Entry::None;
     }
-    const std::optional<double> number = numberIn(FieldText::of(spinBox).entry);
+    const std::optional<double> number =
+        numberIn(FieldText(unitOf(spinBox), spinBox->text()).entry);
     if (!number) {
         return Entry::Expression;
     }
@@ -114,18 +125,27 @@ template <typename SpinBox> Entry pendingEntry(const SpinBox *spinBox)
     return isValue ? Entry::None : Entry::Number;
 }
 
+// Whether the user has typed since the last entry ended, or the text is not the value.
+template <typename SpinBox>
+bool hasPendingEntry(const SpinBox *spinBox, const LineEditCal *calculator)
+{
+    return (calculator != nullptr && calculator->isModified()) || !showsValue(spinBox);
+}
+
 // Changes prefix and suffix. Qt then writes the value; a pending entry is restored between them.
 template <typename SpinBox, typename Change>
 void keepEntry(SpinBox *spinBox, QLineEdit *field, Change change)
 {
-    const bool isPending = pendingEntry(spinBox) != Entry::None;
-    const FieldText before = FieldText::of(spinBox);
+    const bool isTyped = field->isModified();
+    const bool isPending = isTyped || pendingEntry(spinBox) != Entry::None;
+    const FieldText before(unitOf(spinBox), spinBox->text());
     const auto cursor = field->cursorPosition() - before.prefix.length();
     change();
     if (isPending) {
         const QSignalBlocker blocker(field);
         field->setText(spinBox->prefix() + before.entry + spinBox->suffix());
         field->setCursorPosition(static_cast<int>(spinBox->prefix().length() + cursor));
+        field->setModified(isTyped);
     }
 }
 
@@ -135,27 +155,38 @@ template <typename SpinBox>
 bool isRestoredBy(const QEvent *keyEvent, const SpinBox *spinBox, const LineEditCal *calculator)
 {
     return isRestoringKey(keyEvent, calculator)
-        && (calculator->isEntryRefused() || !showsValue(spinBox));
+        && (calculator->isEntryRefused() || hasPendingEntry(spinBox, calculator));
 }
 
 template <typename SpinBox> void restoreValue(SpinBox *spinBox, LineEditCal *calculator)
 {
+    EditSpan::Scope edit(EditSpan::around(spinBox));
     const QSignalBlocker blocker(spinBox);
     spinBox->setValue(spinBox->value());
+    calculator->setModified(false);
     // Also discards the last accepted result.
     calculator->setInitialResult(saturatedFloat(spinBox->value()));
     spinBox->selectAll();
+    edit.release(EditSpan::Entry);
 }
 
-// Enter with the option EnterStays. Each receiver may delete the spin box.
-template <typename SpinBox> void finishAndStay(SpinBox *spinBox, QKeyEvent *event)
+// Nothing is typed any more. A receiver may have deleted the spin box.
+template <typename SpinBox>
+void endEntry(const QPointer<SpinBox> &spinBox, LineEditCal *calculator, EditSpan::Scope *edit)
 {
-    if (showsValue(spinBox)) {
-        spinBox->interpretText(); // writes the value where the text is another one of it, as 9.
-        // Leaves the key to a default button, except for auto-repeat of a held key.
-        event->setAccepted(event->isAutoRepeat());
+    if (spinBox && calculator != nullptr) {
+        calculator->setModified(false);
+    }
+    edit->release(EditSpan::Entry);
+}
+
+// Ends a pending entry as Enter does. Each receiver may delete the spin box.
+template <typename SpinBox> void finishEntry(SpinBox *spinBox, LineEditCal *calculator)
+{
+    if (!hasPendingEntry(spinBox, calculator)) {
         return;
     }
+    EditSpan::Scope edit(EditSpan::around(spinBox));
     const QPointer<SpinBox> self(spinBox);
     Q_EMIT spinBox->editingFinished();
     if (self) {
@@ -164,12 +195,7 @@ template <typename SpinBox> void finishAndStay(SpinBox *spinBox, QKeyEvent *even
     if (self) {
         spinBox->interpretText();
     }
-    if (self) {
-        Q_EMIT spinBox->enterFinished();
-    }
-    if (self) {
-        spinBox->selectAll();
-    }
+    endEntry(self, calculator, &edit);
 }
 
 // Return, Enter and the key that restores the value. Returns false for any other key. Each receiver
@@ -177,25 +203,55 @@ template <typename SpinBox> void finishAndStay(SpinBox *spinBox, QKeyEvent *even
 template <typename SpinBox>
 bool handleKey(SpinBox *spinBox, LineEditCal *calculator, QKeyEvent *event)
 {
-    const bool isRestored = isRestoredBy(event, spinBox, calculator);
-    if (!isRestored && !isFinishingKey(event)) {
+    if (isRestoredBy(event, spinBox, calculator)) {
+        restoreValue(spinBox, calculator);
+        return true;
+    }
+    if (!isFinishingKey(event)) {
         return false;
     }
+    const bool stays = spinBox->entryOptions().testFlag(EnterStays);
+    if (stays && !hasPendingEntry(spinBox, calculator)) {
+        // Leaves the key to a default button, except for auto-repeat of a held key.
+        event->setAccepted(event->isAutoRepeat());
+        return true;
+    }
     EditSpan::Scope edit(EditSpan::around(spinBox));
-    if (isRestored) {
-        restoreValue(spinBox, calculator);
-        edit.release(EditSpan::Entry);
-    } else if (spinBox->entryOptions().testFlag(EnterStays)) {
-        finishAndStay(spinBox, event);
-        edit.release(EditSpan::Entry);
+    const QPointer<SpinBox> self(spinBox);
+    if (stays) {
+        finishEntry(spinBox, calculator);
     } else {
-        const QPointer<SpinBox> self(spinBox);
         Q_EMIT spinBox->editingFinished();
-        if (self) {
-            Q_EMIT spinBox->enterFinished();
-        }
+    }
+    if (self) {
+        Q_EMIT spinBox->enterFinished();
+    }
+    endEntry(self, calculator, &edit);
+    if (self && stays) {
+        spinBox->selectAll();
     }
     return true;
+}
+
+// In an editor of an item view. Returns whether the event goes on to that editor.
+template <typename SpinBox>
+bool handleItemEditorEvent(SpinBox *spinBox, LineEditCal *calculator, QEvent *event)
+{
+    const ItemEditorAction action = itemEditorAction(spinBox, event);
+    if (action == ItemEditorAction::None || calculator == nullptr
+        || calculator->hostWindow().isBeingDestroyed()) {
+        return false;
+    }
+    const QPointer<SpinBox> self(spinBox);
+    if (action != ItemEditorAction::RestoreAndPass) {
+        finishEntry(spinBox, calculator);
+    } else if (hasPendingEntry(spinBox, calculator)) {
+        restoreValue(spinBox, calculator);
+    }
+    if (action != ItemEditorAction::Finish) {
+        event->ignore();
+    }
+    return !self || action != ItemEditorAction::Finish;
 }
 
 // The key that restores the value takes precedence over a host's shortcut. The field reports when
@@ -203,6 +259,9 @@ bool handleKey(SpinBox *spinBox, LineEditCal *calculator, QKeyEvent *event)
 template <typename SpinBox>
 bool handleEvent(SpinBox *spinBox, LineEditCal *calculator, QEvent *event)
 {
+    if (handleItemEditorEvent(spinBox, calculator, event)) {
+        return true;
+    }
     if (event->type() == QEvent::ShortcutOverride && isRestoredBy(event, spinBox, calculator)) {
         event->accept();
         return true;
@@ -224,8 +283,9 @@ void handleStep(SpinBox *spinBox, LineEditCal *calculator, Base base)
     if (calculator != nullptr && pendingEntry(spinBox) == Entry::Expression) {
         calculator->setSlotEditingFinished();
     }
+    const QPointer<SpinBox> self(spinBox);
     base();
-    edit.release(EditSpan::Entry);
+    endEntry(self, calculator, &edit);
 }
 
 // Whether the spin box is hidden or loses the focus because its window is being destroyed. Its
@@ -259,7 +319,10 @@ void handleFocusOut(SpinBox *spinBox, LineEditCal *calculator, QFocusEvent *even
     if (self) {
         base();
     }
-    edit.release(EditSpan::Entry);
+    endEntry(self, calculator, &edit);
+    if (self) {
+        tellItemEditor(spinBox, event);
+    }
 }
 
 // If the spin box is hidden while it has the focus, the base interprets the text.
@@ -268,12 +331,15 @@ void handleHide(SpinBox *spinBox, LineEditCal *calculator, Base base)
 {
     EditSpan::Scope edit(EditSpan::around(spinBox));
     const QPointer<SpinBox> self(spinBox);
-    if (!isDroppedWithWindow(spinBox, calculator)) {
+    const bool isDropped = isDroppedWithWindow(spinBox, calculator);
+    if (!isDropped) {
         spinBox->setSlotEditingFinished();
-        edit.release(EditSpan::Entry);
     }
     if (self) {
         base();
+    }
+    if (!isDropped) {
+        endEntry(self, calculator, &edit);
     }
 }
 

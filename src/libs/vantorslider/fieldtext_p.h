@@ -11,61 +11,38 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// Where a class of spin box keeps its prefix and suffix. Each key in a field reads them,
-// and to find a property by its name costs more than to read it: the last class found is
-// kept.
-struct UnitProperties
+// Prefix and suffix of a spin box of any class. Each key in a field reads them, and to find a
+// property by its name costs more than to read it: the properties of the last class are kept.
+struct Unit
 {
-    static const UnitProperties &of(const QMetaObject *box)
-    {
-        static UnitProperties last;
-        if (last.box != box) {
-            last = {box, box->property(box->indexOfProperty("prefix")),
-                    box->property(box->indexOfProperty("suffix"))};
-        }
-        return last;
-    }
-
-    const QMetaObject *box = nullptr;
-    QMetaProperty prefix;
-    QMetaProperty suffix;
-};
-
-// The text of a line edit, split into the prefix and suffix of its spin box and the entry between
-// them.
-struct FieldText
-{
-    // Of a spin box of a known class.
-    template <typename SpinBox> static FieldText of(const SpinBox *spinBox)
-    {
-        return {spinBox->prefix(), spinBox->suffix(), spinBox->text()};
-    }
-
-    FieldText(const QObject *spinBox, QString text) : entry(std::move(text))
+    explicit Unit(const QObject *spinBox)
     {
         if (spinBox != nullptr) {
-            const UnitProperties &units = UnitProperties::of(spinBox->metaObject());
-            prefix = units.prefix.read(spinBox).toString();
-            suffix = units.suffix.read(spinBox).toString();
+            static const QMetaObject *box = nullptr;
+            static QMetaProperty prefixOfBox;
+            static QMetaProperty suffixOfBox;
+            if (box != spinBox->metaObject()) {
+                box = spinBox->metaObject();
+                prefixOfBox = box->property(box->indexOfProperty("prefix"));
+                suffixOfBox = box->property(box->indexOfProperty("suffix"));
+            }
+            prefix = prefixOfBox.read(spinBox).toString();
+            suffix = suffixOfBox.read(spinBox).toString();
         }
-        split();
     }
 
-    FieldText(QString before, QString after, QString text)
-        : prefix(std::move(before)), entry(std::move(text)), suffix(std::move(after))
-    {
-        split();
-    }
-
-    // The text with a different entry.
-    QString with(const QString &other) const { return prefix + other + suffix; }
+    // Of a known class.
+    Unit(QString before, QString after) : prefix(std::move(before)), suffix(std::move(after)) { }
 
     QString prefix;
-    QString entry;
     QString suffix;
+};
 
-private:
-    void split()
+// The text of a spin box, split into prefix and suffix, if it has them, and the entry between
+// them.
+struct FieldText : Unit
+{
+    FieldText(Unit unit, QString text) : Unit(std::move(unit)), entry(std::move(text))
     {
         if (prefix.isEmpty() || !entry.startsWith(prefix)) {
             prefix.clear();
@@ -78,6 +55,13 @@ private:
             entry.chop(suffix.length());
         }
     }
+
+    FieldText(const QObject *spinBox, QString text) : FieldText(Unit(spinBox), std::move(text)) { }
+
+    // The text with a different entry.
+    QString with(const QString &other) const { return prefix + other + suffix; }
+
+    QString entry;
 };
 
 } // namespace Internal

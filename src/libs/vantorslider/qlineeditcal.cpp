@@ -6,6 +6,7 @@
 #include "expressionevaluation_p.h"
 #include "fieldtext_p.h"
 #include "saturation_p.h"
+#include "unitguard_p.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
@@ -23,6 +24,22 @@ namespace Widgets {
 using Internal::CalculatorPatterns;
 using Internal::FieldText;
 
+namespace {
+
+// Whether the event is a key, or a key of an input method, that types one character.
+bool isTypedKey(const QEvent *event)
+{
+    QString text;
+    if (event->type() == QEvent::KeyPress) {
+        text = static_cast<const QKeyEvent *>(event)->text();
+    } else if (event->type() == QEvent::InputMethod) {
+        text = static_cast<const QInputMethodEvent *>(event)->commitString();
+    }
+    return text.length() == 1 && text.at(0).isPrint();
+}
+
+} // namespace
+
 // Copies of a std::regex share the compiled automaton.
 LineEditCal::LineEditCal(QWidget *parent)
     : QLineEdit(parent), m_regex(CalculatorPatterns::instance().character),
@@ -32,6 +49,25 @@ LineEditCal::LineEditCal(QWidget *parent)
 {
     connect(this, &QLineEdit::textChanged, this, &LineEditCal::onSlotTextChanged);
     setProperty("noSpaceingLineEdit", true);
+}
+
+LineEditCal::~LineEditCal() = default;
+
+void LineEditCal::setEntryOptions(EntryOptions options)
+{
+    m_entryOptions = options;
+    if (has(EscapeRestores)) {
+        // After the slot of the spin box, which tracks the keyboard.
+        connect(this, &QLineEdit::textChanged, this, &LineEditCal::onSlotTextTracked,
+                Qt::UniqueConnection);
+    }
+}
+
+void LineEditCal::setUnit(bool isSet)
+{
+    if (isSet != hasUnit()) {
+        m_unitGuard.reset(isSet ? new Internal::UnitGuard(this) : nullptr);
+    }
 }
 
 void LineEditCal::setInitialResult(const float &result)
@@ -143,19 +179,25 @@ bool LineEditCal::event(QEvent *event)
             event->ignore();
             return false;
         }
+    } else if (event->type() == QEvent::KeyPress && hasUnit()
+               && m_unitGuard->isOutside(static_cast<QKeyEvent *>(event))) {
+        return true;
     }
+    m_isKey = m_entryOptions != EntryOptions() && isTypedKey(event);
     return QLineEdit::event(event);
 }
 
 // Filters the text or, if it ends in "=", evaluates it and emits signalsResult().
 void LineEditCal::onSlotTextChanged(QString text)
 {
-    FieldText shown(parent(), std::move(text));
+    FieldText shown(parent(), hasUnit() ? this->text() : std::move(text)); // it may be repaired
     Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
-    if (isModified()) {
+    const bool isTyped = isModified();
+    if (isTyped) {
         setEntryRefused(false); // the user may have typed the shown result
         edit.begin(Internal::EditSpan::Entry);
     }
+    m_isUntracked = isTyped && has(EscapeRestores);
     QString entry = pointed(shown.entry);
     if (entry != shown.entry) {
         shown.entry = std::move(entry);
@@ -182,6 +224,11 @@ void LineEditCal::onSlotTextChanged(QString text)
     setTextFormat(std::move(shown.entry));
 }
 
+void LineEditCal::onSlotTextTracked()
+{
+    m_isUntracked = false;
+}
+
 // Only the character before the cursor is tested, so pasted text that ends in an accepted
 // character stays complete; its evaluation fails later.
 void LineEditCal::setTextFormat(QString strText)
@@ -191,7 +238,11 @@ void LineEditCal::setTextFormat(QString strText)
     }
     const int last = qMax(m_cursorPosition - 1, 0);
     if (CalculatorPatterns::isAccepted(strText.at(last))) {
-        setExpressionFormat(std::move(strText));
+        if (m_isKey && isOneTooMany(strText, last)) {
+            setEntryText(strText.remove(last, 1), last);
+        } else {
+            setExpressionFormat(std::move(strText));
+        }
         return;
     }
     // A character beyond U+FFFF is a surrogate pair; both halves are removed.
@@ -276,11 +327,31 @@ void LineEditCal::setStringFormat(QString &strText, bool &bFormat)
     }
 }
 
-// Each character after the first point counts as a decimal, also if it is not a digit. A token that
-// the previous pass did not have is never reverted.
+// With an option, a typed character that gives its number a second point or too many decimals is
+// refused alone. A pasted number stays, and is rounded when it is evaluated.
+bool LineEditCal::isOneTooMany(const QString &strText, int position) const
+{
+    int start = position;
+    while (start > 0 && !CalculatorPatterns::isMark(strText.at(start - 1))) {
+        --start;
+    }
+    int end = position;
+    while (end < strText.length() && !CalculatorPatterns::isMark(strText.at(end))) {
+        ++end;
+    }
+    const QString number = strText.mid(start, end - start);
+    const auto point = number.indexOf(QLatin1Char('.'));
+    return point >= 0 && position - start >= point
+        && (number.count(QLatin1Char('.')) > 1 || number.length() - point - 1 > typedDecimals());
+}
+
+// Without an option, the number of the last pass at the same index is restored, which can be an
+// older one. Each character after the first point counts as a decimal, also if it is not a digit. A
+// token that the previous pass did not have is never reverted.
 bool LineEditCal::setRadixPointSeveral(QString &strText, const int &index)
 {
-    if (static_cast<std::size_t>(index) >= m_vecStringResults.size()) {
+    if (m_entryOptions != EntryOptions()
+        || static_cast<std::size_t>(index) >= m_vecStringResults.size()) {
         return false;
     }
     const QChar *const end = strText.cend();
@@ -350,7 +421,9 @@ void LineEditCal::setEntryText(const QString &entry, int cursorPosition)
     if (entry != text()) {
         const FieldText shown(parent(), text());
         if (entry != shown.entry) {
+            const bool isTyped = isModified();
             setResultText(shown.with(entry));
+            setModified(isTyped);
         }
         cursorPosition += static_cast<int>(shown.prefix.length());
     }

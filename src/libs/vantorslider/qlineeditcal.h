@@ -6,11 +6,16 @@
 #include <QtCore/QEvent>
 #include <QtWidgets/QLineEdit>
 
+#include <memory>
 #include <regex>
 #include <vector>
 
 namespace Vantor {
 namespace Widgets {
+
+namespace Internal {
+class UnitGuard;
+}
 
 // The line edit of the two spin boxes: accepts an arithmetic expression instead of a number.
 //
@@ -18,12 +23,16 @@ namespace Widgets {
 // second decimal point or too many decimals of a number are undone. "=" as the last character or
 // setSlotEditingFinished() evaluates the expression; the result is clamped, formatted and written
 // back as text. The prefix and suffix of the spin box are not part of the expression.
+//
+// isModified() tells whether the user has typed since the last entry ended. A correction by the
+// filter is part of the user's edit.
 class LineEditCal : public QLineEdit
 {
     Q_OBJECT
 
 public:
     explicit LineEditCal(QWidget *parent = nullptr);
+    ~LineEditCal() override;
 
     // Sets the last accepted result, shown if an evaluation fails. The text does not change.
     void setInitialResult(const float &result);
@@ -47,9 +56,16 @@ public:
     bool isLeftForOwnPopup(const QFocusEvent *event);
     bool isInOwnPopup() const { return m_isInOwnPopup; }
     bool event(QEvent *event) override;
-    void setEntryOptions(EntryOptions options) { m_entryOptions = options; }
+    void setEntryOptions(EntryOptions options);
     EntryOptions entryOptions() const { return m_entryOptions; }
     bool has(EntryOption option) const { return m_entryOptions.testFlag(option); }
+    // Whether the user has just changed the text and it is not to become the value at once, as
+    // QAbstractSpinBox::keyboardTracking() would have it.
+    bool isUntracked() const { return m_isUntracked; }
+    // Whether the host has set the unit of a row. Prefix and suffix that the host has set on the
+    // spin box itself can be edited.
+    void setUnit(bool isSet);
+    bool hasUnit() const { return m_unitGuard != nullptr; }
     // The entry with decimal points instead of decimal commas.
     QString pointed(const QString &entry) const;
     Internal::HostWindow &hostWindow() { return m_hostWindow; }
@@ -63,6 +79,7 @@ Q_SIGNALS:
 
 protected Q_SLOTS:
     void onSlotTextChanged(QString text);
+    void onSlotTextTracked();
 
 private:
     void setShownEntry(const QString &entry);
@@ -72,6 +89,7 @@ private:
     bool takeToken(std::size_t index, const QString &text, int start, int length);
     void setStringFormat(QString &strText, bool &bFormat);
     bool setRadixPointSeveral(QString &strText, const int &index);
+    bool isOneTooMany(const QString &strText, int position) const;
     void setShowResult(const QString &strText);
     void setEntryRefused(bool isRefused);
     void setEntryText(const QString &entry, int cursorPosition);
@@ -106,8 +124,12 @@ private:
     bool m_isInitialResultPending = false;
     bool m_isEntryRefused = false;
     bool m_isInOwnPopup = false;
+    bool m_isUntracked = false;
+    // The last event typed one character.
+    bool m_isKey = false;
     EntryOptions m_entryOptions;
     Internal::HostWindow m_hostWindow {this};
+    std::unique_ptr<Internal::UnitGuard> m_unitGuard;
 };
 
 } // namespace Widgets

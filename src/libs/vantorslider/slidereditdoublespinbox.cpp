@@ -54,6 +54,16 @@ EntryOptions SliderEditDoubleSpinBox::entryOptions() const
     return m_pLineEditCal != nullptr ? m_pLineEditCal->entryOptions() : EntryOptions();
 }
 
+bool SliderEditDoubleSpinBox::hasPendingEntry() const
+{
+    return Internal::hasPendingEntry(this, m_pLineEditCal);
+}
+
+void SliderEditDoubleSpinBox::finishEntry()
+{
+    Internal::finishEntry(this, m_pLineEditCal);
+}
+
 void SliderEditDoubleSpinBox::setWheelEnable(bool b)
 {
     m_isWheelEnabled = b;
@@ -68,6 +78,9 @@ void SliderEditDoubleSpinBox::setUnit(const QString &prefix, const QString &suff
     });
     m_strSuffix = suffix;
     m_btnFirstPress = !isEdited || suffix.isEmpty();
+    if (m_pLineEditCal != nullptr) {
+        m_pLineEditCal->setUnit(!prefix.isEmpty() || !suffix.isEmpty());
+    }
 }
 
 QString SliderEditDoubleSpinBox::unitSuffix() const
@@ -108,18 +121,8 @@ void SliderEditDoubleSpinBox::setSuffixShow()
     if (m_strSuffix.isEmpty()) {
         return;
     }
-    const bool isPending = Internal::pendingEntry(this) != Internal::Entry::None;
-    QString entry = text();
-    if (!entry.endsWith(m_strSuffix)) {
-        entry += m_strSuffix;
-    }
-    setSuffix(m_strSuffix);
+    Internal::keepEntry(this, lineEdit(), [this] { setSuffix(m_strSuffix); });
     m_btnFirstPress = true;
-    if (isPending) {
-        const QSignalBlocker blocker(lineEdit());
-        lineEdit()->setText(entry);
-        lineEdit()->setCursorPosition(static_cast<int>(entry.length() - m_strSuffix.length()));
-    }
 }
 
 void SliderEditDoubleSpinBox::onSlotResultFinished()
@@ -167,21 +170,31 @@ void SliderEditDoubleSpinBox::keyPressEvent(QKeyEvent *event)
     }
 }
 
+// Reads the number again as float, as hosts know it that have set the suffix on the spin box.
+void SliderEditDoubleSpinBox::readWithoutSuffix()
+{
+    const bool isNumber = specialValueText().isEmpty() || text() != specialValueText();
+    QString number = Internal::FieldText(this, text()).entry;
+    number.remove(suffix()); // each occurrence
+    setSuffix(QString());
+    if (isNumber) {
+        const double exact = Internal::numberIn(number).value_or(0);
+        setValue(entryOptions().testFlag(ExactEntry)
+                     ? exact
+                     : static_cast<double>(Internal::saturatedFloat(exact)));
+    }
+}
+
 void SliderEditDoubleSpinBox::focusInEvent(QFocusEvent *event)
 {
     const QPointer<SliderEditDoubleSpinBox> self(this);
     if (m_btnFirstPress && !suffix().isEmpty()) {
-        const bool isNumber = specialValueText().isEmpty() || text() != specialValueText();
-        QString number = Internal::FieldText::of(this).entry;
-        number.remove(suffix()); // each occurrence
         m_strSuffix = suffix();
-        setSuffix(QString());
         m_btnFirstPress = false;
-        if (isNumber) {
-            const double exact = Internal::numberIn(number).value_or(0);
-            setValue(entryOptions().testFlag(ExactEntry)
-                         ? exact
-                         : static_cast<double>(Internal::saturatedFloat(exact)));
+        if (m_pLineEditCal != nullptr && m_pLineEditCal->hasUnit()) {
+            Internal::keepEntry(this, lineEdit(), [this] { setSuffix(QString()); });
+        } else {
+            readWithoutSuffix();
         }
     }
     if (!self) {

@@ -187,6 +187,16 @@ EntryOptions SliderEditFrame::entryOptions() const
     return d->spinBox()->entryOptions();
 }
 
+bool SliderEditFrame::hasPendingEntry() const
+{
+    return d->spinBox()->hasPendingEntry();
+}
+
+void SliderEditFrame::finishEntry()
+{
+    d->spinBox()->finishEntry();
+}
+
 void SliderEditFrame::setSliderVisible(bool b)
 {
     d->row().setSliderVisible(b);
@@ -400,8 +410,7 @@ bool SliderEditFrame::isMousePressed() const
 
 bool SliderEditFrame::eventFilter(QObject *watched, QEvent *event)
 {
-    d->filter(watched, event);
-    return QFrame::eventFilter(watched, event);
+    return d->filter(watched, event) || QFrame::eventFilter(watched, event);
 }
 
 void SliderEditFrame::timerEvent(QTimerEvent *event)

@@ -147,6 +147,18 @@ public:
     EntryOptions entryOptions() const;
 
     /*!
+        Returns whether the user has typed since the spin box got the focus or the last entry
+        ended, or a typed result is not reported yet. \since 1.1
+    */
+    bool hasPendingEntry() const;
+
+    /*!
+        Ends a pending entry: evaluates and reports it as Enter does, and leaves the focus where
+        it is. Does nothing if no entry is pending. \since 1.1
+    */
+    void finishEntry();
+
+    /*!
         Shows or hides the slider; without it the other children stay beside the label. Hiding
         it ends a drag and reports its last value.
     */

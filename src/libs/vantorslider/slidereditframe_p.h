@@ -127,6 +127,19 @@ public:
     void setUnit(const QString &prefix, const QString &suffix);
 
     /*!
+        Returns whether the user has typed since the spin box got the focus or the last entry
+        ended, or the text is not the value. \since 1.1
+    */
+    bool hasPendingEntry() const;
+
+    /*!
+        Ends a pending entry as Enter does, and leaves the focus where it is: emits
+        editingFinished(), evaluates the text and, if the value changes, emits valueChanged().
+        Does nothing if no entry is pending. \since 1.1
+    */
+    void finishEntry();
+
+    /*!
         Configures the evaluation of expressions: \a result is shown if one fails, results are
         clamped to \a min to \a max and shown with \a retainResult decimals, and a typed number
         can have \a retainDecimal decimals. By default results are clamped to -10000 to 10000 and
@@ -239,6 +252,19 @@ public:
     QString unitSuffix() const;
 
     /*!
+        Returns whether the user has typed since the spin box got the focus or the last entry
+        ended, or the text is not the value. \since 1.1
+    */
+    bool hasPendingEntry() const;
+
+    /*!
+        Ends a pending entry as Enter does, and leaves the focus where it is: emits
+        editingFinished(), evaluates the text and, if the value changes, emits valueChanged().
+        Does nothing if no entry is pending. \since 1.1
+    */
+    void finishEntry();
+
+    /*!
         Configures the evaluation of expressions: \a result is shown if one fails, results are
         clamped to \a min to \a max and shown with \a retainResult decimals, and a typed number
         can have \a retainDecimal decimals. By default results are clamped to -10000 to 10000 and
@@ -281,6 +307,8 @@ protected:
     void childEvent(QChildEvent *event) override;
 
 private:
+    void readWithoutSuffix();
+
     bool m_isWheelEnabled = false;
     // Null if a subclass has set another line edit.
     LineEditCal *m_pLineEditCal;

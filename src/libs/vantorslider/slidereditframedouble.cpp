@@ -133,6 +133,16 @@ EntryOptions SliderEditFrameDouble::entryOptions() const
     return d->spinBox()->entryOptions();
 }
 
+bool SliderEditFrameDouble::hasPendingEntry() const
+{
+    return d->spinBox()->hasPendingEntry();
+}
+
+void SliderEditFrameDouble::finishEntry()
+{
+    d->spinBox()->finishEntry();
+}
+
 void SliderEditFrameDouble::setSliderVisible(bool b)
 {
     d->row().setSliderVisible(b);
@@ -396,8 +406,7 @@ bool SliderEditFrameDouble::isMousePressed() const
 
 bool SliderEditFrameDouble::eventFilter(QObject *watched, QEvent *event)
 {
-    d->filter(watched, event);
-    return QFrame::eventFilter(watched, event);
+    return d->filter(watched, event) || QFrame::eventFilter(watched, event);
 }
 
 void SliderEditFrameDouble::timerEvent(QTimerEvent *event)

@@ -51,6 +51,16 @@ EntryOptions SliderEditSpinBox::entryOptions() const
     return m_pLineEditCal != nullptr ? m_pLineEditCal->entryOptions() : EntryOptions();
 }
 
+bool SliderEditSpinBox::hasPendingEntry() const
+{
+    return Internal::hasPendingEntry(this, m_pLineEditCal);
+}
+
+void SliderEditSpinBox::finishEntry()
+{
+    Internal::finishEntry(this, m_pLineEditCal);
+}
+
 void SliderEditSpinBox::setWheelEnable(bool b)
 {
     m_isWheelEnabled = b;
@@ -62,6 +72,9 @@ void SliderEditSpinBox::setUnit(const QString &prefix, const QString &suffix)
         setPrefix(prefix);
         setSuffix(suffix);
     });
+    if (m_pLineEditCal != nullptr) {
+        m_pLineEditCal->setUnit(!prefix.isEmpty() || !suffix.isEmpty());
+    }
 }
 
 void SliderEditSpinBox::setSpinBoxCal(const int &result, const int &max, const int &min,

@@ -63,12 +63,13 @@ public:
 
     SliderRow row() const { return {*ui, engine().spinBox(), m_pSliderEditer}; }
 
-    // The frame filters the events of its spin box.
-    void filter(const QObject *watched, const QEvent *event) const
+    // The frame filters the events of its spin box, and its own: whether it consumes one.
+    bool filter(const QObject *watched, const QEvent *event) const
     {
         if (watched == engine().spinBox()) {
             row().fieldReceives(event);
         }
+        return watched == m_pSliderEditer && SliderRow::isHeldEnter(event);
     }
 
     // Shows a value on both children and passes it to the calculator. Emits nothing.

@@ -1,5 +1,6 @@
 #include "sliderrow_p.h"
 
+#include "calculatorspinbox_p.h"
 #include "childwidget_p.h"
 #include "qlineeditcal.h"
 #include "slidereditframe_p.h"
@@ -59,6 +60,7 @@ void SliderRow::prepare() const
     plus->setProperty("isSliderEditPlus", true);
     plus->setFocusPolicy(Qt::StrongFocus);
     spinBox->installEventFilter(frame);
+    frame->installEventFilter(frame);
 }
 
 void SliderRow::setHorizontalSpacing(int labelToSlider, int sliderToRest) const
@@ -102,6 +104,12 @@ void SliderRow::setFieldFocus() const
     spinBox->selectAll();
 }
 
+bool SliderRow::isHeldEnter(const QEvent *event)
+{
+    const auto *const key = static_cast<const QKeyEvent *>(event);
+    return event->type() == QEvent::KeyPress && key->isAutoRepeat() && isFinishingKey(key);
+}
+
 // The selection is queued, because the spin box moves the cursor when it handles the event.
 void SliderRow::fieldReceives(const QEvent *event) const
 {
@@ -115,8 +123,10 @@ void SliderRow::fieldReceives(const QEvent *event) const
     if (calculator != nullptr && calculator->isInOwnPopup()) {
         return; // the user returns from it and continues typing
     }
-    QTimer::singleShot(0, Qt::PreciseTimer, frame, [field = spinBox] {
-        if (field->isEnabled()) {
+    QTimer::singleShot(0, Qt::PreciseTimer, frame, [field = spinBox, calculator] {
+        // An item view creates its editor at a key, and then passes it on.
+        const bool isTyped = calculator != nullptr && calculator->isModified();
+        if (field->isEnabled() && (!isTyped || itemEditorAround(field) == nullptr)) {
             field->selectAll();
         }
     });

@@ -52,6 +52,10 @@ struct SliderRow
         std::invoke(operation, minus, arguments...);
     }
 
+    // Whether the event repeats an Enter that is held since it has ended an entry and moved the focus
+    // to the frame. It must not press a default button.
+    static bool isHeldEnter(const QEvent *event);
+
     // A click or Tab into the spin box selects its text. Its direction is that of the layout.
     void fieldReceives(const QEvent *event) const;
 

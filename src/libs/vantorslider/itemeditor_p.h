@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QtCore/QtGlobal>
+
+QT_BEGIN_NAMESPACE
+class QEvent;
+class QFocusEvent;
+class QWidget;
+QT_END_NAMESPACE
+
+namespace Vantor {
+namespace Widgets {
+namespace Internal {
+
+// A field in an editor that a delegate of an item view has created, or as that editor. The delegate
+// takes the value when it sees a key or a loss of focus of the editor. As the editor, the field
+// sees only what precedes these events. In an editor, it has to pass them on.
+
+// The editor around the field, or null. Neither an editor that stays open counts, nor a widget that
+// the host has set for an index.
+QWidget *itemEditorAround(QWidget *field);
+
+enum class ItemEditorAction { None, Finish, FinishAndPass, RestoreAndPass };
+
+// What the field does with its entry at the event, and whether the event goes on to the editor.
+ItemEditorAction itemEditorAction(QWidget *field, const QEvent *event);
+
+// The field has lost the focus. The editor may be deleted later.
+void tellItemEditor(QWidget *field, const QFocusEvent *event);
+
+} // namespace Internal
+} // namespace Widgets
+} // namespace Vantor
