@@ -60,6 +60,9 @@ void tst_EntryOptions::composite_data()
         "(0,0,129,100) | w keys 9 | w escape | w selected: all | "
         "w keys 999\n: finished crop(0,0,640,100) w(640) (0,0,640,100) | w keys \n: key | "
         "w keys \t: finished finished");
+    row("crop, finished by the program",
+        "w type 999 | pending: yes | finish: finished crop(0,0,640,100) w(640) (0,0,640,100) | "
+        "pending: no | keys \t: finished finished");
 }
 
 namespace {

@@ -82,6 +82,8 @@ void check(bool hasProxy, EntryOptions options, const QString &typed, const QStr
     User::type(end == "any key" ? typed.mid(1) : typed);
     if (end == "cell")
         User::pressAt(table->viewport(), table->visualItemRect(table->item(1, 0)).center());
+    else if (end == "program")
+        table->setCurrentCell(1, 0);
     else if (end == "beside")
         User::click(beside);
     else
@@ -104,8 +106,10 @@ template <typename Editor> void addEditor(bool hasProxy, int options)
         add("12*3", end, 36);
     }
     add("77", "Escape", 50);
-    if (hasProxy)
+    if (hasProxy) {
         add("77", "any key", 77);
+        add("77", "program", 77);
+    }
 }
 
 } // namespace

@@ -49,6 +49,14 @@ template <typename AnyUser> void compareSetters(AnyUser &user)
     frame.setButtonFixedWidth(32);
     frame.setSpinBoxFixedWidth(33);
     QCOMPARE(widths(), QString("31..31 33..33 32..32 32..32"));
+    // They return when a sheet is removed that had widths.
+    user.page.setStyleSheet(
+        "QLabel, QAbstractSpinBox, QToolButton { min-width: 99px; max-width: 99px; }");
+    QVERIFY(widths() != "31..31 33..33 32..32 32..32");
+    user.page.setStyleSheet(" ");
+    QCOMPARE(widths(), QString("31..31 33..33 32..32 32..32"));
+    user.page.setStyleSheet(QString());
+    QCOMPARE(widths(), QString("31..31 33..33 32..32 32..32"));
 
     // The host's own margin before the field stays.
     const QLayout *layout = frame.layout();

@@ -30,11 +30,14 @@
 
 namespace {
 
-// Finishes a pending entry: a shortcut does not move the focus.
-void finishEntry()
+// A shortcut does not move the focus, so an entry may be pending.
+void finishEntries(const QWidget *window)
 {
-    if (QWidget *field = QApplication::focusWidget()) {
-        field->clearFocus();
+    for (SliderEditFrame *row : window->findChildren<SliderEditFrame *>()) {
+        row->finishEntry();
+    }
+    for (SliderEditFrameDouble *row : window->findChildren<SliderEditFrameDouble *>()) {
+        row->finishEntry();
     }
 }
 
@@ -286,19 +289,19 @@ bool MainWindow::chooseAndSave(const QRect &part, const QString &title, const QS
 
 bool MainWindow::savePicture()
 {
-    finishEntry();
+    finishEntries(this);
     return chooseAndSave(QRect(QPoint(), m_view->pictureSize()), tr("Save picture"), tr("picture"));
 }
 
 bool MainWindow::saveCrop()
 {
-    finishEntry();
+    finishEntries(this);
     return chooseAndSave(m_history->edits().crop, tr("Save crop"), tr("crop"));
 }
 
 bool MainWindow::mayLoseEdits()
 {
-    finishEntry();
+    finishEntries(this);
     if (m_history->stack()->isClean()) {
         return true;
     }

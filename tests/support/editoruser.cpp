@@ -254,6 +254,8 @@ template <typename Frame> void EditorUser::addModes(Frame *frame)
         options.setFlag(EnterStays, step.text.contains("stays"));
         frame->setEntryOptions(options);
     });
+    on("finish", [=](const Step &) { frame->finishEntry(); });
+    on("pending", [=](const Step &) { log.add(frame->hasPendingEntry() ? "yes" : "no"); });
     on("block unblock", [=](const Step &step) {
         frame->blockSignals(step.verb == "block");
         QCoreApplication::processEvents();
@@ -307,8 +309,6 @@ template <typename Frame> void EditorUser::add(Frame *frame)
     on("fieldFocus", [=](const Step &) { frame->setFieldFocus(); });
     on("pressed", [=](const Step &) { log.add(frame->isMousePressed() ? "yes" : "no"); });
     on("wheelEnabled", [=](const Step &) { frame->setSpinBoxWheelEnable(true); });
-    on("finish", [=](const Step &) { frame->finishEntry(); });
-    on("pending", [=](const Step &) { log.add(frame->hasPendingEntry() ? "yes" : "no"); });
     on("bounds", [=](const Step &) {
         log.add(inUnits(frame->minimum()) + ".." + inUnits(frame->maximum()));
     });

@@ -101,12 +101,12 @@ private:
 //   enable, delete; resetValues (of all rows of a composite editor);
 //   dialog (shows a modal one and closes it)
 // to all rows: sampled, released, autoRepeat; off ends the last two; options, any of
-//   exact, comma, escape and stays; block and unblock (the editor's signals; posted events
-//   are then delivered); inReport and inStart, with the action that each report or start
-//   of an edit then causes
+//   exact, comma, escape and stays; finish (an entry); block and unblock (the editor's signals;
+//   posted events are then delivered); inReport and inStart, with the action that each
+//   report or start of an edit then causes
 // to a slider editor:
 //   minimum, maximum, singleStep, pageStep, decimals, direction (flags and value),
-//   wheelEnabled, suffix, prefix, scale, hideSlider, fieldFocus, finish; specialValueText and
+//   wheelEnabled, suffix, prefix, scale, hideSlider, fieldFocus; specialValueText and
 //   locale of the spin box
 // to a rectangle, a crop or a mask:
 //   set, sizeLock and positionLock on or off, ratio; area, areaFrom, leastPosition,
@@ -121,7 +121,7 @@ private:
 //   selected   "all" of the field's text, "nothing" or the text, after all posted events
 //   locks      of a rectangle: is the position locked, is the size, and its ratio
 //   pressed, refused   whether the handle is held, whether the entry was refused
-//   pending    whether a slider editor has a pending entry
+//   pending    whether an entry is pending
 //   repeating  whether minus and plus repeat while they are held
 class EditorUser
 {

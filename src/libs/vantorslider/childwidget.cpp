@@ -2,7 +2,6 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
-#include <QtCore/QPoint>
 #include <QtCore/QVariant>
 #include <QtWidgets/QStyle>
 
@@ -12,7 +11,55 @@ namespace Internal {
 
 namespace {
 
-constexpr const char *hostWidthsProperty = "_vantorslider_hostWidths";
+// The widths that the host has set for a child. When a style sheet that sets widths is removed,
+// Qt leaves none.
+class HostWidths : public QObject
+{
+    Q_OBJECT
+
+public:
+    static HostWidths *of(const QWidget *child)
+    {
+        return child->findChild<HostWidths *>({}, Qt::FindDirectChildrenOnly);
+    }
+
+    static void set(QWidget *child, const WidthRange &range)
+    {
+        HostWidths *widths = of(child);
+        if (widths == nullptr) {
+            widths = new HostWidths(child);
+            child->installEventFilter(widths);
+        }
+        widths->m_range = range;
+        widths->apply();
+    }
+
+    const WidthRange &range() const { return m_range; }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        // A column of aligned fields sets their widths itself.
+        if (event->type() == QEvent::StyleChange
+            && !m_child->property(alignedFieldProperty).toBool()) {
+            apply();
+        }
+        return false;
+    }
+
+private:
+    explicit HostWidths(QWidget *child) : QObject(child), m_child(child) { }
+
+    void apply()
+    {
+        m_child->setMaximumWidth(m_range.greatest);
+        m_child->setMinimumWidth(m_range.least);
+        applyStyleSheet(m_child);
+    }
+
+    QWidget *const m_child;
+    WidthRange m_range;
+};
 
 } // namespace
 
@@ -27,24 +74,18 @@ void setShown(QWidget *child, bool isShown)
 
 void setWidthRange(QWidget *child, int maximum, int minimum)
 {
-    child->setProperty(hostWidthsProperty, QPoint(minimum, maximum));
-    child->setMaximumWidth(maximum);
-    child->setMinimumWidth(minimum);
-    applyStyleSheet(child);
+    HostWidths::set(child, {minimum, maximum});
 }
 
 void setFixedWidth(QWidget *child, int width)
 {
-    child->setProperty(hostWidthsProperty, QPoint(width, width));
-    child->setFixedWidth(width);
-    applyStyleSheet(child);
+    HostWidths::set(child, {width, width});
 }
 
 WidthRange hostWidths(const QWidget *child)
 {
-    const QVariant widths = child->property(hostWidthsProperty);
-    return widths.isValid() ? WidthRange {widths.toPoint().x(), widths.toPoint().y()}
-                            : WidthRange();
+    const HostWidths *const widths = HostWidths::of(child);
+    return widths != nullptr ? widths->range() : WidthRange();
 }
 
 void fieldTextsChanged(QWidget *field)
@@ -66,3 +107,5 @@ void applyStyleSheet(QWidget *child)
 } // namespace Internal
 } // namespace Widgets
 } // namespace Vantor
+
+#include "childwidget.moc"

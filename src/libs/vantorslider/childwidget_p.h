@@ -10,7 +10,8 @@ namespace Internal {
 
 // Setters for a child of an editor. A style sheet sets its widths when the widget is polished,
 // and a later setter would override them. These functions have the same result in any order,
-// before and after the first show: a width in the style sheet takes precedence.
+// before and after the first show: a width in the style sheet takes precedence, until the sheet is
+// removed.
 void setShown(QWidget *child, bool isShown);
 void setWidthRange(QWidget *child, int maximum, int minimum);
 void setFixedWidth(QWidget *child, int width);

@@ -3,10 +3,12 @@
 #include "childwidget_p.h"
 
 #include <QtCore/QDebug>
+#include <QtCore/QPointer>
 #include <QtGui/QFontMetrics>
 #include <QtWidgets/QSpacerItem>
 
 #include <algorithm>
+#include <vector>
 
 namespace Vantor {
 namespace Widgets {
@@ -67,6 +69,22 @@ int EditorRows::labelMaxLength() const
         widest = qMax(widest, labelWidth(*row.frame, metrics));
     }
     return widest;
+}
+
+bool hasPendingEntry(const QList<SliderEditFrame *> &rows)
+{
+    return std::any_of(rows.begin(), rows.end(),
+                       [](const SliderEditFrame *row) { return row->hasPendingEntry(); });
+}
+
+void finishEntries(const QList<SliderEditFrame *> &rows)
+{
+    const std::vector<QPointer<SliderEditFrame>> living(rows.begin(), rows.end());
+    for (const QPointer<SliderEditFrame> &row : living) {
+        if (row) {
+            row->finishEntry();
+        }
+    }
 }
 
 int labelWidth(const SliderEditFrame &row)

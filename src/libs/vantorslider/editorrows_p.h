@@ -72,6 +72,10 @@ private:
     QVarLengthArray<Row, 4> m_rows;
 };
 
+// The pending entries of the rows. A receiver may delete the rows.
+bool hasPendingEntry(const QList<SliderEditFrame *> &rows);
+void finishEntries(const QList<SliderEditFrame *> &rows);
+
 // The width of the label text in pixels, in the font of the row, or in that of another one.
 int labelWidth(const SliderEditFrame &row);
 int labelWidth(const SliderEditFrame &row, const QFontMetrics &metrics);

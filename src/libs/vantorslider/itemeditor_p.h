@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtCore/QtGlobal>
+#include <QtCore/QPointer>
 
 QT_BEGIN_NAMESPACE
 class QEvent;
@@ -27,6 +27,17 @@ ItemEditorAction itemEditorAction(QWidget *field, const QEvent *event);
 
 // The field has lost the focus. The editor may be deleted later.
 void tellItemEditor(QWidget *field, const QFocusEvent *event);
+
+// The value of a row for its property. Other roads to it than the events of the field need it, such
+// as a current item that the program sets.
+template <typename Row> auto committedValue(Row *row) -> decltype(row->value())
+{
+    const QPointer<Row> self(row);
+    if (itemEditorAround(row) != nullptr) {
+        row->finishEntry();
+    }
+    return self ? row->value() : 0;
+}
 
 } // namespace Internal
 } // namespace Widgets

@@ -215,6 +215,16 @@ EntryOptions RectEditFrame::entryOptions() const
     return d->ui->frameX->entryOptions();
 }
 
+bool RectEditFrame::hasPendingEntry() const
+{
+    return Internal::hasPendingEntry(rows());
+}
+
+void RectEditFrame::finishEntry()
+{
+    Internal::finishEntries(rows());
+}
+
 void RectEditFrame::setAutoRepeat(bool b)
 {
     d->rows().all(&Row::setAutoRepeat, b);

@@ -206,6 +206,16 @@ EntryOptions RGBAllEditFrame::entryOptions() const
     return d->ui->frameAll->entryOptions();
 }
 
+bool RGBAllEditFrame::hasPendingEntry() const
+{
+    return Internal::hasPendingEntry(rows());
+}
+
+void RGBAllEditFrame::finishEntry()
+{
+    Internal::finishEntries(rows());
+}
+
 void RGBAllEditFrame::setAutoRepeat(bool b)
 {
     d->rows().all(&Row::setAutoRepeat, b);

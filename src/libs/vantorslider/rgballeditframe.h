@@ -117,6 +117,15 @@ public:
     /*! Returns the options of the first row. \since 1.1 */
     EntryOptions entryOptions() const;
 
+    /*! Returns whether a row has a pending entry, see SliderEditFrame. \since 1.1 */
+    bool hasPendingEntry() const;
+
+    /*!
+        Ends the pending entries of the rows as Enter does, and leaves the focus where it is.
+        Does nothing if no entry is pending. \since 1.1
+    */
+    void finishEntry();
+
     /*! Shows \a val in the row \a type, clamped to its range. Emits nothing. */
     void setValue(Type type, int val);
 

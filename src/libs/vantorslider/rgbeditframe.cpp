@@ -232,6 +232,16 @@ EntryOptions RGBEditFrame::entryOptions() const
     return d->ui->frameR->entryOptions();
 }
 
+bool RGBEditFrame::hasPendingEntry() const
+{
+    return Internal::hasPendingEntry(rows());
+}
+
+void RGBEditFrame::finishEntry()
+{
+    Internal::finishEntries(rows());
+}
+
 void RGBEditFrame::setAutoRepeat(bool b)
 {
     d->rows().all(&Row::setAutoRepeat, b);

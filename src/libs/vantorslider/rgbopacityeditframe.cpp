@@ -216,6 +216,16 @@ EntryOptions RGBOpacityEditFrame::entryOptions() const
     return d->ui->frameOpacity->entryOptions();
 }
 
+bool RGBOpacityEditFrame::hasPendingEntry() const
+{
+    return Internal::hasPendingEntry(rows());
+}
+
+void RGBOpacityEditFrame::finishEntry()
+{
+    Internal::finishEntries(rows());
+}
+
 void RGBOpacityEditFrame::setAutoRepeat(bool b)
 {
     d->rows().all(&Row::setAutoRepeat, b);

@@ -12,6 +12,26 @@ namespace Widgets {
 
 using Internal::EditSpan;
 
+namespace {
+
+// Reads the number again as float, as hosts know it that have set the suffix on the spin box.
+void readWithoutSuffix(SliderEditDoubleSpinBox *box)
+{
+    const bool isNumber =
+        box->specialValueText().isEmpty() || box->text() != box->specialValueText();
+    QString number = Internal::FieldText(box, box->text()).entry;
+    number.remove(box->suffix()); // each occurrence
+    box->setSuffix(QString());
+    if (isNumber) {
+        const double exact = Internal::numberIn(number).value_or(0);
+        box->setValue(box->entryOptions().testFlag(ExactEntry)
+                          ? exact
+                          : static_cast<double>(Internal::saturatedFloat(exact)));
+    }
+}
+
+} // namespace
+
 SliderEditDoubleSpinBox::SliderEditDoubleSpinBox(QWidget *parent)
     : QDoubleSpinBox(parent), m_pLineEditCal(new LineEditCal)
 {
@@ -170,21 +190,6 @@ void SliderEditDoubleSpinBox::keyPressEvent(QKeyEvent *event)
     }
 }
 
-// Reads the number again as float, as hosts know it that have set the suffix on the spin box.
-void SliderEditDoubleSpinBox::readWithoutSuffix()
-{
-    const bool isNumber = specialValueText().isEmpty() || text() != specialValueText();
-    QString number = Internal::FieldText(this, text()).entry;
-    number.remove(suffix()); // each occurrence
-    setSuffix(QString());
-    if (isNumber) {
-        const double exact = Internal::numberIn(number).value_or(0);
-        setValue(entryOptions().testFlag(ExactEntry)
-                     ? exact
-                     : static_cast<double>(Internal::saturatedFloat(exact)));
-    }
-}
-
 void SliderEditDoubleSpinBox::focusInEvent(QFocusEvent *event)
 {
     const QPointer<SliderEditDoubleSpinBox> self(this);
@@ -194,7 +199,7 @@ void SliderEditDoubleSpinBox::focusInEvent(QFocusEvent *event)
         if (m_pLineEditCal != nullptr && m_pLineEditCal->hasUnit()) {
             Internal::keepEntry(this, lineEdit(), [this] { setSuffix(QString()); });
         } else {
-            readWithoutSuffix();
+            readWithoutSuffix(this);
         }
     }
     if (!self) {

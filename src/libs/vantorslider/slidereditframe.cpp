@@ -1,6 +1,7 @@
 #include "slidereditframe.h"
 
 #include "childwidget_p.h"
+#include "itemeditor_p.h"
 #include "saturation_p.h"
 #include "sliderengine_p.h"
 #include "ui_slidereditframe.h"
@@ -195,6 +196,11 @@ bool SliderEditFrame::hasPendingEntry() const
 void SliderEditFrame::finishEntry()
 {
     d->spinBox()->finishEntry();
+}
+
+int SliderEditFrame::committedValue()
+{
+    return Internal::committedValue(this);
 }
 
 void SliderEditFrame::setSliderVisible(bool b)

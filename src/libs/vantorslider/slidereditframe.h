@@ -50,7 +50,7 @@ class VANTORSLIDER_EXPORT SliderEditFrame : public QFrame
     Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
     Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
     Q_PROPERTY(int pageStep READ pageStep WRITE setPageStep)
-    Q_PROPERTY(int value READ value WRITE setValue NOTIFY valueChanged USER true)
+    Q_PROPERTY(int value READ committedValue WRITE setValue NOTIFY valueChanged USER true)
     // The moc of Qt 6 refuses a function here.
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     Q_PROPERTY(int defaultValue READ defaultValue WRITE setDefaultValue RESET clearDefaultValue
@@ -386,6 +386,9 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    // The property: as the editor of an item view, ends a pending entry first.
+    int committedValue();
+
     // 0 leaves sampling off, so that all properties of a row can be copied to another one.
     void writeTimeSamplingRate(int val);
 

@@ -307,8 +307,6 @@ protected:
     void childEvent(QChildEvent *event) override;
 
 private:
-    void readWithoutSuffix();
-
     bool m_isWheelEnabled = false;
     // Null if a subclass has set another line edit.
     LineEditCal *m_pLineEditCal;

@@ -1,6 +1,7 @@
 #include "slidereditframedouble.h"
 
 #include "childwidget_p.h"
+#include "itemeditor_p.h"
 #include "slidereditframedouble_p.h"
 
 #include <QtCore/QSignalBlocker>
@@ -141,6 +142,11 @@ bool SliderEditFrameDouble::hasPendingEntry() const
 void SliderEditFrameDouble::finishEntry()
 {
     d->spinBox()->finishEntry();
+}
+
+double SliderEditFrameDouble::committedValue()
+{
+    return Internal::committedValue(this);
 }
 
 void SliderEditFrameDouble::setSliderVisible(bool b)

@@ -48,7 +48,7 @@ class VANTORSLIDER_EXPORT SliderEditFrameDouble : public QFrame
     Q_PROPERTY(double maximum READ maximum WRITE setMaximum)
     Q_PROPERTY(double singleStep READ singleStep WRITE setSingleStep)
     Q_PROPERTY(int pageStep READ pageStep WRITE setPageStep)
-    Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged USER true)
+    Q_PROPERTY(double value READ committedValue WRITE setValue NOTIFY valueChanged USER true)
     // The moc of Qt 6 refuses a function here.
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     Q_PROPERTY(double defaultValue READ defaultValue WRITE setDefaultValue RESET clearDefaultValue
@@ -343,6 +343,9 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    // The property: as the editor of an item view, ends a pending entry first.
+    double committedValue();
+
     /*! Returns the number of decimals of \a num: 1 for a whole number, 0 for more than 10. */
     int getPrecision(float num);
 
