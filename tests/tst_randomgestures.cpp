@@ -30,7 +30,8 @@ namespace {
 const QStringList gestures =
     QString(
         "plus; minus; enter (#+7-7)/1; type (#+7-7)/1\t; enter #,5; type #*1=+ | keys \t; "
-        "type 7 | escape | keys \t; enter 1/0; "
+        "type 7 | escape | keys \t; enter 1/0; type #/1 | finish | keys \t; "
+        "click | press End | keys *1\t; click | press Home | press Shift+End | keys #\t; "
         "click | up | down | down | keys \n; groove before; groove after; wheel; hold | drop; "
         "hold | move # | move # | tick | drop; hold | move # | tick | move # | drop; "
         "hold | move # | dialog | drop; type #/1 | dialog; type # | minus; hold | move # | hide "
