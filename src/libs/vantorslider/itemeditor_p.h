@@ -28,8 +28,8 @@ ItemEditorAction itemEditorAction(QWidget *field, const QEvent *event);
 // The field has lost the focus. The editor may be deleted later.
 void tellItemEditor(QWidget *field, const QFocusEvent *event);
 
-// The value of a row for its property. Other roads to it than the events of the field need it, such
-// as a current item that the program sets.
+// The value of a row for its property. A view also takes it where no event of the field precedes:
+// when the program sets another current item.
 template <typename Row> auto committedValue(Row *row) -> decltype(row->value())
 {
     const QPointer<Row> self(row);
