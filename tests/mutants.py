@@ -3,13 +3,18 @@
 tools/mutants runs it with a copy of the source tree to modify. It prints each fault with
 the functions that fail and their data rows, and at the end the matrix of functions and
 faults: "A" if only this function detects the fault, "#" if others do, too.
+
+With --random it applies small faults at random places of the library instead, and prints
+the share that is caught. The first program that fails catches a fault.
 """
 
 import argparse
+import collections
 import concurrent.futures
 import json
 import os
 import pathlib
+import random
 import re
 import subprocess
 import sys
@@ -27,16 +32,70 @@ CALCULATOR_FUNCTIONS = {"tst_Robustness::pastedTexts"}
 CALCULATOR_FILES = re.compile("arithmetic|calculator|expression|hostwindow|qlineeditcal|scriptengine")
 
 
+Mutant = collections.namedtuple("Mutant", "number path offset old new")
+
+# What a random fault replaces, and by what.
+OPERATORS = {" < ": " <= ", " <= ": " < ", " > ": " >= ", " >= ": " > ", " == ": " != ",
+             " != ": " == ", " && ": " || ", " || ": " && ", " + ": " - ", " - ": " + ",
+             " * ": " / ", " / ": " * ", " += ": " -= ", " -= ": " += ", "++": "--", "--": "++",
+             "true": "false", "false": "true", "qMin(": "qMax(", "qMax(": "qMin("}
+OPERATOR = re.compile("|".join(rf"\b{re.escape(old)}" if old[0].isalpha() else re.escape(old)
+                               for old in OPERATORS))
+NUMBER = re.compile(r"(?<![\w.])\d+(?![\w.])")
+CONDITION = re.compile(r"(?<=^if \()(.+)(?=\) \{$)")
+NEGATION = re.compile(r"(?<![\w)\]])!(?=[\w(])")
+# A call or an assignment that is a whole line; nothing that declares or returns.
+STATEMENT = re.compile(r"^(?!return\b|using\b|delete\b)[\w:.>*()\[\]-]+(?:\(.*\)| [-+|&]?= .+);$")
+NO_CODE = re.compile(r"^\s*(?:#|//|/?\*|static_assert|Q_[A-Z]+|using |friend |template |class )")
+
+
+def changes_of(line):
+    """The start, old and new text of each small fault that the line can have."""
+    start = len(line) - len(line.lstrip())
+    code = line.strip()
+    for match in OPERATOR.finditer(code):
+        yield start + match.start(), match.group(), OPERATORS[match.group()]
+    for match in NUMBER.finditer(code):
+        yield start + match.start(), match.group(), str(int(match.group()) + 1)
+    for match in NEGATION.finditer(code):
+        yield start + match.start(), "!", ""
+    for match in CONDITION.finditer(code):
+        yield start + match.start(), match.group(), f"!({match.group()})"
+    if STATEMENT.match(code):
+        yield start, code, ";"
+
+
+def random_mutants(source, seed):
+    """All small faults of the library in an order that the seed determines."""
+    mutants = []
+    for path in sorted((source / LIBRARY).glob("*")):
+        if path.suffix != ".cpp" and not path.name.endswith("_p.h"):
+            continue
+        offset = 0
+        in_comment = False
+        for line in path.read_text(encoding="utf-8").splitlines(keepends=True):
+            in_comment = in_comment or line.lstrip().startswith("/*")
+            code = re.sub(r'"(?:[^"\\]|\\.)*"|//.*', lambda text: "\0" * len(text.group()),
+                          line.rstrip("\n"))
+            if not in_comment and not NO_CODE.match(line):
+                mutants += [Mutant(0, path, offset + start, line[start:start + len(old)], new)
+                            for start, old, new in changes_of(code) if "\0" not in new]
+            in_comment = in_comment and "*/" not in line
+            offset += len(line)
+    random.Random(seed).shuffle(mutants)
+    return [mutant._replace(number=number) for number, mutant in enumerate(mutants, 1)]
+
+
 def read_mutants(source):
     lines = (source / "tests/mutants.txt").read_text(encoding="utf-8").splitlines()
     for number, line in enumerate(lines, 1):
         if line and not line.startswith("#"):
             file, old, new = (part.strip() for part in line.split(" | "))
             path = source / file if "/" in file else source / LIBRARY / file
-            count = path.read_text(encoding="utf-8").count(old)
-            if count != 1:
-                sys.exit(f"mutants.txt:{number}: «{old}» stands {count} times in {file}")
-            yield number, path, old, "" if new == "-" else new
+            text = path.read_text(encoding="utf-8")
+            if text.count(old) != 1:
+                sys.exit(f"mutants.txt:{number}: «{old}» stands {text.count(old)} times in {file}")
+            yield Mutant(number, path, text.index(old), old, "" if new == "-" else new)
 
 
 def builds(source, programs, jobs):
@@ -48,8 +107,9 @@ def builds(source, programs, jobs):
 
 def read_programs(source, pattern):
     """Name, command and functions of each program; the functions are not known yet."""
+    # Without the repetitions in other resolutions.
     listing = subprocess.run(["ctest", "--test-dir", "build", "-LE", "packaging", "-R", pattern,
-                              "--show-only=json-v1"], cwd=source, check=True,
+                              "-E", "dpi$", "--show-only=json-v1"], cwd=source, check=True,
                              stdout=subprocess.PIPE).stdout
     tests = json.loads(listing)["tests"]
     programs = [(test["name"], test["command"], []) for test in tests]
@@ -128,23 +188,70 @@ def print_matrix(results, functions):
                               if function not in nothing and [function] not in noticed))
 
 
+def try_mutant(source, mutant, programs, jobs, is_first_enough):
+    """Builds and tests with the fault. Nothing else remains changed."""
+    chosen = programs_for(mutant.path.name, programs)
+    text = mutant.path.read_text(encoding="utf-8")
+    end = mutant.offset + len(mutant.old)
+    mutant.path.write_text(text[:mutant.offset] + mutant.new + text[end:], encoding="utf-8")
+    is_built = builds(source, chosen, jobs)
+    failures = {}
+    if is_built:
+        with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
+            runs = [pool.submit(run, program) for program in chosen]
+            for finished in concurrent.futures.as_completed(runs):
+                if not finished.cancelled():
+                    failures.update(finished.result())
+                if failures and is_first_enough:
+                    for waiting in runs:
+                        waiting.cancel()
+    mutant.path.write_text(text, encoding="utf-8")
+    verdict = "killed" if failures else "SURVIVES" if is_built else "does not compile"
+    line = text.count("\n", 0, mutant.offset) + 1
+    print(f"{mutant.number:3} {verdict:16} {mutant.path.name}:{line}: "
+          f"{mutant.old} -> {mutant.new or 'nothing'}")
+    for function, rows in failures.items():
+        print(f"      {function}({'; '.join(rows)})")
+    sys.stdout.flush()
+    return {"line": mutant.number, "file": mutant.path.name, "at": line, "old": mutant.old,
+            "new": mutant.new, "verdict": verdict, "failures": failures}
+
+
+def print_share(results, harmless):
+    """Of the faults that compile, without those that nobody can notice."""
+    counted = [result for result in results
+               if result["verdict"] != "does not compile" and result["line"] not in harmless]
+    survivors = [result["line"] for result in counted if result["verdict"] != "killed"]
+    caught = len(counted) - len(survivors)
+    print(f"{caught} of {len(counted)} random faults caught, "
+          f"{100 * caught / max(1, len(counted)):.0f} %; not: {survivors}")
+    return survivors
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("source", type=pathlib.Path)
-    parser.add_argument("lines", nargs="*", type=int, help="lines to try; all if none is given")
+    parser.add_argument("lines", nargs="*", type=int,
+                        help="lines, or numbers of random faults, to try; all if none is given")
     parser.add_argument("-R", dest="programs", default=".", metavar="REGEX",
                         help="only the tests with such names, as for ctest")
     parser.add_argument("-j", dest="jobs", type=int, default=2)
     parser.add_argument("--json", type=pathlib.Path, metavar="FILE", help="the results once more")
+    parser.add_argument("--random", type=int, metavar="COUNT",
+                        help="so many faults at random places that compile")
+    parser.add_argument("--seed", type=int, default=1, help="determines the random places")
+    parser.add_argument("--harmless", type=int, nargs="+", default=[], metavar="NUMBER",
+                        help="random faults that nobody can notice: they are not tried")
     arguments = parser.parse_intermixed_args()
     source = arguments.source
-    mutants = list(read_mutants(source))
+    mutants = (random_mutants(source, arguments.seed) if arguments.random
+               else list(read_mutants(source)))
     for line in arguments.lines:
-        if line not in (mutant[0] for mutant in mutants):
+        if line not in (mutant.number for mutant in mutants):
             sys.exit(f"mutants.txt:{line}: no fault stands in this line")
     if arguments.lines:
-        mutants = [mutant for mutant in mutants if mutant[0] in arguments.lines]
+        mutants = [mutant for mutant in mutants if mutant.number in arguments.lines]
     print("== Building and testing without a fault", flush=True)
     # If only the shared library changes, the tests need not be linked again.
     subprocess.run(["cmake", "-S", ".", "-B", "build", "-G", "Ninja",
@@ -155,33 +262,27 @@ def main():
         sys.exit("It does not build without any fault.")
     programs = [with_functions(program)
                 for program in read_programs(source, arguments.programs)]
+    if arguments.random:
+        programs.reverse()  # a fault that is caught soon need not wait for the longest
 
     results = []
-    for number, path, old, new in mutants:
-        chosen = programs_for(path.name, programs)
-        text = path.read_text(encoding="utf-8")
-        path.write_text(text.replace(old, new), encoding="utf-8")
-        is_built = builds(source, chosen, arguments.jobs)
-        failures = {}
-        if is_built:
-            with concurrent.futures.ThreadPoolExecutor(arguments.jobs) as pool:
-                for found in pool.map(run, chosen):
-                    failures.update(found)
-        path.write_text(text, encoding="utf-8")
-        verdict = "killed" if failures else "SURVIVES" if is_built else "does not compile"
-        print(f"{number:3} {verdict:16} {path.name}: {old} -> {new or 'nothing'}")
-        for function, rows in failures.items():
-            print(f"      {function}({'; '.join(rows)})")
-        sys.stdout.flush()
-        results.append({"line": number, "file": path.name, "old": old, "new": new,
-                        "verdict": verdict, "failures": failures})
+    for mutant in mutants:
+        if mutant.number in arguments.harmless:
+            continue
+        results.append(try_mutant(source, mutant, programs, arguments.jobs,
+                                  bool(arguments.random)))
+        if arguments.json:
+            arguments.json.write_text(json.dumps(results, indent=1), encoding="utf-8")
+        built = [result for result in results if result["verdict"] != "does not compile"]
+        if arguments.random and len(built) == arguments.random:
+            break
 
+    if arguments.random:
+        return 1 if print_share(results, arguments.harmless) else 0
     print_matrix(results, [function for name, _, functions in programs
                            for function in functions or [name]])
     survivors = [result["line"] for result in results if result["verdict"] != "killed"]
     print(f"{len(mutants) - len(survivors)} of {len(mutants)} killed; not: {survivors}")
-    if arguments.json:
-        arguments.json.write_text(json.dumps(results, indent=1), encoding="utf-8")
     return 1 if survivors else 0
 
 
