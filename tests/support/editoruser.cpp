@@ -164,6 +164,8 @@ void EditorUser::addGestures()
             menu.close();
         });
         menu.exec();
+        page.activateWindow(); // with Qt 6 the platform has activated the menu
+        QVERIFY(QTest::qWaitForWindowActive(&page));
     });
     for (const QByteArray key : {"Up", "Down", "Right", "Home", "End", "Escape"}) {
         const int code = QMetaEnum::fromType<Qt::Key>().keyToValue("Key_" + key);
