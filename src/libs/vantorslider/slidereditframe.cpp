@@ -228,6 +228,16 @@ void SliderEditFrame::setSliderProperty(const char *name, const QVariant &value)
     d->slider()->setProperty(name, value);
 }
 
+void SliderEditFrame::setGrooveBrush(const QBrush &brush)
+{
+    d->slider()->setGrooveBrush(brush);
+}
+
+QBrush SliderEditFrame::grooveBrush() const
+{
+    return d->slider()->grooveBrush();
+}
+
 void SliderEditFrame::setFieldFocus()
 {
     d->row().setFieldFocus();

@@ -16,7 +16,9 @@ namespace Widgets {
 class LineEditCal;
 
 namespace Internal {
+class GrooveBrushes;
 class HostWindow;
+class SliderGroove;
 struct ValueText;
 } // namespace Internal
 
@@ -32,6 +34,10 @@ public:
 
     bool isMousePressed() const;
     void setScale(int min, int max);
+    void setGrooveBrush(const QBrush &brush);
+    QBrush grooveBrush() const;
+    void setGrooveBrushes(Internal::GrooveBrushes *brushes);
+    Internal::GrooveBrushes *grooveBrushes() const;
 
 protected:
     bool event(QEvent *event) override;
@@ -39,17 +45,22 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void sliderChange(SliderChange change) override;
+    void paintEvent(QPaintEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void leaveEvent(QEvent *event) override;
 
 private:
     void releasePointer();
     void letGo(QMouseEvent *event);
+    void setGroove(const QBrush &brush, Internal::GrooveBrushes *brushes);
 
     bool m_isMousePressed = false;
     // No release event follows the last press.
     bool m_isPointerTaken = false;
     std::unique_ptr<Internal::HostWindow> m_hostWindow;
+    // Null without a brush.
+    std::unique_ptr<Internal::SliderGroove> m_groove;
 };
 
 // The minus or plus button of a row: stops its auto-repeat when it is hidden, disabled or

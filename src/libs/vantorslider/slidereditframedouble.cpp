@@ -174,6 +174,16 @@ void SliderEditFrameDouble::setSliderProperty(const char *name, const QVariant &
     d->slider()->setProperty(name, value);
 }
 
+void SliderEditFrameDouble::setGrooveBrush(const QBrush &brush)
+{
+    d->slider()->setGrooveBrush(brush);
+}
+
+QBrush SliderEditFrameDouble::grooveBrush() const
+{
+    return d->slider()->grooveBrush();
+}
+
 void SliderEditFrameDouble::setFieldFocus()
 {
     d->row().setFieldFocus();

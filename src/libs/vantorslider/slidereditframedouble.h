@@ -66,6 +66,7 @@ class VANTORSLIDER_EXPORT SliderEditFrameDouble : public QFrame
     Q_PROPERTY(int timeSamplingRate READ timeSamplingRate WRITE writeTimeSamplingRate)
     Q_PROPERTY(bool releaseMode READ isReleaseMode WRITE setReleaseMode)
     Q_PROPERTY(bool autoRepeat READ autoRepeat WRITE setAutoRepeat)
+    Q_PROPERTY(QBrush grooveBrush READ grooveBrush WRITE setGrooveBrush)
 
 public:
     /*! The side of a reference value on which reported values stay; can be combined. */
@@ -162,6 +163,21 @@ public:
 
     /*! Sets the slider's property \a name to \a value: one of Qt's, or one for style sheets. */
     void setSliderProperty(const char *name, const QVariant &value);
+
+    /*!
+        Fills the slider's groove with \a brush, also before the handle; Qt::NoBrush, the
+        default, leaves it to the style. The style still draws the groove's border and the handle.
+
+        The x coordinates of a gradient count from 0, the middle of the handle at the minimum, to
+        1, that at the maximum, and y from the upper edge of the groove to the lower one: in
+        QLinearGradient(0, 0, 1, 0) the colour under the handle is that of its position. From
+        right to left the gradient is mirrored. Other brushes start at the groove's upper left
+        corner. A checkerboard shows through where the brush is transparent. \since 1.1
+    */
+    void setGrooveBrush(const QBrush &brush);
+
+    /*! Returns the brush in the groove, Qt::NoBrush if none is set. \since 1.1 */
+    QBrush grooveBrush() const;
 
     /*!
         Gives the keyboard focus to the spin box and selects its text. \since 1.1

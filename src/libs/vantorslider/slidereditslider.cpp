@@ -3,8 +3,10 @@
 #include "hostwindow_p.h"
 #include "lostpointer_p.h"
 #include "slidereditframe_p.h"
+#include "slidergroove_p.h"
 
 #include <QtGui/QMouseEvent>
+#include <QtWidgets/QStyleOptionSlider>
 
 namespace Vantor {
 namespace Widgets {
@@ -31,6 +33,44 @@ void SliderEditSlider::setScale(int min, int max)
     setRange(isDivisorZero ? min + 1 : min, max);
 }
 
+// A brush that fills the groove instead of the style's colours; none by default.
+void SliderEditSlider::setGrooveBrush(const QBrush &brush)
+{
+    setGroove(brush, grooveBrushes());
+}
+
+QBrush SliderEditSlider::grooveBrush() const
+{
+    return m_groove != nullptr ? m_groove->brush : QBrush();
+}
+
+// The same for a slider of a colour editor: while they are not null, that brush is not shown.
+void SliderEditSlider::setGrooveBrushes(Internal::GrooveBrushes *brushes)
+{
+    setGroove(grooveBrush(), brushes);
+}
+
+Internal::GrooveBrushes *SliderEditSlider::grooveBrushes() const
+{
+    return m_groove != nullptr ? m_groove->brushes : nullptr;
+}
+
+void SliderEditSlider::setGroove(const QBrush &brush, Internal::GrooveBrushes *brushes)
+{
+    if (brush.style() == Qt::NoBrush && brushes == nullptr) {
+        if (const auto groove = std::move(m_groove)) {
+            groove->removeSheet();
+        }
+    } else {
+        if (m_groove == nullptr) {
+            m_groove = std::make_unique<Internal::SliderGroove>(this);
+        }
+        m_groove->brush = brush;
+        m_groove->brushes = brushes;
+    }
+    update();
+}
+
 bool SliderEditSlider::event(QEvent *event)
 {
     const Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
@@ -39,6 +79,11 @@ bool SliderEditSlider::event(QEvent *event)
     if (m_hostWindow != nullptr && Internal::isPointerLostBy(event, this)
         && !m_hostWindow->isBeingDestroyed()) {
         releasePointer();
+    }
+    if (m_groove != nullptr) {
+        QStyleOptionSlider option;
+        initStyleOption(&option);
+        m_groove->follow(event, option);
     }
     return isHandled;
 }
@@ -80,6 +125,27 @@ void SliderEditSlider::mouseMoveEvent(QMouseEvent *event)
 void SliderEditSlider::wheelEvent(QWheelEvent *event)
 {
     event->ignore();
+}
+
+// Called with blocked signals, too.
+void SliderEditSlider::sliderChange(SliderChange change)
+{
+    QSlider::sliderChange(change);
+    if (grooveBrushes() != nullptr
+        && (change == SliderValueChange || change == SliderRangeChange)) {
+        m_groove->brushes->sliderChanged(this);
+    }
+}
+
+void SliderEditSlider::paintEvent(QPaintEvent *event)
+{
+    if (m_groove == nullptr) {
+        QSlider::paintEvent(event);
+        return;
+    }
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    m_groove->paint(option);
 }
 
 void SliderEditSlider::focusOutEvent(QFocusEvent *event)
