@@ -1,4 +1,7 @@
 #include "editoruser.h"
+#include "rgballeditframe.h"
+#include "rgbeditframe.h"
+#include "rgbopacityeditframe.h"
 
 #include <QtCore/QDir>
 #include <QtWidgets/QStyleFactory>
@@ -23,6 +26,10 @@ private Q_SLOTS:
     void surroundings();
     void handle();
     void ticks();
+    void channels_data();
+    void channels() { runTestCode(); }
+    void repaints_data();
+    void repaints() { runTestCode(); }
 };
 
 namespace {
@@ -43,29 +50,47 @@ QLinearGradient gradient(const QColor &start, const QColor &end)
     return along;
 }
 
-// A slider editor of that class whose slider has the positions 0 to 100.
-template <typename Frame> struct Row : UserOf<Frame>
+// The user of an editor with the look of the test's row.
+template <typename Frame> struct Look : UserOf<Frame>
 {
-    Row()
+    Look()
     {
         QFETCH_GLOBAL(QString, style);
         QFETCH_GLOBAL(QString, sheet);
         this->page.setStyleSheet(sheet);
-        if (!style.isEmpty())
-            slider->setStyle(QStyleFactory::create(style));
+        for (const EditorRow &row : this->rows) {
+            if (!style.isEmpty())
+                row.slider->setStyle(QStyleFactory::create(style));
+        }
         this->page.resize(500, 100);
         QCoreApplication::processEvents();
         this->perform("elsewhere");
     }
 
-    void move(int position) { this->perform(QString("value %1").arg(position)); }
-
-    QImage picture() const
+    QImage picture(QSlider *of) const
     {
         QCoreApplication::processEvents();
-        return slider->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        return of->grab().toImage().convertToFormat(QImage::Format_RGB32);
     }
 
+    // In the groove where the middle of the handle is at the position, with the handle away.
+    QColor colorAt(const EditorRow &row, int position)
+    {
+        const int middle = (row.slider->minimum() + row.slider->maximum()) / 2;
+        row.slider->setSliderPosition(position < middle ? row.slider->maximum()
+                                                        : row.slider->minimum());
+        const QColor color =
+            picture(row.slider).pixelColor(User::handleRect(row.slider, position).center());
+        row.slider->setSliderPosition(row.slider->value());
+        return color;
+    }
+};
+
+// A slider editor whose slider has the positions 0 to 100.
+template <typename Frame> struct Row : Look<Frame>
+{
+    void move(int position) { this->perform(QString("value %1").arg(position)); }
+    QImage picture() const { return Look<Frame>::picture(slider); }
     QRect handleRect() const { return User::handleRect(slider, slider->sliderPosition()); }
 
     QSlider *const slider = this->row.slider;
@@ -77,27 +102,114 @@ bool isNear(const QColor &a, const QColor &b, int tolerance)
         && std::abs(a.blue() - b.blue()) <= tolerance;
 }
 
-// The colours in the groove where the middle of the handle is at each of the positions.
+// At positions from 0 to 100.
 template <typename Frame> void checkColors(const QBrush &brush, const QVector<QColor> &expected)
 {
-    Row<Frame> row;
-    row.frame->setGrooveBrush(brush);
-    QCOMPARE(row.frame->grooveBrush(), brush);
+    Row<Frame> user;
+    user.frame->setGrooveBrush(brush);
+    QCOMPARE(user.frame->grooveBrush(), brush);
     for (int i = 0; i < expected.size(); ++i) {
         const int position = i * 100 / (int(expected.size()) - 1);
-        row.move(position < 50 ? 100 : 0); // the handle is away
-        const QPoint place = User::handleRect(row.slider, position).center();
-        const QColor color = row.picture().pixelColor(place);
+        const QColor color = user.colorAt(user.row, position);
         QVERIFY2(isNear(color, expected[i], 4),
                  qPrintable(QString("%1 at %2").arg(color.name()).arg(position)));
-        // In grey light, but not gone.
-        row.frame->setEnabled(false);
-        const QColor disabled = row.picture().pixelColor(place);
-        QVERIFY(disabled != color);
-        QVERIFY(color.hsvSaturation() < 100
-                || (disabled.saturation() > 0 && disabled.saturation() < color.saturation()));
-        row.frame->setEnabled(true);
+        // Pale, but not gone.
+        user.frame->setEnabled(false);
+        const QColor disabled = user.colorAt(user.row, position);
+        QVERIFY(disabled.saturation() > 0 && disabled.saturation() < color.saturation());
+        user.frame->setEnabled(true);
     }
+}
+
+// Each row of a colour editor at five positions. The channels have ranges of their own.
+template <typename Frame> void checkChannels(const QVector<double> &shares)
+{
+    Look<Frame> user;
+    user.frame->setRange(Frame::R, 0, 255);
+    user.frame->setRange(Frame::G, -100, 100);
+    user.frame->setRange(Frame::B, 1000, 5000);
+    const QList<SliderEditFrame *> rows = user.frame->rows();
+    for (const bool isOn : {true, false}) {
+        user.frame->setColoredGrooves(isOn);
+        for (int i = 0; i < rows.size(); ++i) {
+            const double range = double(rows[i]->maximum()) - rows[i]->minimum();
+            rows[i]->setValue(rows[i]->minimum() + qRound(range * shares[i]));
+        }
+        for (int i = 0; i < rows.size(); ++i) {
+            const bool isOpacity = std::is_same_v<Frame, RGBOpacityEditFrame> && i == 3;
+            const bool isMaster = i == 3 && !isOpacity;
+            for (const double share : {0.0, 0.25, 0.5, 0.75, 1.0}) {
+                const double range = double(rows[i]->maximum()) - rows[i]->minimum();
+                const int position = rows[i]->minimum() + qRound(range * share);
+                QVector<double> mixed = shares;
+                mixed[i] = share;
+                QColor expected(qRound(255 * mixed[0]), qRound(255 * mixed[1]),
+                                qRound(255 * mixed[2]));
+                const QColor actual = user.colorAt(user.rows[i], position);
+                bool isRight = isNear(actual, expected, 5);
+                // A field of the checkerboard shows through.
+                for (const int field : {255, 192}) {
+                    const auto blended = [share, field](int channel) {
+                        return qRound(share * channel + (1 - share) * field);
+                    };
+                    isRight = isRight
+                        || (isOpacity
+                            && isNear(actual,
+                                      {blended(expected.red()), blended(expected.green()),
+                                       blended(expected.blue())},
+                                      5));
+                }
+                if (!isOn && isOpacity)
+                    continue; // a style's groove can have a colour of the checkerboard
+                if (isOn && !isMaster)
+                    QVERIFY2(isRight,
+                             qPrintable(QString("%1 instead of %2 in %3 at %4")
+                                            .arg(actual.name(), expected.name(), user.rows[i].name)
+                                            .arg(share)));
+                else
+                    QVERIFY(!isRight);
+            }
+        }
+    }
+}
+
+// Records which sliders are painted.
+class PaintLog : public QObject
+{
+public:
+    explicit PaintLog(const EditorUser &user)
+    {
+        for (const EditorRow &row : user.rows) {
+            row.slider->setObjectName(row.name);
+            row.slider->installEventFilter(this);
+        }
+    }
+
+    QSet<QString> painted;
+
+private:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            painted.insert(watched->objectName());
+        return false;
+    }
+};
+
+// Which sliders beside its own an action of a row paints.
+template <typename Frame>
+void checkRepaints(const QString &start, const QString &row, const QString &action,
+                   const QSet<QString> &expected)
+{
+    UserOf<Frame> user;
+    user.frame->setColoredGrooves(true);
+    user.performAll(QString(start + "%1 focus").replace("%1", row));
+    QCoreApplication::processEvents();
+    PaintLog log(user);
+    user.performAll(QString(action).replace("%1", row));
+    QCoreApplication::processEvents();
+    log.painted.remove(row);
+    QCOMPARE(log.painted, expected);
 }
 
 } // namespace
@@ -233,6 +345,50 @@ void tst_SliderGroove::ticks()
         QVERIFY(isTick(x) || isTick(x + 1));
         QVERIFY(!isTick(x + 10) && !isTick(x - 10));
     }
+}
+
+void tst_SliderGroove::channels_data()
+{
+    QTest::addColumn<TestCode>("code");
+    for (const QVector<double> &shares : {QVector<double> {0.8, 0.5, 0.2, 0.4}, {0, 1, 0, 1}}) {
+        const auto addRow = [&shares](const char *name, const auto &check) {
+            QTest::addRow("%s, %g", name, shares[0]) << TestCode([=] { check(shares); });
+        };
+        addRow("RGB", checkChannels<RGBEditFrame>);
+        addRow("RGBAll", checkChannels<RGBAllEditFrame>);
+        addRow("RGBOpacity", checkChannels<RGBOpacityEditFrame>);
+    }
+}
+
+// Every path that changes a channel paints the grooves of the others, once it has changed.
+void tst_SliderGroove::repaints_data()
+{
+    QTest::addColumn<TestCode>("code");
+    const auto addRows = [](const QString &start, const QString &action, bool isChange) {
+        const auto addRow = [=](const char *name, const auto &check, const QString &row,
+                                const QSet<QString> &others) {
+            QTest::addRow("%s, %s: %s%s", name, qPrintable(row), qPrintable(start),
+                          qPrintable(action))
+                << TestCode(
+                       [=] { check(start, row, action, isChange ? others : QSet<QString>()); });
+        };
+        addRow("RGB", checkRepaints<RGBEditFrame>, "r", {"g", "b"});
+        addRow("RGBAll", checkRepaints<RGBAllEditFrame>, "b", {"r", "g"});
+        addRow("RGBAll", checkRepaints<RGBAllEditFrame>, "all", {});
+        addRow("RGBOpacity", checkRepaints<RGBOpacityEditFrame>, "g", {"r", "b", "opacity"});
+        addRow("RGBOpacity", checkRepaints<RGBOpacityEditFrame>, "opacity", {});
+    };
+    for (const char *action :
+         {"%1 hold 60", "%1 plus", "%1 groove after", "%1 enter 12*2", "up", "%1 value 7"})
+        addRows("", action, true);
+    addRows("sampled | ", "%1 hold 60", true);
+    addRows("released | ", "%1 hold 60", false);
+    addRows("released | %1 hold 60 | ", "%1 drop", true);
+    addRows("%1 default 9 | ", "%1 reset", true);
+    addRows("%1 default 9 | ", "resetValues", true);
+    addRows("", "%1 range 0 300", true);
+    addRows("", "%1 enter 1/0", false);
+    addRows("%1 value 50 | ", "%1 value 50", false);
 }
 
 QTEST_MAIN(tst_SliderGroove)

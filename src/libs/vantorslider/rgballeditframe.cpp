@@ -216,6 +216,16 @@ void RGBAllEditFrame::finishEntry()
     Internal::finishEntries(rows());
 }
 
+void RGBAllEditFrame::setColoredGrooves(bool b)
+{
+    d->ui->frameRGB->setColoredGrooves(b);
+}
+
+bool RGBAllEditFrame::coloredGrooves() const
+{
+    return d->ui->frameRGB->coloredGrooves();
+}
+
 void RGBAllEditFrame::setAutoRepeat(bool b)
 {
     d->rows().all(&Row::setAutoRepeat, b);

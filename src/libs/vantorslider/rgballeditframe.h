@@ -43,6 +43,7 @@ class VANTORSLIDER_EXPORT RGBAllEditFrame : public QFrame
 {
     Q_OBJECT
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
+    Q_PROPERTY(bool coloredGrooves READ coloredGrooves WRITE setColoredGrooves)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY valueChanged USER true)
 
 public:
@@ -125,6 +126,16 @@ public:
         Does nothing if no entry is pending. \since 1.1
     */
     void finishEntry();
+
+    /*!
+        Shows in the grooves of the channels the colours that their handles would give, if \a b is
+        true; false by default. See RGBEditFrame::setColoredGrooves(). The groove of the master
+        value is the host's, see SliderEditFrame::setGrooveBrush(). \since 1.1
+    */
+    void setColoredGrooves(bool b);
+
+    /*! Returns whether the grooves show colours. \since 1.1 */
+    bool coloredGrooves() const;
 
     /*! Shows \a val in the row \a type, clamped to its range. Emits nothing. */
     void setValue(Type type, int val);

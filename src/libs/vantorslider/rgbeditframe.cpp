@@ -1,6 +1,7 @@
 #include "rgbeditframe.h"
 
 #include "colorchannel_p.h"
+#include "colorgrooves_p.h"
 #include "editorrows_p.h"
 #include "editspan_p.h"
 #include "slidereditframe.h"
@@ -36,6 +37,7 @@ public:
     RGBEditFrame *m_pEditer;
     const std::unique_ptr<Ui::RGBEditFrame> ui = std::make_unique<Ui::RGBEditFrame>();
     EditSpan m_edits {m_pEditer};
+    std::unique_ptr<ColorGrooves> m_grooves;
 
 private Q_SLOTS:
     void redValueChanged(int val);
@@ -240,6 +242,18 @@ bool RGBEditFrame::hasPendingEntry() const
 void RGBEditFrame::finishEntry()
 {
     Internal::finishEntries(rows());
+}
+
+void RGBEditFrame::setColoredGrooves(bool b)
+{
+    if (b != coloredGrooves()) {
+        d->m_grooves = b ? std::make_unique<Internal::ColorGrooves>(rows()) : nullptr;
+    }
+}
+
+bool RGBEditFrame::coloredGrooves() const
+{
+    return d->m_grooves != nullptr;
 }
 
 void RGBEditFrame::setAutoRepeat(bool b)

@@ -43,6 +43,7 @@ class VANTORSLIDER_EXPORT RGBEditFrame : public QFrame
 {
     Q_OBJECT
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
+    Q_PROPERTY(bool coloredGrooves READ coloredGrooves WRITE setColoredGrooves)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY valueChanged USER true)
 
 public:
@@ -120,6 +121,18 @@ public:
         Does nothing if no entry is pending. \since 1.1
     */
     void finishEntry();
+
+    /*!
+        Shows in the sliders' grooves the colours that their handles would give, if \a b is true;
+        false by default. The groove of a channel goes from the colour with that channel at the
+        minimum of its range to the one at the maximum, and follows each change of another
+        channel's value or range, also by a setter. A brush that SliderEditFrame::setGrooveBrush()
+        gave a row is not shown meanwhile. \since 1.1
+    */
+    void setColoredGrooves(bool b);
+
+    /*! Returns whether the grooves show colours. \since 1.1 */
+    bool coloredGrooves() const;
 
     /*! Shows \a val in the row \a type, clamped to its range. Emits nothing. */
     void setValue(Type type, int val);

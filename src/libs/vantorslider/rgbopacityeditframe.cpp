@@ -1,6 +1,7 @@
 #include "rgbopacityeditframe.h"
 
 #include "colorchannel_p.h"
+#include "colorgrooves_p.h"
 #include "editspan_p.h"
 #include "rgbandrow_p.h"
 #include "ui_rgbopacityeditframe.h"
@@ -34,6 +35,7 @@ public:
     RGBOpacityEditFrame *m_pEditer;
     const std::unique_ptr<Ui::RGBOpacityEditFrame> ui = std::make_unique<Ui::RGBOpacityEditFrame>();
     EditSpan m_edits {m_pEditer};
+    std::unique_ptr<ColorGrooves> m_grooves;
 
 private Q_SLOTS:
     void opacityValueChanged(int val);
@@ -224,6 +226,18 @@ bool RGBOpacityEditFrame::hasPendingEntry() const
 void RGBOpacityEditFrame::finishEntry()
 {
     Internal::finishEntries(rows());
+}
+
+void RGBOpacityEditFrame::setColoredGrooves(bool b)
+{
+    if (b != coloredGrooves()) {
+        d->m_grooves = b ? std::make_unique<Internal::ColorGrooves>(rows()) : nullptr;
+    }
+}
+
+bool RGBOpacityEditFrame::coloredGrooves() const
+{
+    return d->m_grooves != nullptr;
 }
 
 void RGBOpacityEditFrame::setAutoRepeat(bool b)

@@ -54,6 +54,15 @@ bool isVisible(const QImage &image, int x, int y)
     return qAlpha(image.pixel(x, y)) > 0;
 }
 
+QPoint placeOf(const QHoverEvent &event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event.position().toPoint();
+#else
+    return event.pos();
+#endif
+}
+
 int visibleRows(const QImage &image, int x)
 {
     int rows = 0;
@@ -92,7 +101,8 @@ void SliderGroove::follow(const QEvent *event, const QStyleOptionSlider &option)
     case QEvent::HoverEnter:
     case QEvent::HoverMove:
         m_hovered = m_pSlider->style()->hitTestComplexControl(
-            QStyle::CC_Slider, &option, static_cast<const QHoverEvent *>(event)->pos(), m_pSlider);
+            QStyle::CC_Slider, &option, placeOf(*static_cast<const QHoverEvent *>(event)),
+            m_pSlider);
         break;
     case QEvent::HoverLeave:
         m_hovered = QStyle::SC_None;

@@ -1,0 +1,90 @@
+#include "colorgrooves_p.h"
+
+#include "colorchannel_p.h"
+#include "logscale_p.h"
+#include "slidereditframe.h"
+#include "slidereditframe_p.h"
+
+#include <array>
+
+namespace Vantor {
+namespace Widgets {
+namespace Internal {
+
+namespace {
+
+constexpr std::size_t opacity = 3; // the index of its row
+constexpr quint16 fullChannel = 65535; // of a QColor
+constexpr int logarithmicParts = 16; // straight in between
+
+// The channel at a place on the way of the row's handle, from 0 to 1.
+quint16 channelAt(double place, const SliderEditFrame &row)
+{
+    if (row.sliderScale() == SliderEditFrame::LogarithmicScale) {
+        const double least = row.minimum();
+        const double value = logValue(qRound(place * lastLogPosition), least, row.maximum());
+        place = (value - least) / qMax(1.0, row.maximum() - least);
+    }
+    return static_cast<quint16>(qRound(place * fullChannel));
+}
+
+} // namespace
+
+ColorGrooves::ColorGrooves(const QList<SliderEditFrame *> &rows)
+{
+    for (SliderEditFrame *row : rows) {
+        auto *slider = row->findChild<SliderEditSlider *>();
+        m_channels.push_back({row, slider});
+        slider->setGrooveBrushes(this);
+    }
+}
+
+ColorGrooves::~ColorGrooves()
+{
+    for (const Channel &channel : m_channels) {
+        if (channel.slider->grooveBrushes() == this) {
+            channel.slider->setGrooveBrushes(nullptr);
+        }
+    }
+}
+
+// An opacity is not seen in the other grooves.
+QBrush ColorGrooves::brushOf(const QSlider *slider) const
+{
+    std::array<quint16, 4> color {0, 0, 0, fullChannel};
+    std::size_t own = 0;
+    for (std::size_t i = 0; i < m_channels.size(); ++i) {
+        if (m_channels[i].slider == slider) {
+            own = i;
+        } else if (i != opacity) {
+            color[i] = channelOf(*m_channels[i].row);
+        }
+    }
+    const SliderEditFrame &row = *m_channels[own].row;
+    const bool isLinear = row.sliderScale() == SliderEditFrame::LinearScale;
+    const int parts = isLinear ? 1 : logarithmicParts;
+    QLinearGradient gradient(0, 0, 1, 0);
+    for (int part = 0; part <= parts; ++part) {
+        const double place = double(part) / parts;
+        color[own] = channelAt(place, row);
+        gradient.setColorAt(place,
+                            QColor::fromRgba64(color[0], color[1], color[2], color[opacity]));
+    }
+    return gradient;
+}
+
+void ColorGrooves::sliderChanged(const QSlider *slider)
+{
+    if (m_channels.size() > opacity && m_channels[opacity].slider == slider) {
+        return;
+    }
+    for (const Channel &channel : m_channels) {
+        if (channel.slider != slider) {
+            channel.slider->update();
+        }
+    }
+}
+
+} // namespace Internal
+} // namespace Widgets
+} // namespace Vantor
