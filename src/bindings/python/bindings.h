@@ -7,6 +7,7 @@
 #include <layouteditframe.h>
 #include <maskeditframe.h>
 #include <recteditframe.h>
+#include <reducetabstops.h>
 #include <rgballeditframe.h>
 #include <rgbeditframe.h>
 #include <rgbopacityeditframe.h>
