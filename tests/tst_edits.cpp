@@ -149,8 +149,12 @@ template <typename AnyUser> void findReset(AnyUser &user)
         const User::UpperCase language;
         QCOMPARE(user.row.label->toolTip(), QString("DOUBLE-CLICK TO RESET"));
     }
-    user.frame->clearDefaultValue();
+    // A receiver of the entry that a reset ends may want no reset.
+    user.onReport([&user] { user.frame->clearDefaultValue(); });
+    user.performAll("type 77 | screenReader");
+    user.heard();
     QVERIFY(!user.frame->hasDefaultValue());
+    QVERIFY(user.frame->value() > 30 * user.position); // as typed, not the default
     QCOMPARE(signsOf(user.row), QStringList({"", "border", "", ""}));
     user.play("reset");
 }

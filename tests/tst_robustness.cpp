@@ -20,6 +20,7 @@ class tst_Robustness : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void pastedTexts_data();
     void pastedTexts() { runTestCode(); }
     void deletedInASignal_data();
@@ -65,6 +66,9 @@ void tst_Robustness::pastedTexts_data()
 }
 
 namespace {
+
+// Destroyed after main(), as a host's own statics are: the program must not crash then.
+std::unique_ptr<SliderEditFrame> keptBeyondMain;
 
 // Performs the steps with each row of a new editor, once for each signal of the class.
 // In that signal the program deletes the editor: at once, or when control returns to the
@@ -268,6 +272,11 @@ void tst_Robustness::extremeSettings_data()
             setExtremes<double>(user, {-qInf(), -1e9, 0, 1e-300, 7, 3e7, DBL_MAX, qInf(), qQNaN()});
         });
     }
+}
+
+void tst_Robustness::initTestCase()
+{
+    keptBeyondMain = std::make_unique<SliderEditFrame>();
 }
 
 QTEST_MAIN(tst_Robustness)

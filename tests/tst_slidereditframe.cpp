@@ -62,6 +62,7 @@ template <typename AnyUser> void compareSetters(AnyUser &user)
     const QLayout *layout = frame.layout();
     layout->itemAt(2)->layout()->setContentsMargins(1, 0, 0, 0);
     frame.setHorizontalSpacing(5, 7);
+    row.spinBox->setLayoutDirection(Qt::RightToLeft); // of the numbers only
     for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
         user.page.setLayoutDirection(direction);
         QCoreApplication::processEvents();

@@ -63,7 +63,7 @@ LimitedPair CropEditFramePrivate::farEdge(const LimitedField &position,
 // The user has set the first field of the pair to val.
 void CropEditFramePrivate::limit(const LimitedPair &pair, int val)
 {
-    if (change(pair, val)) {
+    if (limitAndShow(pair, val)) {
         const auto [x, y, w, h] = last();
         Q_EMIT m_pEditer->cropValueChanged(x, y, w, h);
     }
@@ -74,7 +74,7 @@ void CropEditFramePrivate::limit(const LimitedPair &pair, int val)
 CropEditFrame::CropEditFrame(QWidget *parent)
     : RectEditFrame(parent), d(new Internal::CropEditFramePrivate(this))
 {
-    d->createWidgets();
+    d->watchRows();
     d->createConnects();
 }
 

@@ -4,28 +4,36 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
 
+#include <algorithm>
+
 namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
 namespace {
 
-QHash<const QWidget *, EditSpan *> &spans()
-{
-    static QHash<const QWidget *, EditSpan *> ofEditors;
-    return ofEditors;
-}
+using SpansOfEditors = QHash<const QWidget *, EditSpan *>;
+
+constexpr std::chrono::milliseconds shortestRetry(10);
+constexpr std::chrono::milliseconds longestRetry(1000);
+
+// A host may keep an editor longer than the library's own objects.
+Q_GLOBAL_STATIC(SpansOfEditors, spans)
 
 } // namespace
 
 EditSpan::EditSpan(QWidget *editor, Emit emit) : m_editor(editor), m_emit(emit)
 {
-    spans().insert(editor, this);
+    if (!spans.isDestroyed()) {
+        spans->insert(editor, this);
+    }
 }
 
 EditSpan::~EditSpan()
 {
-    spans().remove(m_editor);
+    if (!spans.isDestroyed()) {
+        spans->remove(m_editor);
+    }
     for (Scope *scope = m_innermost; scope != nullptr; scope = scope->m_outer) {
         scope->m_span = nullptr;
     }
@@ -35,9 +43,10 @@ EditSpan::~EditSpan()
 EditSpan *EditSpan::around(const QWidget *widget)
 {
     EditSpan *span = nullptr;
-    while (span == nullptr && !widget->isWindow() && widget->parentWidget() != nullptr) {
+    while (span == nullptr && !spans.isDestroyed() && !widget->isWindow()
+           && widget->parentWidget() != nullptr) {
         widget = widget->parentWidget();
-        span = spans().value(widget);
+        span = spans->value(widget);
     }
     return span;
 }
@@ -48,6 +57,7 @@ void EditSpan::begin()
         return;
     }
     const Scope scope(this);
+    // An edit that was opened without an outer editor stays uncounted.
     EditSpan *const outer = m_isOpen && m_outer == Outer::Unaware ? nullptr : around(m_editor);
     m_isOpen = true;
     if (outer != nullptr) {
@@ -80,12 +90,12 @@ void EditSpan::endUnlessKept()
     const Scope scope(this);
     leaveOuter();
     if (scope && m_isTold && !m_hostWindow->isBeingDestroyed()) {
-        emitEnd(0);
+        emitEnd(std::chrono::milliseconds(0));
     }
 }
 
-// Qt does not tell when signals are unblocked.
-void EditSpan::emitEnd(int retryInterval)
+// Qt does not tell when signals are unblocked. The interval grows, since a host may never do it.
+void EditSpan::emitEnd(std::chrono::milliseconds retryInterval)
 {
     if (!m_isTold || m_isOpen) {
         return;
@@ -95,9 +105,9 @@ void EditSpan::emitEnd(int retryInterval)
         m_emit(m_editor, false);
     } else if (!m_isRetrying) {
         m_isRetrying = true;
-        QTimer::singleShot(retryInterval, m_editor, [this] {
+        QTimer::singleShot(retryInterval, m_editor, [this, retryInterval] {
             m_isRetrying = false;
-            emitEnd(10);
+            emitEnd(std::clamp(2 * retryInterval, shortestRetry, longestRetry));
         });
     }
 }

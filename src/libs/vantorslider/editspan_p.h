@@ -4,6 +4,7 @@
 
 #include <QtCore/QtGlobal>
 
+#include <chrono>
 #include <memory>
 
 QT_BEGIN_NAMESPACE
@@ -62,7 +63,7 @@ private:
 
     void begin();
     void endUnlessKept();
-    void emitEnd(int retryInterval);
+    void emitEnd(std::chrono::milliseconds retryInterval);
     void leaveOuter();
 
     QWidget *const m_editor;

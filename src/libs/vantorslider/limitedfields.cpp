@@ -12,7 +12,7 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-void LimitedFields::createWidgets()
+void LimitedFields::watchRows()
 {
     for (SliderEditFrame *row : m_pEditer->rows()) {
         row->installEventFilter(this);
@@ -52,7 +52,7 @@ void LimitedFields::allowWithinLimit(const LimitedPair &pair, const FieldValues 
     }
 }
 
-bool LimitedFields::change(const LimitedPair &pair, int val)
+bool LimitedFields::limitAndShow(const LimitedPair &pair, int val)
 {
     const auto asTuple = [](const FieldValues &of) {
         return std::make_tuple(of.x, of.y, of.width, of.height);

@@ -45,7 +45,7 @@ class LimitedFields : public QObject
 public:
     explicit LimitedFields(RectEditFrame *editer) : m_pEditer(editer) { }
 
-    void createWidgets();
+    void watchRows();
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     // The values that a field shows.
@@ -61,7 +61,7 @@ protected:
 
     // The user has set the first field of the pair to val. Shows the values, with that one at most
     // the limit minus the second field. Returns whether they differ from the last ones.
-    bool change(const LimitedPair &pair, int val);
+    bool limitAndShow(const LimitedPair &pair, int val);
     const FieldValues &last() const { return m_last; }
 
 private:

@@ -53,7 +53,7 @@ private:
 
 void MaskEditFramePrivate::createWidgets()
 {
-    LimitedFields::createWidgets();
+    watchRows();
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     qRegisterMetaType<QMargins>(); // the type of a property
 #endif
@@ -75,7 +75,7 @@ void MaskEditFramePrivate::createConnects()
 // The user has set the first field of the pair to val.
 void MaskEditFramePrivate::limit(const LimitedPair &pair, int val)
 {
-    if (change(pair, val)) {
+    if (limitAndShow(pair, val)) {
         const auto [top, bottom, left, right] = last();
         Q_EMIT m_pEditer->maskValueChanged(top, bottom, left, right);
     }

@@ -35,11 +35,6 @@ class VANTORSLIDER_EXPORT MaskEditFrame : public RectEditFrame
     Q_PROPERTY(QMargins margins READ margins WRITE setMargins NOTIFY maskValueChanged USER true)
 
 public:
-    static constexpr Type Top = X; //!< The row of the top margin. \since 1.1
-    static constexpr Type Bottom = Y; //!< The row of the bottom margin. \since 1.1
-    static constexpr Type Left = Width; //!< The row of the left margin. \since 1.1
-    static constexpr Type Right = Height; //!< The row of the right margin. \since 1.1
-
     /*! Creates the editor for an area of size 0 by 0, with hidden lock buttons. */
     explicit MaskEditFrame(QWidget *parent = nullptr);
     ~MaskEditFrame() override;

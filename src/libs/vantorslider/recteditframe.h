@@ -91,8 +91,9 @@ public:
 
     /*!
         Returns the row of the flag \a type: X, Y, Width or Height. It has the settings that this
-       class does not forward: unit, default value, scale, step getters and so on. It belongs to the
-       editor and is deleted with it. Any other value returns null and logs one warning. \since 1.1
+        class does not forward: unit, default value, scale, step getters and so on. It belongs to
+        the editor and is deleted with it. Any other value returns null and logs one warning.
+        \since 1.1
     */
     SliderEditFrame *row(Type type) const;
 
@@ -293,8 +294,9 @@ public:
 
     /*!
         Returns the ratio of the size lock, width divided by height; for OffsetLock the ratio of
-        the size at which the lock was turned on. A ratio that the host set is rounded to
-        thousandths. Returns 0 while the lock is off or if the height is 0. \since 1.1
+        the size at which the lock was turned on. One that was set by
+        setSizeLock(qreal) is rounded to thousandths. Returns 0 while the lock is off or if the
+       height is 0. \since 1.1
     */
     qreal sizeLockRatio() const;
 

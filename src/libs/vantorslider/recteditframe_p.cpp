@@ -71,7 +71,7 @@ void RectEditFramePrivate::createWidgets()
     m_pEditer->setSizeLockEnable(false, RectEditFrame::SizeScaleLock);
 }
 
-// Each widget of a window receives a change of the language.
+// One button stands for the editor: each widget of a window receives a change of the language.
 bool RectEditFramePrivate::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {

@@ -42,7 +42,7 @@ public:
     EditSpan m_edits {m_pEditer};
     RectEditFrame::LockType m_sizeLockType = RectEditFrame::SizeScaleLock;
     QPoint m_lockedPosition;
-    // Width and height when the lock was turned on, or a ratio in thousandths.
+    // Width and height when the lock was turned on, or the ratio that the host has set.
     QSize m_lockedSize;
     bool m_isLockedPosition = false;
     bool m_isLockedSize = false;

@@ -34,7 +34,7 @@ void moveAlong(const LockedField &changed, int val, const LockedField &partner)
 
 ScaledSides scaleAlong(const LockedField &changed, int val, const LockedField &partner)
 {
-    const auto holdAt = [&](int limit) {
+    const auto limitTo = [&](int limit) {
         changed.frame->setValueChangeDirection(SliderEditFrame::AllowedToSmaller, limit);
         val = limit;
     };
@@ -42,7 +42,7 @@ ScaledSides scaleAlong(const LockedField &changed, int val, const LockedField &p
     const int asked = val;
     const qint64 room = changed.frame->maximum() - offsetInArea(changed);
     if (val >= room) {
-        holdAt(saturatedInt(room));
+        limitTo(saturatedInt(room));
     }
     // If the partner's basis is 0, no value of the changed side corresponds to the partner's limit.
     if (partner.basis != 0) {
@@ -50,7 +50,7 @@ ScaledSides scaleAlong(const LockedField &changed, int val, const LockedField &p
             scaled(partner.basis, changed.isLimitedFirst ? val : asked, changed.basis);
         const qint64 partnerRoom = partner.frame->maximum() - offsetInArea(partner);
         if (tested >= partnerRoom) {
-            holdAt(scaled(changed.basis, saturatedInt(partnerRoom), partner.basis));
+            limitTo(scaled(changed.basis, saturatedInt(partnerRoom), partner.basis));
         } else if (tested > partner.frame->maximum() || tested < partner.frame->minimum()) {
             val = scaled(changed.basis, partner.frame->value(), partner.basis);
         }

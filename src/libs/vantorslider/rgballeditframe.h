@@ -33,8 +33,8 @@ class RGBAllEditFramePrivate;
     \endcode
 
     Each row is a SliderEditFrame. A function with a Type argument addresses the row of that flag.
-    Any other value changes nothing and logs one warning. No setter emits a signal, also none of
-    a property. The getters of 1.0 are not const: color() and rows() read a const editor.
+    Any other value changes nothing and logs one warning. No setter emits a signal, nor does
+    writing a property. The getters of 1.0 are not const: color() and rows() read a const editor.
 
     Style sheets select on the dynamic property "isSliderFrame" and the object names "frameAll" of
     the master row and "frameRGB" of the RGBEditFrame with the channels.
@@ -62,8 +62,8 @@ public:
 
     /*!
         Returns the row of the flag \a type: R, G, B or ALL. It has the settings that this class
-       does not forward: unit, default value, scale, step getters and so on. It belongs to the
-       editor and is deleted with it. Any other value returns null and logs one warning. \since 1.1
+        does not forward: unit, default value, scale, step getters and so on. It belongs to the
+        editor and is deleted with it. Any other value returns null and logs one warning. \since 1.1
     */
     SliderEditFrame *row(Type type) const;
 
@@ -147,9 +147,8 @@ public:
     void setValues(int r, int g, int b, int all);
 
     /*!
-        Shows \a color, each channel in proportion to the range of its row: from 0 to 255 its
-        value. The
-        master value is no part of it. An invalid color is shown as black. Emits nothing. \since 1.1
+        Shows \a color, each channel in proportion to the range of its row. The master value is no
+        part of it. An invalid color is shown as black. Emits nothing. \since 1.1
     */
     void setColor(const QColor &color);
 

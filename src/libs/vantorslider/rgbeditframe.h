@@ -32,8 +32,8 @@ class RGBEditFramePrivate;
     \endcode
 
     Each row is a SliderEditFrame. A function with a Type argument addresses the row of that flag.
-    Any other value changes nothing and logs one warning. No setter emits a signal, also none of
-    a property. The getters of 1.0 are not const: color() and rows() read a const editor.
+    Any other value changes nothing and logs one warning. No setter emits a signal, nor does
+    writing a property. The getters of 1.0 are not const: color() and rows() read a const editor.
 
     Style sheets select on the dynamic property "isSliderFrame", on the rows' object names
     "frameR", "frameG" and "frameB", and on the dynamic properties "isColorControl_Red",
@@ -59,9 +59,9 @@ public:
     ~RGBEditFrame() override;
 
     /*!
-        Returns the row of the flag \a type: R, G or B. It has the settings that this class does
-        not forward: unit, default value, scale, step getters and so on. It belongs to the editor
-        and is deleted with it. Any other value returns null and logs one warning. \since 1.1
+        Returns the row of the flag \a type: R, G or B. It has the settings that this class does not
+        forward: unit, default value, scale, step getters and so on. It belongs to the editor and is
+        deleted with it. Any other value returns null and logs one warning. \since 1.1
     */
     SliderEditFrame *row(Type type) const;
 
@@ -141,8 +141,8 @@ public:
     void setValues(int r, int g, int b);
 
     /*!
-        Shows \a color, each channel in proportion to the range of its row: from 0 to 255 its
-        value. An invalid color is shown as black. Emits nothing. \since 1.1
+        Shows \a color, each channel in proportion to the range of its row. An invalid color is
+        shown as black. Emits nothing. \since 1.1
     */
     void setColor(const QColor &color);
 

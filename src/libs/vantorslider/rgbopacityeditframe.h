@@ -34,8 +34,8 @@ class RGBOpacityEditFramePrivate;
     \endcode
 
     Each row is a SliderEditFrame. A function with a Type argument addresses the row of that flag.
-    Any other value changes nothing and logs one warning. No setter emits a signal, also none of
-    a property. The getters of 1.0 are not const: color() and rows() read a const editor.
+    Any other value changes nothing and logs one warning. No setter emits a signal, nor does
+    writing a property. The getters of 1.0 are not const: color() and rows() read a const editor.
 
     Style sheets select on the dynamic property "isSliderFrame" and the object names
     "frameOpacity" of the opacity row and "frameRGB" of the RGBEditFrame with the channels.
@@ -65,8 +65,8 @@ public:
 
     /*!
         Returns the row of the flag \a type: R, G, B or Opacity. It has the settings that this class
-       does not forward: unit, default value, scale, step getters and so on. It belongs to the
-       editor and is deleted with it. Any other value returns null and logs one warning. \since 1.1
+        does not forward: unit, default value, scale, step getters and so on. It belongs to the
+        editor and is deleted with it. Any other value returns null and logs one warning. \since 1.1
     */
     SliderEditFrame *row(Type type) const;
 
@@ -147,9 +147,8 @@ public:
     void setValues(int r, int g, int b, int opacity);
 
     /*!
-        Shows \a color, each channel in proportion to the range of its row: from 0 to 255 its
-        value. The opacity
-        is its alpha channel. An invalid color is shown as black. Emits nothing. \since 1.1
+        Shows \a color, each channel in proportion to the range of its row. The opacity is its
+        alpha channel. An invalid color is shown as black. Emits nothing. \since 1.1
     */
     void setColor(const QColor &color);
 

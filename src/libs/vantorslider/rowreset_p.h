@@ -25,7 +25,8 @@ public:
     static RowReset *of(const QObject *row) { return row->findChild<RowReset *>(); }
 
     void perform() const;
-    // Leaves the label as it was. The object is deleted later: perform() may be on the stack.
+    // Removes what the constructor added; a cursor that the host had set is lost. The object is
+    // deleted later: perform() may be on the stack.
     void remove();
 
 protected:

@@ -21,7 +21,7 @@ public:
 
     void setLogarithmic(bool isOn)
     {
-        if (isOn == m_isLogarithmic || (isOn && !isAboveZero())) {
+        if (isOn == m_isLogarithmic || (isOn && !checkMinimum())) {
             return;
         }
         m_isLogarithmic = isOn;
@@ -35,7 +35,7 @@ public:
     void setEnds(int lowest, int highest)
     {
         const QSignalBlocker blocker(slider());
-        if (m_isLogarithmic && isAboveZero()) {
+        if (m_isLogarithmic && checkMinimum()) {
             slider()->setRange(0, least() < greatest() ? lastLogPosition : 0);
             slider()->setSingleStep(1);
             slider()->setValue(spinPosition());
@@ -101,7 +101,7 @@ private:
         return engine().rounded(logValue(position, least(), greatest()));
     }
 
-    bool isAboveZero() const
+    bool checkMinimum() const
     {
         if (least() <= 0) {
             qWarning() << "Set SliderEdit slider scale has failed. The minimum " << least()

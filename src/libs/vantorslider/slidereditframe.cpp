@@ -40,7 +40,7 @@ public:
     void handToCalculator(int val);
 
 private Q_SLOTS:
-    // All thirteen slots are part of the interface.
+    // All thirteen exist since 1.0; their order is that of the meta-object.
     void slotSpinBoxEditingFinished();
     void slotSpinBoxEnterFinished();
     void slotButtonSubtractClicked() { step(-1); }
@@ -130,7 +130,7 @@ SliderEditFrame::~SliderEditFrame()
 
 void SliderEditFrame::setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton)
 {
-    d->row().setHorizontalSpacing(nLabelSlider, nSliderButton);
+    d->setHorizontalSpacing(nLabelSlider, nSliderButton);
 }
 
 void SliderEditFrame::setLabelText(const QString &text)

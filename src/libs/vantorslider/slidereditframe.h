@@ -39,7 +39,7 @@ class SliderEditPrivate;
     takes the maximum first.
 
     The notify signal of a property is emitted for the user's changes only, never by its setter.
-    Some getters are not const since 1.0: the properties of the same name read a const row.
+    Some getters of 1.0 are not const: read a const row by the properties of the same name.
 */
 class VANTORSLIDER_EXPORT SliderEditFrame : public QFrame
 {

@@ -76,7 +76,7 @@ SliderEditFrameDouble::~SliderEditFrameDouble()
 
 void SliderEditFrameDouble::setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton)
 {
-    d->row().setHorizontalSpacing(nLabelSlider, nSliderButton);
+    d->setHorizontalSpacing(nLabelSlider, nSliderButton);
 }
 
 void SliderEditFrameDouble::setLabelText(const QString &text)

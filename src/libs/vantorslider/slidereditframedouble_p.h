@@ -51,7 +51,7 @@ public:
     void setSingleStep(double step) { m_dSingleStep = step; }
 
 private Q_SLOTS:
-    // All thirteen slots are part of the interface.
+    // All thirteen exist since 1.0; their order is that of the meta-object.
     void slotSpinBoxEditingFinished() { editingFinished(); }
     void slotSpinBoxEnterFinished() { enterFinished(); }
     void slotButtonSubtractClicked() { step(-1); }

@@ -63,6 +63,21 @@ public:
 
     SliderRow row() const { return {*ui, engine().spinBox(), m_pSliderEditer}; }
 
+    void setHorizontalSpacing(int labelToSlider, int sliderToRest)
+    {
+        row().setHorizontalSpacing(labelToSlider, sliderToRest);
+        m_pSliderEditer->installEventFilter(this);
+    }
+
+    // Installed on the frame once it has gaps.
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::LayoutDirectionChange) {
+            row().mirrorGaps();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
     // The frame filters the events of its spin box, and its own: whether it consumes one.
     bool filter(const QObject *watched, const QEvent *event) const
     {
@@ -231,8 +246,9 @@ protected:
     void sliderPressed()
     {
         EditSpan::Scope edit(&m_edits);
+        const bool wasDown = ui->slider->isSliderDown();
         edit.begin(EditSpan::Handle);
-        if (!edit || !ui->slider->isSliderDown()) {
+        if (!edit || (wasDown && !ui->slider->isSliderDown())) {
             return; // a receiver has ended the drag
         }
         if (m_sampling.isOn()) {
@@ -323,7 +339,9 @@ private:
     void resetByUser()
     {
         const QPointer<SliderEngine> self(this);
-        if (qobject_cast<QAbstractSpinBox *>(QApplication::focusWidget()) != nullptr) {
+        const QWidget *focus = QApplication::focusWidget();
+        if (qobject_cast<const SliderEditSpinBox *>(focus) != nullptr
+            || qobject_cast<const SliderEditDoubleSpinBox *>(focus) != nullptr) {
             EditSpan::Scope edit(&m_edits);
             engine().spinBox()->setSlotEditingFinished();
             if (edit) {
@@ -331,7 +349,7 @@ private:
             }
             edit.release(EditSpan::Entry);
         }
-        if (!self) {
+        if (!self || !hasDefaultValue()) {
             return;
         }
         if (engine().isLastValue(shownDefault())) {

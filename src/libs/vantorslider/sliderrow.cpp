@@ -29,15 +29,6 @@ void setGap(QLayout *layout, int gap, Qt::LayoutDirection direction)
     layout->setContentsMargins(margins);
 }
 
-void mirrorGaps(std::initializer_list<QLayout *> layouts)
-{
-    for (QLayout *layout : layouts) {
-        const QMargins margins = layout->contentsMargins();
-        layout->setContentsMargins(margins.right(), margins.top(), margins.left(),
-                                   margins.bottom());
-    }
-}
-
 // What a screen reader says. In a plain label "&" marks a shortcut and "&&" is shown as "&".
 QString spoken(const QLabel *label)
 {
@@ -65,10 +56,19 @@ void SliderRow::prepare() const
 
 void SliderRow::setHorizontalSpacing(int labelToSlider, int sliderToRest) const
 {
-    const Qt::LayoutDirection direction = spinBox->layoutDirection();
+    const Qt::LayoutDirection direction = frame->layoutDirection();
     setGap(nameLayout, labelToSlider, direction);
     setGap(sliderLayout, sliderToRest, direction);
     setGap(spinBoxLayout, sliderToRest, direction);
+}
+
+void SliderRow::mirrorGaps() const
+{
+    for (QLayout *layout : {nameLayout, sliderLayout, spinBoxLayout}) {
+        const QMargins margins = layout->contentsMargins();
+        layout->setContentsMargins(margins.right(), margins.top(), margins.left(),
+                                   margins.bottom());
+    }
 }
 
 // Only the label says what the row is for. A screen reader needs its text as the accessible name
@@ -94,8 +94,8 @@ void SliderRow::setSliderVisible(bool isVisible) const
         lastSpacer->changeSize(20, 20, QSizePolicy::Expanding, QSizePolicy::Minimum);
     }
     setShown(slider, isVisible);
-    // The label's shortcut gives it the focus.
-    label->setBuddy(isVisible ? static_cast<QWidget *>(slider) : spinBox);
+    // The label's shortcut gives the focus to its buddy, the slider.
+    slider->setFocusProxy(isVisible ? nullptr : spinBox);
 }
 
 void SliderRow::setFieldFocus() const
@@ -113,9 +113,6 @@ bool SliderRow::isHeldEnter(const QEvent *event)
 // The selection is queued, because the spin box moves the cursor when it handles the event.
 void SliderRow::fieldReceives(const QEvent *event) const
 {
-    if (event->type() == QEvent::LayoutDirectionChange) {
-        mirrorGaps({nameLayout, sliderLayout, spinBoxLayout});
-    }
     if (event->type() != QEvent::FocusIn && event->type() != QEvent::MouseButtonPress) {
         return;
     }

@@ -38,7 +38,9 @@ struct SliderRow
     // Called once after setupUi(): sets focus policies, style properties and the event filter.
     void prepare() const;
 
+    // The gaps between the children, in the direction of the frame.
     void setHorizontalSpacing(int labelToSlider, int sliderToRest) const;
+    void mirrorGaps() const;
     void setLabelText(const QString &text) const;
     void setSliderVisible(bool isVisible) const;
     void setFieldFocus() const;
@@ -52,11 +54,11 @@ struct SliderRow
         std::invoke(operation, minus, arguments...);
     }
 
-    // Whether the event repeats an Enter that is held since it has ended an entry and moved the focus
-    // to the frame. It must not press a default button.
+    // Whether the event repeats an Enter that is held since it has ended an entry and moved the
+    // focus to the frame. It must not press a default button.
     static bool isHeldEnter(const QEvent *event);
 
-    // A click or Tab into the spin box selects its text. Its direction is that of the layout.
+    // A click or Tab into the spin box selects its text.
     void fieldReceives(const QEvent *event) const;
 
     QWidget *frame;
