@@ -172,7 +172,13 @@ void EditorUser::addGestures()
         on(key.toLower(), [code](const Step &) { User::press(Qt::Key(code)); });
     }
     on("press", [](const Step &step) {
-        QTest::keySequence(QApplication::focusWidget(), QKeySequence(step.text));
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+        const int key = QKeySequence(step.text)[0];
+#else
+        const int key = QKeySequence(step.text)[0].toCombined();
+#endif
+        constexpr int modifiers = int(Qt::KeyboardModifierMask);
+        User::press(Qt::Key(key & ~modifiers), Qt::KeyboardModifiers(key & modifiers));
     });
     on("held", [](const Step &) {
         QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);

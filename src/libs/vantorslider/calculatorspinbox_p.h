@@ -259,7 +259,7 @@ bool handleItemEditorEvent(SpinBox *spinBox, LineEditCal *calculator, QEvent *ev
 template <typename SpinBox>
 bool handleEvent(SpinBox *spinBox, LineEditCal *calculator, QEvent *event)
 {
-    if (handleItemEditorEvent(spinBox, calculator, event)) {
+    if (isItemEditorEvent(event) && handleItemEditorEvent(spinBox, calculator, event)) {
         return true;
     }
     if (event->type() == QEvent::ShortcutOverride && isRestoredBy(event, spinBox, calculator)) {

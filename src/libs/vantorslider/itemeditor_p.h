@@ -1,10 +1,9 @@
 #pragma once
 
 #include <QtCore/QPointer>
+#include <QtGui/QKeyEvent>
 
 QT_BEGIN_NAMESPACE
-class QEvent;
-class QFocusEvent;
 class QWidget;
 QT_END_NAMESPACE
 
@@ -19,6 +18,15 @@ namespace Internal {
 // The editor around the field, or null. Neither an editor that stays open counts, nor a widget that
 // the host has set for an index.
 QWidget *itemEditorAround(QWidget *field);
+
+// Whether itemEditorAction() can be another one than None: not for a key that types.
+inline bool isItemEditorEvent(const QEvent *event)
+{
+    const bool isKey =
+        event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+    return isKey ? static_cast<const QKeyEvent *>(event)->key() >= Qt::Key_Escape
+                 : event->type() == QEvent::FocusAboutToChange;
+}
 
 enum class ItemEditorAction { None, Finish, FinishAndPass, RestoreAndPass };
 

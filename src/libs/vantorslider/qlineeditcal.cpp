@@ -26,8 +26,9 @@ using Internal::FieldText;
 
 namespace {
 
-// Whether the event is a key, or a key of an input method, that types one character.
-bool isTypedKey(const QEvent *event)
+// Whether the event is a key, or a key of an input method, that types one character. It is not
+// inlined, because without options it is not called.
+Q_NEVER_INLINE bool isTypedKey(const QEvent *event)
 {
     QString text;
     if (event->type() == QEvent::KeyPress) {
@@ -348,7 +349,7 @@ bool LineEditCal::isOneTooMany(const QString &strText, int position) const
 // Without an option, the number of the last pass at the same index is restored, which can be an
 // older one. Each character after the first point counts as a decimal, also if it is not a digit. A
 // token that the previous pass did not have is never reverted.
-bool LineEditCal::setRadixPointSeveral(QString &strText, const int &index)
+inline bool LineEditCal::setRadixPointSeveral(QString &strText, const int &index)
 {
     if (m_entryOptions != EntryOptions()
         || static_cast<std::size_t>(index) >= m_vecStringResults.size()) {
