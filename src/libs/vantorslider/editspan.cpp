@@ -22,7 +22,7 @@ Q_GLOBAL_STATIC(SpansOfEditors, spans)
 
 } // namespace
 
-EditSpan::EditSpan(QWidget *editor, Emit emit) : m_editor(editor), m_emit(emit)
+EditSpan::EditSpan(QWidget *editor, Emit sender) : m_editor(editor), m_emit(sender)
 {
     if (!spans.isDestroyed()) {
         spans->insert(editor, this);

@@ -50,7 +50,7 @@ private:
     // m_openRows; its host knows, too.
     enum class Outer : unsigned char { Unaware, Counts, IsTold };
 
-    EditSpan(QWidget *editor, Emit emit);
+    EditSpan(QWidget *editor, Emit sender);
 
     template <typename Editor> static void emitSignal(QWidget *editor, bool isStart)
     {
