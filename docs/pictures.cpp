@@ -1,6 +1,7 @@
 // The guide's pictures of single rows and of a dialog: guide_pictures FOLDER. They show
 // real editors after real events.
 #include "alignlabels.h"
+#include "rgbopacityeditframe.h"
 #include "slidereditframe.h"
 #include "slidereditframedouble.h"
 #include "userevents.h"
@@ -19,6 +20,7 @@
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QVBoxLayout>
 
+using Vantor::Widgets::RGBOpacityEditFrame;
 using Vantor::Widgets::SliderEditFrame;
 using Vantor::Widgets::SliderEditFrameDouble;
 
@@ -84,6 +86,45 @@ bool saveDialogs(const QString &path)
     return pair.save(path);
 }
 
+// A row with a brush, and a colour with its swatch.
+bool saveGrooves(const QString &folder, const QString &theme)
+{
+    qApp->setStyleSheet("file:///vantorslider:" + theme + ".qss");
+    QWidget window;
+    QVBoxLayout layout(&window);
+    SliderEditFrame balance;
+    balance.setLabelText("White");
+    balance.setRange(2000, 9000);
+    balance.setValue(5600);
+    QLinearGradient warmth(0, 0, 1, 0);
+    warmth.setStops({{0, "#ffb46b"}, {0.5, "#ffffff"}, {1, "#a8c5ff"}});
+    balance.setGrooveBrush(warmth);
+    layout.addWidget(&balance);
+    RGBOpacityEditFrame colour;
+    colour.setLabelText(RGBOpacityEditFrame::R, "Red");
+    colour.setLabelText(RGBOpacityEditFrame::G, "Green");
+    colour.setLabelText(RGBOpacityEditFrame::B, "Blue");
+    colour.setLabelText(RGBOpacityEditFrame::Opacity, "Opacity");
+    colour.setValues(200, 120, 40, 80);
+    colour.setColoredGrooves(true);
+    colour.setLastVerticalSpacerExpanding(false);
+    layout.addWidget(&colour);
+    QLabel swatch;
+    QPixmap pixmap(56, 32);
+    pixmap.fill(colour.color());
+    swatch.setPixmap(pixmap);
+    layout.addWidget(&swatch);
+    Vantor::Widgets::alignLabels(&window);
+    window.resize(600, 10);
+    window.show();
+    for (int i = 0; i < 4; ++i) // from the labels up to the window
+        QCoreApplication::processEvents();
+    window.setFocus();
+    window.resize(600, 10);
+    QCoreApplication::processEvents();
+    return window.grab().save(folder + "/grooves-" + theme + ".png");
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -98,6 +139,12 @@ int main(int argc, char *argv[])
 
     if (!saveDialogs(QString::fromLocal8Bit(argv[1]) + "/dialog-desktop.png"))
         return 1;
+
+    for (const char *theme : {"desktop", "touch-dark"}) {
+        if (!saveGrooves(QString::fromLocal8Bit(argv[1]), theme))
+            return 1;
+    }
+    application.setStyleSheet(QString());
 
     // A row of each kind.
     QWidget window;

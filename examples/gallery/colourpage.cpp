@@ -27,6 +27,7 @@ void setUpChannels(Editor *editor, int min, int max, const std::array<int, 3> &d
     for (auto *row : editor->rows()) {
         row->setSpinBoxFixedWidth(Page::fieldWidth);
     }
+    editor->setColoredGrooves(true);
     editor->setVerticalSpacing(0);
     editor->setAutoRepeat(true);
     editor->setLastVerticalSpacerExpanding(false);
