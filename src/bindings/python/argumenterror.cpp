@@ -5,32 +5,27 @@
 #include <shiboken.h>
 #include <signature.h>
 
+#include <algorithm>
 #include <string>
 
 namespace {
 
 // The signature of "vantorslider.SliderEditFrame.setRange": "(self, min: int, max: int) -> None".
-std::string signatureOf(const std::string &function)
+// A new reference, or null.
+PyObject *signatureOf(const std::string &function)
 {
     const auto module = function.find('.');
     PyObject *object = PyImport_ImportModule(function.substr(0, module).c_str());
-    for (auto start = module; object && start != std::string::npos;) {
-        const auto end = function.find('.', start + 1);
-        PyObject *member =
-            PyObject_GetAttrString(object, function.substr(start + 1, end - start - 1).c_str());
+    const std::string path = function.substr(module + 1) + ".__signature__";
+    for (std::size_t start = 0; object && start < path.size();) {
+        const std::size_t end = std::min(path.find('.', start), path.size());
+        PyObject *member = PyObject_GetAttrString(object, path.substr(start, end - start).c_str());
         Py_DECREF(object);
         object = member;
-        start = end;
+        start = end + 1;
     }
-    PyObject *signature = object ? PyObject_GetAttrString(object, "__signature__") : nullptr;
-    PyObject *text = signature ? PyObject_Str(signature) : nullptr;
-    const char *characters = text ? PyUnicode_AsUTF8(text) : nullptr;
-    const std::string result = characters ? characters : "";
-    Py_XDECREF(text);
-    Py_XDECREF(signature);
-    Py_XDECREF(object);
     PyErr_Clear();
-    return result;
+    return object;
 }
 
 } // namespace
@@ -46,13 +41,14 @@ void setErrorNamingArguments(PyObject *arguments, const char *function, PyObject
     PyObject *traceback = nullptr;
     PyErr_Fetch(&type, &error, &traceback);
     PyErr_NormalizeException(&type, &error, &traceback);
-    const std::string signature = signatureOf(function);
-    PyObject *message = PyUnicode_FromFormat("%S\nArguments: %s", error, signature.c_str());
-    PyObject *values = PyTuple_Pack(1, message);
-    if (!signature.empty())
+    if (PyObject *signature = signatureOf(function)) {
+        PyObject *message = PyUnicode_FromFormat("%S\nArguments: %S", error, signature);
+        PyObject *values = PyTuple_Pack(1, message);
         PyObject_SetAttrString(error, "args", values);
-    Py_XDECREF(values);
-    Py_XDECREF(message);
+        Py_DECREF(values);
+        Py_DECREF(message);
+        Py_DECREF(signature);
+    }
     PyErr_Restore(type, error, traceback);
 }
 

@@ -1,6 +1,6 @@
 // The definitions of functions are no part of the limited interface, which PySide6 asks for.
 #undef Py_LIMITED_API
-#include <Python.h>
+#include <sbkpython.h>
 
 #include "documentation.h"
 
