@@ -12,6 +12,7 @@ private Q_SLOTS:
     void keys_data();
     void keys() { runTestCode(); }
     void suffix();
+    void inputMethodHints();
 };
 
 namespace {
@@ -120,6 +121,22 @@ void tst_SpinBoxes::keys_data()
                 setUp, typed,
                 typed.endsWith('\t') ? "36: value(36) enter() editing() editing()" : "50:");
         });
+}
+
+// A keyboard with every sign of an expression, also "="; or the one that the host asks for.
+void tst_SpinBoxes::inputMethodHints()
+{
+    const auto compare = [](QAbstractSpinBox &&box) {
+        const auto hints = [&box] { return box.inputMethodQuery(Qt::ImHints).toInt(); };
+        QCOMPARE(hints(),
+                 int(Qt::ImhPreferNumbers | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase));
+        box.setInputMethodHints(Qt::ImhDialableCharactersOnly);
+        QVERIFY(User::show(box));
+        User::type("1\n");
+        QCOMPARE(hints(), int(Qt::ImhDialableCharactersOnly));
+    };
+    compare(SliderEditSpinBox());
+    compare(SliderEditDoubleSpinBox());
 }
 
 // The suffix that is hidden while the field is edited.

@@ -14,6 +14,9 @@ void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard)
     spinBox->setAttribute(Qt::WA_MacShowFocusRect, false);
     spinBox->setFocusPolicy(Qt::StrongFocus);
     spinBox->setProperty("Quelmo_VK", keyboard);
+    // Every sign of an expression, "=" too: a keyboard for numbers only lacks some of them.
+    spinBox->setInputMethodHints(Qt::ImhPreferNumbers | Qt::ImhNoPredictiveText
+                                 | Qt::ImhNoAutoUppercase);
     spinBox->setLocale(QLocale::c());
 }
 
