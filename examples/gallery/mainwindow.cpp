@@ -231,6 +231,7 @@ void MainWindow::createEntryMenu(QMenu *menu)
     addOption(tr("Decimal &comma"), DecimalComma);
     addOption(tr("E&scape restores the value"), EscapeRestores)->setChecked(true);
     addOption(tr("Enter s&tays in the field"), EnterStays);
+    addOption(tr("Signs of &any keyboard"), AnyKeyboard);
 }
 
 void MainWindow::setPicture(const QImage &picture, const QString &name)

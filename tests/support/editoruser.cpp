@@ -137,6 +137,9 @@ void EditorUser::addGestures()
     on("enter", [](const Step &step) { step.row.type(step.text + '\n'); });
     on("keys", [](const Step &step) { User::type(step.text); });
     on("paste", [](const Step &step) { User::paste(step.text); });
+    on("compose", [](const Step &step) { User::compose(step.text); });
+    on("commit", [](const Step &step) { User::commit(step.text); });
+    on("replace", [](const Step &step) { User::commit(step.word(1), step[0]); });
     on("undo", [](const Step &) { User::press(Qt::Key_Z, Qt::ControlModifier); });
     on("redo",
        [](const Step &) { User::press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); });
@@ -167,7 +170,7 @@ void EditorUser::addGestures()
         page.activateWindow(); // with Qt 6 the platform has activated the menu
         QVERIFY(QTest::qWaitForWindowActive(&page));
     });
-    for (const QByteArray key : {"Up", "Down", "Right", "Home", "End", "Escape"}) {
+    for (const QByteArray key : {"Up", "Down", "Left", "Right", "Home", "End", "Escape"}) {
         const int code = QMetaEnum::fromType<Qt::Key>().keyToValue("Key_" + key);
         on(key.toLower(), [code](const Step &) { User::press(Qt::Key(code)); });
     }
@@ -260,6 +263,7 @@ template <typename Frame> void EditorUser::addModes(Frame *frame)
         options.setFlag(DecimalComma, step.text.contains("comma"));
         options.setFlag(EscapeRestores, step.text.contains("escape"));
         options.setFlag(EnterStays, step.text.contains("stays"));
+        options.setFlag(AnyKeyboard, step.text.contains("signs"));
         frame->setEntryOptions(options);
     });
     on("finish", [=](const Step &) { frame->finishEntry(); });

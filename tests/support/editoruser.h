@@ -88,9 +88,11 @@ private:
 //   type 12*3               clicks into the field and types; "\n" is Enter
 //   keys *2, paste 07       types or pastes where the focus is
 //   enter 12*3              types and presses Enter; its messages are implied
+//   compose 1, commit 12    what an input method shows in the field, and inserts
+//   replace 1 45            inserts 45 for the character before the cursor
 //   menu 07                 pastes by the field's own menu; pageMenu: opens one of the page
 //   undo, redo              presses their keys
-//   up, down, right, home, end, escape presses that key; press Del: any key
+//   up, down, left, right, home, end, escape press that key; press Del: any key
 //   held                    Enter again, as a key that is held repeats it
 //   wheel                   turns it over the slider, then over the field
 //   leave                   moves the pointer off the slider
@@ -101,7 +103,7 @@ private:
 //   enable, delete; resetValues (of all rows of a composite editor);
 //   dialog (shows a modal one and closes it)
 // to all rows: sampled, released, autoRepeat; off ends the last two; options, any of
-//   exact, comma, escape and stays; finish (an entry); block and unblock (the editor's signals;
+//   exact, comma, escape, stays, signs; finish (an entry); block and unblock (the editor's signals;
 //   posted events are then delivered); inReport and inStart, with the action that each
 //   report or start of an edit then causes
 // to a slider editor:

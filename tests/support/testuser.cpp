@@ -47,6 +47,19 @@ void User::paste(const QString &text)
     press(Qt::Key_V, Qt::ControlModifier);
 }
 
+void User::compose(const QString &text)
+{
+    QInputMethodEvent event(text, {});
+    QApplication::sendEvent(QApplication::focusWidget(), &event);
+}
+
+void User::commit(const QString &text, int replaced)
+{
+    QInputMethodEvent event;
+    event.setCommitString(text, -replaced, replaced);
+    QApplication::sendEvent(QApplication::focusWidget(), &event);
+}
+
 void User::clickGroove(QSlider *slider, bool behind)
 {
     const QPoint handle = handleRect(slider, slider->sliderPosition()).center();

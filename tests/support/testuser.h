@@ -16,6 +16,10 @@ namespace User {
 // Shows the window and waits until it is active; false if it never is.
 [[nodiscard]] bool show(QWidget &window);
 void paste(const QString &text);
+// An input method shows the text in the field, underlined, or inserts it, instead of that many
+// characters before the cursor.
+void compose(const QString &text);
+void commit(const QString &text, int replaced = 0);
 // A language of upper case letters, until it is destroyed.
 struct UpperCase : QTranslator
 {

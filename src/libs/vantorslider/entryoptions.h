@@ -39,7 +39,14 @@ enum EntryOption {
         Enter and "=" evaluate and report what was typed and keep the focus in the spin box,
         with its text selected. If nothing was typed, Enter goes to the parent widget.
     */
-    EnterStays = 8
+    EnterStays = 8,
+    /*!
+        The signs of any keyboard become those of an expression as they are typed, pasted or
+        committed by an input method: a multiplication sign or dot, a division sign or slash, a
+        minus sign or dash, full-width forms, the digits of every script and the Arabic decimal
+        separator.
+    */
+    AnyKeyboard = 16
 };
 
 Q_DECLARE_FLAGS(EntryOptions, EntryOption)

@@ -5,6 +5,7 @@
 #include "editspan_p.h"
 #include "expressionevaluation_p.h"
 #include "fieldtext_p.h"
+#include "keyboardsigns_p.h"
 #include "saturation_p.h"
 #include "unitguard_p.h"
 
@@ -116,8 +117,9 @@ int LineEditCal::shownDecimals() const
 
 QString LineEditCal::pointed(const QString &entry) const
 {
-    const bool isChanged = has(DecimalComma) && entry.contains(QLatin1Char(','));
-    return isChanged ? Internal::withDecimalPoints(entry) : entry;
+    const QString typed = has(AnyKeyboard) ? Internal::withAsciiSigns(entry) : entry;
+    const bool hasComma = has(DecimalComma) && typed.contains(QLatin1Char(','));
+    return hasComma ? Internal::withDecimalPoints(typed) : typed;
 }
 
 void LineEditCal::setResultsRadixPointSeveral(const int &remainSeveral)
@@ -183,6 +185,8 @@ bool LineEditCal::event(QEvent *event)
     } else if (event->type() == QEvent::KeyPress && hasUnit()
                && m_unitGuard->isOutside(static_cast<QKeyEvent *>(event))) {
         return true;
+    } else if (event->type() == QEvent::InputMethod && has(AnyKeyboard)) {
+        Internal::commitInAscii(static_cast<QInputMethodEvent *>(event));
     }
     m_isKey = m_entryOptions != EntryOptions() && isTypedKey(event);
     return QLineEdit::event(event);
@@ -191,7 +195,11 @@ bool LineEditCal::event(QEvent *event)
 // Filters the text or, if it ends in "=", evaluates it and emits signalsResult().
 void LineEditCal::onSlotTextChanged(QString text)
 {
-    FieldText shown(parent(), hasUnit() ? this->text() : std::move(text)); // it may be repaired
+    if (has(AnyKeyboard)) {
+        Internal::retypeInAscii(this);
+    }
+    // The text may have been repaired or retyped.
+    FieldText shown(parent(), hasUnit() || has(AnyKeyboard) ? this->text() : std::move(text));
     Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     const bool isTyped = isModified();
     if (isTyped) {
@@ -431,11 +439,6 @@ void LineEditCal::setEntryText(const QString &entry, int cursorPosition)
     if (cursorPosition != this->cursorPosition()) {
         setCursorPosition(cursorPosition);
     }
-}
-
-void LineEditCal::setResultText(QString text)
-{
-    QLineEdit::setText(text);
 }
 
 void LineEditCal::setShownEntry(const QString &entry)

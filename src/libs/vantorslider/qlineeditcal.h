@@ -66,7 +66,8 @@ public:
     // spin box itself can be edited.
     void setUnit(bool isSet);
     bool hasUnit() const { return m_unitGuard != nullptr; }
-    // The entry with decimal points instead of decimal commas.
+    // The entry with decimal points instead of decimal commas, and the signs of other keyboards in
+    // ASCII.
     QString pointed(const QString &entry) const;
     Internal::HostWindow &hostWindow() { return m_hostWindow; }
     // Sent to the parent when isEntryRefused() has changed. A signal for it would cost each row
@@ -93,7 +94,7 @@ private:
     void setShowResult(const QString &strText);
     void setEntryRefused(bool isRefused);
     void setEntryText(const QString &entry, int cursorPosition);
-    void setResultText(QString text);
+    void setResultText(const QString &text) { QLineEdit::setText(text); }
     const QString &beforeResult();
     // Range and result are pushed by setSpinBoxCal(): without options they are the ones at that
     // call, as float. An exact entry needs those of the moment, as double. They are pulled, because
