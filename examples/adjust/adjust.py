@@ -35,8 +35,8 @@ class AdjustPage(QtWidgets.QWidget):
 
     def __init__(self, picture: QtGui.QImage) -> None:
         super().__init__(windowTitle="Adjust")
-        grey = picture.convertToFormat(QtGui.QImage.Format_Grayscale8)
-        self.picture = grey.convertToFormat(QtGui.QImage.Format_Indexed8)
+        grey = picture.convertToFormat(QtGui.QImage.Format.Format_Grayscale8)
+        self.picture = grey.convertToFormat(QtGui.QImage.Format.Format_Indexed8)
         self.tone: Dict[str, Any] = dict(DEFAULTS)
         self.rows: Dict[str, Any] = {}
         self.history: List[Dict[str, Any]] = []
@@ -56,7 +56,8 @@ class AdjustPage(QtWidgets.QWidget):
         black.setValueChangeDirection(SliderEditFrame.AllowedToBigger, DEFAULTS["black level"])
 
         page = QtWidgets.QVBoxLayout(self)
-        undo = QtWidgets.QPushButton("Undo", clicked=self.undo)
+        undo = QtWidgets.QPushButton("Undo")
+        undo.clicked.connect(self.undo)
         for widget in [self.view, *self.rows.values(), undo]:
             page.addWidget(widget)
         alignLabels(self)
@@ -91,7 +92,7 @@ class AdjustPage(QtWidgets.QWidget):
 
 if __name__ == "__main__":
     app = QtWidgets.QApplication(sys.argv)
-    ramp = QtGui.QImage(bytes(range(256)) * 200, 256, 200, 256, QtGui.QImage.Format_Grayscale8)
+    ramp = QtGui.QImage(bytes(range(256)) * 200, 256, 200, 256, QtGui.QImage.Format.Format_Grayscale8)
     window = AdjustPage(QtGui.QImage(sys.argv[1]) if len(sys.argv) > 1 else ramp)
     window.show()
     sys.exit(app.exec_())

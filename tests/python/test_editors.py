@@ -151,7 +151,8 @@ def test_keyword_arguments(qtbot):
 
 
 def test_wrong_arguments():
-    with pytest.raises(TypeError, match="min: int, max: int"):
+    # PySide6 names only the types.
+    with pytest.raises(TypeError, match="min: int, max: int|int, int, /"):
         SliderEditFrame().setRange("0", 9)
     with pytest.raises(AttributeError, match="maximun"):
         SliderEditFrame(maximun=9)

@@ -16,16 +16,22 @@ PyObject *signatureOf(const std::string &function)
 {
     const auto module = function.find('.');
     PyObject *object = PyImport_ImportModule(function.substr(0, module).c_str());
-    const std::string path = function.substr(module + 1) + ".__signature__";
-    for (std::size_t start = 0; object && start < path.size();) {
-        const std::size_t end = std::min(path.find('.', start), path.size());
-        PyObject *member = PyObject_GetAttrString(object, path.substr(start, end - start).c_str());
+    for (std::size_t start = module + 1; object && start < function.size();) {
+        const std::size_t end = std::min(function.find('.', start), function.size());
+        const std::string name = function.substr(start, end - start);
+        PyObject *member = PyObject_GetAttrString(object, name.c_str());
         Py_DECREF(object);
         object = member;
         start = end + 1;
     }
+    PyObject *signatures = PyImport_ImportModule("shibokensupport.signature");
+    PyObject *signature = nullptr;
+    if (object && signatures)
+        signature = PyObject_CallMethod(signatures, "get_signature", "O", object);
+    Py_XDECREF(signatures);
+    Py_XDECREF(object);
     PyErr_Clear();
-    return object;
+    return signature;
 }
 
 } // namespace

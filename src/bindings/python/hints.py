@@ -97,7 +97,7 @@ class Hints:
                 self.add_function(editor.__name__ + ".", name, value, "    ")
 
     def add_function(self, owner, name, function, indent):
-        signatures = function.__signature__
+        signatures = get_signature(function)
         if not isinstance(signatures, list):
             signatures = [signatures]
         spelled = [self.signature(owner + name, signature) for signature in signatures if signature]
@@ -150,6 +150,9 @@ def int_of(member):
 def main(folder, headers):
     sys.path.insert(0, os.path.dirname(os.path.abspath(folder)))
     import vantorslider
+
+    global get_signature
+    from shibokensupport.signature import get_signature
 
     with open(os.path.join(folder, "__init__.pyi"), "w", encoding="utf-8") as hints:
         hints.write(Hints(vantorslider, headers).text())
