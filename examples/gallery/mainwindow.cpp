@@ -13,6 +13,9 @@
 #include "pictureview.h"
 #include "testcard.h"
 
+#include <slidereditframe.h>
+#include <slidereditframedouble.h>
+
 #include <QtCore/QFileInfo>
 #include <QtGui/QCloseEvent>
 #include <QtWidgets/QApplication>
@@ -27,6 +30,9 @@
 #include <QActionGroup> // of QtWidgets or, with Qt 6, of QtGui
 
 #include <utility>
+
+using Vantor::Widgets::SliderEditFrame;
+using Vantor::Widgets::SliderEditFrameDouble;
 
 namespace {
 
