@@ -75,6 +75,9 @@ bool SliderEditSlider::event(QEvent *event)
 {
     const Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     const bool isHandled = QSlider::event(event);
+    if (!edit) {
+        return isHandled; // a receiver has deleted the row
+    }
     // Without a HostWindow the slider has never been pressed.
     if (m_hostWindow != nullptr && Internal::isPointerLostBy(event, this)
         && !m_hostWindow->isBeingDestroyed()) {
