@@ -29,11 +29,12 @@ void report(const QWidget *widget, QEvent *event)
     qApp->notify(widget->window()->windowHandle(), event);
 }
 
-void sendMouse(const QWidget *widget, QEvent::Type type, Qt::MouseButton button, const QPoint &pos)
+void sendMouse(const QWidget *widget, QEvent::Type type, Qt::MouseButton button, const QPoint &pos,
+               Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     const QPoint local = inWindow(widget, pos);
     QMouseEvent event(type, local, widget->window()->mapToGlobal(local), button, s_buttons,
-                      Qt::NoModifier);
+                      modifiers);
     report(widget, &event);
 }
 
@@ -64,9 +65,9 @@ void User::pressAt(QWidget *widget, const QPoint &pos)
     sendMouse(widget, QEvent::MouseButtonPress, Qt::LeftButton, pos);
 }
 
-void User::moveTo(QWidget *widget, const QPoint &pos)
+void User::moveTo(QWidget *widget, const QPoint &pos, Qt::KeyboardModifiers modifiers)
 {
-    sendMouse(widget, QEvent::MouseMove, Qt::NoButton, pos);
+    sendMouse(widget, QEvent::MouseMove, Qt::NoButton, pos, modifiers);
 }
 
 void User::releaseAt(QWidget *widget, const QPoint &pos)
@@ -118,6 +119,12 @@ void User::grabHandle(QSlider *slider)
 {
     s_handlePos = handleRect(slider, slider->sliderPosition()).center();
     moveTo(slider, s_handlePos);
+    pressAt(slider, s_handlePos);
+}
+
+void User::pressGroove(QSlider *slider, int position)
+{
+    s_handlePos = handleRect(slider, position).center();
     pressAt(slider, s_handlePos);
 }
 

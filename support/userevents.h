@@ -19,7 +19,8 @@ void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 // The left button goes down, the pointer moves, the button goes up, each at a
 // point of the widget.
 void pressAt(QWidget *widget, const QPoint &pos);
-void moveTo(QWidget *widget, const QPoint &pos);
+void moveTo(QWidget *widget, const QPoint &pos,
+            Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 void releaseAt(QWidget *widget, const QPoint &pos);
 // A press and a release in the middle of the widget.
 void click(QWidget *widget);
@@ -30,6 +31,8 @@ void turnWheelAt(QWidget *widget, const QPoint &pos, bool away = true);
 // The place of the handle if the slider is at the position.
 QRect handleRect(const QSlider *slider, int position);
 void grabHandle(QSlider *slider);
+// Where the handle is at the position.
+void pressGroove(QSlider *slider, int position);
 void moveHandle(QSlider *slider, int position);
 void dropHandle(QSlider *slider);
 

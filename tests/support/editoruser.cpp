@@ -133,6 +133,37 @@ void EditorUser::addGestures()
     on("drop", [](const Step &step) { User::dropHandle(step.row.slider); });
     on("groove",
        [](const Step &step) { User::clickGroove(step.row.slider, step.text == "after"); });
+    on("pressAt", [](const Step &step) { User::pressGroove(step.row.slider, step[0]); });
+    on("touch touch2", [](const Step &step) {
+        const EditorRow &row = step.row;
+        const QMap<QString, QWidget *> children {{"minus", row.minus},
+                                                 {"plus", row.plus},
+                                                 {"field", row.field},
+                                                 {"label", row.label},
+                                                 {"handle", row.slider}};
+        const int position = step.text == "handle" ? row.slider->sliderPosition() : step[0];
+        QWidget *const child = children.value(step.text, row.slider);
+        const QRect place =
+            child == row.slider ? User::handleRect(row.slider, position) : child->rect();
+        User::touch(child, place.center(), step.verb == "touch2" ? 1 : 0);
+    });
+    on("swipe", [](const Step &step) {
+        for (int i = 0; i < 4; ++i)
+            User::moveFinger({step[0] / 4, step[1] / 4});
+    });
+    on("fingerTo", [](const Step &step) {
+        for (int i = 0; !step.word(i).isEmpty(); ++i) {
+            const QSlider *const slider = step.row.slider;
+            User::moveFingerTo(slider, User::handleRect(slider, step[i]).center().x());
+        }
+    });
+    on("lift lift2", [](const Step &step) { User::lift(step.verb == "lift2" ? 1 : 0); });
+    on("rest", [](const Step &step) {
+        QVERIFY(comesTrue([&] {
+            return step.row.slider->isSliderDown() || step.row.minus->isDown()
+                || step.row.plus->isDown();
+        }));
+    });
     on("click type", [](const Step &step) { step.row.type(step.text); });
     on("enter", [](const Step &step) { step.row.type(step.text + '\n'); });
     on("keys", [](const Step &step) { User::type(step.text); });
@@ -320,6 +351,13 @@ template <typename Frame> void EditorUser::add(Frame *frame)
     });
     on("fieldFocus", [=](const Step &) { frame->setFieldFocus(); });
     on("pressed", [=](const Step &) { log.add(frame->isMousePressed() ? "yes" : "no"); });
+    on("sliderOptions", [=](const Step &step) {
+        SliderOptions options;
+        options.setFlag(GrooveMovesHandle, step.text.contains("groove"));
+        options.setFlag(FineDrag, step.text.contains("fine"));
+        options.setFlag(FlickScrolls, step.text.contains("flick"));
+        frame->setSliderOptions(options);
+    });
     on("wheelEnabled", [=](const Step &) { frame->setSpinBoxWheelEnable(true); });
     on("bounds", [=](const Step &) {
         log.add(inUnits(frame->minimum()) + ".." + inUnits(frame->maximum()));

@@ -84,6 +84,11 @@ private:
 //   hold, move, drop        presses the slider's handle, moves it to each of the
 //                           positions that follow, releases it
 //   groove before, after    clicks beside the handle
+//   pressAt                 presses the groove where the handle would be at the position
+//   touch                   a finger touches handle, minus, plus, field, label or the place
+//                           of the handle at a position; touch2: a second finger
+//   swipe 4 -40             moves by about that many pixels; fingerTo: along to each position
+//   rest, lift, lift2       waits until the touch is a press; lifts the finger
 //   click, elsewhere        clicks into the field, on the page
 //   type 12*3               clicks into the field and types; "\n" is Enter
 //   keys *2, paste 07       types or pastes where the focus is
@@ -108,6 +113,7 @@ private:
 //   report or start of an edit then causes
 // to a slider editor:
 //   minimum, maximum, singleStep, pageStep, decimals, direction (flags and value),
+//   sliderOptions, any of groove, fine and flick;
 //   wheelEnabled, suffix, prefix, scale, hideSlider, fieldFocus; specialValueText and
 //   locale of the spin box
 // to a rectangle, a crop or a mask:

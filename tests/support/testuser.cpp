@@ -16,6 +16,27 @@ void prepareTest()
 }
 Q_CONSTRUCTOR_FUNCTION(prepareTest)
 
+// Where the fingers are, in the window.
+QPointer<QWidget> s_touched;
+QMap<int, QPoint> s_fingers;
+
+auto *touchScreen()
+{
+    static auto *const screen = QTest::createTouchDevice();
+    return screen;
+}
+
+// Sends the change of one finger while the others rest.
+template <typename Change> void sendTouch(int finger, Change change)
+{
+    auto touch = QTest::touchEvent(s_touched.data(), touchScreen());
+    for (auto it = s_fingers.cbegin(); it != s_fingers.cend(); ++it) {
+        if (it.key() != finger)
+            touch.move(it.key(), it.value(), s_touched);
+    }
+    change(touch);
+}
+
 QList<QAbstractEventDispatcher::TimerInfo> timersOf(QObject *object)
 {
     return QAbstractEventDispatcher::instance()->registeredTimers(object);
@@ -66,6 +87,30 @@ void User::clickGroove(QSlider *slider, bool behind)
     const QPoint pos(behind ? slider->width() - 2 : 1, handle.y());
     pressAt(slider, pos);
     releaseAt(slider, pos);
+}
+
+void User::touch(QWidget *widget, const QPoint &pos, int finger)
+{
+    s_touched = widget->window();
+    s_fingers[finger] = widget->mapTo(s_touched, pos);
+    sendTouch(finger, [=](auto &touch) { touch.press(finger, s_fingers[finger], s_touched); });
+}
+
+void User::moveFinger(const QPoint &by)
+{
+    s_fingers[0] += by;
+    sendTouch(0, [](auto &touch) { touch.move(0, s_fingers[0], s_touched); });
+}
+
+void User::moveFingerTo(const QWidget *widget, int x)
+{
+    moveFinger({widget->mapTo(s_touched.data(), QPoint(x, 0)).x() - s_fingers[0].x(), 0});
+}
+
+void User::lift(int finger)
+{
+    sendTouch(finger, [=](auto &touch) { touch.release(finger, s_fingers[finger], s_touched); });
+    s_fingers.remove(finger);
 }
 
 bool comesTrue(const std::function<bool()> &condition)

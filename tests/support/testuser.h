@@ -34,6 +34,12 @@ struct UpperCase : QTranslator
 // A click on the groove before (false) or after (true) the handle.
 void clickGroove(QSlider *slider, bool behind);
 
+// Fingers on a touch screen, by number. The first touches at a point of the widget.
+void touch(QWidget *widget, const QPoint &pos, int finger = 0);
+void moveFinger(const QPoint &by);
+void moveFingerTo(const QWidget *widget, int x); // along
+void lift(int finger = 0);
+
 } // namespace User
 
 // Whether it becomes true within five seconds, while events are delivered. QTRY_VERIFY() of

@@ -53,5 +53,38 @@ Q_DECLARE_FLAGS(EntryOptions, EntryOption)
 Q_FLAG_NS(EntryOptions)
 Q_DECLARE_OPERATORS_FOR_FLAGS(EntryOptions)
 
+/*!
+    \brief Options for how a row handles the pointer. All are off by default.
+
+    SliderEditFrame and SliderEditFrameDouble have setSliderOptions().
+    \since 1.1
+*/
+enum SliderOption {
+    /*!
+        A press of the left button, or of a finger, on the groove moves the handle under the
+        pointer, and the drag goes on from there. It is reported like any drag. Without it a press
+        on the groove moves by a page step.
+    */
+    GrooveMovesHandle = 1,
+    /*!
+        During a drag the handle moves the slower, the farther the pointer is above or below the
+        slider: at 176 pixels and more by one position per pixel, if that is 16 to 256 times slower
+        than at the slider, otherwise by the nearer of these. So does Shift at any distance. Back
+        at the slider the handle approaches the pointer as it moves, without a jump.
+    */
+    FineDrag = 2,
+    /*!
+        A finger that moves up or down before it moves along does not operate the row: nothing
+        changes, no edit starts, and a page with a QScroller scrolls. A press by a finger takes
+        effect when it has moved along by QApplication::startDragDistance(), has rested for 150
+        milliseconds or is lifted. Mouse events that do not come from a touch are not affected.
+    */
+    FlickScrolls = 4
+};
+
+Q_DECLARE_FLAGS(SliderOptions, SliderOption)
+Q_FLAG_NS(SliderOptions)
+Q_DECLARE_OPERATORS_FOR_FLAGS(SliderOptions)
+
 } // namespace Widgets
 } // namespace Vantor

@@ -203,6 +203,16 @@ int SliderEditFrame::committedValue()
     return Internal::committedValue(this);
 }
 
+void SliderEditFrame::setSliderOptions(SliderOptions options)
+{
+    d->row().setSliderOptions(this, options);
+}
+
+SliderOptions SliderEditFrame::sliderOptions() const
+{
+    return d->slider()->options();
+}
+
 void SliderEditFrame::setSliderVisible(bool b)
 {
     d->row().setSliderVisible(b);

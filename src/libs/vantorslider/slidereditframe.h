@@ -61,6 +61,8 @@ class VANTORSLIDER_EXPORT SliderEditFrame : public QFrame
     Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
     Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
+    Q_PROPERTY(
+        Vantor::Widgets::SliderOptions sliderOptions READ sliderOptions WRITE setSliderOptions)
     Q_PROPERTY(SliderScale sliderScale READ sliderScale WRITE setSliderScale)
     Q_PROPERTY(bool sliderVisible READ isSliderVisible WRITE setSliderVisible)
     Q_PROPERTY(bool buttonVisible READ isButtonVisible WRITE setButtonVisible)
@@ -146,6 +148,12 @@ public:
 
     /*! Returns the options that are set. \since 1.1 */
     EntryOptions entryOptions() const;
+
+    /*! Sets how the row handles the pointer; none by default. \since 1.1 */
+    void setSliderOptions(SliderOptions options);
+
+    /*! Returns the options that are set. \since 1.1 */
+    SliderOptions sliderOptions() const;
 
     /*!
         Returns whether the user has typed since the spin box got the focus or the last entry

@@ -19,6 +19,7 @@ namespace Internal {
 class GrooveBrushes;
 class HostWindow;
 class SliderGroove;
+class SliderDrag;
 struct ValueText;
 } // namespace Internal
 
@@ -38,6 +39,9 @@ public:
     QBrush grooveBrush() const;
     void setGrooveBrushes(Internal::GrooveBrushes *brushes);
     Internal::GrooveBrushes *grooveBrushes() const;
+    // Only GrooveMovesHandle and FineDrag have an effect on the slider itself.
+    void setOptions(SliderOptions options);
+    SliderOptions options() const { return m_options; }
 
 protected:
     bool event(QEvent *event) override;
@@ -51,16 +55,21 @@ protected:
     void leaveEvent(QEvent *event) override;
 
 private:
+    friend Internal::SliderDrag; // calls protected functions of QSlider
+
     void releasePointer();
     void letGo(QMouseEvent *event);
     void setGroove(const QBrush &brush, Internal::GrooveBrushes *brushes);
 
+    SliderOptions m_options;
     bool m_isMousePressed = false;
     // No release event follows the last press.
     bool m_isPointerTaken = false;
     std::unique_ptr<Internal::HostWindow> m_hostWindow;
     // Null without a brush.
     std::unique_ptr<Internal::SliderGroove> m_groove;
+    // Null without options for the drag.
+    std::unique_ptr<Internal::SliderDrag> m_drag;
 };
 
 // The minus or plus button of a row: stops its auto-repeat when it is hidden, disabled or

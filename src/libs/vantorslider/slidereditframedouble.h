@@ -59,6 +59,8 @@ class VANTORSLIDER_EXPORT SliderEditFrameDouble : public QFrame
     Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
     Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
+    Q_PROPERTY(
+        Vantor::Widgets::SliderOptions sliderOptions READ sliderOptions WRITE setSliderOptions)
     Q_PROPERTY(SliderScale sliderScale READ sliderScale WRITE setSliderScale)
     Q_PROPERTY(bool sliderVisible READ isSliderVisible WRITE setSliderVisible)
     Q_PROPERTY(bool buttonVisible READ isButtonVisible WRITE setButtonVisible)
@@ -148,6 +150,12 @@ public:
         it is. Does nothing if no entry is pending. \since 1.1
     */
     void finishEntry();
+
+    /*! Sets how the row handles the pointer; none by default. \since 1.1 */
+    void setSliderOptions(SliderOptions options);
+
+    /*! Returns the options that are set. \since 1.1 */
+    SliderOptions sliderOptions() const;
 
     /*! Shows or hides the slider, see SliderEditFrame::setSliderVisible(). */
     void setSliderVisible(bool b);

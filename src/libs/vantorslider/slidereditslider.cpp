@@ -2,6 +2,7 @@
 #include "editspan_p.h"
 #include "hostwindow_p.h"
 #include "lostpointer_p.h"
+#include "sliderdrag_p.h"
 #include "slidereditframe_p.h"
 #include "slidergroove_p.h"
 
@@ -71,6 +72,14 @@ void SliderEditSlider::setGroove(const QBrush &brush, Internal::GrooveBrushes *b
     update();
 }
 
+void SliderEditSlider::setOptions(SliderOptions options)
+{
+    m_options = options;
+    if (m_drag == nullptr && (options.testFlag(GrooveMovesHandle) || options.testFlag(FineDrag))) {
+        m_drag = std::make_unique<Internal::SliderDrag>(this);
+    }
+}
+
 bool SliderEditSlider::event(QEvent *event)
 {
     const Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
@@ -100,7 +109,11 @@ void SliderEditSlider::mousePressEvent(QMouseEvent *event)
     }
     m_hostWindow->rememberNowAndSoon();
     Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
-    QSlider::mousePressEvent(event);
+    if (m_drag == nullptr) {
+        QSlider::mousePressEvent(event);
+    } else {
+        m_drag->press(event);
+    }
     if (!edit || repeatAction() == SliderNoAction) {
         return;
     }
@@ -119,10 +132,13 @@ void SliderEditSlider::mouseReleaseEvent(QMouseEvent *event)
     letGo(event);
 }
 
-// Reserved: a later version can handle the event without changing the virtual table.
 void SliderEditSlider::mouseMoveEvent(QMouseEvent *event)
 {
-    QSlider::mouseMoveEvent(event);
+    if (m_drag == nullptr) {
+        QSlider::mouseMoveEvent(event);
+    } else {
+        m_drag->move(event);
+    }
 }
 
 void SliderEditSlider::wheelEvent(QWheelEvent *event)

@@ -2,6 +2,7 @@
 
 #include "calculatorspinbox_p.h"
 #include "childwidget_p.h"
+#include "flickfilter_p.h"
 #include "qlineeditcal.h"
 #include "slidereditframe_p.h"
 
@@ -96,6 +97,12 @@ void SliderRow::setSliderVisible(bool isVisible) const
     setShown(slider, isVisible);
     // The label's shortcut gives the focus to its buddy, the slider.
     slider->setFocusProxy(isVisible ? nullptr : spinBox);
+}
+
+void SliderRow::setSliderOptions(QWidget *frame, SliderOptions options) const
+{
+    slider->setOptions(options);
+    FlickFilter::setOn(frame, options.testFlag(FlickScrolls));
 }
 
 void SliderRow::setFieldFocus() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "entryoptions.h"
+
 #include <QtCore/QtGlobal>
 
 #include <functional>
@@ -43,6 +45,7 @@ struct SliderRow
     void mirrorGaps() const;
     void setLabelText(const QString &text) const;
     void setSliderVisible(bool isVisible) const;
+    void setSliderOptions(QWidget *frame, SliderOptions options) const;
     void setFieldFocus() const;
 
     // Calls the operation for plus, then for minus: a member function of theirs, or a function
