@@ -19,8 +19,7 @@ void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 // The left button goes down, the pointer moves, the button goes up, each at a
 // point of the widget.
 void pressAt(QWidget *widget, const QPoint &pos);
-void moveTo(QWidget *widget, const QPoint &pos,
-            Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+void moveTo(QWidget *widget, const QPoint &pos, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 void releaseAt(QWidget *widget, const QPoint &pos);
 // A press and a release in the middle of the widget.
 void click(QWidget *widget);
