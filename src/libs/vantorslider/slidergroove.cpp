@@ -33,7 +33,7 @@ QBrush checkerboard()
     painter.fillRect(0, 0, field, field, Qt::lightGray);
     painter.fillRect(field, field, field, field, Qt::lightGray);
     painter.end();
-    return QBrush(tile);
+    return {tile};
 }
 
 // The number of pixels from the first one on, at most half of the length, that differ from the
@@ -191,11 +191,11 @@ SliderGroove::Shape SliderGroove::measured(QStyleOptionSlider option) const
         shape.radius = radius / pixelRatio;
     } else {
         // A bar of half the handle's height, which ends below the handle.
-        const qreal bar = qMin<qreal>(shape.groove.height(), handle.height() / 2);
+        const int bar = qMin(shape.groove.height(), handle.height() / 2);
         const QRectF way = handleWay(option);
         shape.inside = QRectF(0, 0, way.width() + bar, bar);
         shape.inside.moveCenter(QPointF(way.center().x(), QRectF(shape.groove).center().y()));
-        shape.radius = bar / 2;
+        shape.radius = bar / 2.0;
     }
 
     const int row = qBound(0, int((shape.inside.center().y() - handle.top()) * pixelRatio),
@@ -293,8 +293,9 @@ void SliderGroove::drawTicks(const QStyleOptionSlider &option, QPainter *painter
     const double least = leastDistance * range / qMax(1.0, std::abs(way.width()));
     const double interval = qMax(1.0, qMax<double>(set, std::ceil(least)));
     painter->setPen(m_pSlider->palette().color(QPalette::Mid));
-    for (double steps = 0; steps <= range; steps += interval) {
-        const int x = qRound(way.left() + way.width() * steps / qMax(1.0, range));
+    const int ticks = int(range / interval);
+    for (int i = 0; i <= ticks; ++i) {
+        const int x = qRound(way.left() + way.width() * i * interval / qMax(1.0, range));
         if ((option.tickPosition & QSlider::TicksAbove) != 0) {
             painter->drawLine(x, option.rect.top(), x, option.rect.top() + length - 1);
         }
