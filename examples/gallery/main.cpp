@@ -32,6 +32,6 @@ int main(int argc, char *argv[])
     if (!isOpen) {
         return 1;
     }
-    window.show();
+    window.showOnScreen();
     return QApplication::exec();
 }

@@ -18,6 +18,7 @@
 
 #include <QtCore/QFileInfo>
 #include <QtGui/QCloseEvent>
+#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QHBoxLayout>
@@ -59,7 +60,7 @@ QAction *addChoice(QMenu *menu, const QString &text, bool checked)
 
 MainWindow::MainWindow()
     : m_history(new EditHistory(this)), m_view(new PictureView), m_log(new LogPane),
-      m_stack(new QStackedWidget), m_pageButtons(new QButtonGroup(this)),
+      m_halves(new QSplitter), m_stack(new QStackedWidget), m_pageButtons(new QButtonGroup(this)),
       m_numberPad(new NumberPad(this)), m_theme(new Theme(this))
 {
     auto *pageBar = new QWidget;
@@ -98,12 +99,11 @@ MainWindow::MainWindow()
     left->setSizes({600, 200}); // in this proportion in a small window, too
     left->setChildrenCollapsible(false);
 
-    auto *halves = new QSplitter;
-    halves->addWidget(left);
-    halves->addWidget(panel);
-    halves->setStretchFactor(0, 1);
-    halves->setChildrenCollapsible(false);
-    setCentralWidget(halves);
+    m_halves->addWidget(left);
+    m_halves->addWidget(panel);
+    m_halves->setStretchFactor(0, 1);
+    m_halves->setChildrenCollapsible(false);
+    setCentralWidget(m_halves);
 
     createFileAndEditMenus();
     createViewMenu(panel);
@@ -112,6 +112,38 @@ MainWindow::MainWindow()
     setPicture(testCard(), tr("Test card"));
     m_theme->adopt(this);
     m_theme->apply(Theme::TouchDark);
+}
+
+// A panel may have neither a window manager nor room for the usual size.
+void MainWindow::showOnScreen()
+{
+    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+    if (available.width() > width() && available.height() > height()) {
+        show();
+        return;
+    }
+    fill(available);
+    showMaximized();
+    activateWindow(); // in place of a window manager
+}
+
+void MainWindow::fill(const QRect &screen)
+{
+    setGeometry(screen); // as far as the minimum size of the old arrangement allows
+    arrange(screen.size());
+    layout()->activate();
+    setGeometry(screen);
+}
+
+// On an upright screen the pages are below the picture. No page makes the window wider.
+void MainWindow::arrange(const QSize &window)
+{
+    const bool isUpright = window.height() > window.width();
+    m_halves->setOrientation(isUpright ? Qt::Vertical : Qt::Horizontal);
+    const int beside = isUpright ? 0 : m_view->minimumWidth() + m_halves->handleWidth();
+    for (PageScroller *page : m_stack->findChildren<PageScroller *>()) {
+        page->setWidthLimit(window.width() - beside);
+    }
 }
 
 bool MainWindow::openPicture(const QString &fileName, QString *problem)
@@ -217,6 +249,7 @@ void MainWindow::createViewMenu(QWidget *panel)
     connect(addChoice(view, tr("Number &pad"), false), &QAction::toggled, m_numberPad,
             &NumberPad::setEnabledByFocus);
     createEntryMenu(view->addMenu(tr("E&ntries")));
+    createSliderMenu(view->addMenu(tr("&Sliders")));
 }
 
 // Each option applies to all rows of all pages.
@@ -238,6 +271,28 @@ void MainWindow::createEntryMenu(QMenu *menu)
     addOption(tr("E&scape restores the value"), EscapeRestores)->setChecked(true);
     addOption(tr("Enter s&tays in the field"), EnterStays);
     addOption(tr("Signs of &any keyboard"), AnyKeyboard);
+}
+
+// Likewise.
+void MainWindow::createSliderMenu(QMenu *menu)
+{
+    using namespace Vantor::Widgets;
+    const auto addOption = [this, menu](const QString &text, SliderOption option) {
+        QAction *action = addChoice(menu, text, false);
+        connect(action, &QAction::toggled, this, [this, option](bool on) {
+            m_sliderOptions.setFlag(option, on);
+            for (SliderEditFrame *row : findChildren<SliderEditFrame *>()) {
+                row->setSliderOptions(m_sliderOptions);
+            }
+            for (SliderEditFrameDouble *row : findChildren<SliderEditFrameDouble *>()) {
+                row->setSliderOptions(m_sliderOptions);
+            }
+        });
+        action->setChecked(true);
+    };
+    addOption(tr("&Groove moves the handle"), GrooveMovesHandle);
+    addOption(tr("&Fine drag above and below"), FineDrag);
+    addOption(tr("A flick &scrolls the page"), FlickScrolls);
 }
 
 void MainWindow::setPicture(const QImage &picture, const QString &name)
@@ -316,6 +371,12 @@ bool MainWindow::mayLoseEdits()
         this, tr("Picture"), tr("The picture has changes that are not saved. Save them?"),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && savePicture());
+}
+
+void MainWindow::resizeEvent(QResizeEvent *event)
+{
+    arrange(event->size());
+    QMainWindow::resizeEvent(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -14,6 +14,7 @@ class PictureView;
 class QButtonGroup;
 class QMenu;
 class QScrollArea;
+class QSplitter;
 class QStackedWidget;
 
 // The workbench: the picture above the signal log, and the pages beside them.
@@ -23,6 +24,10 @@ class MainWindow : public QMainWindow
 
 public:
     MainWindow();
+
+    // Fills a screen that is smaller than the usual size of the window.
+    void showOnScreen();
+    void fill(const QRect &screen);
 
     // Shows the user an error if the picture cannot be opened, or only in part. In the
     // latter case it returns true.
@@ -37,13 +42,16 @@ public:
     NumberPad *numberPad() const { return m_numberPad; }
 
 protected:
+    void resizeEvent(QResizeEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void arrange(const QSize &window);
     void createPages();
     void createFileAndEditMenus();
     void createViewMenu(QWidget *panel);
     void createEntryMenu(QMenu *menu);
+    void createSliderMenu(QMenu *menu);
     void setPicture(const QImage &picture, const QString &name);
     void reset(const QVector<Page *> &pages, const QString &name);
     void chooseAndOpen();
@@ -57,9 +65,11 @@ private:
     PictureView *m_view;
     LogPane *m_log;
     QVector<Page *> m_pages;
+    QSplitter *m_halves;
     QStackedWidget *m_stack;
     QButtonGroup *m_pageButtons;
     NumberPad *m_numberPad;
     Theme *m_theme;
     Vantor::Widgets::EntryOptions m_entryOptions;
+    Vantor::Widgets::SliderOptions m_sliderOptions;
 };

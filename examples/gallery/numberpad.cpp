@@ -85,6 +85,10 @@ void NumberPad::addKey(int row, int column, const QString &text, int key, const 
 void NumberPad::followFocus(QWidget *widget)
 {
     const QString kind = widget ? widget->property("Quelmo_VK").toString() : QString();
+    if (!kind.isEmpty()) {
+        // The pad takes the place of the platform's keyboard.
+        widget->setAttribute(Qt::WA_InputMethodEnabled, !m_isEnabled);
+    }
     if (!m_isEnabled || kind.isEmpty()) {
         hide();
         return;
@@ -95,7 +99,7 @@ void NumberPad::followFocus(QWidget *widget)
 }
 
 // Below the field, or above it at the end of the screen, with the far edges of
-// both aligned.
+// both aligned. On a low screen it is beside the field.
 void NumberPad::place(const QWidget &field)
 {
     adjustSize();
@@ -107,6 +111,12 @@ void NumberPad::place(const QWidget &field)
             window->screen()->availableGeometry().united(field.window()->geometry());
         if (corner.y() + height() > screen.bottom()) {
             corner.setY(area.top() - gap - height());
+        }
+        if (corner.y() < screen.top()) {
+            const int before = area.left() - gap - width();
+            corner.setX(before < screen.left() ? area.right() + gap : before);
+            corner.setY(
+                qBound(screen.top(), area.center().y() - height() / 2, screen.bottom() - height()));
         }
         corner.setX(qBound(screen.left(), corner.x(), screen.right() - width()));
     }

@@ -8,7 +8,8 @@ class QPushButton;
 // An on-screen keyboard for the library's spin boxes. It opens below a widget
 // that has the dynamic property "Quelmo_VK" when the widget receives the focus, and
 // sends it real key events. It never takes the focus itself: a spin box that loses
-// the focus finishes the entry. A click elsewhere closes the pad.
+// the focus finishes the entry. A click elsewhere closes the pad. While it is disabled, the
+// platform's keyboard opens.
 class NumberPad : public QFrame
 {
     Q_OBJECT

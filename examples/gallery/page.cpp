@@ -9,6 +9,7 @@
 Page::Page(const QString &title, EditHistory *history, LogPane *log)
     : m_history(history), m_log(log), m_title(title), m_layout(new QVBoxLayout(this))
 {
+    m_layout->setContentsMargins(2, 9, 2, 9); // the editors have their own
     m_layout->setSpacing(6);
 }
 

@@ -2,20 +2,29 @@
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QScroller>
 
 PageScroller::PageScroller(QWidget *page)
 {
     setWidget(page);
     setWidgetResizable(true);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
+    QScroller::grabGesture(viewport(), QScroller::TouchGesture);
+}
+
+void PageScroller::setWidthLimit(int limit)
+{
+    if (limit != m_widthLimit) {
+        m_widthLimit = limit;
+        updateGeometry();
+    }
 }
 
 QSize PageScroller::minimumSizeHint() const
 {
-    return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width()
-                + 2 * frameWidth(),
-            200};
+    const int needed = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width()
+        + 2 * frameWidth();
+    return {qMin(needed, m_widthLimit), 200};
 }
 
 QSize PageScroller::sizeHint() const

@@ -2,11 +2,17 @@
 
 #include "mainwindow.h"
 #include "numberpad.h"
+#include "page.h"
 #include "pictureview.h"
 #include "scripteduser.h"
 #include "userevents.h"
 
+#include <QtTest/QtTest>
+#include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QScroller>
 #include <QtWidgets/QSlider>
 
 #include <cmath>
@@ -126,6 +132,65 @@ void playEntryOptions(ScriptedUser &user)
     }
 }
 
+// A finger that moves up over the handle, with about 100 pixels in 0.1 seconds.
+void flickOver(QWidget *slider)
+{
+    static auto *const screen = QTest::createTouchDevice();
+    QWidget *window = slider->window();
+    const QPoint start = slider->mapTo(window, slider->rect().center());
+    QTest::touchEvent(window, screen).press(0, start, window);
+    for (int i = 1; i <= 10; ++i) {
+        QTest::touchEvent(window, screen).move(0, start - QPoint(0, 10 * i), window);
+        QTest::qWait(10);
+    }
+    QTest::touchEvent(window, screen).release(0, start - QPoint(0, 100), window);
+}
+
+// Each editor is wholly on the smallest screens of panels, the number pad beside its field, and
+// the page flicks.
+void playPanel(ScriptedUser &user)
+{
+    MainWindow &window = user.window();
+    NumberPad *pad = window.numberPad();
+    const QRect usual = window.geometry();
+    for (const QSize &screen : {QSize(800, 480), QSize(480, 800)}) {
+        window.view()->setFocus();
+        pad->setEnabledByFocus(true);
+        window.fill(QRect(QPoint(), screen));
+        for (const Page *page : window.pages()) {
+            user.showPage(page->title());
+            ScriptedUser::expect(window.size() == screen, "the window fits the screen");
+            const int right = window.currentScrollArea()->viewport()->width();
+            for (const QWidget *child : page->findChildren<QWidget *>()) {
+                ScriptedUser::expect(
+                    !child->isVisible() || child->mapTo(page, child->rect().topRight()).x() < right,
+                    "each part of a row is on the screen");
+            }
+            for (QWidget *field : page->findChildren<QAbstractSpinBox *>()) {
+                user.click(field);
+                const QRect place(field->mapToGlobal(QPoint()), field->size());
+                ScriptedUser::expect(pad->isVisible() && !pad->geometry().intersects(place),
+                                     "the pad opens beside the field");
+            }
+        }
+        user.showPage(QStringLiteral("Adjust"));
+        pad->setEnabledByFocus(false);
+        const QString row = QStringLiteral("Continuous");
+        user.clickInto(row);
+        const QScrollBar *bar = window.currentScrollArea()->verticalScrollBar();
+        const int top = bar->value();
+        const QString shown = user.fieldText(row);
+        flickOver(user.slider(row));
+        const QScroller *scroller = QScroller::scroller(window.currentScrollArea()->viewport());
+        while (scroller->state() != QScroller::Inactive) {
+            QTest::qWait(10);
+        }
+        ScriptedUser::expect(bar->value() > top && user.fieldText(row) == shown,
+                             "a flick over a handle scrolls the page alone");
+    }
+    window.fill(usual);
+}
+
 // Each kind of change is one step for undo and redo, on every page.
 void playUndo(ScriptedUser &user)
 {
@@ -177,6 +242,7 @@ void tourEditors(ScriptedUser &user)
     playMaskAndLayout(user);
     playColour(user);
     playNumberPad(user);
+    playPanel(user);
     playUndo(user);
     playEntryOptions(user);
 }

@@ -102,6 +102,16 @@ public:
         save(pad, QStringLiteral("numberpad-alone") + suffix);
     }
 
+    // The first page on a panel's screen.
+    void shootPanel(const QSize &screen)
+    {
+        m_window.fill(QRect(m_window.pos(), screen));
+        m_window.showPage(0);
+        QApplication::processEvents();
+        save(m_window.grab(),
+             QStringLiteral("panel-%1x%2").arg(screen.width()).arg(screen.height()));
+    }
+
 private:
     static void open(ScriptedUser &user, const QString &page)
     {
@@ -198,6 +208,11 @@ bool takeShots(MainWindow &window, const QString &folder)
         window.theme()->setRightToLeft(true);
         camera.shootPages(suffix + QStringLiteral("-rtl"));
         window.theme()->setRightToLeft(false);
+    }
+    window.theme()->apply(Theme::TouchDark);
+    for (const QSize screen : {QSize(1024, 600), QSize(800, 480)}) {
+        camera.shootPanel(screen);
+        camera.shootPanel(screen.transposed());
     }
     return camera.isOk();
 }
