@@ -271,6 +271,7 @@ void MainWindow::createEntryMenu(QMenu *menu)
     addOption(tr("E&scape restores the value"), EscapeRestores)->setChecked(true);
     addOption(tr("Enter s&tays in the field"), EnterStays);
     addOption(tr("Signs of &any keyboard"), AnyKeyboard);
+    addOption(tr("&Ignore accidents"), SafeEntry)->setChecked(true);
 }
 
 // Likewise.

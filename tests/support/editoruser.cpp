@@ -295,6 +295,7 @@ template <typename Frame> void EditorUser::addModes(Frame *frame)
         options.setFlag(EscapeRestores, step.text.contains("escape"));
         options.setFlag(EnterStays, step.text.contains("stays"));
         options.setFlag(AnyKeyboard, step.text.contains("signs"));
+        options.setFlag(SafeEntry, step.text.contains("safe"));
         frame->setEntryOptions(options);
     });
     on("finish", [=](const Step &) { frame->finishEntry(); });

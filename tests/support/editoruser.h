@@ -108,8 +108,8 @@ private:
 //   enable, delete; resetValues (of all rows of a composite editor);
 //   dialog (shows a modal one and closes it)
 // to all rows: sampled, released, autoRepeat; off ends the last two; options, any of
-//   exact, comma, escape, stays, signs; finish (an entry); block and unblock (the editor's signals;
-//   posted events are then delivered); inReport and inStart, with the action that each
+//   exact, comma, escape, stays, signs, safe; finish (an entry); block and unblock (the editor's
+//   signals; posted events are then delivered); inReport and inStart, with the action that each
 //   report or start of an edit then causes
 // to a slider editor:
 //   minimum, maximum, singleStep, pageStep, decimals, direction (flags and value),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtCore/QChar>
+#include <QtCore/QString>
 
 #include <regex>
 
@@ -41,6 +41,23 @@ struct CalculatorPatterns
         default:
             return false;
         }
+    }
+
+    // Whether the number around the character has a second point or too many decimals by it.
+    static bool isOneTooMany(const QString &text, int position, int decimals)
+    {
+        int start = position;
+        while (start > 0 && !isMark(text.at(start - 1))) {
+            --start;
+        }
+        int end = position;
+        while (end < text.length() && !isMark(text.at(end))) {
+            ++end;
+        }
+        const QString number = text.mid(start, end - start);
+        const auto point = number.indexOf(QLatin1Char('.'));
+        return point >= 0 && position - start >= point
+            && (number.count(QLatin1Char('.')) > 1 || number.length() - point - 1 > decimals);
     }
 
     // The commas are members of the bracket expressions, not separators.

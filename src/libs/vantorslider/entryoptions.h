@@ -46,7 +46,14 @@ enum EntryOption {
         minus sign or dash, full-width forms, the digits of every script and the Arabic decimal
         separator.
     */
-    AnyKeyboard = 16
+    AnyKeyboard = 16,
+    /*!
+        Nothing typed by accident counts. An entry that ends empty, or as "=" alone, shows the
+        value again and emits no valueChanged(). A character that is refused changes neither text
+        nor selection, and neither does a paste whose last character is refused. Without it an
+        empty entry is 0, and the refused character has replaced the selection.
+    */
+    SafeEntry = 32
 };
 
 Q_DECLARE_FLAGS(EntryOptions, EntryOption)

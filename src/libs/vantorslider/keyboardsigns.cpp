@@ -3,7 +3,7 @@
 #include "fieldtext_p.h"
 
 #include <QtCore/QSignalBlocker>
-#include <QtGui/QInputMethodEvent>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
 
 namespace Vantor {
@@ -51,6 +51,17 @@ char asciiSign(uint character)
 }
 
 } // namespace
+
+bool isTypedKey(const QEvent *event)
+{
+    QString text;
+    if (event->type() == QEvent::KeyPress) {
+        text = static_cast<const QKeyEvent *>(event)->text();
+    } else if (event->type() == QEvent::InputMethod) {
+        text = static_cast<const QInputMethodEvent *>(event)->commitString();
+    }
+    return text.length() == 1 && text.at(0).isPrint();
+}
 
 QString withAsciiSigns(const QString &text)
 {

@@ -3,6 +3,7 @@
 #include <QtCore/QString>
 
 QT_BEGIN_NAMESPACE
+class QEvent;
 class QInputMethodEvent;
 class QLineEdit;
 QT_END_NAMESPACE
@@ -10,6 +11,9 @@ QT_END_NAMESPACE
 namespace Vantor {
 namespace Widgets {
 namespace Internal {
+
+// Whether the event is a key, or a key of an input method, that types one character.
+bool isTypedKey(const QEvent *event);
 
 // The text with the signs of expressions in ASCII, whichever keyboard or script they come from:
 // digits, operators, and full-width forms of any character.

@@ -3,6 +3,7 @@
 #include "arithmetic_p.h"
 #include "calculatorpatterns_p.h"
 #include "editspan_p.h"
+#include "entryvalidator_p.h"
 #include "expressionevaluation_p.h"
 #include "fieldtext_p.h"
 #include "keyboardsigns_p.h"
@@ -25,23 +26,6 @@ namespace Widgets {
 using Internal::CalculatorPatterns;
 using Internal::FieldText;
 
-namespace {
-
-// Whether the event is a key, or a key of an input method, that types one character. It is not
-// inlined, because without options it is not called.
-Q_NEVER_INLINE bool isTypedKey(const QEvent *event)
-{
-    QString text;
-    if (event->type() == QEvent::KeyPress) {
-        text = static_cast<const QKeyEvent *>(event)->text();
-    } else if (event->type() == QEvent::InputMethod) {
-        text = static_cast<const QInputMethodEvent *>(event)->commitString();
-    }
-    return text.length() == 1 && text.at(0).isPrint();
-}
-
-} // namespace
-
 // Copies of a std::regex share the compiled automaton.
 LineEditCal::LineEditCal(QWidget *parent)
     : QLineEdit(parent), m_regex(CalculatorPatterns::instance().character),
@@ -58,6 +42,9 @@ LineEditCal::~LineEditCal() = default;
 void LineEditCal::setEntryOptions(EntryOptions options)
 {
     m_entryOptions = options;
+    if (has(SafeEntry) != (m_entryValidator != nullptr)) {
+        m_entryValidator.reset(has(SafeEntry) ? new Internal::EntryValidator(this) : nullptr);
+    }
     if (has(EscapeRestores)) {
         // After the slot of the spin box, which tracks the keyboard.
         connect(this, &QLineEdit::textChanged, this, &LineEditCal::onSlotTextTracked,
@@ -188,7 +175,7 @@ bool LineEditCal::event(QEvent *event)
     } else if (event->type() == QEvent::InputMethod && has(AnyKeyboard)) {
         Internal::commitInAscii(static_cast<QInputMethodEvent *>(event));
     }
-    m_isKey = m_entryOptions != EntryOptions() && isTypedKey(event);
+    m_isKey = m_entryOptions != EntryOptions() && Internal::isTypedKey(event);
     return QLineEdit::event(event);
 }
 
@@ -247,7 +234,7 @@ void LineEditCal::setTextFormat(QString strText)
     }
     const int last = qMax(m_cursorPosition - 1, 0);
     if (CalculatorPatterns::isAccepted(strText.at(last))) {
-        if (m_isKey && isOneTooMany(strText, last)) {
+        if (isOneTooMany(strText, last)) {
             setEntryText(strText.remove(last, 1), last);
         } else {
             setExpressionFormat(std::move(strText));
@@ -340,18 +327,20 @@ void LineEditCal::setStringFormat(QString &strText, bool &bFormat)
 // refused alone. A pasted number stays, and is rounded when it is evaluated.
 bool LineEditCal::isOneTooMany(const QString &strText, int position) const
 {
-    int start = position;
-    while (start > 0 && !CalculatorPatterns::isMark(strText.at(start - 1))) {
-        --start;
+    return m_isKey && CalculatorPatterns::isOneTooMany(strText, position, typedDecimals());
+}
+
+bool LineEditCal::refuses(const QString &text, int cursor) const
+{
+    const FieldText shown(parent(), text);
+    const int length = cursor - static_cast<int>(shown.prefix.length());
+    if (length <= 0 || length > shown.entry.length()) {
+        return false;
     }
-    int end = position;
-    while (end < strText.length() && !CalculatorPatterns::isMark(strText.at(end))) {
-        ++end;
-    }
-    const QString number = strText.mid(start, end - start);
-    const auto point = number.indexOf(QLatin1Char('.'));
-    return point >= 0 && position - start >= point
-        && (number.count(QLatin1Char('.')) > 1 || number.length() - point - 1 > typedDecimals());
+    const QString typed = pointed(shown.entry.left(length));
+    const int last = static_cast<int>(typed.length()) - 1;
+    return !CalculatorPatterns::isAccepted(typed.at(last))
+        || isOneTooMany(pointed(typed + shown.entry.mid(length)), last);
 }
 
 // Without an option, the number of the last pass at the same index is restored, which can be an
@@ -376,6 +365,11 @@ inline bool LineEditCal::setRadixPointSeveral(QString &strText, const int &index
 
 void LineEditCal::setShowResult(const QString &strText)
 {
+    if (has(SafeEntry) && strText.trimmed().isEmpty() && parent() != nullptr) {
+        setInitialResult(Internal::saturatedFloat(ofSpinBox("value", 0)));
+        parent()->setProperty("value", parent()->property("value")); // writes its text
+        return;
+    }
     const std::optional<QString> result = Internal::evaluateExpression(strText);
     if (!result) {
         setEntryRefused(true);

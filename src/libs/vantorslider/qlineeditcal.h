@@ -14,8 +14,9 @@ namespace Vantor {
 namespace Widgets {
 
 namespace Internal {
+class EntryValidator;
 class UnitGuard;
-}
+} // namespace Internal
 
 // The line edit of the two spin boxes: accepts an arithmetic expression instead of a number.
 //
@@ -69,6 +70,8 @@ public:
     // The entry with decimal points instead of decimal commas, and the signs of other keyboards in
     // ASCII.
     QString pointed(const QString &entry) const;
+    // Whether the filter would remove the character that the user has inserted before the cursor.
+    bool refuses(const QString &text, int cursor) const;
     Internal::HostWindow &hostWindow() { return m_hostWindow; }
     // Sent to the parent when isEntryRefused() has changed. A signal for it would cost each row
     // 400 bytes, and most entries are accepted.
@@ -131,6 +134,7 @@ private:
     EntryOptions m_entryOptions;
     Internal::HostWindow m_hostWindow {this};
     std::unique_ptr<Internal::UnitGuard> m_unitGuard;
+    std::unique_ptr<Internal::EntryValidator> m_entryValidator;
 };
 
 } // namespace Widgets
