@@ -1,5 +1,7 @@
 #include "theme.h"
 
+#include "applytheme.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtGui/QIcon>
@@ -8,6 +10,9 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
+
+using Vantor::Widgets::applyTheme;
+using Vantor::Widgets::EditorTheme;
 
 namespace {
 
@@ -53,12 +58,19 @@ QString read(const QString &path)
     return QString::fromUtf8(file.readAll());
 }
 
-// Qt paints the sub-page on the left even if the slider starts on the right.
-QString mirrored(QString sheet)
+EditorTheme editorTheme(Theme::Kind kind)
 {
-    return sheet.replace(QLatin1String("::sub-page"), QLatin1String("::other-page"))
-        .replace(QLatin1String("::add-page"), QLatin1String("::sub-page"))
-        .replace(QLatin1String("::other-page"), QLatin1String("::add-page"));
+    switch (kind) {
+    case Theme::TouchDark:
+        return EditorTheme::TouchDark;
+    case Theme::TouchLight:
+        return EditorTheme::TouchLight;
+    case Theme::Desktop:
+        return EditorTheme::Desktop;
+    case Theme::None:
+        break;
+    }
+    return EditorTheme::NoTheme;
 }
 
 QIcon glyph(const QString &name, const QString &checked = QString())
@@ -71,8 +83,7 @@ QIcon glyph(const QString &name, const QString &checked = QString())
     return icon;
 }
 
-// The editors' buttons have neither text nor icon: without a sheet the host
-// sets their look. The texts that the desktop sheet gave them are cleared.
+// The editors' buttons have neither text nor icon: without a theme the host sets their look.
 void setIcons(QWidget *root, bool on)
 {
     const auto buttons = root->findChildren<QToolButton *>();
@@ -87,7 +98,6 @@ void setIcons(QWidget *root, bool on)
         } else {
             continue;
         }
-        button->setText(QString());
         button->setIcon(on ? icon : QIcon());
         button->setIconSize(QSize(40, 40));
     }
@@ -110,7 +120,7 @@ void Theme::setUpApplication()
 #endif
     QApplication::setApplicationName(QStringLiteral("gallery"));
     QApplication::setStyle(QStringLiteral("Fusion"));
-    // The sheets find their glyphs by this prefix; see the top of a sheet.
+    // For the icons without a theme.
     QDir::addSearchPath(QStringLiteral("vantorslider"), QStringLiteral(":/styles"));
 }
 
@@ -132,48 +142,34 @@ Theme::Theme(QObject *parent) : QObject(parent), m_font(QApplication::font()) { 
 // Restores the application's state for the next window.
 Theme::~Theme()
 {
+    applyTheme(qApp, EditorTheme::NoTheme);
     qApp->setStyleSheet(QString());
     QApplication::setFont(m_font);
 }
 
 void Theme::adopt(QWidget *root)
 {
-    const auto widgets = root->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        // Except labels: their pages fit them to their texts.
-        if (widget->inherits("QSlider") || widget->inherits("QAbstractSpinBox")
-            || widget->inherits("QAbstractButton")
-            || widget->objectName().startsWith(QLatin1String("frameSpacerLock"))) {
-            m_sizes.insert(widget, {widget->minimumSize(), widget->maximumSize()});
-            connect(widget, &QObject::destroyed, this, [this, widget] { m_sizes.remove(widget); });
-        }
-    }
     setIcons(root, m_kind == None);
 }
 
+// The program's own rules are set first: the theme comes before them at once.
 void Theme::apply(Kind kind)
 {
-    if (kind != m_kind) {
-        qApp->setStyleSheet(QString());
-        restoreSizes();
-    }
     m_kind = kind;
     QApplication::setPalette(paletteOf(kind));
     const auto windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
         setIcons(window, kind == None);
     }
-    if (kind == None) {
-        return;
+    QString rules;
+    if (kind != None) {
+        rules = read(QStringLiteral(":/gallery/fields.qss"));
+        if (kind != Desktop) {
+            rules += read(QStringLiteral(":/gallery/chrome.qss"));
+        }
     }
-    const QString sheet = read(QStringLiteral("vantorslider:%1.qss").arg(names().at(kind).file))
-        + read(QStringLiteral(":/gallery/fields.qss"));
-    if (kind == Desktop) {
-        qApp->setStyleSheet(sheet);
-    } else {
-        qApp->setStyleSheet((QApplication::isRightToLeft() ? mirrored(sheet) : sheet)
-                            + read(QStringLiteral(":/gallery/chrome.qss")));
-    }
+    qApp->setStyleSheet(rules);
+    applyTheme(qApp, editorTheme(kind));
 }
 
 void Theme::setFontScale(qreal scale)
@@ -181,21 +177,9 @@ void Theme::setFontScale(qreal scale)
     QFont font = m_font;
     font.setPointSizeF(m_font.pointSizeF() * scale);
     QApplication::setFont(font);
-    apply(m_kind);
 }
 
 void Theme::setRightToLeft(bool on)
 {
     QApplication::setLayoutDirection(on ? Qt::RightToLeft : Qt::LeftToRight);
-    apply(m_kind);
-}
-
-// A sheet writes its min-width and similar values into the widgets, replacing those of
-// their forms, and does not restore them when it is removed.
-void Theme::restoreSizes()
-{
-    for (auto it = m_sizes.cbegin(); it != m_sizes.cend(); ++it) {
-        it.key()->setMinimumSize(it.value().minimum);
-        it.key()->setMaximumSize(it.value().maximum);
-    }
 }

@@ -1,14 +1,13 @@
 #pragma once
 
-#include <QtCore/QHash>
 #include <QtCore/QObject>
-#include <QtCore/QSize>
+#include <QtCore/QVector>
 #include <QtGui/QFont>
 
 class QWidget;
 
 // The look of the program, switched at run time: the program sets its own palette,
-// and a sheet of the styles folder styles the editors.
+// and a theme of the library styles the editors.
 class Theme : public QObject
 {
     Q_OBJECT
@@ -31,8 +30,7 @@ public:
     explicit Theme(QObject *parent = nullptr);
     ~Theme() override;
 
-    // Registers the editors in the widget with the theme. To be called while
-    // no sheet is set, before the widget is shown.
+    // Gives the buttons of the editors in the widget icons, unless a theme does.
     void adopt(QWidget *root);
 
     void apply(Kind kind);
@@ -41,15 +39,6 @@ public:
     Kind kind() const { return m_kind; }
 
 private:
-    struct SizeLimits
-    {
-        QSize minimum;
-        QSize maximum;
-    };
-
-    void restoreSizes();
-
     Kind m_kind = None;
     const QFont m_font;
-    QHash<QWidget *, SizeLimits> m_sizes;
 };

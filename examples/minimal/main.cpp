@@ -1,13 +1,12 @@
 #include <QApplication>
 #include <QDebug>
-#include <QDir>
+#include <applytheme.h>
 #include <slidereditframe.h>
 
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
-    QDir::addSearchPath("vantorslider", "/usr/share/vantorslider/styles");
-    app.setStyleSheet("file:///vantorslider:touch-light.qss");
+    Vantor::Widgets::applyTheme(&app, Vantor::Widgets::EditorTheme::TouchLight);
 
     Vantor::Widgets::SliderEditFrame brightness;
     brightness.setLabelText("Brightness");

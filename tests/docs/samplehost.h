@@ -4,6 +4,7 @@
 // that have the names used in the samples.
 #include <alignfields.h>
 #include <alignlabels.h>
+#include <applytheme.h>
 #include <cropeditframe.h>
 #include <layouteditframe.h>
 #include <maskeditframe.h>

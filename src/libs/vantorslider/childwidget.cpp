@@ -36,6 +36,13 @@ public:
 
     const WidthRange &range() const { return m_range; }
 
+    void apply()
+    {
+        m_child->setMaximumWidth(m_range.greatest);
+        m_child->setMinimumWidth(m_range.least);
+        applyStyleSheet(m_child);
+    }
+
 protected:
     bool eventFilter(QObject *, QEvent *event) override
     {
@@ -49,13 +56,6 @@ protected:
 
 private:
     explicit HostWidths(QWidget *child) : QObject(child), m_child(child) { }
-
-    void apply()
-    {
-        m_child->setMaximumWidth(m_range.greatest);
-        m_child->setMinimumWidth(m_range.least);
-        applyStyleSheet(m_child);
-    }
 
     QWidget *const m_child;
     WidthRange m_range;
@@ -80,6 +80,16 @@ void setWidthRange(QWidget *child, int maximum, int minimum)
 void setFixedWidth(QWidget *child, int width)
 {
     HostWidths::set(child, {width, width});
+}
+
+void applyWidths(QWidget *child)
+{
+    HostWidths *const widths = HostWidths::of(child);
+    if (widths != nullptr) {
+        widths->apply();
+    } else {
+        applyStyleSheet(child);
+    }
 }
 
 WidthRange hostWidths(const QWidget *child)

@@ -26,6 +26,8 @@ struct WidthRange
     int greatest = QWIDGETSIZE_MAX;
 };
 WidthRange hostWidths(const QWidget *child);
+// Gives the child these widths again, and those of its style sheet, if there are any.
+void applyWidths(QWidget *child);
 
 // A field whose width alignFields() sets. Style sheets read the property, too.
 constexpr const char *alignedFieldProperty = "isFieldAligned";

@@ -1,0 +1,64 @@
+#include "editorforms_p.h"
+
+#include "childwidget_p.h"
+#include "recteditframe.h"
+#include "slidereditframe.h"
+#include "slidereditframedouble.h"
+
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QToolButton>
+
+#include <utility>
+
+namespace Vantor {
+namespace Widgets {
+namespace Internal {
+
+namespace {
+
+void restore(QWidget *child, const QWidget *ofForm)
+{
+    child->setMinimumSize(ofForm->minimumSize());
+    child->setMaximumSize(ofForm->maximumSize());
+    applyWidths(child);
+    auto *const button = qobject_cast<QToolButton *>(child);
+    if (button != nullptr) {
+        button->setText(static_cast<const QToolButton *>(ofForm)->text());
+    }
+}
+
+// The children have their names in all editors of the class. In the rows of a composite editor they
+// have the same ones, and the same sizes.
+template <typename Editor> void restoreFormsOf(QWidget *root)
+{
+    QList<Editor *> editors = root->findChildren<Editor *>();
+    if (auto *const editor = qobject_cast<Editor *>(root)) {
+        editors.append(editor);
+    }
+    if (editors.isEmpty()) {
+        return;
+    }
+    const Editor form;
+    const auto children = form.template findChildren<QWidget *>();
+    for (const Editor *editor : std::as_const(editors)) {
+        for (const QWidget *ofForm : children) {
+            auto *const child = editor->template findChild<QWidget *>(ofForm->objectName());
+            if (child != nullptr && qobject_cast<QLabel *>(child) == nullptr) {
+                restore(child, ofForm);
+            }
+        }
+    }
+}
+
+} // namespace
+
+void restoreForms(QWidget *root)
+{
+    restoreFormsOf<SliderEditFrame>(root);
+    restoreFormsOf<SliderEditFrameDouble>(root);
+    restoreFormsOf<RectEditFrame>(root);
+}
+
+} // namespace Internal
+} // namespace Widgets
+} // namespace Vantor

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QtCore/qglobal.h>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+namespace Vantor {
+namespace Widgets {
+namespace Internal {
+
+// Gives the children of all editors in the widget the sizes and texts of their forms again. A style
+// sheet replaces them, and Qt does not restore them when it is removed. Labels are left alone:
+// their widths are those of their texts.
+void restoreForms(QWidget *root);
+
+} // namespace Internal
+} // namespace Widgets
+} // namespace Vantor
