@@ -1,4 +1,8 @@
 #include "editoruser.h"
+#include "layouteditframe.h"
+#include "rgballeditframe.h"
+#include "rgbeditframe.h"
+#include "rgbopacityeditframe.h"
 #include "slidereditframe_p.h"
 
 #include <QtWidgets/QHeaderView>
@@ -7,7 +11,7 @@
 
 using namespace Vantor::Widgets;
 
-// Rows and fields that a delegate creates for a table: the model receives what was typed.
+// Editors that a delegate creates for a table: the model receives what was typed.
 class tst_ItemEditors : public QObject
 {
     Q_OBJECT
@@ -19,15 +23,29 @@ private Q_SLOTS:
 
 namespace {
 
+template <typename Editor> void setUp(Editor &editor)
+{
+    if constexpr (std::is_same_v<CropEditFrame, Editor>)
+        editor.setCropRange(200, 200);
+    else if constexpr (std::is_same_v<MaskEditFrame, Editor>)
+        editor.setMaskRange(200, 200);
+    else if constexpr (std::is_same_v<RectEditFrame, Editor>)
+        editor.setPositionLockEnable(true);
+}
+
 template <typename Editor> class Delegate : public QStyledItemDelegate
 {
 public:
-    Delegate(bool hasProxy, EntryOptions options) : m_hasProxy(hasProxy), m_options(options) { }
+    Delegate(bool hasProxy, EntryOptions options, QObject *parent)
+        : QStyledItemDelegate(parent), m_hasProxy(hasProxy), m_options(options)
+    {
+    }
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &,
                           const QModelIndex &) const override
     {
         auto *const editor = new Editor(parent);
+        setUp(*editor);
         editor->setEntryOptions(m_options);
         editor->setAutoFillBackground(true);
         if (m_hasProxy)
@@ -40,10 +58,21 @@ private:
     const EntryOptions m_options;
 };
 
-// A table of two cells that contain 50, with a field beside it.
+template <typename Editor> QVariant itemOf(const QVector<int> &values)
+{
+    Editor editor;
+    setUp(editor);
+    const auto rows = editor.template findChildren<SliderEditFrame *>();
+    for (int i = 0; i < rows.size(); ++i)
+        rows[i]->setValue(values[i]);
+    return rows.isEmpty() ? values.first() : editor.metaObject()->userProperty().read(&editor);
+}
+
+// The user of a table of two cells, both with that item and the first one in its editor, and of a
+// field beside it. The words of the steps are keys, what else is clicked, or typed text.
 template <typename Editor>
-void check(bool hasProxy, EntryOptions options, const QString &typed, const QString &end,
-           int expected)
+void check(bool hasProxy, EntryOptions options, const QString &steps, const QVariant &item,
+           const QVariant &expected)
 {
     QWidget page;
     page.setLayout(new QVBoxLayout);
@@ -51,65 +80,103 @@ void check(bool hasProxy, EntryOptions options, const QString &typed, const QStr
     auto *const beside = new QLineEdit;
     page.layout()->addWidget(table);
     page.layout()->addWidget(beside);
-    Delegate<Editor> delegate(hasProxy, options);
-    table->setItemDelegate(&delegate);
-    table->setColumnWidth(0, 500);
-    table->verticalHeader()->setDefaultSectionSize(60);
+    table->setItemDelegate(new Delegate<Editor>(hasProxy, options, table));
+    table->setEditTriggers(QAbstractItemView::AnyKeyPressed);
+    table->setColumnWidth(0, 600);
+    table->verticalHeader()->setDefaultSectionSize(180);
     for (int row = 0; row < 2; ++row) {
         table->setItem(row, 0, new QTableWidgetItem);
-        table->item(row, 0)->setData(Qt::EditRole, 50);
+        table->item(row, 0)->setData(Qt::EditRole, item);
     }
-    page.resize(700, 400);
+    page.resize(700, 500);
     QVERIFY(User::show(page));
     table->setFocus();
     table->setCurrentCell(0, 0);
-    if (end == "any key") {
-        table->setEditTriggers(QAbstractItemView::AnyKeyPressed);
-        User::type(typed.left(1));
-    } else {
-        table->editItem(table->item(0, 0));
-    }
-    const QPointer<QWidget> editor = table->findChild<Editor *>();
-    QVERIFY(editor);
-    auto *field = qobject_cast<QAbstractSpinBox *>(editor.data());
-    if (field == nullptr)
-        field = editor->findChild<QAbstractSpinBox *>();
-    QCoreApplication::processEvents(); // the layout
-    if (end != "any key" && !field->hasFocus())
-        User::click(field);
-    QCoreApplication::processEvents();
-    QVERIFY(field->hasFocus());
-    User::type(end == "any key" ? typed.mid(1) : typed);
-    if (end == "cell")
-        User::pressAt(table->viewport(), table->visualItemRect(table->item(1, 0)).center());
-    else if (end == "program")
-        table->setCurrentCell(1, 0);
-    else if (end == "beside")
-        User::click(beside);
+    QStringList words = steps.split(' ');
+    if (words.removeOne("key"))
+        User::type(words.takeFirst());
     else
-        User::press(end == "Escape" ? Qt::Key_Escape : end == "Tab" ? Qt::Key_Tab : Qt::Key_Return);
+        table->editItem(table->item(0, 0));
+    const QPointer<QWidget> editor = table->findChild<Editor *>();
+    for (const QString &word : words) {
+        QWidget *const focus = QApplication::focusWidget();
+        QVERIFY2(editor && (editor == focus || editor->isAncestorOf(focus)), qPrintable(word));
+        QCoreApplication::processEvents(); // the layout, the selection
+        const QMap<QString, Qt::Key> keys {{"Tab", Qt::Key_Tab},
+                                           {"Backtab", Qt::Key_Backtab},
+                                           {"Enter", Qt::Key_Return},
+                                           {"Escape", Qt::Key_Escape}};
+        if (keys.contains(word))
+            User::press(keys[word]);
+        else if (word == "cell")
+            User::pressAt(table->viewport(), table->visualItemRect(table->item(1, 0)).center());
+        else if (word == "program")
+            table->setCurrentCell(1, 0);
+        else if (word == "beside")
+            User::click(beside);
+        else if (word.at(0).isLetter())
+            User::click(editor->findChild<QWidget *>(word));
+        else
+            User::type(word);
+    }
     QTRY_VERIFY(!editor);
-    QCOMPARE(table->item(0, 0)->data(Qt::EditRole).toInt(), expected);
-    QCOMPARE(table->item(1, 0)->data(Qt::EditRole).toInt(), 50);
+    QCOMPARE(table->item(0, 0)->data(Qt::EditRole), expected);
+    QCOMPARE(table->item(1, 0)->data(Qt::EditRole), item);
+    // What the user does next.
+    const bool isNextOpen = words.last() == "Tab";
+    QCOMPARE(table->findChild<Editor *>() != nullptr, isNextOpen);
+    QVERIFY(words.last() == "beside" ? beside->hasFocus()
+                : isNextOpen         ? table->viewport()->isAncestorOf(QApplication::focusWidget())
+                                     : table->hasFocus());
+}
+
+template <typename Editor>
+void add(bool hasProxy, int options, const QString &steps, const QVector<int> &expected)
+{
+    QTest::addRow("%s%s, options %d: %s", Editor::staticMetaObject.className(),
+                  hasProxy ? ", proxy" : "", options, qPrintable(steps))
+        << TestCode([=] {
+               const QVector<int> values {50, 51, 52, 53};
+               check<Editor>(hasProxy, EntryOptions(options), steps, itemOf<Editor>(values),
+                             itemOf<Editor>(expected + values.mid(expected.size())));
+           });
 }
 
 template <typename Editor> void addEditor(bool hasProxy, int options)
 {
-    const auto add = [=](const QString &typed, const QString &end, int expected) {
-        QTest::addRow("%s%s, options %d: %s, %s", Editor::staticMetaObject.className(),
-                      hasProxy ? ", proxy" : "", options, qPrintable(typed), qPrintable(end))
-            << TestCode(
-                   [=] { check<Editor>(hasProxy, EntryOptions(options), typed, end, expected); });
-    };
     for (const QString end : {"Tab", "Enter", "cell", "beside"}) {
-        add("77", end, 77);
-        add("12*3", end, 36);
+        add<Editor>(hasProxy, options, "77 " + end, {77});
+        add<Editor>(hasProxy, options, "12*3 " + end, {36});
     }
-    add("77", "Escape", 50);
-    if (hasProxy) {
-        add("77", "any key", 77);
-        add("77", "program", 77);
+    add<Editor>(hasProxy, options, "77 Escape", {50});
+    add<Editor>(hasProxy, options, "key 7 7 Tab", {77});
+}
+
+template <typename Row> void addRow(int options)
+{
+    for (const bool hasProxy : {false, true}) {
+        addEditor<Row>(hasProxy, options);
+        add<Row>(hasProxy, options, "77 program", {77});
+        add<Row>(hasProxy, options, "7 slider Tab 77 sliderEditPlus Tab", {78});
+        for (const QString end : {"Enter", "cell", "beside", "program"})
+            add<Row>(hasProxy, options, "77 slider " + end, {67}); // a page step
+        add<Row>(hasProxy, options, "77 slider Escape", {});
     }
+}
+
+template <typename Editor> void addComposite()
+{
+    const auto add = [](const QString &steps, const QVector<int> &expected) {
+        ::add<Editor>(false, 0, steps, expected);
+    };
+    const int fields = Editor().template findChildren<SliderEditFrame *>().size();
+    const QString all =
+        QString("key 7 Tab 12*3 Tab 9 Tab 10").section(' ', 0, 2 * fields - 1) + ' ';
+    for (const QString end : {"Tab", "Enter", "cell", "beside", "program"})
+        add(all + end, {7, 36, 9, 10});
+    add(all + "Escape", {});
+    add("7 Tab 8 Backtab 9 Enter", {9, 8});
+    add("7 slider Tab 9 slider sliderEditPlus Tab 8 Enter", {20, 8});
 }
 
 } // namespace
@@ -118,13 +185,19 @@ void tst_ItemEditors::entries_data()
 {
     QTest::addColumn<TestCode>("code");
     for (const int options : {0, int(EnterStays), int(EscapeRestores) | int(ExactEntry)}) {
-        for (const bool hasProxy : {false, true}) {
-            addEditor<SliderEditFrame>(hasProxy, options);
-            addEditor<SliderEditFrameDouble>(hasProxy, options);
-        }
+        addRow<SliderEditFrame>(options);
+        addRow<SliderEditFrameDouble>(options);
         addEditor<SliderEditSpinBox>(false, options);
         addEditor<SliderEditDoubleSpinBox>(false, options);
     }
+    addComposite<RGBEditFrame>();
+    addComposite<RGBAllEditFrame>();
+    addComposite<RGBOpacityEditFrame>();
+    addComposite<RectEditFrame>();
+    addComposite<CropEditFrame>();
+    addComposite<MaskEditFrame>();
+    // The lock works from the values shown when it is clicked.
+    add<RectEditFrame>(false, 0, "77 toolButtonLockPosition Tab 80 Enter", {79, 80});
 }
 
 QTEST_MAIN(tst_ItemEditors)

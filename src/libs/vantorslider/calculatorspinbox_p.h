@@ -233,7 +233,7 @@ bool handleKey(SpinBox *spinBox, LineEditCal *calculator, QKeyEvent *event)
     return true;
 }
 
-// In an editor of an item view. Returns whether the event goes on to that editor.
+// In an editor of an item view. Returns whether the event has gone on to that editor.
 template <typename SpinBox>
 bool handleItemEditorEvent(SpinBox *spinBox, LineEditCal *calculator, QEvent *event)
 {
@@ -243,15 +243,12 @@ bool handleItemEditorEvent(SpinBox *spinBox, LineEditCal *calculator, QEvent *ev
         return false;
     }
     const QPointer<SpinBox> self(spinBox);
-    if (action != ItemEditorAction::RestoreAndPass) {
+    if (action == ItemEditorAction::Finish) {
         finishEntry(spinBox, calculator);
     } else if (hasPendingEntry(spinBox, calculator)) {
         restoreValue(spinBox, calculator);
     }
-    if (action != ItemEditorAction::Finish) {
-        event->ignore();
-    }
-    return !self || action != ItemEditorAction::Finish;
+    return !self || passKey(spinBox, event);
 }
 
 // The key that restores the value takes precedence over a host's shortcut. The field reports when
@@ -321,7 +318,7 @@ void handleFocusOut(SpinBox *spinBox, LineEditCal *calculator, QFocusEvent *even
     }
     endEntry(self, calculator, &edit);
     if (self) {
-        tellItemEditor(spinBox, event);
+        passFocus(spinBox, event);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "cropeditframe.h"
 
+#include "itemeditor_p.h"
 #include "limitedfields_p.h"
 #include "saturation_p.h"
 #include "slidereditframe.h"
@@ -130,6 +131,11 @@ void CropEditFrame::setCrop(const QRect &rect)
 QRect CropEditFrame::crop() const
 {
     return rectangle();
+}
+
+QRect CropEditFrame::committedCrop()
+{
+    return Internal::committed(this, &CropEditFrame::crop);
 }
 
 void CropEditFrame::setRange(Type type, int min, int max)

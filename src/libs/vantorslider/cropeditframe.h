@@ -30,7 +30,7 @@ class CropEditFramePrivate;
 class VANTORSLIDER_EXPORT CropEditFrame : public RectEditFrame
 {
     Q_OBJECT
-    Q_PROPERTY(QRect crop READ crop WRITE setCrop NOTIFY cropValueChanged USER true)
+    Q_PROPERTY(QRect crop READ committedCrop WRITE setCrop NOTIFY cropValueChanged USER true)
 
 public:
     /*!
@@ -95,6 +95,9 @@ private:
     void setValue(Type type, int val) override;
     void setValue(int x, int y, int w, int h) override;
     void setValue(const QRect &rect) override;
+
+    // The property: as the editor of an item view, ends a pending entry first.
+    QRect committedCrop();
 
     Internal::CropEditFramePrivate *d;
 };

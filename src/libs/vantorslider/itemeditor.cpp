@@ -1,8 +1,9 @@
 #include "itemeditor_p.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QAbstractSpinBox>
+#include <QtWidgets/QApplication>
 
 namespace Vantor {
 namespace Widgets {
@@ -21,15 +22,44 @@ bool isEditing(const QAbstractItemView *view)
     return (view->*&Access::state)() == Access::EditingState;
 }
 
+// The view of which the widget is an editor or an index widget, or null.
+QAbstractItemView *viewOf(const QWidget *widget)
+{
+    QWidget *const viewport = widget->isWindow() ? nullptr : widget->parentWidget();
+    auto *view =
+        viewport != nullptr ? qobject_cast<QAbstractItemView *>(viewport->parentWidget()) : nullptr;
+    return view != nullptr && view->viewport() == viewport ? view : nullptr;
+}
+
+// The field after or before the widget that the focus can reach, in the order of the rows.
+QAbstractSpinBox *nextField(const QWidget *editor, const QWidget *widget, bool isForward)
+{
+    QAbstractSpinBox *before = nullptr;
+    bool isAfter = widget == editor;
+    for (QWidget *child : editor->findChildren<QWidget *>()) {
+        auto *const field = qobject_cast<QAbstractSpinBox *>(child);
+        if (child == widget && !isForward) {
+            return before;
+        }
+        if (child == widget) {
+            isAfter = true;
+        } else if (field != nullptr && field->isVisibleTo(editor) && field->isEnabledTo(editor)) {
+            if (isAfter) {
+                return field;
+            }
+            before = field;
+        }
+    }
+    return nullptr;
+}
+
 } // namespace
 
-QWidget *itemEditorAround(QWidget *field)
+QWidget *itemEditorAround(QWidget *widget)
 {
-    for (QWidget *editor = field; !editor->isWindow() && editor->parentWidget() != nullptr;
+    for (QWidget *editor = widget; editor != nullptr && !editor->isWindow();
          editor = editor->parentWidget()) {
-        const QWidget *const viewport = editor->parentWidget();
-        const auto *view = qobject_cast<const QAbstractItemView *>(viewport->parentWidget());
-        if (view != nullptr && view->viewport() == viewport) {
+        if (const QAbstractItemView *const view = viewOf(editor)) {
             return isEditing(view) ? editor : nullptr;
         }
     }
@@ -42,16 +72,17 @@ ItemEditorAction itemEditorAction(QWidget *field, const QEvent *event)
     if (event->type() == QEvent::FocusAboutToChange) {
         action = ItemEditorAction::Finish;
     } else if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
-        const bool isPress = event->type() == QEvent::KeyPress;
         switch (static_cast<const QKeyEvent *>(event)->key()) {
         case Qt::Key_Tab:
         case Qt::Key_Backtab:
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            action = isPress ? ItemEditorAction::FinishAndPass : ItemEditorAction::Finish;
+            action = ItemEditorAction::Finish;
             break;
         case Qt::Key_Escape:
-            action = isPress ? ItemEditorAction::RestoreAndPass : ItemEditorAction::None;
+            if (event->type() == QEvent::KeyPress) {
+                action = ItemEditorAction::Restore;
+            }
             break;
         default:
             break;
@@ -61,13 +92,69 @@ ItemEditorAction itemEditorAction(QWidget *field, const QEvent *event)
     return isWanted ? action : ItemEditorAction::None;
 }
 
-void tellItemEditor(QWidget *field, const QFocusEvent *event)
+bool passKey(QWidget *widget, QEvent *event)
 {
-    QWidget *const editor = itemEditorAround(field);
-    if (editor != nullptr && editor != field) {
-        QFocusEvent out(QEvent::FocusOut, event->reason());
-        QCoreApplication::sendEvent(editor, &out);
+    if (event->type() != QEvent::KeyPress) {
+        return false;
     }
+    const int key = static_cast<const QKeyEvent *>(event)->key();
+    const bool isTab = key == Qt::Key_Tab || key == Qt::Key_Backtab;
+    if (!isTab && key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Escape) {
+        return false;
+    }
+    QWidget *const editor = itemEditorAround(widget);
+    if (editor == nullptr || editor == widget) {
+        return false;
+    }
+    const bool isForward = key == Qt::Key_Tab;
+    if (QWidget *const next = isTab ? nextField(editor, widget, isForward) : nullptr) {
+        next->setFocus(isForward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    } else {
+        QCoreApplication::sendEvent(editor, event);
+    }
+    return true;
+}
+
+void passFocus(QWidget *widget, const QEvent *event)
+{
+    QWidget *editor = nullptr;
+    switch (event->type()) {
+    case QEvent::FocusIn:
+        editor = itemEditorAround(widget);
+        if (QAbstractSpinBox *const field =
+                editor == widget ? nextField(editor, editor, true) : nullptr) {
+            editor->setFocusProxy(field);
+            field->setFocus(Qt::OtherFocusReason);
+            field->selectAll();
+        }
+        break;
+    case QEvent::FocusOut:
+        editor = itemEditorAround(widget);
+        if (editor != nullptr && editor != widget) {
+            QFocusEvent out(QEvent::FocusOut, static_cast<const QFocusEvent *>(event)->reason());
+            QCoreApplication::sendEvent(editor, &out);
+        }
+        break;
+    case QEvent::Hide:
+        // The view takes the focus back only from the editor itself or its proxy. From any other
+        // child Qt would move it on by Tab, which changes the current item.
+        if (QAbstractItemView *const view = viewOf(widget)) {
+            if (widget->focusProxy() != nullptr && view->isVisible()
+                && widget->isAncestorOf(QApplication::focusWidget())) {
+                view->setFocus(Qt::OtherFocusReason);
+            }
+        }
+        break;
+    default:
+        break;
+    }
+}
+
+bool ItemEditorFilter::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *const widget = static_cast<QWidget *>(watched);
+    passFocus(widget, event);
+    return passKey(widget, event);
 }
 
 } // namespace Internal

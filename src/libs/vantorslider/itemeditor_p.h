@@ -2,10 +2,7 @@
 
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
-
-QT_BEGIN_NAMESPACE
-class QWidget;
-QT_END_NAMESPACE
+#include <QtWidgets/QWidget>
 
 namespace Vantor {
 namespace Widgets {
@@ -13,11 +10,12 @@ namespace Internal {
 
 // A field in an editor that a delegate of an item view has created, or as that editor. The delegate
 // takes the value when it sees a key or a loss of focus of the editor. As the editor, the field
-// sees only what precedes these events. In an editor, it has to pass them on.
+// sees only what precedes these events. In an editor, it has to pass them on, and so have the other
+// widgets that take the focus.
 
-// The editor around the field, or null. Neither an editor that stays open counts, nor a widget that
-// the host has set for an index.
-QWidget *itemEditorAround(QWidget *field);
+// The editor around the widget, or null. Neither an editor that stays open counts, nor a widget
+// that the host has set for an index.
+QWidget *itemEditorAround(QWidget *widget);
 
 // Whether itemEditorAction() can be another one than None: not for a key that types.
 inline bool isItemEditorEvent(const QEvent *event)
@@ -28,23 +26,39 @@ inline bool isItemEditorEvent(const QEvent *event)
                  : event->type() == QEvent::FocusAboutToChange;
 }
 
-enum class ItemEditorAction { None, Finish, FinishAndPass, RestoreAndPass };
-
-// What the field does with its entry at the event, and whether the event goes on to the editor.
+// What the field does with its entry at the event.
+enum class ItemEditorAction { None, Finish, Restore };
 ItemEditorAction itemEditorAction(QWidget *field, const QEvent *event);
 
-// The field has lost the focus. The editor may be deleted later.
-void tellItemEditor(QWidget *field, const QFocusEvent *event);
+// Whether the event is a key press that a widget in an editor does not handle itself. Tab moves to
+// the next field: Qt would let the view select the next item. Behind the last one the editor
+// receives it, as it does Enter and Escape. The editor may be deleted later.
+bool passKey(QWidget *widget, QEvent *event);
 
-// The value of a row for its property. A view also takes it where no event of the field precedes:
-// when the program sets another current item.
-template <typename Row> auto committedValue(Row *row) -> decltype(row->value())
+// An editor that receives the focus, because a view has opened it, passes it and all keys on to its
+// first field. A widget that loses the focus tells the editor around it, which may be deleted
+// later. An editor that is hidden returns the focus to the view.
+void passFocus(QWidget *widget, const QEvent *event);
+
+// Passes on what a composite editor receives, and the widgets in it that are in no row.
+class ItemEditorFilter : public QObject
 {
-    const QPointer<Row> self(row);
-    if (itemEditorAround(row) != nullptr) {
-        row->finishEntry();
+public:
+    explicit ItemEditorFilter(QWidget *editor) { editor->installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+};
+
+// The value of an editor for its property. A view also takes it where no event of the field
+// precedes: when the program sets another current item.
+template <typename Editor, typename Getter>
+auto committed(Editor *editor, Getter getter) -> decltype((editor->*getter)())
+{
+    const QPointer<Editor> self(editor);
+    if (itemEditorAround(editor) != nullptr) {
+        editor->finishEntry();
     }
-    return self ? row->value() : 0;
+    return self ? (editor->*getter)() : decltype((editor->*getter)())();
 }
 
 } // namespace Internal

@@ -1,5 +1,6 @@
 #include "maskeditframe.h"
 
+#include "itemeditor_p.h"
 #include "limitedfields_p.h"
 
 #include <QtCore/QMetaType>
@@ -135,6 +136,11 @@ QMargins MaskEditFrame::margins() const
 {
     const auto [top, bottom, left, right] = d->values();
     return {left, top, right, bottom};
+}
+
+QMargins MaskEditFrame::committedMargins()
+{
+    return Internal::committed(this, &MaskEditFrame::margins);
 }
 
 // These four are private here: a host calls setMaskValue(), which stores the last margins, and

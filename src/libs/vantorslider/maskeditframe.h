@@ -32,7 +32,8 @@ class MaskEditFramePrivate;
 class VANTORSLIDER_EXPORT MaskEditFrame : public RectEditFrame
 {
     Q_OBJECT
-    Q_PROPERTY(QMargins margins READ margins WRITE setMargins NOTIFY maskValueChanged USER true)
+    Q_PROPERTY(
+        QMargins margins READ committedMargins WRITE setMargins NOTIFY maskValueChanged USER true)
 
 public:
     /*! Creates the editor for an area of size 0 by 0, with hidden lock buttons. */
@@ -82,6 +83,9 @@ private:
     void setValue(int x, int y, int w, int h) override;
     void setValue(const QRect &rect) override;
     void setRange(Type type, int min, int max) override;
+
+    // The property: as the editor of an item view, ends a pending entry first.
+    QMargins committedMargins();
 
     Internal::MaskEditFramePrivate *d;
 };

@@ -171,6 +171,11 @@ QRect RectEditFrame::rectangle() const
                                    d->ui->frameWidth->value(), d->ui->frameHeight->value());
 }
 
+QRect RectEditFrame::committedRectangle()
+{
+    return Internal::committed(this, &RectEditFrame::rectangle);
+}
+
 void RectEditFrame::setRange(Type type, int min, int max)
 {
     d->rows().one(type, VANTORSLIDER_HERE, "Set Rect value range", &Row::setRange, min, max);

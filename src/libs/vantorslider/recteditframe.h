@@ -60,7 +60,8 @@ class VANTORSLIDER_EXPORT RectEditFrame : public QFrame
 {
     Q_OBJECT
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
-    Q_PROPERTY(QRect rectangle READ rectangle WRITE setRectangle NOTIFY valueChanged USER true)
+    Q_PROPERTY(
+        QRect rectangle READ committedRectangle WRITE setRectangle NOTIFY valueChanged USER true)
 
 public:
     /*! The fields, as flags. setEditerVisible() accepts combinations. */
@@ -342,6 +343,9 @@ Q_SIGNALS:
     void editFinished();
 
 private:
+    // The property: as the editor of an item view, ends a pending entry first.
+    QRect committedRectangle();
+
     Internal::RectEditFramePrivate *d;
 };
 

@@ -59,6 +59,8 @@ void RectEditFramePrivate::createWidgets()
     ui->toolButtonLockPosition->setProperty("isLockPositionFrame", true);
     nameLocks();
     ui->toolButtonLockSize->installEventFilter(this);
+    ui->toolButtonLockPosition->installEventFilter(&m_itemEditor);
+    ui->toolButtonLockSize->installEventFilter(&m_itemEditor);
     ui->verticalSpacer_5 =
         collapsibleSpacer(ui->verticalLayoutLockPosition, 0, ui->frameSpacerLockPosition);
     ui->verticalSpacer_4 =

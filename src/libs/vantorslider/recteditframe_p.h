@@ -2,6 +2,7 @@
 
 #include "editorrows_p.h"
 #include "editspan_p.h"
+#include "itemeditor_p.h"
 #include "recteditframe.h"
 #include "rectlocks_p.h"
 #include "slidereditframe.h"
@@ -40,6 +41,7 @@ public:
     RectEditFrame *m_pEditer;
     const std::unique_ptr<Ui::RectEditFrame> ui = std::make_unique<Ui::RectEditFrame>();
     EditSpan m_edits {m_pEditer};
+    ItemEditorFilter m_itemEditor {m_pEditer};
     RectEditFrame::LockType m_sizeLockType = RectEditFrame::SizeScaleLock;
     QPoint m_lockedPosition;
     // Width and height when the lock was turned on, or the ratio that the host has set.

@@ -1,6 +1,7 @@
 #include "rgballeditframe.h"
 
 #include "editspan_p.h"
+#include "itemeditor_p.h"
 #include "rgbandrow_p.h"
 #include "ui_rgballeditframe.h"
 
@@ -30,6 +31,7 @@ public:
     RGBAllEditFrame *m_pEditer;
     const std::unique_ptr<Ui::RGBAllEditFrame> ui = std::make_unique<Ui::RGBAllEditFrame>();
     EditSpan m_edits {m_pEditer};
+    ItemEditorFilter m_itemEditor {m_pEditer};
 
 private Q_SLOTS:
     void allValueChanged(int val);
@@ -163,6 +165,11 @@ void RGBAllEditFrame::setColor(const QColor &color)
 QColor RGBAllEditFrame::color() const
 {
     return d->ui->frameRGB->color();
+}
+
+QColor RGBAllEditFrame::committedColor()
+{
+    return Internal::committed(this, &RGBAllEditFrame::color);
 }
 
 void RGBAllEditFrame::value(int &r, int &g, int &b, int &all)

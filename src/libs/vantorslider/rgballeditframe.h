@@ -44,7 +44,7 @@ class VANTORSLIDER_EXPORT RGBAllEditFrame : public QFrame
     Q_OBJECT
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
     Q_PROPERTY(bool coloredGrooves READ coloredGrooves WRITE setColoredGrooves)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY valueChanged USER true)
+    Q_PROPERTY(QColor color READ committedColor WRITE setColor NOTIFY valueChanged USER true)
 
 public:
     /*! The channels and the master value, as flags. */
@@ -230,6 +230,9 @@ Q_SIGNALS:
     void editFinished();
 
 private:
+    // The property: as the editor of an item view, ends a pending entry first.
+    QColor committedColor();
+
     Internal::RGBAllEditFramePrivate *d;
 };
 

@@ -4,6 +4,7 @@
 #include "colorgrooves_p.h"
 #include "editorrows_p.h"
 #include "editspan_p.h"
+#include "itemeditor_p.h"
 #include "slidereditframe.h"
 #include "ui_rgbeditframe.h"
 
@@ -37,6 +38,7 @@ public:
     RGBEditFrame *m_pEditer;
     const std::unique_ptr<Ui::RGBEditFrame> ui = std::make_unique<Ui::RGBEditFrame>();
     EditSpan m_edits {m_pEditer};
+    ItemEditorFilter m_itemEditor {m_pEditer};
     std::unique_ptr<ColorGrooves> m_grooves;
 
 private Q_SLOTS:
@@ -190,6 +192,11 @@ QColor RGBEditFrame::color() const
     return QColor::fromRgba64(Internal::channelOf(*d->ui->frameR),
                               Internal::channelOf(*d->ui->frameG),
                               Internal::channelOf(*d->ui->frameB));
+}
+
+QColor RGBEditFrame::committedColor()
+{
+    return Internal::committed(this, &RGBEditFrame::color);
 }
 
 void RGBEditFrame::value(int &r, int &g, int &b)

@@ -3,6 +3,7 @@
 #include "colorchannel_p.h"
 #include "colorgrooves_p.h"
 #include "editspan_p.h"
+#include "itemeditor_p.h"
 #include "rgbandrow_p.h"
 #include "ui_rgbopacityeditframe.h"
 
@@ -35,6 +36,7 @@ public:
     RGBOpacityEditFrame *m_pEditer;
     const std::unique_ptr<Ui::RGBOpacityEditFrame> ui = std::make_unique<Ui::RGBOpacityEditFrame>();
     EditSpan m_edits {m_pEditer};
+    ItemEditorFilter m_itemEditor {m_pEditer};
     std::unique_ptr<ColorGrooves> m_grooves;
 
 private Q_SLOTS:
@@ -175,6 +177,11 @@ QColor RGBOpacityEditFrame::color() const
     QRgba64 rgba = d->ui->frameRGB->color().rgba64();
     rgba.setAlpha(Internal::channelOf(*d->ui->frameOpacity));
     return QColor::fromRgba64(rgba);
+}
+
+QColor RGBOpacityEditFrame::committedColor()
+{
+    return Internal::committed(this, &RGBOpacityEditFrame::color);
 }
 
 void RGBOpacityEditFrame::value(int &r, int &g, int &b, int &opacity)

@@ -1,4 +1,5 @@
 #include "editspan_p.h"
+#include "itemeditor_p.h"
 #include "lostpointer_p.h"
 #include "slidereditframe_p.h"
 
@@ -9,10 +10,16 @@ SliderEditButton::SliderEditButton(QWidget *parent) : QToolButton(parent) { }
 
 bool SliderEditButton::event(QEvent *event)
 {
+    if (Internal::passKey(this, event)) {
+        return true;
+    }
     const Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     const bool isHandled = QToolButton::event(event);
     if (Internal::isPointerLostBy(event, this)) {
         letGo();
+    }
+    if (edit) {
+        Internal::passFocus(this, event);
     }
     return isHandled;
 }

@@ -200,7 +200,7 @@ void SliderEditFrame::finishEntry()
 
 int SliderEditFrame::committedValue()
 {
-    return Internal::committedValue(this);
+    return Internal::committed(this, &SliderEditFrame::value);
 }
 
 void SliderEditFrame::setSliderOptions(SliderOptions options)

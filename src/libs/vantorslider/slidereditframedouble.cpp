@@ -98,7 +98,7 @@ void SliderEditFrameDouble::finishEntry()
 
 double SliderEditFrameDouble::committedValue()
 {
-    return Internal::committedValue(this);
+    return Internal::committed(this, &SliderEditFrameDouble::value);
 }
 
 void SliderEditFrameDouble::setSliderOptions(SliderOptions options)

@@ -1,6 +1,7 @@
 #include "accessiblerow_p.h"
 #include "editspan_p.h"
 #include "hostwindow_p.h"
+#include "itemeditor_p.h"
 #include "lostpointer_p.h"
 #include "sliderdrag_p.h"
 #include "slidereditframe_p.h"
@@ -82,6 +83,9 @@ void SliderEditSlider::setOptions(SliderOptions options)
 
 bool SliderEditSlider::event(QEvent *event)
 {
+    if (Internal::passKey(this, event)) {
+        return true;
+    }
     const Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     const bool isHandled = QSlider::event(event);
     if (!edit) {
@@ -96,6 +100,9 @@ bool SliderEditSlider::event(QEvent *event)
         QStyleOptionSlider option;
         initStyleOption(&option);
         m_groove->follow(event, option);
+    }
+    if (edit) {
+        Internal::passFocus(this, event);
     }
     return isHandled;
 }

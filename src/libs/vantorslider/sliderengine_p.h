@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editspan_p.h"
+#include "itemeditor_p.h"
 #include "rowreset_p.h"
 #include "rowscale_p.h"
 #include "sampling_p.h"
@@ -79,12 +80,16 @@ public:
     }
 
     // The frame filters the events of its spin box, and its own: whether it consumes one.
-    bool filter(const QObject *watched, const QEvent *event) const
+    bool filter(const QObject *watched, QEvent *event) const
     {
         if (watched == engine().spinBox()) {
             row().fieldReceives(event);
         }
-        return watched == m_pSliderEditer && SliderRow::isHeldEnter(event);
+        if (watched != m_pSliderEditer) {
+            return false;
+        }
+        passFocus(m_pSliderEditer, event);
+        return SliderRow::isHeldEnter(event) || passKey(m_pSliderEditer, event);
     }
 
     // Shows a value on both children and passes it to the calculator. Emits nothing.
