@@ -29,6 +29,8 @@ private Q_SLOTS:
     void colors();
     void form();
     void designer();
+    void properties_data();
+    void properties();
 };
 
 namespace {
@@ -174,39 +176,187 @@ void tst_Forms::form()
     QCOMPARE(describe(compiled), editorsOfTheForm);
 }
 
+#ifdef DESIGNER_PLUGIN
+namespace {
+
+// The widget box, and a loader to which no other folder can provide an editor.
+struct Designer
+{
+    Designer()
+    {
+        loader.clearPluginPaths();
+        loader.addPluginPath(QFileInfo(DESIGNER_PLUGIN).path());
+    }
+    QWidget *load(const QString &form)
+    {
+        QBuffer dom;
+        dom.setData(form.toUtf8());
+        return loader.load(&dom);
+    }
+
+    QPluginLoader plugin {DESIGNER_PLUGIN};
+    QDesignerCustomWidgetCollectionInterface *const box =
+        qobject_cast<QDesignerCustomWidgetCollectionInterface *>(plugin.instance());
+    QUiLoader loader;
+};
+
+// The properties that the library adds, in the order in which a form sets them.
+QVector<QMetaProperty> ownProperties(const QMetaObject *editor)
+{
+    const QMetaObject *base = editor;
+    while (QByteArray(base->className()).startsWith("Vantor"))
+        base = base->superClass();
+    QVector<QMetaProperty> properties;
+    for (int i = base->propertyCount(); i < editor->propertyCount(); ++i)
+        properties.append(editor->property(i));
+    return properties;
+}
+
+// Qt 5 can't compare flags.
+QVariant valueOf(const QMetaProperty &property, const std::unique_ptr<QWidget> &editor)
+{
+    const QVariant value = property.read(editor.get());
+    return property.isEnumType() ? QVariant(value.toInt()) : value;
+}
+
+// Another value of the property that is valid, a different one for each number.
+QVariant otherValue(const QMetaProperty &property, const QVariant &value, int number)
+{
+    const QMetaEnum keys = property.enumerator();
+    if (property.isEnumType())
+        return keys.value(keys.keyCount() - 1);
+    switch (value.userType()) {
+    case QMetaType::Bool:
+        return !value.toBool();
+    case QMetaType::Int:
+    case QMetaType::Double:
+        return value.toDouble() + number;
+    case QMetaType::QString:
+        return QString("<b>%1 ").arg(number);
+    case QMetaType::QColor:
+    case QMetaType::QBrush:
+        return QColor(number, 2, 3, 51);
+    case QMetaType::QRect:
+        return QRect(number, 2, 30, 40);
+    }
+    return QVariant::fromValue(QMargins(number, 2, 3, 4));
+}
+
+// As Designer writes it; forms have no margins.
+QString domOf(const QMetaProperty &property, const QVariant &value)
+{
+    const auto dom = [](const QString &element, const QString &text) {
+        return '<' + element + '>' + text + "</" + element.section(' ', 0, 0) + '>';
+    };
+    const auto numbers = [&](const QString &names, const QVector<int> &values) {
+        QString text;
+        for (int i = 0; i < values.size(); ++i)
+            text += dom(names.section(' ', i, i), QString::number(values[i]));
+        return text;
+    };
+    const auto color = [&](const QColor &color) {
+        return dom("color alpha='" + QString::number(color.alpha()) + '\'',
+                   numbers("red green blue", {color.red(), color.green(), color.blue()}));
+    };
+    if (property.isEnumType())
+        return dom(property.isFlagType() ? "set" : "enum",
+                   property.enumerator().valueToKeys(value.toInt()));
+    const QRect rect = value.toRect();
+    const QBrush brush = value.value<QBrush>();
+    switch (value.userType()) {
+    case QMetaType::QColor:
+        return color(value.value<QColor>());
+    case QMetaType::QBrush:
+        return dom(brush == QBrush() ? "brush brushstyle='NoBrush'"
+                                     : "brush brushstyle='SolidPattern'",
+                   color(brush.color()));
+    case QMetaType::QRect:
+        return dom("rect",
+                   numbers("x y width height", {rect.x(), rect.y(), rect.width(), rect.height()}));
+    }
+    const QMap<int, QString> names {{QMetaType::Bool, "bool"},
+                                    {QMetaType::Int, "number"},
+                                    {QMetaType::Double, "double"},
+                                    {QMetaType::QString, "string"}};
+    const QString name = names.value(value.userType());
+    return name.isEmpty() ? QString() : dom(name, value.toString().toHtmlEscaped());
+}
+
+} // namespace
+#endif
+
 // The same form, loaded at run time with the plug-in for Designer.
 void tst_Forms::designer()
 {
 #ifndef DESIGNER_PLUGIN
     QSKIP("Built without the plug-in for Designer");
 #else
-    QPluginLoader plugin(DESIGNER_PLUGIN);
-    const auto *box = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(plugin.instance());
-    QVERIFY2(box, qPrintable(plugin.errorString()));
-    QUiLoader loader;
-    // No other folder can provide an editor.
-    loader.clearPluginPaths();
-    loader.addPluginPath(QFileInfo(DESIGNER_PLUGIN).path());
+    Designer designer;
+    QVERIFY2(designer.box, qPrintable(designer.plugin.errorString()));
     QFile file(FORM);
-    const std::unique_ptr<QWidget> read(loader.load(&file));
-    QVERIFY2(read && read->findChild<SliderEditFrame *>(), qPrintable(loader.errorString()));
+    const std::unique_ptr<QWidget> read(designer.loader.load(&file));
+    QVERIFY2(read && read->findChild<SliderEditFrame *>(),
+             qPrintable(designer.loader.errorString()));
     QCOMPARE(describe(*read), editorsOfTheForm);
 
     // The widget that the widget box shows and drops into a form.
-    const auto entries = box->customWidgets();
+    const auto entries = designer.box->customWidgets();
     QCOMPARE(entries.size(), editorsOfTheForm.size());
     for (int i = 0; i < entries.size(); ++i) {
         const auto *entry = entries[i];
         QVERIFY(QFile::exists(HEADERS "/" + entry->includeFile()) && !entry->isContainer());
         QVERIFY(!entry->icon().availableSizes().isEmpty() && !entry->group().isEmpty()
                 && !entry->toolTip().isEmpty());
-        QBuffer dom;
-        dom.setData(entry->domXml().toUtf8());
-        const std::unique_ptr<QWidget> dropped(loader.load(&dom));
-        QVERIFY2(dropped, qPrintable(loader.errorString()));
+        const std::unique_ptr<QWidget> dropped(designer.load(entry->domXml()));
+        QVERIFY2(dropped, qPrintable(designer.loader.errorString()));
         QCOMPARE(QString(dropped->metaObject()->className()), entry->name());
         QCOMPARE(entry->name().section(':', -1), editorsOfTheForm[i].section(' ', 0, 0));
     }
+#endif
+}
+
+void tst_Forms::properties_data()
+{
+    QTest::addColumn<QString>("editor");
+    QTest::addColumn<bool>("isChanged");
+#ifdef DESIGNER_PLUGIN
+    for (const auto *entry : Designer().box->customWidgets()) {
+        for (const bool isChanged : {false, true})
+            QTest::addRow("%s%s", qPrintable(entry->name()), isChanged ? ", changed" : "")
+                << entry->name() << isChanged;
+    }
+#endif
+}
+
+// A form stores all properties, each with its default value or with another one.
+void tst_Forms::properties()
+{
+#ifndef DESIGNER_PLUGIN
+    QSKIP("Built without the plug-in for Designer");
+#else
+    QFETCH(QString, editor);
+    QFETCH(bool, isChanged);
+    Designer designer;
+    const std::unique_ptr<QWidget> saved(designer.loader.createWidget(editor));
+    const auto properties = ownProperties(saved->metaObject());
+    QVariantList before;
+    for (const QMetaProperty &property : properties)
+        before.append(valueOf(property, saved));
+    for (int i = 0; isChanged && i < properties.size(); ++i) {
+        properties[i].write(saved.get(), otherValue(properties[i], before[i], i + 1));
+        QVERIFY2(valueOf(properties[i], saved) != before[i], properties[i].name());
+    }
+    QString form;
+    for (const QMetaProperty &property : properties) {
+        const QString dom = domOf(property, valueOf(property, saved));
+        if (!dom.isEmpty())
+            form += QString("<property name='%1'>%2</property>").arg(property.name(), dom);
+    }
+    form = QString("<ui version='4.0'><widget class='%1'>%2</widget></ui>").arg(editor, form);
+    const std::unique_ptr<QWidget> loaded(designer.load(form));
+    QVERIFY2(loaded, qPrintable(designer.loader.errorString()));
+    for (const QMetaProperty &property : properties)
+        QVERIFY2(valueOf(property, loaded) == valueOf(property, saved), property.name());
 #endif
 }
 

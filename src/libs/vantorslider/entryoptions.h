@@ -19,6 +19,7 @@ Q_NAMESPACE
     \since 1.1
 */
 enum EntryOption {
+    NoEntryOptions = 0, //!< No option: the default. Forms need a name for it.
     /*!
         The user can type as many decimals as the editor has, instead of 2. Results are computed
         as \c double, instead of \c float: exact for each \c int, rounded to the decimals of a
@@ -67,6 +68,7 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(EntryOptions)
     \since 1.1
 */
 enum SliderOption {
+    NoSliderOptions = 0, //!< No option: the default.
     /*!
         A press of the left button, or of a finger, on the groove moves the handle under the
         pointer, and the drag goes on from there. It is reported like any drag. Without it a press

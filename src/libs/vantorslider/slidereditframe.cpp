@@ -6,7 +6,6 @@
 #include "sliderengine_p.h"
 #include "ui_slidereditframe.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QTimerEvent>
 
 #include <array>
@@ -323,6 +322,11 @@ void SliderEditFrame::clearDefaultValue()
     d->clearDefaultValue();
 }
 
+void SliderEditFrame::writeHasDefaultValue(bool b)
+{
+    b ? d->setDefaultValue(d->defaultValue()) : d->clearDefaultValue();
+}
+
 int SliderEditFrame::defaultValue() const
 {
     return d->defaultValue();
@@ -335,11 +339,7 @@ bool SliderEditFrame::hasDefaultValue() const
 
 void SliderEditFrame::resetValue()
 {
-    if (hasDefaultValue()) {
-        d->reset();
-        QEvent event(Internal::rowResetEvent());
-        QCoreApplication::sendEvent(this, &event);
-    }
+    d->reset();
 }
 
 void SliderEditFrame::setSliderScale(SliderScale scale)

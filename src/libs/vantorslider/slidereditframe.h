@@ -58,6 +58,7 @@ class VANTORSLIDER_EXPORT SliderEditFrame : public QFrame
 #else
     Q_PROPERTY(int defaultValue READ defaultValue WRITE setDefaultValue RESET clearDefaultValue)
 #endif
+    Q_PROPERTY(bool hasDefaultValue READ hasDefaultValue WRITE writeHasDefaultValue)
     Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
     Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
@@ -412,6 +413,9 @@ protected:
 private:
     // The property: as the editor of an item view, ends a pending entry first.
     int committedValue();
+
+    // The property: without a default value that of the one before it means nothing.
+    void writeHasDefaultValue(bool b);
 
     // 0 leaves sampling off, so that all properties of a row can be copied to another one.
     void writeTimeSamplingRate(int val);

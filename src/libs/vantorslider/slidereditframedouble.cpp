@@ -251,6 +251,11 @@ void SliderEditFrameDouble::clearDefaultValue()
     d->clearDefaultValue();
 }
 
+void SliderEditFrameDouble::writeHasDefaultValue(bool b)
+{
+    b ? d->setDefaultValue(d->defaultValue()) : d->clearDefaultValue();
+}
+
 double SliderEditFrameDouble::defaultValue() const
 {
     return d->defaultValue();

@@ -56,6 +56,7 @@ class VANTORSLIDER_EXPORT SliderEditFrameDouble : public QFrame
 #else
     Q_PROPERTY(double defaultValue READ defaultValue WRITE setDefaultValue RESET clearDefaultValue)
 #endif
+    Q_PROPERTY(bool hasDefaultValue READ hasDefaultValue WRITE writeHasDefaultValue)
     Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
     Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
@@ -375,6 +376,9 @@ private:
 
     /*! Returns the power of ten that makes \a num whole, from 10 to 1 000 000 000. */
     int getMagnification(float num);
+
+    // The property: without a default value that of the one before it means nothing.
+    void writeHasDefaultValue(bool b);
 
     // 0 leaves sampling off, so that all properties of a row can be copied to another one.
     void writeTimeSamplingRate(int val);

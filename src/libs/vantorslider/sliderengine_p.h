@@ -149,6 +149,8 @@ public:
     {
         if (hasDefaultValue()) {
             apply(shownDefault());
+            QEvent event(rowResetEvent());
+            QCoreApplication::sendEvent(m_pSliderEditer, &event);
         }
     }
 
