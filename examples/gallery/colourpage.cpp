@@ -105,7 +105,7 @@ void ColourPage::addWash()
     swatch->setAccessibleName(tr("Colour of the wash"));
     connect(m_history, &EditHistory::changed, swatch, [swatch](const Edits &edits) {
         QPixmap colour(56, 32);
-        colour.fill(edits.colours.wash);
+        colour.fill(edits.colours.wash.rgb());
         swatch->setPixmap(colour);
     });
     addHeading(tr("Wash"), tr("A colour laid over the picture."), swatch);
@@ -115,18 +115,12 @@ void ColourPage::addWash()
     editor->setLabelText(RGBOpacityEditFrame::Opacity, tr("Opacity"));
     auto *const opacity = editor->row(RGBOpacityEditFrame::Opacity);
     opacity->setSuffix(tr(" %"));
-    opacity->setDefaultValue(Colours().washOpacity);
+    opacity->setDefaultValue(0);
     connect(editor, &RGBOpacityEditFrame::valueChanged, m_log,
             m_log->receiver(tr("Wash"), QStringLiteral("valueChanged")));
-    connect(editor, &RGBOpacityEditFrame::valueChanged, this,
-            [this](int r, int g, int b, int opacity) {
-                edit(tr("Wash"), [=](Edits &edits) {
-                    edits.colours.wash = QColor(r, g, b);
-                    edits.colours.washOpacity = opacity;
-                });
-            });
-    connect(m_history, &EditHistory::restored, editor, [editor](const Edits &edits) {
-        const QColor &wash = edits.colours.wash;
-        editor->setValues(wash.red(), wash.green(), wash.blue(), edits.colours.washOpacity);
+    connect(editor, &RGBOpacityEditFrame::valueChanged, this, [this, editor] {
+        edit(tr("Wash"), [editor](Edits &edits) { edits.colours.wash = editor->color(); });
     });
+    connect(m_history, &EditHistory::restored, editor,
+            [editor](const Edits &edits) { editor->setColor(edits.colours.wash); });
 }

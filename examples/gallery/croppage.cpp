@@ -17,8 +17,8 @@ CropPage::CropPage(PictureView *view, EditHistory *history, LogPane *log)
 
     connect(m_editor, &CropEditFrame::cropValueChanged, m_log,
             m_log->receiver(tr("Crop"), QStringLiteral("cropValueChanged")));
-    connect(m_editor, &CropEditFrame::cropValueChanged, this, [this](int x, int y, int w, int h) {
-        edit(tr("Crop"), [=](Edits &edits) { edits.crop = QRect(x, y, w, h); });
+    connect(m_editor, &CropEditFrame::cropValueChanged, this, [this] {
+        edit(tr("Crop"), [this](Edits &edits) { edits.crop = m_editor->crop(); });
     });
     connect(m_history, &EditHistory::restored, this,
             [this](const Edits &edits) { showCrop(edits.crop); });
@@ -52,5 +52,5 @@ void CropPage::takeDragged(const QRect &rect)
 
 void CropPage::showCrop(const QRect &crop)
 {
-    showRect(m_editor, [this, crop] { m_editor->setCropValue(crop); });
+    showRect(m_editor, [this, crop] { m_editor->setCrop(crop); });
 }

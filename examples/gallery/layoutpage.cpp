@@ -18,14 +18,14 @@ LayoutPage::LayoutPage(PictureView *view, EditHistory *history, LogPane *log)
     finish();
 
     connect(m_editor, &LayoutEditFrame::valueChanged, this,
-            [this](int x, int y, int w, int h) { place(QRect(x, y, w, h)); });
+            [this] { place(m_editor->rectangle()); });
     connect(isShown, &QCheckBox::clicked, this, [this](bool on) {
         edit(tr("Layout"), [on](Edits &edits) { edits.isLayerShown = on; });
     });
     connect(m_history, &EditHistory::changed, isShown,
             [isShown](const Edits &edits) { isShown->setChecked(edits.isLayerShown); });
     connect(m_history, &EditHistory::restored, this, [this](const Edits &edits) {
-        showRect(m_editor, [this, &edits] { m_editor->setValue(edits.layer); });
+        showRect(m_editor, [this, &edits] { m_editor->setRectangle(edits.layer); });
     });
 }
 
@@ -57,7 +57,7 @@ void LayoutPage::clear(Edits &edits, const QSize &size) const
 
 void LayoutPage::takeDragged(const QRect &rect)
 {
-    showRect(m_editor, [this, rect] { m_editor->setValue(rect); });
+    showRect(m_editor, [this, rect] { m_editor->setRectangle(rect); });
     place(rect);
 }
 

@@ -14,13 +14,11 @@ MaskPage::MaskPage(PictureView *view, EditHistory *history, LogPane *log)
 
     connect(m_editor, &MaskEditFrame::maskValueChanged, m_log,
             m_log->receiver(tr("Mask"), QStringLiteral("maskValueChanged")));
-    connect(m_editor, &MaskEditFrame::maskValueChanged, this,
-            [this](int top, int bottom, int left, int right) {
-                edit(tr("Mask"),
-                     [=](Edits &edits) { edits.mask = QMargins(left, top, right, bottom); });
-            });
-    connect(m_history, &EditHistory::restored, this,
-            [this](const Edits &edits) { showMask(edits.mask); });
+    connect(m_editor, &MaskEditFrame::maskValueChanged, this, [this] {
+        edit(tr("Mask"), [this](Edits &edits) { edits.mask = m_editor->margins(); });
+    });
+    connect(m_history, &EditHistory::restored, m_editor,
+            [this](const Edits &edits) { m_editor->setMargins(edits.mask); });
 }
 
 RectRules MaskPage::rules(const QSize &picture) const
@@ -49,11 +47,6 @@ void MaskPage::takeDragged(const QRect &rect)
 {
     const QMargins mask(rect.x(), rect.y(), m_picture.width() - rect.x() - rect.width(),
                         m_picture.height() - rect.y() - rect.height());
-    showMask(mask);
+    m_editor->setMargins(mask);
     edit(tr("Mask"), [mask](Edits &edits) { edits.mask = mask; });
-}
-
-void MaskPage::showMask(const QMargins &mask)
-{
-    m_editor->setMaskValue(mask.top(), mask.bottom(), mask.left(), mask.right());
 }

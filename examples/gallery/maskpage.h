@@ -20,8 +20,6 @@ protected:
     void takeDragged(const QRect &rect) override;
 
 private:
-    void showMask(const QMargins &mask);
-
     Vantor::Widgets::MaskEditFrame *m_editor;
     QSize m_picture;
 };

@@ -20,7 +20,7 @@ Table tableOf(const Tone &tone, const Colours &colours, std::size_t channel)
     const double slope =
         tone.contrast < 0 ? 1 + tone.contrast / 100.0 : 1 + tone.contrast * 3 / 100.0;
     const double lift = colours.lift[channel] * colours.liftMaster / 100.0 / 100.0;
-    const double opacity = colours.washOpacity / 100.0;
+    const double opacity = colours.wash.alphaF();
     const double black = (tone.blackLevel - 16) / 239.0;
     // The light is proportional to the time; pixels store it gamma-encoded, with 2.2.
     const double exposure = std::pow(tone.exposure / double(Tone().exposure), 1 / 2.2);
@@ -45,8 +45,7 @@ auto fieldsOf(const Tone &tone)
 
 auto fieldsOf(const Colours &colours)
 {
-    return std::tie(colours.gain, colours.lift, colours.liftMaster, colours.wash,
-                    colours.washOpacity);
+    return std::tie(colours.gain, colours.lift, colours.liftMaster, colours.wash);
 }
 
 } // namespace

@@ -21,8 +21,7 @@ struct Colours
     std::array<int, 3> gain = {100, 100, 100}; // percent, red, green, blue
     std::array<int, 3> lift = {0, 0, 0}; // -100 to 100, added to each channel
     int liftMaster = 100; // percent of the lift
-    QColor wash = QColor(255, 140, 40);
-    int washOpacity = 0; // percent
+    QColor wash = QColor(255, 140, 40, 0); // its alpha is the opacity
 };
 
 bool operator==(const Tone &a, const Tone &b);

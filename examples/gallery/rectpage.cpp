@@ -74,11 +74,9 @@ RectRules RectPage::rulesOf(Rect *editor, const QSize &area)
 
 void RectPage::showRect(Rect *editor, const std::function<void()> &set)
 {
-    QRect before;
-    QRect after;
-    editor->value(before);
+    const QRect before = editor->rectangle();
     set();
-    editor->value(after);
+    const QRect after = editor->rectangle();
     for (const auto type : {Rect::X, Rect::Y, Rect::Width, Rect::Height}) {
         editor->setValueChangeDirection(type, Vantor::Widgets::SliderEditFrame::AllowedToAny, 0);
     }
