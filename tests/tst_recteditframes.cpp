@@ -74,17 +74,7 @@ void tst_RectEditFrames::sequences_data()
     const auto crop = rowsAfter<CropEditFrame>("areaFrom 10 20 1 1 1920 1080 | ");
     // x, y, w and h are the top, bottom, left and right margins.
     const auto mask = rowsAfter<MaskEditFrame>("area 1920 1080 | ");
-    QFile table(RECTANGLES);
-    QVERIFY(table.open(QIODevice::ReadOnly));
-    for (const QString &paragraph : QString::fromUtf8(table.readAll()).split("\n\n")) {
-        QStringList lines = paragraph.trimmed().split('\n').filter(QRegularExpression("^[^#]"));
-        if (lines.isEmpty())
-            continue;
-        const QString first = lines.takeFirst(), kind = first.section(' ', 0, 0),
-                      name = first.section(' ', 1), steps = lines.join(' ').simplified();
-        QVERIFY2(QStringList({"rect", "crop", "mask"}).contains(kind), qPrintable(first));
-        kind == "rect" ? rect(name, steps) : kind == "crop" ? crop(name, steps) : mask(name, steps);
-    }
+    addTable(DATA "/rectangles.txt", {{"rect", rect}, {"crop", crop}, {"mask", mask}});
 
     // The type of the lock does not change whether it is on, either.
     addFor<RectEditFrame>("hidden locks stay", [](auto &user) {

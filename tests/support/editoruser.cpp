@@ -514,3 +514,18 @@ QString EditorUser::shown() const
     }
     return texts.join(' ');
 }
+
+void addTable(const QString &path, const QMap<QString, AddRow> &kinds)
+{
+    QFile table(path);
+    QVERIFY(table.open(QIODevice::ReadOnly));
+    for (const QString &paragraph : QString::fromUtf8(table.readAll()).split("\n\n")) {
+        QStringList lines = paragraph.trimmed().split('\n').filter(QRegularExpression("^[^#]"));
+        if (lines.isEmpty())
+            continue;
+        const QString first = lines.takeFirst(), kind = first.section(' ', 0, 0);
+        QVERIFY2(kinds.contains(kind), qPrintable(first));
+        kinds[kind](first.section(' ', 1),
+                    lines.join(' ').simplified().replace("\\n", "\n").replace("\\t", "\t"));
+    }
+}
