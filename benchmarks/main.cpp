@@ -13,6 +13,7 @@
 #include "rgbopacityeditframe.h"
 #include "slidereditframe.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QSignalBlocker>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
@@ -246,21 +247,29 @@ Figure compareEnter()
 
 // Drags
 
+enum class Painting { Excluded, Included };
+
 // Drags the handle back and forth, two pixels per move; reports counts the signals
 // that the host has received.
-Sample dragging(QSlider *slider, const int *reports)
+Sample dragging(QSlider *slider, const int *reports, Painting painting = Painting::Excluded)
 {
-    return [slider, reports] {
+    const auto move = [slider, painting](const QPoint &pos) {
+        User::moveTo(slider, pos);
+        if (painting == Painting::Included) {
+            QCoreApplication::processEvents();
+        }
+    };
+    return [slider, reports, move] {
         activate(slider);
         const QPoint start = User::handleRect(slider, slider->sliderPosition()).center();
         User::pressAt(slider, start);
         const int before = *reports;
-        const Nanoseconds taken = timed(2 * batch, [slider, start] {
+        const Nanoseconds taken = timed(2 * batch, [start, move] {
             for (int i = 1; i <= batch; ++i) {
-                User::moveTo(slider, start + QPoint(2 * i, 0));
+                move(start + QPoint(2 * i, 0));
             }
             for (int i = batch - 1; i >= 0; --i) {
-                User::moveTo(slider, start + QPoint(2 * i, 0));
+                move(start + QPoint(2 * i, 0));
             }
         });
         if (*reports != before + 2 * batch) {
@@ -334,6 +343,39 @@ void compareDrags(std::vector<Figure> &figures)
             editor->setSizeLock(true);
             return row;
         }));
+}
+
+// What the colours in the grooves add to a drag with its painting.
+Figure compareColoredGrooves(const QString &look, double goal, const QString &sheet)
+{
+    Shown<RGBOpacityEditFrame> colored;
+    Shown<RGBOpacityEditFrame> plain;
+    const auto dragged = [&sheet](Shown<RGBOpacityEditFrame> &shown, int &reports) {
+        shown.window.setStyleSheet(sheet);
+        shown.editor->setValue(RGBOpacityEditFrame::R, 20);
+        QObject::connect(shown.editor, &RGBOpacityEditFrame::valueChanged, shown.editor,
+                         [&reports] { ++reports; });
+        return dragging(sliderOf(shown.editor), &reports, Painting::Included);
+    };
+    colored.editor->setColoredGrooves(true);
+    int coloredReports = 0;
+    int plainReports = 0;
+    return ratio(QStringLiteral("One mouse move of a drag and its painting: "
+                                "`RGBOpacityEditFrame` with coloured grooves, beside one without, ")
+                     + look,
+                 goal,
+                 compare(rounds, dragged(colored, coloredReports), dragged(plain, plainReports)));
+}
+
+void compareColoredGrooves(std::vector<Figure> &figures)
+{
+    figures.push_back(compareColoredGrooves(QStringLiteral("plain"), 2.2, QString()));
+    QFile sheet(QStringLiteral(DESKTOP_SHEET));
+    if (!sheet.open(QIODevice::ReadOnly)) {
+        qFatal("There is no sheet.");
+    }
+    figures.push_back(compareColoredGrooves(QStringLiteral("with `desktop.qss`"), 1.3,
+                                            QString::fromUtf8(sheet.readAll())));
 }
 
 // Panels
@@ -434,6 +476,7 @@ int main(int argc, char *argv[])
     figures.push_back(compareLongText());
     figures.push_back(compareEnter());
     compareDrags(figures);
+    compareColoredGrooves(figures);
     comparePanels(figures);
     comparePicture(figures);
     return printTable(figures) == 0 ? 0 : 1;

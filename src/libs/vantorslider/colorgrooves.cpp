@@ -35,21 +35,21 @@ ColorGrooves::ColorGrooves(const QList<SliderEditFrame *> &rows)
     for (SliderEditFrame *row : rows) {
         auto *slider = row->findChild<SliderEditSlider *>();
         m_channels.push_back({row, slider});
-        slider->setGrooveBrushes(this);
+        slider->setGrooveColors(this);
     }
 }
 
 ColorGrooves::~ColorGrooves()
 {
     for (const Channel &channel : m_channels) {
-        if (channel.slider->grooveBrushes() == this) {
-            channel.slider->setGrooveBrushes(nullptr);
+        if (channel.slider->grooveColors() == this) {
+            channel.slider->setGrooveColors(nullptr);
         }
     }
 }
 
 // An opacity is not seen in the other grooves.
-QBrush ColorGrooves::brushOf(const QSlider *slider) const
+QVector<QColor> ColorGrooves::colorsOf(const QSlider *slider) const
 {
     std::array<quint16, 4> color {0, 0, 0, fullChannel};
     std::size_t own = 0;
@@ -63,14 +63,13 @@ QBrush ColorGrooves::brushOf(const QSlider *slider) const
     const SliderEditFrame &row = *m_channels[own].row;
     const bool isLinear = row.sliderScale() == SliderEditFrame::LinearScale;
     const int parts = isLinear ? 1 : logarithmicParts;
-    QLinearGradient gradient(0, 0, 1, 0);
+    QVector<QColor> colors;
+    colors.reserve(parts + 1);
     for (int part = 0; part <= parts; ++part) {
-        const double place = double(part) / parts;
-        color[own] = channelAt(place, row);
-        gradient.setColorAt(place,
-                            QColor::fromRgba64(color[0], color[1], color[2], color[opacity]));
+        color[own] = channelAt(double(part) / parts, row);
+        colors.append(QColor::fromRgba64(color[0], color[1], color[2], color[opacity]));
     }
-    return gradient;
+    return colors;
 }
 
 void ColorGrooves::sliderChanged(const QSlider *slider)
@@ -80,7 +79,7 @@ void ColorGrooves::sliderChanged(const QSlider *slider)
     }
     for (const Channel &channel : m_channels) {
         if (channel.slider != slider) {
-            channel.slider->update();
+            channel.slider->updateGroove();
         }
     }
 }

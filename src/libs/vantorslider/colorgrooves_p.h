@@ -16,7 +16,7 @@ namespace Internal {
 
 // Shows in the groove of each row of a colour editor the colours that its handle would give, as
 // long as it exists.
-class ColorGrooves : public GrooveBrushes
+class ColorGrooves : public GrooveColors
 {
 public:
     // Red, green and blue, and after them the opacity, if there is one.
@@ -25,7 +25,7 @@ public:
     ColorGrooves(const ColorGrooves &) = delete;
     ColorGrooves &operator=(const ColorGrooves &) = delete;
 
-    QBrush brushOf(const QSlider *slider) const override;
+    QVector<QColor> colorsOf(const QSlider *slider) const override;
     void sliderChanged(const QSlider *slider) override;
 
 private:

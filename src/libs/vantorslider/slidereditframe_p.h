@@ -9,6 +9,7 @@
 #include <QtWidgets/QToolButton>
 
 #include <memory>
+#include <optional>
 
 namespace Vantor {
 namespace Widgets {
@@ -16,7 +17,7 @@ namespace Widgets {
 class LineEditCal;
 
 namespace Internal {
-class GrooveBrushes;
+class GrooveColors;
 class HostWindow;
 class SliderGroove;
 class SliderDrag;
@@ -37,8 +38,9 @@ public:
     void setScale(int min, int max);
     void setGrooveBrush(const QBrush &brush);
     QBrush grooveBrush() const;
-    void setGrooveBrushes(Internal::GrooveBrushes *brushes);
-    Internal::GrooveBrushes *grooveBrushes() const;
+    void setGrooveColors(Internal::GrooveColors *colors);
+    Internal::GrooveColors *grooveColors() const;
+    void updateGroove();
     // Only GrooveMovesHandle and FineDrag have an effect on the slider itself.
     void setOptions(SliderOptions options);
     SliderOptions options() const { return m_options; }
@@ -59,7 +61,7 @@ private:
 
     void releasePointer();
     void letGo(QMouseEvent *event);
-    void setGroove(const QBrush &brush, Internal::GrooveBrushes *brushes);
+    void setGroove(const QBrush &brush, Internal::GrooveColors *colors);
 
     SliderOptions m_options;
     bool m_isMousePressed = false;
@@ -68,6 +70,8 @@ private:
     std::unique_ptr<Internal::HostWindow> m_hostWindow;
     // Null without a brush.
     std::unique_ptr<Internal::SliderGroove> m_groove;
+    // Whether a sheet drops them; not known before they are drawn.
+    std::optional<bool> m_areTicksDropped;
     // Null without options for the drag.
     std::unique_ptr<Internal::SliderDrag> m_drag;
 };

@@ -6,8 +6,12 @@
 #include "sliderdrag_p.h"
 #include "slidereditframe_p.h"
 #include "slidergroove_p.h"
+#include "sliderparts_p.h"
+#include "slidertickmarks_p.h"
 
+#include <QtGui/QHoverEvent>
 #include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
 #include <QtWidgets/QStyleOptionSlider>
 
 namespace Vantor {
@@ -38,28 +42,28 @@ void SliderEditSlider::setScale(int min, int max)
 // A brush that fills the groove instead of the style's colours; none by default.
 void SliderEditSlider::setGrooveBrush(const QBrush &brush)
 {
-    setGroove(brush, grooveBrushes());
+    setGroove(brush, grooveColors());
 }
 
 QBrush SliderEditSlider::grooveBrush() const
 {
-    return m_groove != nullptr ? m_groove->brush : QBrush();
+    return m_groove != nullptr ? m_groove->brush() : QBrush();
 }
 
-// The same for a slider of a colour editor: while they are not null, that brush is not shown.
-void SliderEditSlider::setGrooveBrushes(Internal::GrooveBrushes *brushes)
+// The colours of a slider of a colour editor: while they are not null, the brush is not shown.
+void SliderEditSlider::setGrooveColors(Internal::GrooveColors *colors)
 {
-    setGroove(grooveBrush(), brushes);
+    setGroove(grooveBrush(), colors);
 }
 
-Internal::GrooveBrushes *SliderEditSlider::grooveBrushes() const
+Internal::GrooveColors *SliderEditSlider::grooveColors() const
 {
-    return m_groove != nullptr ? m_groove->brushes : nullptr;
+    return m_groove != nullptr ? m_groove->colors() : nullptr;
 }
 
-void SliderEditSlider::setGroove(const QBrush &brush, Internal::GrooveBrushes *brushes)
+void SliderEditSlider::setGroove(const QBrush &brush, Internal::GrooveColors *colors)
 {
-    if (brush.style() == Qt::NoBrush && brushes == nullptr) {
+    if (brush.style() == Qt::NoBrush && colors == nullptr) {
         if (const auto groove = std::move(m_groove)) {
             groove->removeSheet();
         }
@@ -67,10 +71,16 @@ void SliderEditSlider::setGroove(const QBrush &brush, Internal::GrooveBrushes *b
         if (m_groove == nullptr) {
             m_groove = std::make_unique<Internal::SliderGroove>(this);
         }
-        m_groove->brush = brush;
-        m_groove->brushes = brushes;
+        m_groove->fill(brush, colors);
     }
     update();
+}
+
+void SliderEditSlider::updateGroove()
+{
+    if (m_groove != nullptr) {
+        m_groove->updateColors();
+    }
 }
 
 void SliderEditSlider::setOptions(SliderOptions options)
@@ -96,10 +106,16 @@ bool SliderEditSlider::event(QEvent *event)
         && !m_hostWindow->isBeingDestroyed()) {
         releasePointer();
     }
+    if (event->type() == QEvent::StyleChange) {
+        m_areTicksDropped.reset();
+    }
     if (m_groove != nullptr) {
-        QStyleOptionSlider option;
-        initStyleOption(&option);
-        m_groove->follow(event, option);
+        m_groove->follow(event);
+        if (const auto *hover = dynamic_cast<QHoverEvent *>(event)) {
+            QStyleOptionSlider option;
+            initStyleOption(&option);
+            m_groove->hover(*hover, option);
+        }
     }
     if (edit) {
         Internal::passFocus(this, event);
@@ -157,9 +173,8 @@ void SliderEditSlider::wheelEvent(QWheelEvent *event)
 void SliderEditSlider::sliderChange(SliderChange change)
 {
     QSlider::sliderChange(change);
-    if (grooveBrushes() != nullptr
-        && (change == SliderValueChange || change == SliderRangeChange)) {
-        m_groove->brushes->sliderChanged(this);
+    if (grooveColors() != nullptr && (change == SliderValueChange || change == SliderRangeChange)) {
+        m_groove->colors()->sliderChanged(this);
     }
 }
 
@@ -167,11 +182,23 @@ void SliderEditSlider::paintEvent(QPaintEvent *event)
 {
     if (m_groove == nullptr) {
         QSlider::paintEvent(event);
-        return;
+        if (tickPosition() == NoTicks || minimum() == maximum()) {
+            return;
+        }
     }
     QStyleOptionSlider option;
     initStyleOption(&option);
-    m_groove->paint(option);
+    if (m_groove != nullptr) {
+        m_groove->paint(option, event->rect());
+        return;
+    }
+    if (!m_areTicksDropped.has_value()) {
+        m_areTicksDropped = Internal::areTickMarksDropped(*this, option);
+    }
+    if (*m_areTicksDropped) {
+        QPainter painter(this);
+        Internal::drawTickMarks(*this, option, Internal::handleWay(*this, option), &painter);
+    }
 }
 
 void SliderEditSlider::focusOutEvent(QFocusEvent *event)

@@ -1,12 +1,16 @@
 #include "slidergroove_p.h"
 
+#include "sliderparts_p.h"
+#include "slidertickmarks_p.h"
+
 #include <QtGui/QHoverEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
 #include <QtWidgets/QSlider>
-#include <QtWidgets/QStyleOptionSlider>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace Vantor {
 namespace Widgets {
@@ -36,24 +40,6 @@ QBrush checkerboard()
     return {tile};
 }
 
-// The number of pixels from the first one on, at most half of the length, that differ from the
-// one in the middle.
-int othersBeforeMiddle(const QImage &image, QPoint pixel, const QPoint &step, int length)
-{
-    const QRgb middle = image.pixel(pixel + step * (length / 2));
-    int others = 0;
-    while (others < length / 2 && image.pixel(pixel) != middle) {
-        pixel += step;
-        ++others;
-    }
-    return others;
-}
-
-bool isVisible(const QImage &image, int x, int y)
-{
-    return qAlpha(image.pixel(x, y)) > 0;
-}
-
 QPoint placeOf(const QHoverEvent &event)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
@@ -63,13 +49,13 @@ QPoint placeOf(const QHoverEvent &event)
 #endif
 }
 
-int visibleRows(const QImage &image, int x)
+// From a to b, by 0 to 256 parts: two channels at a time, with space for the products between.
+QRgb mixed(QRgb a, QRgb b, uint parts)
 {
-    int rows = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        rows += isVisible(image, x, y) ? 1 : 0;
-    }
-    return rows;
+    constexpr uint channels = 0x00ff00ff;
+    const uint low = (a & channels) * (256 - parts) + (b & channels) * parts;
+    const uint high = ((a >> 8) & channels) * (256 - parts) + ((b >> 8) & channels) * parts;
+    return ((low >> 8) & channels) | (high & ~channels);
 }
 
 } // namespace
@@ -95,15 +81,21 @@ void SliderGroove::addSheet() const
     }
 }
 
-void SliderGroove::follow(const QEvent *event, const QStyleOptionSlider &option)
+void SliderGroove::fill(const QBrush &brush, GrooveColors *colors)
+{
+    m_brush = brush;
+    m_pColors = colors;
+    m_dPixelRatio = 0;
+}
+
+void SliderGroove::updateColors() const
+{
+    m_pSlider->update(m_dPixelRatio > 0 ? m_shape.inside.toAlignedRect() : m_pSlider->rect());
+}
+
+void SliderGroove::follow(const QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::HoverEnter:
-    case QEvent::HoverMove:
-        m_hovered = m_pSlider->style()->hitTestComplexControl(
-            QStyle::CC_Slider, &option, placeOf(*static_cast<const QHoverEvent *>(event)),
-            m_pSlider);
-        break;
     case QEvent::HoverLeave:
         m_hovered = QStyle::SC_None;
         break;
@@ -120,210 +112,239 @@ void SliderGroove::follow(const QEvent *event, const QStyleOptionSlider &option)
     }
 }
 
-QRect SliderGroove::rectOf(QStyle::SubControl part, const QStyleOptionSlider &option) const
+void SliderGroove::hover(const QHoverEvent &event, const QStyleOptionSlider &option)
 {
-    return m_pSlider->style()->subControlRect(QStyle::CC_Slider, &option, part, m_pSlider);
+    m_hovered = m_pSlider->style()->hitTestComplexControl(QStyle::CC_Slider, &option,
+                                                          placeOf(event), m_pSlider);
 }
 
-QRect SliderGroove::handleAt(int position, QStyleOptionSlider option) const
+void SliderGroove::measure(const QStyleOptionSlider &option)
 {
-    option.sliderPosition = position;
-    return rectOf(QStyle::SC_SliderHandle, option);
-}
-
-void SliderGroove::draw(QStyle::SubControls parts, QStyleOptionSlider option,
-                        QPainter *painter) const
-{
-    option.subControls = parts;
-    m_pSlider->style()->drawComplexControl(QStyle::CC_Slider, &option, painter, m_pSlider);
-}
-
-// In the pixels of the slider's screen, on a transparent ground.
-QImage SliderGroove::pictureOf(QStyle::SubControl part, QStyleOptionSlider option) const
-{
-    const QRect rect = rectOf(part, option);
     const qreal pixelRatio = m_pSlider->devicePixelRatioF();
-    const auto pixels = [pixelRatio](int length) { return int(std::ceil(length * pixelRatio)); };
-    QImage image(pixels(rect.width()), pixels(rect.height()), QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(pixelRatio);
-    image.fill(Qt::transparent);
-    if (!image.isNull()) {
-        QPainter painter(&image);
+    if (m_dPixelRatio != pixelRatio
+        || m_shape.groove != sliderPartRect(*m_pSlider, QStyle::SC_SliderGroove, option)) {
+        m_shape = measuredGroove(*m_pSlider, option);
+        m_dPixelRatio = pixelRatio;
+        m_coverage = pixelRatio == std::floor(pixelRatio) ? coverage() : QImage();
+    }
+    m_way = handleWay(*m_pSlider, option);
+    m_option = option;
+}
+
+// Whether the style draws the same groove as the last time.
+bool SliderGroove::isDrawnAlike(const QStyleOptionSlider &option) const
+{
+    return option.minimum == m_option.minimum && option.maximum == m_option.maximum
+        && m_dPixelRatio == m_pSlider->devicePixelRatioF() && option.state == m_option.state
+        && option.activeSubControls == m_option.activeSubControls && option.rect == m_option.rect
+        && option.direction == m_option.direction && option.upsideDown == m_option.upsideDown
+        && option.tickPosition == m_option.tickPosition;
+}
+
+QPainterPath SliderGroove::insidePath() const
+{
+    QPainterPath path;
+    path.addRoundedRect(m_shape.inside, m_shape.radius, m_shape.radius);
+    return path;
+}
+
+QImage SliderGroove::coverage() const
+{
+    const QRect rect = m_shape.inside.toAlignedRect();
+    QImage picture = emptyPicture(rect.size(), m_dPixelRatio);
+    if (!picture.isNull()) {
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
         painter.translate(-rect.topLeft());
-        option.state |= QStyle::State_Selected;
-        draw(part, option, &painter);
+        painter.fillPath(insidePath(), Qt::black);
     }
-    return image;
+    return picture;
 }
 
-// Border and corners of a groove, also of one in a style sheet, can only be seen: the border are
-// the pixels around the colour of the middle, and the radius is as long as the row of other
-// pixels in a corner.
-SliderGroove::Shape SliderGroove::measured(QStyleOptionSlider option) const
+// From its picture, if it is kept.
+void SliderGroove::drawLayer(Layer layer, bool isKept, QImage &picture,
+                             const QStyleOptionSlider &option, QPainter *painter) const
 {
-    option.upsideDown = false; // a style can fill the left end
-    option.sliderPosition = option.minimum;
-    Shape shape;
-    shape.groove = rectOf(QStyle::SC_SliderGroove, option);
-    const QRect handle = rectOf(QStyle::SC_SliderHandle, option);
-    const QImage groovePicture = pictureOf(QStyle::SC_SliderGroove, option);
-    const QImage handlePicture = pictureOf(QStyle::SC_SliderHandle, option);
-    if (groovePicture.isNull() || handlePicture.isNull()) {
-        return shape;
+    if (!isKept) {
+        (this->*layer)(option, painter);
+        return;
     }
-    const qreal pixelRatio = groovePicture.devicePixelRatio();
-    const int height = groovePicture.height();
-    shape.hasBorder = 2 * visibleRows(groovePicture, groovePicture.width() / 2) > height;
-    shape.inside = shape.groove;
-    if (shape.hasBorder) {
-        shape.isFilledAtMinimum = groovePicture != groovePicture.mirrored(true, false);
-        const QPoint left(-1, 0);
-        const QPoint down(0, 1);
-        const QPoint topRight(groovePicture.width() - 1, 0);
-        const QPoint top(groovePicture.width() / 2, 0);
-        const int border =
-            qMin(othersBeforeMiddle(groovePicture, topRight + down * (height / 2), left, height),
-                 othersBeforeMiddle(groovePicture, top, down, height));
-        const int radius =
-            othersBeforeMiddle(groovePicture, topRight + (left + down) * border, left, height);
-        const qreal inset = border / pixelRatio;
-        shape.inside.adjust(inset, inset, -inset, -inset);
-        shape.radius = radius / pixelRatio;
-    } else {
-        // A bar of half the handle's height, which ends below the handle.
-        const int bar = qMin(shape.groove.height(), handle.height() / 2);
-        const QRectF way = handleWay(option);
-        shape.inside = QRectF(0, 0, way.width() + bar, bar);
-        shape.inside.moveCenter(QPointF(way.center().x(), QRectF(shape.groove).center().y()));
-        shape.radius = bar / 2.0;
+    if (picture.isNull()) {
+        picture = emptyPicture(m_pSlider->size(), m_dPixelRatio);
+        QPainter picturePainter(&picture);
+        (this->*layer)(option, &picturePainter);
     }
-
-    const int row = qBound(0, int((shape.inside.center().y() - handle.top()) * pixelRatio),
-                           handlePicture.height() - 1);
-    int first = 0;
-    int end = handlePicture.width();
-    while (first < end && !isVisible(handlePicture, first, row)) {
-        ++first;
-    }
-    while (first < end && !isVisible(handlePicture, end - 1, row)) {
-        --end;
-    }
-    shape.handleLeft = first / pixelRatio;
-    shape.handleRight = end / pixelRatio;
-    return shape;
+    painter->drawImage(0, 0, picture);
 }
 
-// From the middle of the handle at the minimum to the middle at the maximum; to the left in a
-// mirrored slider.
-QRectF SliderGroove::handleWay(const QStyleOptionSlider &option) const
-{
-    const qreal start = QRectF(handleAt(option.minimum, option)).center().x();
-    const qreal end = QRectF(handleAt(option.maximum, option)).center().x();
-    return {start, 0, end - start, 0};
-}
-
-// A style that fills the groove at the minimum draws each half with the handle at the other end.
-void SliderGroove::drawEmptyGroove(QStyleOptionSlider option, QPainter *painter) const
+// The empty groove. A style that fills the groove at the minimum draws each half with the handle
+// at the other end.
+void SliderGroove::drawGround(QStyleOptionSlider option, QPainter *painter) const
 {
     option.sliderPosition = option.minimum;
     option.sliderValue = option.minimum;
     if (!m_shape.isFilledAtMinimum) {
-        draw(m_shape.hasBorder ? QStyle::SC_SliderGroove : QStyle::SC_None, option, painter);
-        return;
+        drawSliderParts(*m_pSlider, m_shape.hasBorder ? QStyle::SC_SliderGroove : QStyle::SC_None,
+                        option, painter);
+    } else {
+        QRect half = m_pSlider->rect();
+        half.setRight(half.center().x());
+        for (const bool isLeft : {true, false}) {
+            option.upsideDown = isLeft;
+            painter->setClipRect(half);
+            drawSliderParts(*m_pSlider, QStyle::SC_SliderGroove, option, painter);
+            half.moveLeft(half.right() + 1);
+        }
+        painter->setClipping(false);
     }
-    QRect half = m_pSlider->rect();
-    half.setRight(half.center().x());
-    for (const bool isLeft : {true, false}) {
-        option.upsideDown = isLeft;
-        painter->setClipRect(half);
-        draw(QStyle::SC_SliderGroove, option, painter);
-        half.moveLeft(half.right() + 1);
+    const bool isOpaque = m_pColors != nullptr
+        ? m_pColors->colorsOf(m_pSlider).first().alpha() == 255
+        : m_brush.isOpaque();
+    if (!isOpaque) {
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setOpacity(m_pSlider->isEnabled() ? 1 : disabledOpacity);
+        painter->setBrushOrigin(m_shape.inside.topLeft());
+        painter->fillPath(insidePath(), checkerboard());
+        painter->restore();
     }
-    painter->setClipping(false);
 }
 
-void SliderGroove::fillGroove(const QStyleOptionSlider &option, QPainter *painter) const
+// Colours are computed pixel by pixel: a gradient would fill a table of colours before. Between
+// two pixels of a scaled screen there is a gradient nevertheless.
+void SliderGroove::drawColors(QPainter *painter) const
 {
-    QBrush filling = brushes != nullptr ? brushes->brushOf(m_pSlider) : brush;
     const QRectF inside = m_shape.inside;
-    QPainterPath path;
-    path.addRoundedRect(inside, m_shape.radius, m_shape.radius);
     painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
     painter->setOpacity(m_pSlider->isEnabled() ? 1 : disabledOpacity);
-    painter->setBrushOrigin(inside.topLeft());
-    if (!filling.isOpaque()) {
-        painter->fillPath(path, checkerboard());
+    QBrush filling = m_brush;
+    if (m_pColors != nullptr) {
+        const QVector<QColor> colors = m_pColors->colorsOf(m_pSlider);
+        if (!m_coverage.isNull()) {
+            painter->drawImage(inside.toAlignedRect().topLeft(), colorsPicture(colors));
+            painter->restore();
+            return;
+        }
+        QLinearGradient gradient(0, 0, 1, 0);
+        for (int i = 0; i < colors.size(); ++i) {
+            gradient.setColorAt(double(i) / double(colors.size() - 1), colors[i]);
+        }
+        filling = gradient;
     }
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setBrushOrigin(inside.topLeft());
     if (filling.gradient() != nullptr) {
         QGradient gradient = *filling.gradient();
         gradient.setCoordinateMode(QGradient::LogicalMode);
-        const QRectF way = handleWay(option);
         const QTransform own = filling.transform();
         filling = gradient;
         filling.setTransform(
-            own * QTransform(way.width(), 0, 0, inside.height(), way.left(), inside.top()));
+            own * QTransform(m_way.width(), 0, 0, inside.height(), m_way.left(), inside.top()));
         painter->setBrushOrigin(0, 0);
     }
-    painter->fillPath(path, filling);
-    if (!m_shape.hasBorder) {
-        painter->strokePath(path, QColor(128, 128, 128, 128)); // seen on white and on black
+    painter->fillPath(insidePath(), filling);
+    painter->restore();
+}
+
+QImage SliderGroove::colorsPicture(const QVector<QColor> &colors) const
+{
+    const int width = m_coverage.width();
+    std::vector<QRgb> stops;
+    for (const QColor &color : colors) {
+        stops.push_back(qPremultiply(color.rgba()));
+    }
+    if (m_way.width() < 0) {
+        std::reverse(stops.begin(), stops.end());
+    }
+    // In pixels. Every mouse move of a drag comes here, so that the loop has integers only.
+    const QRectF way = m_way.normalized();
+    const double start = (way.left() - m_shape.inside.toAlignedRect().left()) * m_dPixelRatio;
+    const double distance = qMax(1.0, way.width() * m_dPixelRatio) / double(stops.size() - 1);
+    constexpr int unit = 1 << 20;
+    const int step = int(unit / distance);
+    std::vector<QRgb> line(std::size_t(width), stops.front());
+    for (std::size_t i = 1; i < stops.size(); ++i) {
+        const double left = start + double(i - 1) * distance;
+        const int first = qBound(0, qRound(left), width);
+        const int end = qBound(0, qRound(left + distance), width);
+        int place = qMax(0, int((first + 0.5 - left) * unit / distance));
+        for (int x = first; x < end; ++x, place += step) {
+            line[std::size_t(x)] = mixed(stops[i - 1], stops[i], uint(place) / (unit / 256));
+        }
+        std::fill(line.begin() + end, line.end(), stops[i]);
     }
 
+    QImage picture(m_coverage.size(), QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(m_dPixelRatio);
+    const int corner = int(std::ceil(m_shape.radius * m_dPixelRatio)) + 1;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto *covered = reinterpret_cast<const QRgb *>(m_coverage.constScanLine(y));
+        auto *pixels = reinterpret_cast<QRgb *>(picture.scanLine(y));
+        std::copy(line.begin(), line.end(), pixels);
+        // The first and the last row can be covered in part.
+        const int edge =
+            qAlpha(covered[width / 2]) == 255 ? qMin(corner, width / 2) : width / 2 + 1;
+        for (int i = 0; i < edge; ++i) {
+            for (const int x : {i, width - 1 - i}) {
+                const int alpha = qAlpha(covered[x]);
+                pixels[x] = mixed(0, line[std::size_t(x)], uint(alpha + alpha / 128));
+            }
+        }
+    }
+    return picture;
+}
+
+void SliderGroove::drawCover(QStyleOptionSlider option, QPainter *painter) const
+{
+    const QRectF inside = m_shape.inside;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setOpacity(m_pSlider->isEnabled() ? 1 : disabledOpacity);
+    if (!m_shape.hasBorder) {
+        painter->strokePath(insidePath(), QColor(128, 128, 128, 128)); // seen on white and on black
+    }
     // A light and a dark line beside the handle: it is seen on each colour.
-    const QRect handle = rectOf(QStyle::SC_SliderHandle, option);
+    const QRect handle = sliderPartRect(*m_pSlider, QStyle::SC_SliderHandle, option);
     const QRectF visible(QPointF(handle.left() + m_shape.handleLeft, inside.top()),
                          QPointF(handle.left() + m_shape.handleRight, inside.bottom()));
     painter->fillRect(visible.adjusted(-2, 0, 2, 0) & inside, Qt::white);
     painter->fillRect(visible.adjusted(-1, 0, 1, 0) & inside, Qt::black);
     painter->restore();
+
+    drawTickMarks(*m_pSlider, option, m_way, painter);
+    option.state |= QStyle::State_Selected;
+    drawSliderParts(*m_pSlider, QStyle::SC_SliderHandle, option, painter);
 }
 
-// A styled groove has no tick marks.
-void SliderGroove::drawTicks(const QStyleOptionSlider &option, QPainter *painter) const
+// Three layers, of which the style draws the first and the last: when only the colours are
+// others, both come from pictures, and the first one does while the handle is dragged. A picture
+// is kept until the style draws the slider the next time.
+void SliderGroove::paint(QStyleOptionSlider option, const QRect &painted)
 {
-    if (option.tickPosition == QSlider::NoTicks) {
-        return;
-    }
-    constexpr int length = 4;
-    constexpr double leastDistance = 3;
-    const QRectF way = handleWay(option);
-    const double range = double(option.maximum) - option.minimum;
-    const int set = option.tickInterval > 0 ? option.tickInterval : option.pageStep;
-    const double least = leastDistance * range / qMax(1.0, std::abs(way.width()));
-    const double interval = qMax(1.0, qMax<double>(set, std::ceil(least)));
-    painter->setPen(m_pSlider->palette().color(QPalette::Mid));
-    const int ticks = int(range / interval);
-    for (int i = 0; i <= ticks; ++i) {
-        const int x = qRound(way.left() + way.width() * i * interval / qMax(1.0, range));
-        if ((option.tickPosition & QSlider::TicksAbove) != 0) {
-            painter->drawLine(x, option.rect.top(), x, option.rect.top() + length - 1);
-        }
-        if ((option.tickPosition & QSlider::TicksBelow) != 0) {
-            painter->drawLine(x, option.rect.bottom() - length + 1, x, option.rect.bottom());
-        }
-    }
-}
-
-void SliderGroove::paint(QStyleOptionSlider option)
-{
-    if (m_pSlider->isSliderDown()) {
+    const bool isDragged = m_pSlider->isSliderDown();
+    if (isDragged) {
         option.activeSubControls = QStyle::SC_SliderHandle;
         option.state |= QStyle::State_Sunken;
     } else {
         option.activeSubControls = m_hovered;
     }
-    const qreal pixelRatio = m_pSlider->devicePixelRatioF();
-    if (m_dPixelRatio != pixelRatio || m_shape.groove != rectOf(QStyle::SC_SliderGroove, option)) {
-        m_shape = measured(option);
-        m_dPixelRatio = pixelRatio;
+    const bool isColorsOnly =
+        m_pColors != nullptr && m_shape.inside.toAlignedRect().contains(painted);
+    const bool isGroundKept = isDrawnAlike(option) && (isColorsOnly || isDragged);
+    const bool isCoverKept = isGroundKept && isColorsOnly;
+    if (!isCoverKept) {
+        m_cover = QImage();
     }
+    if (!isGroundKept) {
+        m_ground = QImage();
+        measure(option);
+    }
+    // On a screen that is scaled to parts of pixels a picture would be blurred.
+    const bool isWhole = !m_coverage.isNull();
     QPainter painter(m_pSlider);
-    drawEmptyGroove(option, &painter);
-    fillGroove(option, &painter);
-    drawTicks(option, &painter);
-    option.state |= QStyle::State_Selected;
-    draw(QStyle::SC_SliderHandle, option, &painter);
+    drawLayer(&SliderGroove::drawGround, isWhole && isGroundKept, m_ground, option, &painter);
+    drawColors(&painter);
+    drawLayer(&SliderGroove::drawCover, isWhole && isCoverKept, m_cover, option, &painter);
 }
 
 } // namespace Internal

@@ -1,77 +1,87 @@
 #pragma once
 
-#include <QtCore/QRectF>
+#include "grooveshape_p.h"
+
+#include <QtCore/QVector>
 #include <QtGui/QBrush>
+#include <QtGui/QColor>
+#include <QtGui/QImage>
 #include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleOptionSlider>
 
 QT_BEGIN_NAMESPACE
 class QEvent;
-class QImage;
+class QHoverEvent;
 class QPainter;
+class QPainterPath;
 class QSlider;
-class QStyleOptionSlider;
 QT_END_NAMESPACE
 
 namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// The brushes in the grooves of sliders that depend on each other.
-class GrooveBrushes
+// The colours in the grooves of sliders that depend on each other.
+class GrooveColors
 {
 public:
-    virtual QBrush brushOf(const QSlider *slider) const = 0;
+    // At equal distances on the way of the handle, at least two.
+    virtual QVector<QColor> colorsOf(const QSlider *slider) const = 0;
     // The slider has another value or range.
     virtual void sliderChanged(const QSlider *slider) = 0;
 
 protected:
-    ~GrooveBrushes() = default;
+    ~GrooveColors() = default;
 };
 
-// Paints a slider with a brush in its groove. Style and style sheet paint the rest: the groove's
-// border, the handle, the focus.
+// Paints a slider with a brush or with colours in its groove. Style and style sheet paint the
+// rest: the groove's border, the handle, the focus.
 class SliderGroove
 {
 public:
     explicit SliderGroove(QSlider *slider);
 
-    QBrush brush; // the host's
-    GrooveBrushes *brushes = nullptr; // come before it
+    // The host's brush, and the colours that come before it.
+    void fill(const QBrush &brush, GrooveColors *colors);
+    const QBrush &brush() const { return m_brush; }
+    GrooveColors *colors() const { return m_pColors; }
+    // The colors() are others: repaints the inside of the groove.
+    void updateColors() const;
 
     // Called for each event that the slider has handled.
-    void follow(const QEvent *event, const QStyleOptionSlider &option);
-    void paint(QStyleOptionSlider option);
+    void follow(const QEvent *event);
+    void hover(const QHoverEvent &event, const QStyleOptionSlider &option);
+    void paint(QStyleOptionSlider option, const QRect &painted);
     // Called at the end, without which the slider keeps its own sheet.
     void removeSheet() const;
 
 private:
-    // Measured in the style's pictures of groove and handle. In logical pixels.
-    struct Shape
-    {
-        QRect groove; // with its border
-        QRectF inside;
-        qreal radius = 0; // of the corners of inside
-        bool hasBorder = false; // the style draws a groove of this height
-        bool isFilledAtMinimum = false; // the style draws the end before the handle otherwise
-        qreal handleLeft = 0; // the visible part of the handle, from the left edge of its rectangle
-        qreal handleRight = 0;
-    };
-
     void addSheet() const;
-    QRect rectOf(QStyle::SubControl part, const QStyleOptionSlider &option) const;
-    QRect handleAt(int position, QStyleOptionSlider option) const;
-    void draw(QStyle::SubControls parts, QStyleOptionSlider option, QPainter *painter) const;
-    QImage pictureOf(QStyle::SubControl part, QStyleOptionSlider option) const;
-    Shape measured(QStyleOptionSlider option) const;
-    QRectF handleWay(const QStyleOptionSlider &option) const;
-    void drawEmptyGroove(QStyleOptionSlider option, QPainter *painter) const;
-    void fillGroove(const QStyleOptionSlider &option, QPainter *painter) const;
-    void drawTicks(const QStyleOptionSlider &option, QPainter *painter) const;
+    void measure(const QStyleOptionSlider &option);
+    bool isDrawnAlike(const QStyleOptionSlider &option) const;
+    QPainterPath insidePath() const;
+    QImage coverage() const;
+    using Layer = void (SliderGroove::*)(QStyleOptionSlider option, QPainter *painter) const;
+    void drawLayer(Layer layer, bool isKept, QImage &picture, const QStyleOptionSlider &option,
+                   QPainter *painter) const;
+    void drawGround(QStyleOptionSlider option, QPainter *painter) const;
+    void drawColors(QPainter *painter) const;
+    void drawCover(QStyleOptionSlider option, QPainter *painter) const;
+    QImage colorsPicture(const QVector<QColor> &colors) const;
 
     QSlider *m_pSlider;
-    Shape m_shape;
+    QBrush m_brush;
+    GrooveColors *m_pColors = nullptr;
+    GrooveShape m_shape;
     qreal m_dPixelRatio = 0; // of the shape; 0 if it is to be measured again
     QStyle::SubControl m_hovered = QStyle::SC_None;
+
+    // As it was drawn by the style the last time, and the pictures that are kept of that.
+    QStyleOptionSlider m_option;
+    QRectF m_way;
+    QImage m_ground; // what lies below the colours
+    QImage m_cover; // what lies above them
+    QImage m_coverage; // of the pixels of inside, by the opacity
 };
 
 } // namespace Internal
