@@ -71,9 +71,9 @@ template <typename AnyUser> void readSlider(AnyUser &user)
 }
 
 // A menu of the program takes the release.
-template <typename AnyUser> void openMenu(AnyUser &user)
+template <typename AnyUser> void openMenu(AnyUser &user, const QString &focus)
 {
-    user.play("edits | autoRepeat");
+    user.play("edits | autoRepeat" + focus);
     User::pressAt(user.row.plus, user.row.plus->rect().center());
     QCOMPARE(user.heard(), QString("start"));
     user.play("pageMenu: end");
@@ -191,6 +191,8 @@ void tst_Edits::rows_data()
                 hold + "disable" + last + " | enable | move 70 | timer: stands | drop | shown: 40");
         addBoth(mode + "drag, dialog", hold + "dialog" + last + " | drop");
         addBoth(mode + "drag, menu", hold + "pageMenu" + last + " | timer: stands | drop");
+        addBoth(mode + "drag without focus, menu",
+                "noFocus | " + hold + "pageMenu" + last + " | timer: stands | drop");
         addBoth(mode + "drag, left", hold + "leave | drop" + last);
         addBoth(mode + "nothing dragged", mode + "hold: start | drop: end");
         addBoth(mode + "dropped where taken",
@@ -205,7 +207,8 @@ void tst_Edits::rows_data()
     for (const QString removal : {"hide", "hideSlider", "disable", "dialog"})
         addBoth("taken at the start of a drag, " + removal,
                 "sampled | inStart " + removal + " | hold 40: start end | timer: stands | drop");
-    addForBoth("menu over a button", [](auto &user) { openMenu(user); });
+    for (const QString focus : {"", " | noFocus"})
+        addForBoth("menu over a button" + focus, [focus](auto &user) { openMenu(user, focus); });
     addForBoth("repeated steps", [](auto &user) { repeat(user); });
     addForBoth("operated by a program", [](auto &user) { operateParts(user); });
     addForBoth("read by a screen reader", [](auto &user) { readSlider(user); });

@@ -190,6 +190,10 @@ void EditorUser::addGestures()
                                 step.row.spinBox->mapToGlobal(center));
         QApplication::sendEvent(step.row.spinBox, &event);
     });
+    on("noFocus", [](const Step &step) {
+        for (QWidget *part : std::initializer_list<QWidget *> {step.row.slider, step.row.plus})
+            part->setFocusPolicy(Qt::NoFocus);
+    });
     on("pageMenu", [this](const Step &) {
         QMenu menu(&page);
         menu.addAction("Save");

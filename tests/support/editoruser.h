@@ -96,6 +96,7 @@ private:
 //   compose 1, commit 12    what an input method shows in the field, and inserts
 //   replace 1 45            inserts 45 for the character before the cursor
 //   menu 07                 pastes by the field's own menu; pageMenu: opens one of the page
+//   noFocus                 slider and plus take no focus
 //   undo, redo              presses their keys
 //   up, down, left, right, home, end, escape press that key; press Del: any key
 //   held                    Enter again, as a key that is held repeats it

@@ -3,6 +3,8 @@
 #include "lostpointer_p.h"
 #include "slidereditframe_p.h"
 
+#include <QtCore/QEvent>
+
 namespace Vantor {
 namespace Widgets {
 
@@ -15,8 +17,12 @@ bool SliderEditButton::event(QEvent *event)
     }
     const Internal::EditSpan::Scope edit(Internal::EditSpan::around(this));
     const bool isHandled = QToolButton::event(event);
+    const bool isPress =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
     if (Internal::isPointerLostBy(event, this)) {
         letGo();
+    } else if (isPress && edit && isDown()) { // a receiver may have deleted the row
+        Internal::watchForPopup(this);
     }
     if (edit) {
         Internal::passFocus(this, event);

@@ -137,7 +137,13 @@ void SliderEditSlider::mousePressEvent(QMouseEvent *event)
     } else {
         m_drag->press(event);
     }
-    if (!edit || repeatAction() == SliderNoAction) {
+    if (!edit) {
+        return;
+    }
+    if (!m_isPointerTaken) {
+        Internal::watchForPopup(this);
+    }
+    if (repeatAction() == SliderNoAction) {
         return;
     }
     // A pressed groove repeats its page step. QSlider starts that after the first step, even
