@@ -57,7 +57,7 @@ protected:
     void leaveEvent(QEvent *event) override;
 
 private:
-    friend Internal::SliderDrag; // calls protected functions of QSlider
+    friend class Internal::SliderDrag; // calls protected functions of QSlider
 
     void releasePointer();
     void letGo(QMouseEvent *event);
