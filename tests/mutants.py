@@ -255,7 +255,7 @@ def main():
     print("== Building and testing without a fault", flush=True)
     # If only the shared library changes, the tests need not be linked again.
     subprocess.run(["cmake", "-S", ".", "-B", "build", "-G", "Ninja",
-                    "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS=-O0 -g0",
+                    "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0",
                     "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", "-DVANTORSLIDER_BUILD_EXAMPLES=OFF"],
                    cwd=source, check=True, stdout=subprocess.DEVNULL)
     if not builds(source, [], arguments.jobs):
