@@ -1,6 +1,9 @@
 #include <sbkpython.h>
 
-// The generated functions call it by the name of the function that it extends.
+// The generated functions call these by the names of the functions that they extend.
+#undef returnWrongArguments
+#undef returnWrongArguments_MinusOne
+#undef returnWrongArguments_Zero
 #undef setErrorAboutWrongArguments
 #include <shiboken.h>
 #include <signature.h>
@@ -34,14 +37,9 @@ PyObject *signatureOf(const std::string &function)
     return signature;
 }
 
-} // namespace
-
-namespace Shiboken {
-
 // The generator's message has the types of the arguments, and this one also their names.
-void setErrorNamingArguments(PyObject *arguments, const char *function, PyObject *info)
+void nameArguments(const std::string &function)
 {
-    setErrorAboutWrongArguments(arguments, function, info);
     PyObject *type = nullptr;
     PyObject *error = nullptr;
     PyObject *traceback = nullptr;
@@ -57,5 +55,53 @@ void setErrorNamingArguments(PyObject *arguments, const char *function, PyObject
     }
     PyErr_Restore(type, error, traceback);
 }
+
+} // namespace
+
+namespace Shiboken {
+
+#ifdef VANTORSLIDER_PYSIDE6
+
+namespace {
+
+// The function's name is without its class if there is a type.
+std::string fullName(const char *function, const Module::TypeInitStruct &type)
+{
+    return type.fullName ? std::string(type.fullName) + '.' + function : function;
+}
+
+} // namespace
+
+PyObject *returnErrorNamingArguments(PyObject *arguments, const char *function, PyObject *info,
+                                     Module::TypeInitStruct type)
+{
+    returnWrongArguments(arguments, function, info, type);
+    nameArguments(fullName(function, type));
+    return nullptr;
+}
+
+int returnErrorNamingArguments_MinusOne(PyObject *arguments, const char *function, PyObject *info,
+                                        Module::TypeInitStruct type)
+{
+    returnErrorNamingArguments(arguments, function, info, type);
+    return -1;
+}
+
+int returnErrorNamingArguments_Zero(PyObject *arguments, const char *function, PyObject *info,
+                                    Module::TypeInitStruct type)
+{
+    returnErrorNamingArguments(arguments, function, info, type);
+    return 0;
+}
+
+#else
+
+void setErrorNamingArguments(PyObject *arguments, const char *function, PyObject *info)
+{
+    setErrorAboutWrongArguments(arguments, function, info);
+    nameArguments(function);
+}
+
+#endif
 
 } // namespace Shiboken
