@@ -1,12 +1,10 @@
 import sys
 
-from PySide2.QtCore import QDir
 from PySide2.QtWidgets import QApplication
-from vantorslider import SliderEditFrame
+from vantorslider import EditorTheme, SliderEditFrame, applyTheme
 
 app = QApplication(sys.argv)
-QDir.addSearchPath("vantorslider", "/usr/share/vantorslider/styles")
-app.setStyleSheet("file:///vantorslider:touch-light.qss")
+applyTheme(app, EditorTheme.TouchLight)
 
 brightness = SliderEditFrame()
 brightness.setLabelText("Brightness")

@@ -21,9 +21,8 @@ PRINTED = {"minimal": "36\n", "adjust": "", "page": "36\n"}
 
 @pytest.fixture
 def program(request, tmp_path):
-    """A program as it is for the module under test, with the themes of the build."""
+    """A program as it is for the module under test."""
     text = PROGRAMS[request.param].replace("PySide2", PYSIDE)
-    text = text.replace("/usr/share/vantorslider/styles", os.environ["VANTORSLIDER_STYLES"])
     path = tmp_path / (request.param + ".py")
     path.write_text(text, encoding="utf-8")
     return path

@@ -65,7 +65,10 @@ class Hints:
         self.add_documentation(owner + name, indent + "    ")
         members = members_of(value)
         self.lines += [f"{indent}    {member} = {int_of(item)}" for member, item in members.items()]
-        self.lines += [""] + [f"{indent}{member} = {name}.{member}" for member in members]
+        scope = getattr(self.module, owner[:-1]) if owner else self.module
+        self.lines += [""] + [
+            f"{indent}{member} = {name}.{member}" for member in members if hasattr(scope, member)
+        ]
         if not owner and hasattr(self.module, name + "s"):
             self.lines.append(f"{name}s = {name}")
 
