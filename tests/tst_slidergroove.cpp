@@ -46,8 +46,8 @@ void dress(EditorUser &user)
     QFETCH_GLOBAL(QString, style);
     QFETCH_GLOBAL(QString, sheet);
     QFETCH_GLOBAL(Qt::LayoutDirection, direction);
+    user.page.setLayoutDirection(direction); // before the sheet, whose rules depend on it
     user.page.setStyleSheet(sheet);
-    user.page.setLayoutDirection(direction);
     for (const EditorRow &row : user.rows) {
         if (!style.isEmpty())
             row.slider->setStyle(QStyleFactory::create(style));
