@@ -17,9 +17,8 @@ CropPage::CropPage(PictureView *view, EditHistory *history, LogPane *log)
 
     connect(m_editor, &CropEditFrame::cropValueChanged, m_log,
             m_log->receiver(tr("Crop"), QStringLiteral("cropValueChanged")));
-    connect(m_editor, &CropEditFrame::cropValueChanged, this, [this] {
-        edit(tr("Crop"), [this](Edits &edits) { edits.crop = m_editor->crop(); });
-    });
+    connect(m_editor, &CropEditFrame::cropValueChanged, this,
+            [this] { edit(tr("Crop"), [this](Edits &edits) { edits.crop = m_editor->crop(); }); });
     connect(m_history, &EditHistory::restored, this,
             [this](const Edits &edits) { showCrop(edits.crop); });
 }
