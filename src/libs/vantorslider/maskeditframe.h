@@ -22,8 +22,8 @@ class MaskEditFramePrivate;
     connect(mask, &MaskEditFrame::maskValueChanged, source, &Source::setMask);
     \endcode
 
-    Call setMaskRange() first. The margins use the fields of RectEditFrame: top is X, bottom is Y,
-    left is Width and right is Height. A margin that the user changes is limited so that top plus
+    Call setMaskRange() first. The margins use the fields of RectEditFrame: Top is X, Bottom is Y,
+    Left is Width and Right is Height. A margin that the user changes is limited so that top plus
     bottom stay in the area's height, and left plus right in its width.
 
     Connect to maskValueChanged(). valueChanged() follows it and contains the changed margin before

@@ -73,6 +73,10 @@ public:
         Height = 16, //!< Height.
         Size = Width | Height, //!< Both of Width and Height.
         All = Position | Size, //!< All four.
+        Top = X, //!< The top margin of a MaskEditFrame. \since 1.1
+        Bottom = Y, //!< The bottom margin of a MaskEditFrame. \since 1.1
+        Left = Width, //!< The left margin of a MaskEditFrame. \since 1.1
+        Right = Height, //!< The right margin of a MaskEditFrame. \since 1.1
     };
 
     /*! How the size lock relates width and height. */
