@@ -9,7 +9,6 @@
 #include <QtWidgets/QToolButton>
 
 #include <memory>
-#include <optional>
 
 namespace Vantor {
 namespace Widgets {
@@ -70,8 +69,8 @@ private:
     std::unique_ptr<Internal::HostWindow> m_hostWindow;
     // Null without a brush.
     std::unique_ptr<Internal::SliderGroove> m_groove;
-    // Whether a sheet drops them; not known before they are drawn.
-    std::optional<bool> m_areTicksDropped;
+    // Whether a sheet drops the tick marks; not known before they are drawn.
+    enum { TicksUnknown, TicksDrawn, TicksDropped } m_ticks = TicksUnknown;
     // Null without options for the drag.
     std::unique_ptr<Internal::SliderDrag> m_drag;
 };

@@ -107,7 +107,7 @@ bool SliderEditSlider::event(QEvent *event)
         releasePointer();
     }
     if (event->type() == QEvent::StyleChange) {
-        m_areTicksDropped.reset();
+        m_ticks = TicksUnknown;
     }
     if (m_groove != nullptr) {
         m_groove->follow(event);
@@ -198,10 +198,11 @@ void SliderEditSlider::paintEvent(QPaintEvent *event)
         m_groove->paint(option, event->rect());
         return;
     }
-    if (!m_areTicksDropped.has_value()) {
-        m_areTicksDropped = Internal::areTickMarksDropped(*this, option);
+    if (m_ticks == TicksUnknown) {
+        const bool areDropped = Internal::areTickMarksDropped(*this, option);
+        m_ticks = areDropped ? TicksDropped : TicksDrawn;
     }
-    if (*m_areTicksDropped) {
+    if (m_ticks == TicksDropped) {
         QPainter painter(this);
         Internal::drawTickMarks(*this, option, Internal::handleWay(*this, option), &painter);
     }
