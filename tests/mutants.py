@@ -238,6 +238,8 @@ def main():
                         help="only the tests with such names, as for ctest")
     parser.add_argument("-j", dest="jobs", type=int, default=2)
     parser.add_argument("--json", type=pathlib.Path, metavar="FILE", help="the results once more")
+    parser.add_argument("--check", action="store_true",
+                        help="only whether each fault of mutants.txt has its place in the code")
     parser.add_argument("--random", type=int, metavar="COUNT",
                         help="so many faults at random places that compile")
     parser.add_argument("--seed", type=int, default=1, help="determines the random places")
@@ -247,6 +249,8 @@ def main():
     source = arguments.source
     mutants = (random_mutants(source, arguments.seed) if arguments.random
                else list(read_mutants(source)))
+    if arguments.check:
+        return 0
     for line in arguments.lines:
         if line not in (mutant.number for mutant in mutants):
             sys.exit(f"mutants.txt:{line}: no fault stands in this line")
