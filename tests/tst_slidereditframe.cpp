@@ -125,8 +125,6 @@ template <typename AnyUser> void compareSilence(AnyUser &user)
 void tst_SliderEditFrame::sequences_data()
 {
     QTest::addColumn<TestCode>("code");
-    const auto addInt = rowsAfter<SliderEditFrame>();
-    const auto addDouble = rowsAfter<SliderEditFrameDouble>();
     const auto addBoth = rowsOfBothAfter();
     addForBoth("setters", [](auto &user) { compareSetters(user); });
     addForBoth("silence", [](auto &user) { compareSilence(user); });
@@ -144,64 +142,12 @@ void tst_SliderEditFrame::sequences_data()
         QCoreApplication::sendEvent(user.frame, &event);
         QCOMPARE(user.heard(), QString());
     });
-    addBoth("a host's value in a drag", "sampled | hold | value 50 | drop | shown: 50");
-    const QString drag = " | hold 90 95 120 130: ";
-    const QString before = "range 0 200 | value 100 | direction ";
-    addBoth("allowed to bigger", before + "2 100" + drag + "100 100 120 130 | drop | shown: 130");
-    addBoth("no direction", before + "0 100" + drag + "90 95 100 100 | drop | shown: 100");
-    addBoth("a held value is reported on every attempt",
-            "direction 4 0 | plus: 0 | plus: 0 | shown: 0");
-    // The last value is the value passed to the setter, not the clamped one.
-    addBoth("a child's echo",
-            "value 200 | range 0 300 | singleStep 100 | focus | up | shown: "
-            "200/100 | down: 100 | shown: 100");
-    addBoth("a host's value replaces an entry", "type 5 | value 10 | shown: 10");
-    addBoth("a click selects the text", "click | selected: all");
     addForBoth("a click on the spin box's own edge selects the text", [](auto &user) {
         QTest::mouseClick(user.row.spinBox, Qt::LeftButton, {}, {user.row.spinBox->width() / 2, 1});
         user.play("selected: all");
     });
-    addBoth("the program leads into the field", "fieldFocus | selected: all");
-    addBoth("the program leads to the start of an entry", "type 5 | fieldFocus | selected: all");
-    addInt("a disabled field selects nothing",
-           "focus | disable: finished finished | selected: nothing");
-    addDouble("a disabled field selects nothing", "focus | disable | selected: nothing");
-    addBoth("a field that is gone selects nothing", "focus | delete");
-    addBoth("release mode alone stops repetition",
-            "repeating: no no | autoRepeat | repeating: yes yes | released | repeating: no no | "
-            "released off | repeating: yes yes | autoRepeat off | repeating: no no | sampled | "
-            "repeating: yes yes");
-    addBoth("wheel, disabled", "focus | wheel: page page");
-    addBoth("wheel", "wheel: page page | wheelEnabled | wheel: page page | focus | wheel: page 11");
-
-    // Positions are factors: 500 of 1,000 is the square root of 100,000. The handle reaches
-    // each position if the slider has as many pixels.
+    // The handle reaches each position if the slider has as many pixels.
     const QString scale = "width 3000 | range 1 100000 | scale logarithmic | ";
-    addBoth("logarithmic scale",
-            scale
-                + "ranges: 0..1000 | value 100000 | handle: 1000 | value 316 | handle: 500 | "
-                  "value 1 | handle: 0 | hold 500 1000 0: 316 100000 1 | drop | shown: 1");
-    addBoth("logarithmic: keys and groove move by positions",
-            scale
-                + "singleStep 7 | pageStep 100 | value 100 | groove after: 316 | right: 320 | "
-                  "groove before: 101 | plus: 108 | minus: 101 | scale linear | "
-                  "ranges: 1..100000 | handle: 101 | groove after: 201 | right: 208");
-    const QString decades = "width 3000 | range 1 1000000 | scale logarithmic | ";
-    addBoth("logarithmic: from beside an end to the end",
-            decades
-                + "value 996000 | handle: 999 | hold | drop | end: 1000000 | value 996000 | "
-                  "right: 1000000 | value 996000 | hold 1000: 1000000 | drop | shown: 1000000");
-    addDouble("logarithmic: from beside the minimum to the minimum",
-              decades + "decimals 5 | value 1.004 | handle: 1 | hold | drop | home: 1 | shown: 1");
-    addBoth("logarithmic: the program sets the value between two keys",
-            scale + "value 1 | hold | drop | right | value 1 | right | value 1 | handle: 2");
-    // Below 1.5 all positions are 1.
-    addBoth("logarithmic: many positions of one value",
-            scale
-                + "value 1 | hold 10 20 36: 2 | handle: 36 | move 50 | drop | handle: 50 | "
-                  "shown: 2 | hold | drop | shown: 2");
-    addBoth("logarithmic, sampled: a held handle stays where it is",
-            scale + "sampled | value 1 | hold 36 | handle: 36 | tick: 2 | tick | drop | shown: 2");
     for (const QString mode : {"", "released | ", "sampled | "}) {
         const bool isAtOnce = mode.isEmpty();
         addBoth("logarithmic: " + mode + "a value between two positions",
@@ -209,22 +155,6 @@ void tst_SliderEditFrame::sequences_data()
                     + (isAtOnce ? "hold 819 818: 12445 12345" : "hold 819 818")
                     + " | drop | shown: 12345 | plus: 12346 | minus: 12345");
     }
-    addBoth("logarithmic, released", scale + "released | hold 500 600 | drop: 1000 | shown: 1000");
-    addBoth("logarithmic, released where it was taken",
-            scale
-                + "released | value 1 | pageStep 20 | groove after | handle: 20 | hold 500 20 | "
-                  "drop | shown: 1");
-    addBoth("logarithmic, sampled",
-            scale
-                + "sampled | value 12345 | hold 500 600 | tick: 1000 | tick | move 818 | "
-                  "drop: 12345 | shown: 12345");
-    addBoth("logarithmic, allowed to smaller",
-            scale + "direction 4 500 | hold 600 700 400: 500 500 100 | drop | shown: 100");
-    addBoth("logarithmic: later ranges",
-            scale
-                + "value 100 | range 100 10000 | ranges: 0..1000 | handle: 0 | hold 500: 1000 | "
-                  "drop | maximum 1000 | handle: 1000 | minimum 10 | handle: 1000 | "
-                  "range 500 500 | ranges: 0..0 | shown: 500");
     const QString refused =
         ": warning: Set SliderEdit slider scale has failed. The minimum  0  is invalid. | ";
     addBoth("logarithmic: no range above 0",
@@ -237,45 +167,15 @@ void tst_SliderEditFrame::sequences_data()
         user.row.spinBox->setProperty("minimum", -5 * user.position);
         user.play("groove after: -5");
     });
-    addDouble("logarithmic: later decimals",
-              scale + "value 316 | decimals 3 | ranges: 0..1000 | handle: 500 | plus: 317");
-    addInt("sampled without release mode",
-           "sampled | released | hold 20 40 | tick | shown: 10 | drop: 40");
     for (const QString end : {"drop", "focus", "hideSlider", "disable", "leave"})
         addBoth("pressed until " + end,
                 "pressed: no | hold | pressed: yes | " + end + " | pressed: no");
-    addBoth("either bound",
-            "minimum 20 | bounds: 20..100 | ranges: 20..100 | maximum 90 | "
-            "bounds: 20..90 | ranges: 20..90");
-    addInt("minus at the minimum",
-           "singleStep 5 | value 5 | minus: 0 | value 3 | minus | shown: 3");
-    addInt("plus at the maximum",
-           "singleStep 5 | value 95 | plus: 100 | value 97 | plus | shown: 97");
-    const QString wide = "range -2147483648 2147483647 | singleStep 5 | value ";
-    addInt("minus past int", wide + "-2147483645 | minus | shown: -2147483645");
-    addInt("plus past int", wide + "2147483644 | plus | shown: 2147483644");
-
-    addDouble("10 to the power of 12 is no int",
-              "decimals 12 | range 0 100 | value 100 | shown: 100/2147483647");
-    addDouble(
-        "nine decimals, exact",
-        "options exact | decimals 9 | range 0 100 | value 10 | enter 0.100000001: 10.0000001 | "
-        "enter 0.100000002: 10.0000002");
-    addDouble("NaN changes nothing",
-              "value nan | range 0 nan | minimum nan | maximum nan | singleStep nan | "
-              "bounds: 0..100 | plus: 11 | shown: 11");
-    addDouble("a value that the field rounds",
-              "value 57 | type \t | shown: 57"); // 57 * 0.01 > 0.57
-    addDouble("the spin box follows in release mode",
-              "released | hold 20 40 | shown: 40 | drop: 40");
-    addDouble("plus at the maximum",
-              "singleStep 10 | value 90 | plus: 100 | value 95 | plus | shown: 95");
-    addDouble("minus onto the minimum", "singleStep 10 | minus: 0 | shown: 0");
-    // 0.2 + 0.1 is just above 0.3, 0.3 - 0.1 just below 0.2.
-    addDouble("plus within the tolerance",
-              "singleStep 10 | range 0 30 | value 20 | plus: 30 | shown: 30");
-    addDouble("minus without tolerance",
-              "singleStep 10 | range 20 99 | value 30 | minus | shown: 30");
+    addTable(DATA "/slidereditframe.txt",
+             {{"int", rowsAfter<SliderEditFrame>()},
+              {"double", rowsAfter<SliderEditFrameDouble>()},
+              {"both", addBoth},
+              {"log", rowsOfBothAfter(scale)},
+              {"logdouble", rowsAfter<SliderEditFrameDouble>(scale)}});
 }
 
 // Spin box and slider have the same interval, in whatever way the bounds are set.

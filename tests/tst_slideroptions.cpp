@@ -23,47 +23,16 @@ private Q_SLOTS:
 void tst_SliderOptions::rows_data()
 {
     QTest::addColumn<TestCode>("code");
-    const auto groove = rowsOfBothAfter("edits | sliderOptions groove | ");
-    groove("press on the groove", "pressAt 70: start 70 | move 80 60: 80 60 | drop: end");
-    groove("press on the groove, on release",
-           "released | pressAt 70: start | move 80 | drop: 80 end");
-    groove("click on the groove, on release", "released | pressAt 70: start | drop: 70 end");
-    groove("press on the groove, sampled",
-           "sampled | pressAt 70: start | tick: 70 | move 80 | drop: 80 end");
-    groove("press on the groove, limited", "direction 4 0 | pressAt 70: start 0 | drop: end");
-    groove("press on the handle", "hold: start | drop: end | hold 11: start 11 | drop: end");
-    groove("disabled by the report", "inReport disable | pressAt 70: start 70 end | drop");
-    groove("switched off", "sliderOptions | pressAt 70: start 20 | drop: end");
-    groove("the only value", "range 5 5 | pressAt 5 | drop");
-
     const auto flick = rowsOfBothAfter("edits | default 10 | sliderOptions flick | ");
     for (const QString place : {"handle", "70", "minus", "plus", "field", "label"}) {
         flick("flick on " + place, "touch " + place + " | swipe 4 -40 | lift | selected: nothing");
         flick("flick on " + place + " with a pending entry",
               "type 7: start | touch " + place + " | swipe -4 40 | lift");
     }
-    flick("drag",
-          "touch handle | swipe 0 4 | fingerTo 60 80: start 60 80 | swipe 0 90 | lift: end");
-    flick("tap on a button", "touch plus | lift: start 11 end");
-    flick("tap on the groove", "touch 70 | lift: start 20 end");
-    flick("tap on the field", "touch field | lift | selected: all");
-    flick("double tap on the label",
-          "value 50 | touch label | lift | touch label | lift: start 10 end");
-    flick("rest on the handle",
-          "touch handle | rest: start | swipe 0 -90 | fingerTo 30: 30 | lift: end");
-    flick("rest on a button", "touch minus | rest: start | lift: 9 end");
-    flick("hidden meanwhile", "touch plus | hide | show | lift");
-    flick("disabled meanwhile",
-          "touch 70 | disable | enable | lift | touch plus | lift: start 11 end");
-    flick("mouse", "plus: start 11 end | hold: start | move 60: 60 | drop: end");
-    flick("switched off", "sliderOptions | touch plus: start | lift: 11 end");
-    flick("second finger",
-          "touch handle | fingerTo 30: start 30 | touch2 plus | fingerTo 40: 40 | "
-          "lift2 | touch2 field | lift2 | lift: end | selected: nothing");
-    const auto both = rowsOfBothAfter("edits | sliderOptions groove fine flick | ");
-    both("flick on the groove", "touch 70 | swipe 0 -40 | lift");
-    both("drag from the groove", "touch 70 | fingerTo 80 60: start 70 80 60 | lift: end");
-    both("tap on the groove", "released | touch 70 | lift: start 70 end");
+    addTable(DATA "/slideroptions.txt",
+             {{"groove", rowsOfBothAfter("edits | sliderOptions groove | ")},
+              {"flick", flick},
+              {"all", rowsOfBothAfter("edits | sliderOptions groove fine flick | ")}});
     addForBoth("held button repeats", [](auto &user) {
         user.performAll("sliderOptions flick | autoRepeat | touch plus | rest");
         QVERIFY(comesTrue([&] { return user.row.slider->value() > 12; }));

@@ -529,7 +529,9 @@ void addTable(const QString &path, const QMap<QString, AddRow> &kinds)
             continue;
         const QString first = lines.takeFirst(), kind = first.section(' ', 0, 0);
         QVERIFY2(kinds.contains(kind), qPrintable(first));
-        kinds[kind](first.section(' ', 1),
-                    lines.join(' ').simplified().replace("\\n", "\n").replace("\\t", "\t"));
+        QString steps = lines.join(' ').simplified();
+        for (const QString sign : {"n\n", "t\t", "b\b", "s "})
+            steps.replace('\\' + sign.left(1), sign.mid(1));
+        kinds[kind](first.section(' ', 1), steps);
     }
 }

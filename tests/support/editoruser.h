@@ -253,6 +253,7 @@ inline auto rowsOfBothAfter(const QString &start = {})
 }
 
 // Adds the rows of a file to a kind of editor each. A row is a kind and a name and, below,
-// indented, its steps. "\n" is Enter, "\t" Tab; a line that begins with "#" is a comment.
+// indented, its steps. "\n" is Enter, "\t" Tab, "\b" Backspace and "\s" a space that counts; a line
+// that begins with "#" is a comment.
 using AddRow = std::function<void(const QString &name, const QString &steps)>;
 void addTable(const QString &path, const QMap<QString, AddRow> &kinds);
