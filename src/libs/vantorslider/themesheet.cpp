@@ -94,7 +94,7 @@ QString rulesOfHost(QString sheet)
 
 QString withTheme(QString sheet, EditorTheme theme, const ThemeSurroundings &surroundings)
 {
-    const QString host = rulesOfHost(std::move(sheet));
+    QString host = rulesOfHost(std::move(sheet));
     if (theme == EditorTheme::NoTheme) {
         return host;
     }
