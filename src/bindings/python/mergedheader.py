@@ -10,6 +10,8 @@ import re
 import sys
 
 OPENED = "namespace Vantor {\nnamespace Widgets {\n"
+# The headers only declare these; the generator needs their definitions.
+DEFINED = "#include <QtWidgets/QApplication>\n"
 CLOSED = "} // namespace Widgets\n} // namespace Vantor\n"
 OWN_INCLUDE = re.compile(r'#include "(\w+\.h)"\n')
 
@@ -33,7 +35,7 @@ def main(paths, output):
     for name in list(by_name):
         add(name)
     with open(output, "w", encoding="utf-8") as merged:
-        merged.write("".join(heads) + OPENED + "".join(bodies) + CLOSED)
+        merged.write("".join(heads) + DEFINED + OPENED + "".join(bodies) + CLOSED)
 
 
 main(sys.argv[1:-1], sys.argv[-1])
