@@ -169,7 +169,7 @@ template <typename Editor> void addComposite()
     const auto add = [](const QString &steps, const QVector<int> &expected) {
         ::add<Editor>(false, 0, steps, expected);
     };
-    const int fields = Editor().template findChildren<SliderEditFrame *>().size();
+    const int fields = int(Editor().template findChildren<SliderEditFrame *>().size());
     const QString all =
         QString("key 7 Tab 12*3 Tab 9 Tab 10").section(' ', 0, 2 * fields - 1) + ' ';
     for (const QString end : {"Tab", "Enter", "cell", "beside", "program"})
