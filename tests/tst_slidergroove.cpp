@@ -4,6 +4,7 @@
 #include "rgbopacityeditframe.h"
 
 #include <QtCore/QDir>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleFactory>
 
 #include <cmath>
@@ -49,8 +50,11 @@ void dress(EditorUser &user)
     user.page.setLayoutDirection(direction); // before the sheet, whose rules depend on it
     user.page.setStyleSheet(sheet);
     for (const EditorRow &row : user.rows) {
-        if (!style.isEmpty())
-            row.slider->setStyle(QStyleFactory::create(style));
+        if (style.isEmpty())
+            continue;
+        QStyle *const own = QStyleFactory::create(style);
+        own->setParent(row.slider); // a widget does not own its style
+        row.slider->setStyle(own);
     }
     user.page.resize(500, 100);
     QCoreApplication::processEvents();
@@ -93,8 +97,9 @@ void verifyColor(const EditorRow &row, int position, const QColor &expected)
 {
     const QColor actual = colorAt(row, position);
     const auto isOver = [&](int field) {
+        const double alpha = expected.alphaF();
         const auto mixed = [&](int channel) {
-            return qRound(expected.alphaF() * channel + (1 - expected.alphaF()) * field);
+            return qRound(alpha * channel + (1 - alpha) * field);
         };
         const QColor color(mixed(expected.red()), mixed(expected.green()), mixed(expected.blue()));
         return difference(actual, color) <= 5;
@@ -272,7 +277,8 @@ void tst_SliderGroove::channels_data()
                         QCOMPARE(pictureOf(row), plain[i]);
                     else
                         verifyColor(row, positionAt(row, share),
-                                    QColor::fromRgbF(mixed[0], mixed[1], mixed[2], alpha));
+                                    QColor::fromRgbF(float(mixed[0]), float(mixed[1]),
+                                                     float(mixed[2]), float(alpha)));
                 }
             }
             user.frame->setColoredGrooves(false);
