@@ -19,6 +19,7 @@ private Q_SLOTS:
     void looks_data();
     void looks() { runTestCode(); }
     void deletedWindow();
+    void removedByItsWindow();
     void cleanup();
 
 private:
@@ -215,6 +216,19 @@ void tst_ApplyTheme::looks_data()
             target.setSheet(target.sheet() + "#spinBox { min-width: 120px; max-width: 120px; }");
         });
     }
+}
+
+// By a part of a window that is being destroyed, some of whose editors are already deleted.
+void tst_ApplyTheme::removedByItsWindow()
+{
+    Panel other;
+    auto *panel = new Panel;
+    applyTheme(qApp, EditorTheme::Desktop);
+    auto *const part = new QObject(&panel->window);
+    connect(part, &QObject::destroyed, qApp, [] { applyTheme(qApp, EditorTheme::NoTheme); });
+    panel->picture();
+    delete panel;
+    QCOMPARE(other.picture(), Panel().picture());
 }
 
 // With a change that is not yet applied.

@@ -51,11 +51,7 @@ void ThemeKeeper::setTheme(EditorTheme theme)
     if (theme != m_theme && m_theme != EditorTheme::NoTheme) {
         m_theme = EditorTheme::NoTheme;
         apply();
-        const QWidgetList roots =
-            m_widget != nullptr ? QWidgetList {m_widget} : QApplication::topLevelWidgets();
-        for (QWidget *root : roots) {
-            restoreForms(root);
-        }
+        restoreForms(m_widget);
     }
     m_theme = theme;
     parent()->removeEventFilter(this);

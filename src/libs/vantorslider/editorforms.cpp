@@ -5,6 +5,7 @@
 #include "slidereditframe.h"
 #include "slidereditframedouble.h"
 
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QToolButton>
 
@@ -27,13 +28,25 @@ void restore(QWidget *child, const QWidget *ofForm)
     }
 }
 
-// The children have their names in all editors of the class. In the rows of a composite editor they
-// have the same ones, and the same sizes.
-template <typename Editor> void restoreFormsOf(QWidget *root)
+bool isIn(const QWidget *root, const QWidget *widget)
 {
-    QList<Editor *> editors = root->findChildren<Editor *>();
-    if (auto *const editor = qobject_cast<Editor *>(root)) {
-        editors.append(editor);
+    while (widget != nullptr && widget != root) {
+        widget = widget->parentWidget();
+    }
+    return widget == root;
+}
+
+// The children have their names in all editors of the class. In the rows of a composite editor they
+// have the same ones, and the same sizes. A window that is being destroyed may not be asked for its
+// children: some of them are deleted.
+template <typename Editor> void restoreFormsOf(const QWidget *root)
+{
+    QList<Editor *> editors;
+    for (QWidget *widget : QApplication::allWidgets()) {
+        auto *const editor = qobject_cast<Editor *>(widget);
+        if (editor != nullptr && isIn(root, editor)) {
+            editors.append(editor);
+        }
     }
     if (editors.isEmpty()) {
         return;
@@ -52,7 +65,7 @@ template <typename Editor> void restoreFormsOf(QWidget *root)
 
 } // namespace
 
-void restoreForms(QWidget *root)
+void restoreForms(const QWidget *root)
 {
     restoreFormsOf<SliderEditFrame>(root);
     restoreFormsOf<SliderEditFrameDouble>(root);

@@ -10,10 +10,10 @@ namespace Vantor {
 namespace Widgets {
 namespace Internal {
 
-// Gives the children of all editors in the widget the sizes and texts of their forms again. A style
-// sheet replaces them, and Qt does not restore them when it is removed. Labels are left alone:
-// their widths are those of their texts.
-void restoreForms(QWidget *root);
+// Gives the children of all editors in the widget, or of all editors there are if it is null, the
+// sizes and texts of their forms again. A style sheet replaces them, and Qt does not restore them
+// when it is removed. Labels are left alone: their widths are those of their texts.
+void restoreForms(const QWidget *root);
 
 } // namespace Internal
 } // namespace Widgets
