@@ -1,5 +1,5 @@
 #include "alignfields.h"
-#include "editoruser.h"
+#include "columnchange.h"
 #include "rgbeditframe.h"
 
 #include <QtCore/QDir>
@@ -97,28 +97,6 @@ struct Panel
     RGBEditFrame *const rgb = new RGBEditFrame;
 };
 
-using Change = std::function<void(Panel &)>;
-
-// The width then changes in that direction, in a panel that is visible and in one that is
-// shown later.
-void compareWidths(int direction, const Change &change)
-{
-    for (const bool isShownFirst : {true, false}) {
-        Panel panel;
-        QVERIFY(User::show(panel.page));
-        const int before = panel.width();
-        QVERIFY(before > 0);
-        if (!isShownFirst)
-            panel.page.hide();
-        change(panel);
-        panel.page.show();
-        QVERIFY(comesTrue([&] {
-            const int after = panel.width();
-            return after > 0 && (after > before) - (after < before) == direction;
-        }));
-    }
-}
-
 struct Range
 {
     double min, max;
@@ -208,9 +186,7 @@ void tst_AlignFields::fits()
 void tst_AlignFields::column_data()
 {
     QTest::addColumn<TestCode>("code");
-    const auto add = [](const char *name, int direction, const Change &change) {
-        QTest::newRow(name) << TestCode([=] { compareWidths(direction, change); });
-    };
+    const auto add = addChange<Panel>;
     add("longer range", 1, [](Panel &p) { p.gain->setRange(0, 12345678); });
     add("longer range of a composite", 1,
         [](Panel &p) { p.rgb->setRange(RGBEditFrame::G, -12345678, 0); });

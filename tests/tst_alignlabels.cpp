@@ -1,5 +1,5 @@
 #include "alignlabels.h"
-#include "editoruser.h"
+#include "columnchange.h"
 #include "rgbeditframe.h"
 
 #include <QtCore/QPointer>
@@ -87,28 +87,6 @@ struct Panel
     QScrollArea *const area = new QScrollArea;
 };
 
-using Change = std::function<void(Panel &)>;
-
-// The width then changes in that direction, in a panel that is visible and in one that is
-// shown later.
-void compareWidths(int direction, const Change &change)
-{
-    for (const bool isShownFirst : {true, false}) {
-        Panel panel;
-        QVERIFY(User::show(panel.page));
-        const int before = panel.width();
-        QVERIFY(before > 0);
-        if (!isShownFirst)
-            panel.page.hide();
-        change(panel);
-        panel.page.show();
-        QVERIFY(comesTrue([&] {
-            const int after = panel.width();
-            return after > 0 && (after > before) - (after < before) == direction;
-        }));
-    }
-}
-
 QWidget *widerRow()
 {
     auto *row = new SliderEditFrame;
@@ -116,15 +94,10 @@ QWidget *widerRow()
     return row;
 }
 
-void addRow(const char *name, int direction, const Change &change)
-{
-    QTest::newRow(name) << TestCode([=] { compareWidths(direction, change); });
-}
-
 // A row is put into a widget that was empty when the labels were aligned last.
 template <typename Widget, typename Put> void addPlace(const char *name, const Put &put)
 {
-    addRow(name, 1, [put](Panel &p) {
+    addChange<Panel>(name, 1, [put](Panel &p) {
         auto *const place = new Widget;
         p.page.layout()->addWidget(place);
         for (int i = 0; i < 4; ++i)
@@ -138,7 +111,7 @@ template <typename Widget, typename Put> void addPlace(const char *name, const P
 void tst_AlignLabels::column_data()
 {
     QTest::addColumn<TestCode>("code");
-    const auto add = addRow;
+    const auto add = addChange<Panel>;
     addPlace<QScrollArea>("scroll area", [](auto *area, QWidget *row) { area->setWidget(row); });
     addPlace<QToolBox>("tool box", [](auto *box, QWidget *row) { box->addItem(row, "Item"); });
     addPlace<QStackedWidget>("stack", [](auto *stack, QWidget *row) { stack->addWidget(row); });
