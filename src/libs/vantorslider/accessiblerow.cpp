@@ -8,9 +8,7 @@
 #include <QtGui/QAccessible>
 #include <QtWidgets/QAccessibleWidget>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -119,6 +117,4 @@ void provideAccessibleRows()
     static const AccessibleFactory factory;
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

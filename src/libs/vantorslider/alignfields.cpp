@@ -13,8 +13,7 @@
 
 #include <algorithm>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 namespace Internal {
 
 namespace {
@@ -227,7 +226,6 @@ void alignFields(QWidget *panel)
     }
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets
 
 #include "alignfields.moc"

@@ -10,8 +10,7 @@
 
 #include <vector>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 namespace Internal {
 
 namespace {
@@ -117,7 +116,6 @@ void alignLabels(QWidget *panel, Qt::Alignment alignment)
     column->update();
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets
 
 #include "alignlabels.moc"

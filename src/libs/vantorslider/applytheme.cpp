@@ -8,8 +8,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 namespace Internal {
 
 // Keeps a theme in the style sheet of the application or of a widget, which owns this object.
@@ -160,7 +159,6 @@ void applyTheme(QWidget *widget, EditorTheme theme)
     }
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets
 
 #include "applytheme.moc"

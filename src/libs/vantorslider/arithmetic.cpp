@@ -3,9 +3,7 @@
 #include <array>
 #include <vector>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -142,6 +140,4 @@ QString withDecimalPoints(const QString &text)
     return result;
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -3,9 +3,7 @@
 #include <QtCore/QRegularExpression>
 #include <QtCore/QString>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // The tokens of an expression, as ECMAScript splits it. The time is linear in its length.
 class ArithmeticTokens
@@ -51,6 +49,4 @@ bool isArithmetic(const QString &text);
 // The text with each comma replaced by a point, except between the arguments of a function.
 QString withDecimalPoints(const QString &text);
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -4,9 +4,7 @@
 
 #include <regex>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // The four regular expressions of the calculator, compiled once for the process; each line edit has
 // copies of them. The filter runs on each keystroke, so it tests a single character, which two of
@@ -67,6 +65,4 @@ struct CalculatorPatterns
     const std::regex letters {"^[\u4e00-\u9fa5a-zA-Z]+$"};
 };
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -4,9 +4,7 @@
 
 #include <QtCore/QChildEvent>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 void setUpCalculatorSpinBox(QAbstractSpinBox *spinBox, const QString &keyboard)
 {
@@ -46,6 +44,4 @@ void forgetIfRemoved(LineEditCal *&calculator, const QChildEvent *event)
     }
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -16,9 +16,7 @@
 #include <cmath>
 #include <optional>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // What the two calculator spin boxes share; they have no common base class of this library.
 
@@ -357,6 +355,4 @@ void handleChange(QAbstractSpinBox *spinBox, const LineEditCal *calculator, cons
     }
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

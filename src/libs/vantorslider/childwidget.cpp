@@ -5,9 +5,7 @@
 #include <QtCore/QVariant>
 #include <QtWidgets/QStyle>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -114,8 +112,6 @@ void applyStyleSheet(QWidget *child)
     }
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal
 
 #include "childwidget.moc"

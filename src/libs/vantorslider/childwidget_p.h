@@ -4,9 +4,7 @@
 
 #include <algorithm>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // Setters for a child of an editor. A style sheet sets its widths when the widget is polished,
 // and a later setter would override them. These functions have the same result in any order,
@@ -40,6 +38,4 @@ void fieldTextsChanged(QWidget *field);
 // nothing without a style sheet.
 void applyStyleSheet(QWidget *child);
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -5,9 +5,7 @@
 #include <QtGui/QColor>
 #include <QtGui/QRgba64>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // A row as a channel of a QColor: its minimum is 0, its maximum the full channel. The 16 bits of
 // a QColor's channel keep the values of every range up to 65,535 steps.
@@ -26,6 +24,4 @@ inline void setChannel(SliderEditFrame &row, quint16 channel)
     row.setValue(static_cast<int>(value));
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -7,9 +7,7 @@
 
 #include <array>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -84,6 +82,4 @@ void ColorGrooves::sliderChanged(const QSlider *slider)
     }
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -6,8 +6,7 @@
 
 #include <vector>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 class SliderEditFrame;
 class SliderEditSlider;
@@ -39,5 +38,4 @@ private:
 };
 
 } // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets

@@ -5,8 +5,7 @@
 #include "saturation_p.h"
 #include "slidereditframe.h"
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 namespace Internal {
 
@@ -159,7 +158,6 @@ void CropEditFrame::setValue(const QRect &rect)
     RectEditFrame::setValue(rect);
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets
 
 #include "cropeditframe.moc"

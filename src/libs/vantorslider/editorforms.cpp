@@ -11,9 +11,7 @@
 
 #include <utility>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -72,6 +70,4 @@ void restoreForms(const QWidget *root)
     restoreFormsOf<RectEditFrame>(root);
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

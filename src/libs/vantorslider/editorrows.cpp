@@ -10,9 +10,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // QDebug adds a space on each side of the number, beside the one of each text.
 SliderEditFrame *EditorRows::findOrWarn(int type, const QMessageLogger &here,
@@ -110,6 +108,4 @@ void setSpacerExpanding(QSpacerItem *spacer, bool isExpanding)
     }
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -13,9 +13,7 @@ class QFontMetrics;
 class QSpacerItem;
 QT_END_NAMESPACE
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // The origin of a warning: file, line and signature of a public function. It must be used in that
 // function itself, because Q_FUNC_INFO names the enclosing function.
@@ -83,6 +81,4 @@ int labelWidth(const SliderEditFrame &row, const QFontMetrics &metrics);
 // Gives the spare height to the spacer below the rows, or to the rows.
 void setSpacerExpanding(QSpacerItem *spacer, bool isExpanding);
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -6,9 +6,7 @@
 
 #include <algorithm>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -160,6 +158,4 @@ void EditSpan::Scope::release(Keeper keeper)
     }
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -11,9 +11,7 @@ QT_BEGIN_NAMESPACE
 class QWidget;
 QT_END_NAMESPACE
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // One edit by the user, from editStarted() to editFinished(). Each editor has an EditSpan; the
 // edit of a composite editor lasts as long as that of any of its rows.
@@ -108,6 +106,4 @@ private:
     Scope *m_outer = nullptr;
 };
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

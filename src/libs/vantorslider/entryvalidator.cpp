@@ -2,9 +2,7 @@
 
 #include "qlineeditcal.h"
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -40,6 +38,4 @@ QValidator::State EntryValidator::validate(QString &text, int &cursor) const
     return state;
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -3,8 +3,7 @@
 #include <QtCore/QPointer>
 #include <QtGui/QValidator>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 class LineEditCal;
 
@@ -30,5 +29,4 @@ private:
 };
 
 } // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets

@@ -8,9 +8,7 @@
 
 #include <algorithm>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -52,6 +50,4 @@ std::optional<QString> evaluateExpression(const QString &expression)
     return result;
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -7,9 +7,7 @@
 
 #include <utility>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // Prefix and suffix of a spin box of any class. Each key in a field reads them, and to find a
 // property by its name costs more than to read it: the properties of the last class are kept.
@@ -64,6 +62,4 @@ struct FieldText : Unit
     QString entry;
 };
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -12,9 +12,7 @@
 
 #include <utility>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -320,6 +318,4 @@ void FlickFilter::setHiddenFromTouch(bool isHidden)
     }
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

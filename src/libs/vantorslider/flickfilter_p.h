@@ -16,9 +16,7 @@ class QWidget;
 class QWindow;
 QT_END_NAMESPACE
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // The option FlickScrolls of a row. Qt makes mouse events of a touch that no widget accepts. This
 // filter of the row's window holds the press back until the finger has moved along, has rested or
@@ -68,6 +66,4 @@ private:
     bool m_isDrivingScroller = false;
 };
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -6,9 +6,7 @@
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QStyleOptionSlider>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -112,6 +110,4 @@ GrooveShape measuredGroove(const QSlider &slider, QStyleOptionSlider option)
     return shape;
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -7,9 +7,7 @@ class QSlider;
 class QStyleOptionSlider;
 QT_END_NAMESPACE
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // Measured in the style's pictures of groove and handle. In logical pixels.
 struct GrooveShape
@@ -25,6 +23,4 @@ struct GrooveShape
 
 GrooveShape measuredGroove(const QSlider &slider, QStyleOptionSlider option);
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

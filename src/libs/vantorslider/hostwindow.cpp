@@ -3,9 +3,7 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // A host may show its window in a constructor; its dynamic type changes after that.
 void HostWindow::rememberNowAndSoon()
@@ -34,6 +32,4 @@ bool HostWindow::isBeingDestroyed() const
     return next == nullptr || (next == &window && &window != m_widget);
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

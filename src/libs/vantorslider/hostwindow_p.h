@@ -8,9 +8,7 @@ QT_BEGIN_NAMESPACE
 class QWidget;
 QT_END_NAMESPACE
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // Detects that the window of a widget is being destroyed. Qt then hides the window and clears its
 // focus, and its children would report a pending entry or drag. The destructor of the host's
@@ -33,6 +31,4 @@ private:
     const std::type_info *m_type = nullptr;
 };
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

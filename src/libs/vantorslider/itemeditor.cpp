@@ -5,9 +5,7 @@
 #include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QApplication>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -157,6 +155,4 @@ bool ItemEditorFilter::eventFilter(QObject *watched, QEvent *event)
     return passKey(widget, event);
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -4,9 +4,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QWidget>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // A field in an editor that a delegate of an item view has created, or as that editor. The delegate
 // takes the value when it sees a key or a loss of focus of the editor. As the editor, the field
@@ -61,6 +59,4 @@ auto committed(Editor *editor, Getter getter) -> decltype((editor->*getter)())
     return self ? (editor->*getter)() : decltype((editor->*getter)())();
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

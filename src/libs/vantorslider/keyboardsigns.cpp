@@ -6,9 +6,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -114,6 +112,4 @@ void commitInAscii(QInputMethodEvent *event)
                            event->replacementLength());
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

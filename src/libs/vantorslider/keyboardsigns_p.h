@@ -8,9 +8,7 @@ class QInputMethodEvent;
 class QLineEdit;
 QT_END_NAMESPACE
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // Whether the event is a key, or a key of an input method, that types one character.
 bool isTypedKey(const QEvent *event);
@@ -26,6 +24,4 @@ void retypeInAscii(QLineEdit *field);
 // The same for what an input method is about to insert. The composition continues.
 void commitInAscii(QInputMethodEvent *event);
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -1,11 +1,9 @@
 #include "layouteditframe.h"
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 LayoutEditFrame::LayoutEditFrame(QWidget *parent) : RectEditFrame(parent) { }
 
 LayoutEditFrame::~LayoutEditFrame() = default;
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets

@@ -8,9 +8,7 @@
 
 #include <tuple>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 void LimitedFields::watchRows()
 {
@@ -67,6 +65,4 @@ bool LimitedFields::limitAndShow(const LimitedPair &pair, int val)
     return isChange;
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

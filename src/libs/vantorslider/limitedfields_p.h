@@ -4,9 +4,7 @@
 
 #include <QtCore/QObject>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // The four fields in order: x, y, width and height of a crop, or top, bottom, left and right
 // margin of a mask.
@@ -72,6 +70,4 @@ private:
     FieldValues m_last;
 };
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

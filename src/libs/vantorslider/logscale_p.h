@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // The last position of a logarithmic slider, for the maximum. Position 0 is the minimum; the value
 // grows by the same factor at each position. No other value has one of these two positions: from
@@ -37,6 +35,4 @@ inline double logValue(int position, double least, double greatest)
     return least * std::pow(greatest / least, double(position) / lastLogPosition);
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

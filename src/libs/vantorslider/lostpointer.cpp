@@ -4,9 +4,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -73,6 +71,4 @@ void watchForPopup(QWidget *pressed)
     }
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -7,9 +7,7 @@ class QEvent;
 class QWidget;
 QT_END_NAMESPACE
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // Whether a pressed widget that receives this event will receive no release: it is hidden or
 // disabled, or a modal dialog or a menu, another popup, receives the release instead. Only the
@@ -19,6 +17,4 @@ bool isPointerLostBy(const QEvent *event, const QWidget *pressed);
 // Tells a pressed widget without the focus, too, until its release.
 void watchForPopup(QWidget *pressed);
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

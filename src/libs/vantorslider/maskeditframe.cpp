@@ -10,8 +10,7 @@
 Q_DECLARE_METATYPE(QMargins)
 #endif
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 namespace Internal {
 
@@ -165,7 +164,6 @@ void MaskEditFrame::setRange(Type type, int min, int max)
     RectEditFrame::setRange(type, min, max);
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets
 
 #include "maskeditframe.moc"

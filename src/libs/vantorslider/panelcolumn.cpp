@@ -8,9 +8,7 @@
 
 #include <algorithm>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -119,6 +117,4 @@ bool PanelColumn::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -4,9 +4,7 @@
 
 #include <vector>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // A column of the rows in a host's panel, which owns this object. It watches the panel and the
 // widgets in it, and aligns the column again after each change: before anything is painted, and
@@ -53,6 +51,4 @@ template <typename Column> Column *columnOf(QWidget *panel)
     return column != nullptr ? column : new Column(panel);
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -20,8 +20,7 @@
 #include <cmath>
 #include <utility>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 using Internal::CalculatorPatterns;
 using Internal::FieldText;
@@ -440,5 +439,4 @@ void LineEditCal::setShownEntry(const QString &entry)
     setResultText(FieldText(parent(), text()).with(entry));
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets

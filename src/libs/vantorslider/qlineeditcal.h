@@ -10,8 +10,7 @@
 #include <regex>
 #include <vector>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 namespace Internal {
 class EntryValidator;
@@ -137,5 +136,4 @@ private:
     std::unique_ptr<Internal::EntryValidator> m_entryValidator;
 };
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets

@@ -6,8 +6,7 @@
 
 #include <cmath>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 using Row = SliderEditFrame;
 
@@ -319,5 +318,4 @@ qreal RectEditFrame::sizeLockRatio() const
     return isSizeLocked() && basis.height() != 0 ? qreal(basis.width()) / basis.height() : 0;
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets

@@ -6,9 +6,7 @@
 
 #include <memory>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -206,6 +204,4 @@ void RectEditFramePrivate::report(const LockedField &changed, int val)
     }
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -10,9 +10,7 @@
 
 #include <memory>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // The four fields and the state of the two locks; emits the editor's signals.
 class RectEditFramePrivate : public QObject
@@ -88,6 +86,4 @@ private:
     void report(const LockedField &changed, int val);
 };
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

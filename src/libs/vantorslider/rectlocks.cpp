@@ -5,9 +5,7 @@
 
 #include <cmath>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -62,6 +60,4 @@ ScaledSides scaleAlong(const LockedField &changed, int val, const LockedField &p
     return sides;
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -2,8 +2,7 @@
 
 #include "recteditframe.h"
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 class SliderEditFrame;
 
@@ -44,5 +43,4 @@ struct ScaledSides
 ScaledSides scaleAlong(const LockedField &changed, int val, const LockedField &partner);
 
 } // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets

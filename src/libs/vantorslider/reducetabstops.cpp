@@ -6,8 +6,7 @@
 #include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QToolButton>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 namespace Internal {
 
 class TabStops : public PanelColumn
@@ -63,7 +62,6 @@ void reduceTabStops(QWidget *panel)
     }
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets
 
 #include "reducetabstops.moc"

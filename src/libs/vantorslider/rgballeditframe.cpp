@@ -7,8 +7,7 @@
 
 #include <memory>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 using Row = SliderEditFrame;
 using RGB = RGBEditFrame;
@@ -268,7 +267,6 @@ int RGBAllEditFrame::labelMaxLength()
     return qMax(d->ui->frameRGB->labelMaxLength(), Internal::labelWidth(*d->ui->frameAll));
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets
 
 #include "rgballeditframe.moc"

@@ -4,9 +4,7 @@
 #include "editorrows_p.h"
 #include "rgbeditframe.h"
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // The fourth row and the RGB editor of a four-value colour editor.
 struct RGBAndRow
@@ -57,6 +55,4 @@ struct RGBAndRow
     RGBEditFrame *block;
 };
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

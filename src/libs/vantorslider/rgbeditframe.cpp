@@ -10,8 +10,7 @@
 
 #include <memory>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 using Row = SliderEditFrame;
 
@@ -303,7 +302,6 @@ int RGBEditFrame::labelMaxLength()
     return d->rows().labelMaxLength();
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets
 
 #include "rgbeditframe.moc"

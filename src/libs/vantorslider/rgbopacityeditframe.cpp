@@ -9,8 +9,7 @@
 
 #include <memory>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 using Row = SliderEditFrame;
 using RGB = RGBEditFrame;
@@ -277,7 +276,6 @@ void RGBOpacityEditFrame::setLastVerticalSpacerExpanding(bool b)
     Internal::setSpacerExpanding(d->ui->verticalSpacer, b);
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets
 
 #include "rgbopacityeditframe.moc"

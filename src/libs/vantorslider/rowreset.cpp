@@ -7,9 +7,7 @@
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QLabel>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 RowReset::RowReset(QLabel *label, std::function<void()> reset)
     : QObject(label), m_label(label), m_reset(std::move(reset))
@@ -92,6 +90,4 @@ QEvent::Type rowResetEvent()
     return type;
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

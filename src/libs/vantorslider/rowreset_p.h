@@ -9,9 +9,7 @@ QT_BEGIN_NAMESPACE
 class QLabel;
 QT_END_NAMESPACE
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // The user resets a row to its default value by a double click or double tap on its label, or by
 // the action "Reset" of a screen reader. A child of the label, once the row has a default value.
@@ -45,6 +43,4 @@ private:
 // The program has reset the row that receives this event.
 QEvent::Type rowResetEvent();
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

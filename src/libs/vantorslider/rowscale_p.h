@@ -6,9 +6,7 @@
 #include <QtCore/QDebug>
 #include <QtCore/QSignalBlocker>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // Maps the values of a row to the positions of its slider. The row's engine defines the linear
 // scale; a logarithmic one has its own positions.
@@ -124,6 +122,4 @@ private:
     bool m_isLogarithmic = false;
 };
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

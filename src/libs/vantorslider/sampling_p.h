@@ -4,9 +4,7 @@
 
 #include <optional>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // Time sampling of a drag: when a tick or the release reports. It compares positions of the slider.
 class Sampling
@@ -85,6 +83,4 @@ private:
     bool m_isMovedInTick = false;
 };
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -7,9 +7,7 @@
 #include <cmath>
 #include <limits>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // Results outside the range of a type are clamped: with a range up to INT_MAX no value wraps
 // around.
@@ -58,6 +56,4 @@ inline int saturatedExtent(int first, int last)
     return saturatedInt(qint64(last) - first + 1);
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

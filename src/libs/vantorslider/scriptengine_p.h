@@ -4,13 +4,9 @@
 
 #include <optional>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // The result of an ECMAScript expression as text, or nothing if it throws.
 std::optional<QString> evaluateScript(const QString &text);
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

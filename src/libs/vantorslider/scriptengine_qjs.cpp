@@ -7,9 +7,7 @@
 #include <QtCore/QRegularExpression>
 #include <QtQml/QJSEngine>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -54,8 +52,6 @@ std::optional<QString> evaluateScript(const QString &text)
     return isThrown ? std::nullopt : std::make_optional(value.toString());
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal
 
 #endif

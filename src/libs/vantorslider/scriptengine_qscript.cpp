@@ -4,9 +4,7 @@
 
 #include <QtScript/QScriptEngine>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 std::optional<QString> evaluateScript(const QString &text)
 {
@@ -15,8 +13,6 @@ std::optional<QString> evaluateScript(const QString &text)
     return engine.hasUncaughtException() ? std::nullopt : std::make_optional(value.toString());
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal
 
 #endif

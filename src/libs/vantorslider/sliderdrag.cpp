@@ -8,9 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -152,6 +150,4 @@ double SliderDrag::catchUp(double step, const Track &track) const
     return isPassed ? fastest : std::min(std::abs(end - m_place) / ofPointer, fastest);
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

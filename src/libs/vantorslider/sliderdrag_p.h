@@ -6,8 +6,7 @@ QT_BEGIN_NAMESPACE
 class QMouseEvent;
 QT_END_NAMESPACE
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 class SliderEditSlider;
 
@@ -42,5 +41,4 @@ private:
 };
 
 } // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets

@@ -5,8 +5,7 @@
 
 #include <QtCore/QEvent>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 SliderEditButton::SliderEditButton(QWidget *parent) : QToolButton(parent) { }
 
@@ -45,5 +44,4 @@ void SliderEditButton::letGo()
     }
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets

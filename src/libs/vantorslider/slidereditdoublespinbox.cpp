@@ -7,8 +7,7 @@
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 using Internal::EditSpan;
 
@@ -235,5 +234,4 @@ void SliderEditDoubleSpinBox::childEvent(QChildEvent *event)
     Internal::forgetIfRemoved(m_pLineEditCal, event);
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets

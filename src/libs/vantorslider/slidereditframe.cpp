@@ -11,8 +11,7 @@
 #include <array>
 #include <charconv>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 namespace Internal {
 
@@ -444,7 +443,6 @@ void SliderEditFrame::timerEvent(QTimerEvent *event)
     d->sample(event->timerId());
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets
 
 #include "slidereditframe.moc"

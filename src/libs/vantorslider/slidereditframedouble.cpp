@@ -9,8 +9,7 @@
 
 #include <cmath>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 SliderEditFrameDouble::SliderEditFrameDouble(QWidget *parent)
     : QFrame(parent), d(new Internal::SliderEditDoublePrivate(this))
@@ -416,5 +415,4 @@ int SliderEditFrameDouble::getMagnification(float num)
     return static_cast<int>(std::pow(10.0, precision == 0 ? 9 : qMin(precision, 9)));
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets

@@ -4,9 +4,7 @@
 
 #include <cmath>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 void SliderEditDoublePrivate::setPrecision(int decimals)
 {
@@ -52,6 +50,4 @@ std::optional<double> SliderEditDoublePrivate::stepped(int direction) const
     return isInRange ? std::optional<double>(next) : std::nullopt;
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -7,9 +7,7 @@
 
 #include <cmath>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // Values that differ by less are equal; it is added to the bounds of the range.
 constexpr double minPrecision = 1e-8;
@@ -77,6 +75,4 @@ private:
     int m_nMagnification = 1;
 };
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -14,8 +14,7 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOptionSlider>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 SliderEditSlider::SliderEditSlider(QWidget *parent) : QSlider(parent)
 {
@@ -241,5 +240,4 @@ void SliderEditSlider::letGo(QMouseEvent *event)
     }
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets

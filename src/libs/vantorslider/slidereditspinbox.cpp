@@ -6,8 +6,7 @@
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 using Internal::EditSpan;
 
@@ -171,5 +170,4 @@ void SliderEditSpinBox::childEvent(QChildEvent *event)
     Internal::forgetIfRemoved(m_pLineEditCal, event);
 }
 
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets

@@ -17,9 +17,7 @@
 #include <memory>
 #include <optional>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // Synchronises slider, spin box and buttons of a row and decides when its frame emits
 // valueChanged(). The spin box holds the value. The slider's tracking is off: its value changes
@@ -385,6 +383,4 @@ private:
     std::optional<Value> m_defaultValue;
 };
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -12,9 +12,7 @@
 #include <cmath>
 #include <vector>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -347,6 +345,4 @@ void SliderGroove::paint(QStyleOptionSlider option, const QRect &painted)
     drawLayer(&SliderGroove::drawCover, isWhole && isCoverKept, m_cover, option, &painter);
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

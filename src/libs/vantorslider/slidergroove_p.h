@@ -17,9 +17,7 @@ class QPainterPath;
 class QSlider;
 QT_END_NAMESPACE
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // The colours in the grooves of sliders that depend on each other.
 class GrooveColors
@@ -84,6 +82,4 @@ private:
     QImage m_coverage; // of the pixels of inside, by the opacity
 };
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

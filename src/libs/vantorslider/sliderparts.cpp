@@ -5,9 +5,7 @@
 
 #include <cmath>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 QRect sliderPartRect(const QSlider &slider, QStyle::SubControl part,
                      const QStyleOptionSlider &option)
@@ -41,6 +39,4 @@ QImage emptyPicture(const QSize &size, qreal pixelRatio)
     return image;
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

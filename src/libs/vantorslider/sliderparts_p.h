@@ -10,9 +10,7 @@ class QSlider;
 class QStyleOptionSlider;
 QT_END_NAMESPACE
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // The parts of a slider, as its style places and draws them.
 
@@ -28,6 +26,4 @@ QRectF handleWay(const QSlider &slider, QStyleOptionSlider option);
 // A transparent picture to draw them in, in the pixels of a screen.
 QImage emptyPicture(const QSize &size, qreal pixelRatio);
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

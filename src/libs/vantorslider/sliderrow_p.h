@@ -17,8 +17,7 @@ class QVBoxLayout;
 class QWidget;
 QT_END_NAMESPACE
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 class SliderEditSlider;
 
@@ -77,5 +76,4 @@ struct SliderRow
 };
 
 } // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets

@@ -9,9 +9,7 @@
 
 #include <cmath>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // Nothing tells it but the picture.
 bool areTickMarksDropped(const QSlider &slider, const QStyleOptionSlider &option)
@@ -54,6 +52,4 @@ void drawTickMarks(const QSlider &slider, const QStyleOptionSlider &option, cons
     }
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

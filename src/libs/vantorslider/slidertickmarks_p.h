@@ -8,9 +8,7 @@ class QSlider;
 class QStyleOptionSlider;
 QT_END_NAMESPACE
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // Whether a style sheet draws the groove, and with it no tick marks.
 bool areTickMarksDropped(const QSlider &slider, const QStyleOptionSlider &option);
@@ -19,6 +17,4 @@ bool areTickMarksDropped(const QSlider &slider, const QStyleOptionSlider &option
 void drawTickMarks(const QSlider &slider, const QStyleOptionSlider &option, const QRectF &way,
                    QPainter *painter);
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

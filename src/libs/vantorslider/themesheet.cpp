@@ -16,9 +16,7 @@ static void addThemes()
     Q_INIT_RESOURCE(vantorslider);
 }
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -116,6 +114,4 @@ void warnWithoutGlyphs(EditorTheme theme)
     }
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

@@ -5,8 +5,7 @@
 #include <QtGui/QFont>
 #include <QtGui/QPalette>
 
-namespace Vantor {
-namespace Widgets {
+namespace Vantor::Widgets {
 
 enum class EditorTheme;
 
@@ -33,5 +32,4 @@ QString withTheme(QString sheet, EditorTheme theme, const ThemeSurroundings &sur
 void warnWithoutGlyphs(EditorTheme theme);
 
 } // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets

@@ -6,9 +6,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 namespace {
 
@@ -93,6 +91,4 @@ void UnitGuard::repair()
     }
 }
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal

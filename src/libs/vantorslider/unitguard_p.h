@@ -7,9 +7,7 @@ class QKeyEvent;
 class QLineEdit;
 QT_END_NAMESPACE
 
-namespace Vantor {
-namespace Widgets {
-namespace Internal {
+namespace Vantor::Widgets::Internal {
 
 // Keeps cursor and selection of a spin box's field on the number, behind the prefix and before the
 // suffix. Qt lets the cursor go to both ends of the text, because its validator refuses there what
@@ -29,6 +27,4 @@ private:
     QLineEdit *const m_field;
 };
 
-} // namespace Internal
-} // namespace Widgets
-} // namespace Vantor
+} // namespace Vantor::Widgets::Internal
