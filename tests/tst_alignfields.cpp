@@ -1,9 +1,7 @@
 #include "alignfields.h"
 #include "columnchange.h"
-#include "rgbeditframe.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QPointer>
+#include <QtGui/QBitmap>
 
 using namespace Vantor::Widgets;
 
@@ -20,7 +18,6 @@ private Q_SLOTS:
     void column() { runTestCode(); }
     void hostWidth();
     void firstSize();
-    void refusedEntry();
 
 private:
     const QFont m_font = QApplication::font();
@@ -28,30 +25,11 @@ private:
 
 namespace {
 
-QString theme(const QString &name)
-{
-    QFile file(STYLES_DIR "/" + name + ".qss");
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-void settle()
-{
-    for (int i = 0; i < 5; ++i) // from the field up to the page, and down again
-        QCoreApplication::processEvents();
-}
-
 // The size of the text in the picture of a field. The edge of the picture is blank.
 QSize inkOf(QLineEdit *field)
 {
-    const QImage image = field->grab().toImage();
-    QRect ink;
-    for (int x = 0; x < image.width(); ++x) {
-        for (int y = 0; y < image.height(); ++y) {
-            if (image.pixel(x, y) != image.pixel(0, 0))
-                ink |= QRect(x, y, 1, 1);
-        }
-    }
-    return ink.size();
+    const QImage ink = field->grab().toImage().createHeuristicMask();
+    return QRegion(QBitmap::fromImage(ink)).boundingRect().size();
 }
 
 // With 65 pixels, those of the form, the column sets the width.
@@ -66,14 +44,10 @@ QVector<QSize> inksOf(const QVector<EditorRow> &rows, int width)
     return inks;
 }
 
-// Rows of both kinds and of a composite editor.
-struct Panel
+struct Panel : ColumnPanel
 {
     Panel()
     {
-        auto *layout = new QVBoxLayout(&page);
-        for (QWidget *editor : QList<QWidget *> {gain, gamma, rgb})
-            layout->addWidget(editor);
         gamma->setRange(0, 1000);
         alignFields(&page);
     }
@@ -90,25 +64,12 @@ struct Panel
         }
         return widths.count(widths.first()) == widths.size() ? widths.first() : -1;
     }
-
-    QWidget page;
-    SliderEditFrame *const gain = new SliderEditFrame;
-    QPointer<SliderEditFrameDouble> gamma = new SliderEditFrameDouble;
-    RGBEditFrame *const rgb = new RGBEditFrame;
-};
-
-struct Range
-{
-    double min, max;
-    int decimals; // of the row for double
-    const char *prefix, *suffix;
 };
 
 } // namespace
 
 void tst_AlignFields::initTestCase()
 {
-    QDir::addSearchPath("vantorslider", STYLES_DIR);
     const int dpi = qEnvironmentVariableIntValue("QT_FONT_DPI");
     QVERIFY(dpi == 0 || QWidget().logicalDpiX() == dpi);
 }
@@ -118,7 +79,7 @@ void tst_AlignFields::fits_data()
     QTest::addColumn<QString>("sheet");
     QTest::newRow("none") << QString();
     for (const char *name : {"desktop", "touch-dark", "touch-light"})
-        QTest::newRow(name) << theme(name);
+        QTest::newRow(name) << themeSheet(name);
     QTest::newRow("host") << "QAbstractSpinBox { border: 3px solid red; padding: 0 7px; }"
                              "QSpinBox { font: bold 15px; } QDoubleSpinBox { margin: 2px; }";
 }
@@ -128,9 +89,11 @@ void tst_AlignFields::fits_data()
 void tst_AlignFields::fits()
 {
     QFETCH(QString, sheet);
-    const Range ranges[] = {{0, 9, 1, "", ""},           {0, 99999, 2, "", ""},
-                            {-88888, 88888, 2, "", ""},  {-1, 1, 6, "", ""},
-                            {0, 4444, 2, "x ", " mm/s"}, {-100, 0, 0, "", " %"}};
+    // The decimals are those of the row for double.
+    const char *const names[] = {"decimals", "minimum", "maximum", "prefix", "suffix"};
+    const QVector<QVariantList> ranges {{1, 0, 9, "", ""},           {2, 0, 99999, "", ""},
+                                        {2, -88888, 88888, "", ""},  {6, -1, 1, "", ""},
+                                        {2, 0, 4444, "x ", " mm/s"}, {0, -100, 0, "", " %"}};
     for (int points = 8; points <= 16; ++points) {
         QFont font = m_font;
         font.setPointSize(points);
@@ -139,13 +102,10 @@ void tst_AlignFields::fits()
         page.setStyleSheet(sheet);
         auto *const layout = new QVBoxLayout(&page);
         QVector<EditorRow> rows;
-        for (const Range &range : ranges) {
+        for (const QVariantList &range : ranges) {
             for (QWidget *row : QList<QWidget *> {new SliderEditFrame, new SliderEditFrameDouble}) {
-                row->setProperty("decimals", range.decimals);
-                row->setProperty("minimum", range.min);
-                row->setProperty("maximum", range.max);
-                row->setProperty("prefix", range.prefix);
-                row->setProperty("suffix", range.suffix);
+                for (int i = 0; i < range.size(); ++i)
+                    row->setProperty(names[i], range[i]);
                 layout->addWidget(row);
                 alignFields(row);
                 rows.append({QString(), row});
@@ -153,32 +113,24 @@ void tst_AlignFields::fits()
         }
         QVERIFY(User::show(page));
         page.setFocus();
+        QVector<int> texts(rows.size());
         for (const char *end : {"minimum", "maximum"}) {
-            for (const EditorRow &row : rows)
-                row.frame->setProperty("value", row.frame->property(end));
+            for (int i = 0; i < rows.size(); ++i) {
+                rows[i].frame->setProperty("value", rows[i].frame->property(end));
+                const QString text = rows[i].field->text();
+                texts[i] = qMax(texts[i], rows[i].field->fontMetrics().boundingRect(text).width());
+            }
             const QVector<QSize> shown = inksOf(rows, 65);
             const QVector<QSize> whole = inksOf(rows, 600);
             for (int i = 0; i < rows.size(); ++i)
-                QVERIFY2(shown[i] == whole[i] && whole[i].width() > 1,
-                         qPrintable(QStringLiteral("%1 at %2 points: %3 of %4 pixels")
-                                        .arg(rows[i].field->text())
-                                        .arg(points)
-                                        .arg(shown[i].width())
-                                        .arg(whole[i].width())));
+                QVERIFY2(
+                    shown[i] == whole[i] && whole[i].width() > 1,
+                    qPrintable(QString("%1 at %2 points").arg(rows[i].field->text()).arg(points)));
         }
         inksOf(rows, 65);
-        for (const EditorRow &row : rows) {
-            int text = 0;
-            for (const char *end : {"minimum", "maximum"}) {
-                row.frame->setProperty("value", row.frame->property(end));
-                text = qMax(text, row.field->fontMetrics().boundingRect(row.field->text()).width());
-            }
-            QVERIFY2(row.field->width() < text + row.field->fontMetrics().height(),
-                     qPrintable(QStringLiteral("%1 %2 %3")
-                                    .arg(row.field->text())
-                                    .arg(row.field->width())
-                                    .arg(text)));
-        }
+        for (int i = 0; i < rows.size(); ++i)
+            QVERIFY2(rows[i].field->width() < texts[i] + rows[i].field->fontMetrics().height(),
+                     qPrintable(QString("%1 at %2 points").arg(rows[i].field->text()).arg(points)));
     }
     QApplication::setFont(m_font);
 }
@@ -186,6 +138,7 @@ void tst_AlignFields::fits()
 void tst_AlignFields::column_data()
 {
     QTest::addColumn<TestCode>("code");
+    addCommonChanges<Panel>();
     const auto add = addChange<Panel>;
     add("longer range", 1, [](Panel &p) { p.gain->setRange(0, 12345678); });
     add("longer range of a composite", 1,
@@ -203,17 +156,6 @@ void tst_AlignFields::column_data()
     add("special value text", 1, [](Panel &p) {
         rowsOf(*p.gain)[0].spinBox->setProperty("specialValueText", "None of them all");
     });
-    add("font of the panel", 1, [](Panel &p) { p.page.setFont(QFont("", 30)); });
-    add("font of a sheet", 1, [](Panel &p) { p.page.setStyleSheet("* { font: 40px; }"); });
-    add("padding of a sheet", 1,
-        [](Panel &p) { p.page.setStyleSheet("QAbstractSpinBox { padding: 0 19px; }"); });
-    add("hidden row", -1, [](Panel &p) { p.gamma->hide(); });
-    add("deleted row", -1, [](Panel &p) { delete p.gamma; });
-    add("new row", 1, [](Panel &p) {
-        auto *row = new SliderEditFrame;
-        row->setRange(0, 12345678);
-        p.page.layout()->addWidget(row);
-    });
     add("column of its own", 0, [](Panel &p) {
         alignFields(p.rgb);
         p.rgb->setRange(RGBEditFrame::G, 0, 12345678);
@@ -225,7 +167,7 @@ void tst_AlignFields::column_data()
 // A width that the host sets stays, whatever the sheet, and is not that of the other fields.
 void tst_AlignFields::hostWidth()
 {
-    for (const QString &sheet : {QString(), theme("desktop"), theme("touch-dark")}) {
+    for (const QString &sheet : {QString(), themeSheet("desktop"), themeSheet("touch-dark")}) {
         Panel panel;
         panel.page.setStyleSheet(sheet);
         QVERIFY(User::show(panel.page));
@@ -235,6 +177,10 @@ void tst_AlignFields::hostWidth()
             const bool isSame = rowsOf(*panel.gamma)[0].spinBox->width() == others;
             return isSame ? rowsOf(*panel.gain)[0].spinBox->width() : -1;
         };
+        QCOMPARE(gainWidth(), others);
+        const EditorRow row = rowsOf(*panel.gain)[0];
+        row.type("1/0\n"); // the sheet is then applied again
+        QVERIFY(row.spinBox->property("isEntryRefused").toBool());
         QCOMPARE(gainWidth(), others);
         panel.gain->setSpinBoxFixedWidth(200);
         QCOMPARE(gainWidth(), 200);
@@ -258,26 +204,12 @@ void tst_AlignFields::hostWidth()
 void tst_AlignFields::firstSize()
 {
     Panel panel;
-    panel.page.setStyleSheet(theme("desktop") + "* { font: 30px; }");
+    panel.page.setStyleSheet(themeSheet("desktop") + "* { font: 30px; }");
     panel.gain->setRange(0, 12345678);
     panel.page.show();
     const QSize size = panel.page.size();
     settle();
     QCOMPARE(panel.page.sizeHint(), size);
-}
-
-// The sheet is then applied again.
-void tst_AlignFields::refusedEntry()
-{
-    Panel panel;
-    panel.page.setStyleSheet(theme("desktop"));
-    QVERIFY(User::show(panel.page));
-    const int width = panel.width();
-    const EditorRow row = rowsOf(*panel.gain)[0];
-    row.type("1/0\n");
-    QVERIFY(row.spinBox->property("isEntryRefused").toBool());
-    settle();
-    QCOMPARE(panel.width(), width);
 }
 
 QTEST_MAIN(tst_AlignFields)

@@ -1,8 +1,6 @@
 #include "alignlabels.h"
 #include "columnchange.h"
-#include "rgbeditframe.h"
 
-#include <QtCore/QPointer>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QToolBox>
@@ -31,19 +29,15 @@ int needOf(const QLabel *label)
     return alone.sizeHint().width();
 }
 
-// Rows of both kinds, and a composite editor in a scroll area.
-struct Panel
+// The composite editor is in a scroll area.
+struct Panel : ColumnPanel
 {
     Panel()
     {
-        auto *layout = new QVBoxLayout(&page);
-        layout->addWidget(gain);
-        layout->addWidget(gamma);
-        layout->addWidget(area);
-        auto *inside = new QVBoxLayout(new QWidget);
-        inside->addWidget(rgb);
+        (new QVBoxLayout(new QWidget))->addWidget(rgb);
         area->setWidgetResizable(true);
-        area->setWidget(inside->parentWidget());
+        area->setWidget(rgb->parentWidget());
+        page.layout()->addWidget(area);
         gain->setLabelText("Middling");
         gamma->setLabelText("&Widest of them");
         rgb->setLabelText(RGBEditFrame::G, "Green");
@@ -80,19 +74,8 @@ struct Panel
         return labels.first()->width();
     }
 
-    QWidget page;
-    SliderEditFrame *const gain = new SliderEditFrame;
-    QPointer<SliderEditFrameDouble> gamma = new SliderEditFrameDouble;
-    RGBEditFrame *const rgb = new RGBEditFrame;
     QScrollArea *const area = new QScrollArea;
 };
-
-QWidget *widerRow()
-{
-    auto *row = new SliderEditFrame;
-    row->setLabelText("Wider, and only now there");
-    return row;
-}
 
 // A row is put into a widget that was empty when the labels were aligned last.
 template <typename Widget, typename Put> void addPlace(const char *name, const Put &put)
@@ -100,8 +83,7 @@ template <typename Widget, typename Put> void addPlace(const char *name, const P
     addChange<Panel>(name, 1, [put](Panel &p) {
         auto *const place = new Widget;
         p.page.layout()->addWidget(place);
-        for (int i = 0; i < 4; ++i)
-            QCoreApplication::processEvents();
+        settle();
         put(place, widerRow());
     });
 }
@@ -111,6 +93,7 @@ template <typename Widget, typename Put> void addPlace(const char *name, const P
 void tst_AlignLabels::column_data()
 {
     QTest::addColumn<TestCode>("code");
+    addCommonChanges<Panel>();
     const auto add = addChange<Panel>;
     addPlace<QScrollArea>("scroll area", [](auto *area, QWidget *row) { area->setWidget(row); });
     addPlace<QToolBox>("tool box", [](auto *box, QWidget *row) { box->addItem(row, "Item"); });
@@ -129,29 +112,22 @@ void tst_AlignLabels::column_data()
         p.gain->setLabelText(QString::fromUtf8("ربح"));
         p.gamma->setLabelText(QString::fromUtf8("غاما"));
     });
-    add("font of the panel", 1, [](Panel &p) { p.page.setFont(QFont("", 30)); });
     add("font of one label", 1, [](Panel &p) { rowsOf(*p.rgb)[1].label->setFont(QFont("", 60)); });
-    add("font of a sheet", 1, [](Panel &p) { p.page.setStyleSheet("* { font: 40px; }"); });
     add("width of a sheet", 0, [](Panel &p) { p.page.setStyleSheet("* { min-width: 300px; }"); });
-    add("padding of a sheet", 1,
-        [](Panel &p) { p.page.setStyleSheet("QLabel { padding: 0 9px; }"); });
-    add("hidden row", -1, [](Panel &p) { p.gamma->hide(); });
     add("row in a hidden panel", 1, [](Panel &p) {
         p.area->hide();
         p.rgb->setLabelText(RGBEditFrame::B, "Wider, and not to be seen");
-        QCoreApplication::processEvents();
+        settle();
         QCOMPARE(rowsOf(*p.gamma)[0].label->maximumWidth(), needOf(rowsOf(*p.gamma)[0].label));
         p.area->show();
     });
     add("row of an editor", 1, [](Panel &p) {
         p.rgb->setEditerVisible(RGBEditFrame::B);
         p.rgb->setLabelText(RGBEditFrame::R, "Wider, once it is seen");
-        QCoreApplication::processEvents();
+        settle();
         p.rgb->setEditerVisible(RGBEditFrame::R);
     });
-    add("new row", 1, [](Panel &p) { p.rgb->parentWidget()->layout()->addWidget(widerRow()); });
     add("new content", 1, [](Panel &p) { p.area->setWidget(widerRow()); });
-    add("deleted row", -1, [](Panel &p) { delete p.gamma; });
     add("column of its own", 0, [](Panel &p) {
         alignLabels(p.area);
         p.rgb->setLabelText(RGBEditFrame::R, "Wider, but elsewhere");
@@ -169,7 +145,7 @@ void tst_AlignLabels::alignment()
     rowsOf(*panel.gain)[0].label->setAlignment(Qt::AlignCenter);
     QVERIFY(User::show(panel.page));
     const auto alignments = [&panel] {
-        QCoreApplication::processEvents();
+        settle();
         QList<int> alignments;
         for (const QLabel *label : panel.visibleLabels())
             alignments.append(int(label->alignment()));
@@ -199,7 +175,7 @@ void tst_AlignLabels::deletedPanel()
     panel->gamma->hide();
     QPointer<QWidget> gain = panel->gain;
     delete panel;
-    QCoreApplication::processEvents();
+    settle();
     QVERIFY(!gain);
 }
 

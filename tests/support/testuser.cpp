@@ -1,6 +1,7 @@
 #include "testuser.h"
 
 #include <QtCore/QAbstractEventDispatcher>
+#include <QtCore/QDir>
 #include <QtGui/QClipboard>
 
 namespace {
@@ -136,4 +137,25 @@ void tick(QObject *editor)
         QTimerEvent event(timer.timerId);
         QApplication::sendEvent(editor, &event);
     }
+}
+
+void settle()
+{
+    for (int i = 0; i < 5; ++i)
+        QCoreApplication::processEvents();
+}
+
+QImage pictureOf(QWidget *widget)
+{
+    settle();
+    return widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+QString themeSheet(const QString &theme)
+{
+    QDir::setSearchPaths("vantorslider", {STYLES_DIR});
+    QFile sheet(STYLES_DIR "/" + theme + ".qss");
+    if (!sheet.open(QIODevice::ReadOnly))
+        qFatal("There is no theme %s", qPrintable(theme));
+    return QString::fromUtf8(sheet.readAll());
 }

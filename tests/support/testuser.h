@@ -50,3 +50,10 @@ void lift(int finger = 0);
 // long interval and sends the ticks itself.
 int samplingInterval(QObject *editor);
 void tick(QObject *editor);
+
+// Delivers posted events: those of the layouts go from a field up to the page, and down again.
+void settle();
+// The widget as it looks then.
+QImage pictureOf(QWidget *widget);
+// The sheet of a theme, such as "desktop". Its pictures are found from then on.
+QString themeSheet(const QString &theme);
