@@ -18,18 +18,17 @@ Q_DECLARE_METATYPE(QMargins) // as a host does
 
 using namespace Vantor::Widgets;
 
-// The editors with style sheets, QDataWidgetMapper, forms and Designer.
+// The editors in forms and in Designer, and with QDataWidgetMapper.
 class tst_Forms : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void silentWrites();
+    void defaults();
     void mapper();
     void colors();
-    void designer();
-    void properties_data();
-    void properties();
+    void form();
+    void widgetBox();
 };
 
 namespace {
@@ -59,35 +58,18 @@ void compareMapping(const QVariant &modelled, const QString &step, const QVarian
 
 } // namespace
 
-// The host can't choose the order of a form's properties: no write emits or is lost.
-void tst_Forms::silentWrites()
+// What a row is if a form sets nothing.
+void tst_Forms::defaults()
 {
-    EventLog log;
-    QWidget form;
-    SliderEditFrame intEditor(&form);
-    SliderEditFrameDouble doubleEditor(&form);
-    log.watch(&intEditor, &SliderEditFrame::valueChanged, "int");
-    log.watch(&doubleEditor, &SliderEditFrameDouble::valueChanged, "double");
-    form.show();
-    // By a style sheet, in the same way as by a form.
-    const auto compareWrites = [&](QString settings, const QStringList &expected) {
-        settings.replace(QRegularExpression("(\\w+):"), "qproperty-\\1:");
-        form.setStyleSheet("*[isSliderFrame='true'] { " + settings + " }");
-        QStringList found {"", ""};
+    const auto settingsOf = [](const QObject &row) {
+        QString settings;
         for (const char *name :
-             {"labelText", "decimals", "minimum", "maximum", "singleStep", "pageStep", "value"}) {
-            found[0] += ' ' + intEditor.property(name).toString();
-            found[1] += ' ' + doubleEditor.property(name).toString();
-        }
-        QCOMPARE(QStringList({found[0].simplified(), found[1].simplified()}), expected);
-        QCOMPARE(log.take(), QStringList());
+             {"labelText", "decimals", "minimum", "maximum", "singleStep", "pageStep", "value"})
+            settings += ' ' + row.property(name).toString();
+        return settings.simplified();
     };
-    compareWrites("", {"0 99 1 10 0", "2 0 99.99 1 10 0"});
-    compareWrites("value: 50; minimum: 200", {"200 200 1 10 200", "2 200 200 1 10 200"});
-    compareWrites("value: 210; maximum: -3", {"-3 -3 1 10 -3", "2 -3 -3 1 10 -3"});
-    compareWrites(
-        "minimum: -20; maximum: 40; singleStep: 5; pageStep: 7; value: 30; labelText: Gain",
-        {"Gain -20 40 5 7 30", "Gain 2 -20 40 5 7 30"});
+    QCOMPARE(settingsOf(SliderEditFrame()), QString("0 99 1 10 0"));
+    QCOMPARE(settingsOf(SliderEditFrameDouble()), QString("2 0 99.99 1 10 0"));
 }
 
 void tst_Forms::mapper()
@@ -132,42 +114,19 @@ void tst_Forms::colors()
 #ifdef DESIGNER_PLUGIN
 namespace {
 
-// The widget box, and a loader to which no other folder can provide an editor.
-struct Designer
+// A loader to which no other folder can provide an editor.
+struct Loader : QUiLoader
 {
-    Designer()
+    Loader()
     {
-        loader.clearPluginPaths();
-        loader.addPluginPath(QFileInfo(DESIGNER_PLUGIN).path());
+        clearPluginPaths();
+        addPluginPath(QFileInfo(DESIGNER_PLUGIN).path());
     }
-    QWidget *load(const QString &form)
-    {
-        QBuffer dom;
-        dom.setData(form.toUtf8());
-        return loader.load(&dom);
-    }
-
-    QPluginLoader plugin {DESIGNER_PLUGIN};
-    QDesignerCustomWidgetCollectionInterface *const box =
-        qobject_cast<QDesignerCustomWidgetCollectionInterface *>(plugin.instance());
-    QUiLoader loader;
 };
 
-QList<QWidget *> editorsOf(const QWidget &form)
+QWidgetList editorsOf(const QWidget &form)
 {
     return form.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-}
-
-// The properties that the library adds, in the order in which a form sets them.
-QVector<QMetaProperty> ownProperties(const QMetaObject *editor)
-{
-    const QMetaObject *base = editor;
-    while (QByteArray(base->className()).startsWith("Vantor"))
-        base = base->superClass();
-    QVector<QMetaProperty> properties;
-    for (int i = base->propertyCount(); i < editor->propertyCount(); ++i)
-        properties.append(editor->property(i));
-    return properties;
 }
 
 // Qt 5 can't compare flags.
@@ -177,153 +136,74 @@ QVariant valueOf(const QMetaProperty &property, const QWidget &editor)
     return property.isEnumType() ? QVariant(value.toInt()) : value;
 }
 
-// Another value of the property that is valid, a different one for each number.
-QVariant otherValue(const QMetaProperty &property, const QVariant &value, int number)
-{
-    const QMetaEnum keys = property.enumerator();
-    if (property.isEnumType())
-        return keys.value(keys.keyCount() - 1);
-    switch (value.userType()) {
-    case QMetaType::Bool:
-        return !value.toBool();
-    case QMetaType::Int:
-    case QMetaType::Double:
-        return value.toDouble() + number;
-    case QMetaType::QString:
-        return QString("<b>%1 ").arg(number);
-    case QMetaType::QColor:
-    case QMetaType::QBrush:
-        return QColor(number, 2, 3, 51);
-    case QMetaType::QRect:
-        return QRect(number, 2, 30, 40);
-    }
-    return QVariant::fromValue(QMargins(number, 2, 3, 4));
-}
-
-// As Designer writes it; forms have no margins.
-QString domOf(const QMetaProperty &property, const QVariant &value)
-{
-    const auto dom = [](const QString &element, const QString &text) {
-        return '<' + element + '>' + text + "</" + element.section(' ', 0, 0) + '>';
-    };
-    const auto numbers = [&](const QString &names, const QVector<int> &values) {
-        QString text;
-        for (int i = 0; i < values.size(); ++i)
-            text += dom(names.section(' ', i, i), QString::number(values[i]));
-        return text;
-    };
-    const auto color = [&](const QColor &color) {
-        return dom("color alpha='" + QString::number(color.alpha()) + '\'',
-                   numbers("red green blue", {color.red(), color.green(), color.blue()}));
-    };
-    if (property.isEnumType())
-        return dom(property.isFlagType() ? "set" : "enum",
-                   property.enumerator().valueToKeys(value.toInt()));
-    const QRect rect = value.toRect();
-    const QBrush brush = value.value<QBrush>();
-    switch (value.userType()) {
-    case QMetaType::QColor:
-        return color(value.value<QColor>());
-    case QMetaType::QBrush:
-        return dom(brush == QBrush() ? "brush brushstyle='NoBrush'"
-                                     : "brush brushstyle='SolidPattern'",
-                   color(brush.color()));
-    case QMetaType::QRect:
-        return dom("rect",
-                   numbers("x y width height", {rect.x(), rect.y(), rect.width(), rect.height()}));
-    }
-    const QMap<int, QString> names {{QMetaType::Bool, "bool"},
-                                    {QMetaType::Int, "number"},
-                                    {QMetaType::Double, "double"},
-                                    {QMetaType::QString, "string"}};
-    const QString name = names.value(value.userType());
-    return name.isEmpty() ? QString() : dom(name, value.toString().toHtmlEscaped());
-}
-
 } // namespace
 #endif
 
-// A form is the same as uic compiles it and loaded at run time, with the plug-in for Designer.
-void tst_Forms::designer()
+// A form is the same as uic compiles it and loaded at run time, with the plug-in for Designer. It
+// sets each property that the library adds: in the first editor of a class to another value, in the
+// second one to the value that it has without a form.
+void tst_Forms::form()
 {
 #ifndef DESIGNER_PLUGIN
     QSKIP("Built without the plug-in for Designer");
 #else
-    Designer designer;
-    QVERIFY2(designer.box, qPrintable(designer.plugin.errorString()));
+    Loader loader;
     QFile file(FORM);
-    const std::unique_ptr<QWidget> read(designer.loader.load(&file));
-    QVERIFY2(read, qPrintable(designer.loader.errorString()));
-    QWidget compiled;
-    Ui::AllEditors().setupUi(&compiled);
-    const auto loaded = editorsOf(*read), expected = editorsOf(compiled);
-    QCOMPARE(loaded.size(), expected.size());
+    const std::unique_ptr<QWidget> form(loader.load(&file));
+    QVERIFY2(form, qPrintable(loader.errorString()));
+    QWidget compiledForm;
+    Ui::AllEditors().setupUi(&compiledForm);
+    const auto loaded = editorsOf(*form), compiled = editorsOf(compiledForm);
+    QCOMPARE(loaded.size(), compiled.size());
     for (int i = 0; i < loaded.size(); ++i) {
-        const auto properties = ownProperties(expected[i]->metaObject());
-        QVERIFY(loaded[i]->metaObject() == expected[i]->metaObject() && !properties.isEmpty());
-        for (const QMetaProperty &property : properties)
-            QVERIFY2(valueOf(property, *loaded[i]) == valueOf(property, *expected[i]),
-                     property.name());
+        const QMetaObject *const editor = compiled[i]->metaObject();
+        QCOMPARE(loaded[i]->metaObject(), editor);
+        const std::unique_ptr<QWidget> plain(loader.createWidget(editor->className()));
+        const bool isUnchanged = loaded[i]->objectName().startsWith("unchanged");
+        const QMetaObject *base = editor;
+        while (QByteArray(base->className()).startsWith("Vantor"))
+            base = base->superClass();
+        for (int p = base->propertyCount(); p < editor->propertyCount(); ++p) {
+            const QMetaProperty property = editor->property(p);
+            if (!property.isStored())
+                continue;
+            const QVariant value = valueOf(property, *loaded[i]);
+            QVERIFY2(value == valueOf(property, *compiled[i])
+                         && (value == valueOf(property, *plain)) == isUnchanged,
+                     qPrintable(loaded[i]->objectName() + ' ' + property.name()));
+        }
     }
+#endif
+}
 
-    // The widget that the widget box shows and drops into a form.
-    const auto entries = designer.box->customWidgets();
-    QCOMPARE(entries.size(), loaded.size());
+// What the widget box shows, and drops into a form.
+void tst_Forms::widgetBox()
+{
+#ifndef DESIGNER_PLUGIN
+    QSKIP("Built without the plug-in for Designer");
+#else
+    QPluginLoader plugin(DESIGNER_PLUGIN);
+    const auto *const box =
+        qobject_cast<QDesignerCustomWidgetCollectionInterface *>(plugin.instance());
+    QVERIFY2(box, qPrintable(plugin.errorString()));
+    QWidget form;
+    Ui::AllEditors().setupUi(&form);
+    const auto entries = box->customWidgets();
+    const auto editors = editorsOf(form);
+    QCOMPARE(2 * entries.size(), editors.size());
     for (int i = 0; i < entries.size(); ++i) {
         const auto *entry = entries[i];
         QVERIFY(QFile::exists(HEADERS "/" + entry->includeFile()) && !entry->isContainer());
         QVERIFY(!entry->icon().availableSizes().isEmpty() && !entry->group().isEmpty()
                 && !entry->toolTip().isEmpty());
-        const std::unique_ptr<QWidget> dropped(designer.load(entry->domXml()));
-        QVERIFY2(dropped, qPrintable(designer.loader.errorString()));
+        QBuffer dom;
+        dom.setData(entry->domXml().toUtf8());
+        Loader loader;
+        const std::unique_ptr<QWidget> dropped(loader.load(&dom));
+        QVERIFY2(dropped, qPrintable(loader.errorString()));
         QCOMPARE(QString(dropped->metaObject()->className()), entry->name());
-        QCOMPARE(dropped->metaObject(), loaded[i]->metaObject());
+        QCOMPARE(dropped->metaObject(), editors[i]->metaObject());
     }
-#endif
-}
-
-void tst_Forms::properties_data()
-{
-    QTest::addColumn<QString>("editor");
-    QTest::addColumn<bool>("isChanged");
-#ifdef DESIGNER_PLUGIN
-    for (const auto *entry : Designer().box->customWidgets()) {
-        for (const bool isChanged : {false, true})
-            QTest::addRow("%s%s", qPrintable(entry->name()), isChanged ? ", changed" : "")
-                << entry->name() << isChanged;
-    }
-#endif
-}
-
-// A form stores all properties, each with its default value or with another one.
-void tst_Forms::properties()
-{
-#ifndef DESIGNER_PLUGIN
-    QSKIP("Built without the plug-in for Designer");
-#else
-    QFETCH(QString, editor);
-    QFETCH(bool, isChanged);
-    Designer designer;
-    const std::unique_ptr<QWidget> saved(designer.loader.createWidget(editor));
-    const auto properties = ownProperties(saved->metaObject());
-    QVariantList before;
-    for (const QMetaProperty &property : properties)
-        before.append(valueOf(property, *saved));
-    for (int i = 0; isChanged && i < properties.size(); ++i) {
-        properties[i].write(saved.get(), otherValue(properties[i], before[i], i + 1));
-        QVERIFY2(valueOf(properties[i], *saved) != before[i], properties[i].name());
-    }
-    QString form;
-    for (const QMetaProperty &property : properties) {
-        const QString dom = domOf(property, valueOf(property, *saved));
-        if (!dom.isEmpty())
-            form += QString("<property name='%1'>%2</property>").arg(property.name(), dom);
-    }
-    form = QString("<ui version='4.0'><widget class='%1'>%2</widget></ui>").arg(editor, form);
-    const std::unique_ptr<QWidget> loaded(designer.load(form));
-    QVERIFY2(loaded, qPrintable(designer.loader.errorString()));
-    for (const QMetaProperty &property : properties)
-        QVERIFY2(valueOf(property, *loaded) == valueOf(property, *saved), property.name());
 #endif
 }
 
