@@ -28,15 +28,10 @@ QWindow *keyboard()
     return nullptr;
 }
 
-QObject *parentItem(const QObject *item)
-{
-    return item->property("parent").value<QObject *>();
-}
-
 QPoint centerOf(const QObject *item)
 {
     QPointF pos(item->property("width").toReal() / 2, item->property("height").toReal() / 2);
-    for (; item != nullptr; item = parentItem(item))
+    for (; item != nullptr; item = item->property("parent").value<QObject *>())
         pos += {item->property("x").toReal(), item->property("y").toReal()};
     return pos.toPoint();
 }
@@ -61,10 +56,8 @@ QObject *findKey(const QString &sign)
 
 QObject *waitForKey(const QString &sign, int milliseconds)
 {
-    QElapsedTimer timer;
-    timer.start();
     QObject *key = findKey(sign);
-    while (key == nullptr && timer.elapsed() < milliseconds) {
+    for (int waited = 0; key == nullptr && waited < milliseconds; waited += 20) {
         QTest::qWait(20);
         key = findKey(sign);
     }
@@ -144,18 +137,16 @@ int main(int argc, char *argv[])
                    {gamma, "(1+2)÷4\n", 0.75},
                    {gamma, "0.5-\b/2\n", 0.25}};
     bool isRight = true;
-    bool isFirst = true;
     for (const auto &entry : entries) {
         const auto *field = entry.row.findChild<QAbstractSpinBox *>();
         touch(window.windowHandle(), field->mapTo(&window, field->rect().center()));
         waitForKey(" ", 10000);
         QTest::qWait(500); // until it has moved in
         for (const QChar sign : QString::fromUtf8(entry.signs)) {
-            if (isFirst && sign == '\n')
+            if (&entry == entries && sign == '\n')
                 QGuiApplication::primaryScreen()->grabWindow(0).save(argv[1]);
             isRight = tap(sign) && isRight;
         }
-        isFirst = false;
         const double value = &entry.row == &gain ? gain.value() : gamma.value();
         isRight = isRight && qFuzzyCompare(value, entry.value);
         std::printf("%s: %g\n", QByteArray(entry.signs).replace('\n', "").constData(), value);
