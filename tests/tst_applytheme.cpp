@@ -72,30 +72,11 @@ struct Target
     {
         window != nullptr ? window->setStyleSheet(sheet) : qApp->setStyleSheet(sheet);
     }
-    void setFontSize(int points) const
-    {
-        QFont font = QApplication::font();
-        font.setPointSize(points);
-        surroundings != nullptr ? surroundings->setFont(font) : QApplication::setFont(font);
-    }
-    void setDirection(Qt::LayoutDirection direction) const
-    {
-        surroundings != nullptr ? surroundings->setLayoutDirection(direction)
-                                : QApplication::setLayoutDirection(direction);
-    }
-
     QWidget *window;
     QWidget *surroundings;
 };
 
 using Change = std::function<void(const Target &)>;
-
-QString fileOf(EditorTheme theme)
-{
-    const char *const names[] = {nullptr, "desktop", "touch-light", "touch-dark"};
-    return theme == EditorTheme::NoTheme ? QString()
-                                         : QString(STYLES_DIR "/%1.qss").arg(names[int(theme)]);
-}
 
 QString read(const QString &path)
 {
@@ -105,7 +86,8 @@ QString read(const QString &path)
 
 QString sheetOf(EditorTheme theme)
 {
-    QString sheet = read(fileOf(theme));
+    const char *const names[] = {"none", "desktop", "touch-light", "touch-dark"};
+    QString sheet = read(QString(STYLES_DIR "/%1.qss").arg(names[int(theme)]));
     if (QApplication::isRightToLeft() && theme != EditorTheme::Desktop)
         sheet.replace("sub-page", "other")
             .replace("add-page", "sub-page")
@@ -192,15 +174,21 @@ void tst_ApplyTheme::looks_data()
     add("nothing", Theme::TouchLight, Theme::TouchLight, nothing);
     for (const Theme theme : {Theme::Desktop, Theme::TouchDark}) {
         add("nothing", theme, theme, nothing);
-        add("font", theme, theme, [](const Target &target) { target.setFontSize(13); });
+        add("font", theme, theme, [](const Target &target) {
+            QFont font = QApplication::font();
+            font.setPointSize(13);
+            target.surroundings ? target.surroundings->setFont(font) : QApplication::setFont(font);
+        });
         add("palette", theme, theme, [](const Target &) {
             QPalette palette(Qt::white, Qt::darkGray, Qt::gray, Qt::black, Qt::darkGray, Qt::white,
                              Qt::black);
             palette.setColor(QPalette::Highlight, Qt::red);
             QApplication::setPalette(palette);
         });
-        add("direction", theme, theme,
-            [](const Target &target) { target.setDirection(Qt::RightToLeft); });
+        add("direction", theme, theme, [](const Target &target) {
+            QObject *const surroundings = target.surroundings;
+            (surroundings ? surroundings : qApp)->setProperty("layoutDirection", Qt::RightToLeft);
+        });
         add("rules", theme, theme, [](const Target &target) {
             target.setSheet("QFrame[isSliderFrame=\"true\"] #spinBox { background: yellow; }"
                             "QLabel { color: blue; }");
