@@ -51,16 +51,10 @@ void tst_SliderOptions::rows_data()
 
 namespace {
 
-// Drags the handle of a slider of 150 pixels with 4,096 values by single pixels.
-template <typename Frame> struct FineUser : UserOf<Frame>
+// The pointer that has pressed the handle of a slider of 150 pixels with 4,096 values.
+struct Pointer
 {
-    FineUser()
-    {
-        this->row.slider->setFixedWidth(150);
-        this->play("sliderOptions fine | range 0 4095 | value 2000 | hold");
-        pos = User::handleRect(this->row.slider, 2000).center();
-    }
-    // The greatest difference of two values in a row.
+    // By single pixels. The greatest difference of two values in a row.
     int pull(const QPoint &by, Qt::KeyboardModifiers modifiers = {})
     {
         int greatest = 0;
@@ -69,74 +63,72 @@ template <typename Frame> struct FineUser : UserOf<Frame>
         for (int i = 1; i <= steps; ++i) {
             const int before = value();
             pos = start + by * i / steps;
-            User::moveTo(this->row.slider, pos, modifiers);
+            User::moveTo(slider, pos, modifiers);
             greatest = qMax(greatest, qAbs(value() - before));
         }
         return greatest;
     }
-    int value() const { return this->row.slider->sliderPosition(); }
+    int value() const { return slider->sliderPosition(); }
 
-    QPoint pos;
+    EditorUser &user;
+    QSlider *slider = user.rows.first().slider;
+    QPoint pos = User::handleRect(slider, 2000).center();
 };
-
-template <typename Frame, typename Code> void addFine(const QString &name, const Code &code)
-{
-    QTest::addRow("%s, %s", Frame::staticMetaObject.className(), qPrintable(name)) << TestCode([=] {
-        FineUser<Frame> user;
-        code(user);
-    });
-}
 
 } // namespace
 
 void tst_SliderOptions::fineDrag_data()
 {
     QTest::addColumn<TestCode>("code");
-    const auto add = [](const QString &name, const auto &code) {
-        addFine<SliderEditFrame>(name, code);
-        addFine<SliderEditFrameDouble>(name, code);
+    const auto add = [](const QString &name, const std::function<void(Pointer &)> &code) {
+        addForBoth(name, [=](auto &user) {
+            user.row.slider->setFixedWidth(150);
+            user.play("sliderOptions fine | range 0 4095 | value 2000 | hold");
+            Pointer pointer {user};
+            code(pointer);
+        });
     };
     for (const int side : {-1, 1}) {
-        add(side < 0 ? "far above" : "far below", [side](auto &user) {
-            QCOMPARE(user.pull({0, side * 200}), 0);
-            QCOMPARE(user.pull({40, 0}), 1); // no value is left out
-            QVERIFY(user.value() > 2030);
-            QCOMPARE(user.pull({-80, 0}), 1);
+        add(side < 0 ? "far above" : "far below", [side](Pointer &pointer) {
+            QCOMPARE(pointer.pull({0, side * 200}), 0);
+            QCOMPARE(pointer.pull({40, 0}), 1); // no value is left out
+            QVERIFY(pointer.value() > 2030);
+            QCOMPARE(pointer.pull({-80, 0}), 1);
         });
-        add(side < 0 ? "half way above" : "half way below", [side](auto &user) {
-            QCOMPARE(user.pull({0, side * 100}), 0);
-            const int most = user.pull({20, 0});
+        add(side < 0 ? "half way above" : "half way below", [side](Pointer &pointer) {
+            QCOMPARE(pointer.pull({0, side * 100}), 0);
+            const int most = pointer.pull({20, 0});
             QVERIFY2(most > 2 && most < 15, qPrintable(QString::number(most)));
         });
     }
-    add("Shift", [](auto &user) {
-        QCOMPARE(user.pull({40, 0}, Qt::ShiftModifier), 1);
-        QCOMPARE(user.pull({0, 5}), 0); // without Shift no jump to the pointer
-        QVERIFY(user.value() < 2045);
+    add("Shift", [](Pointer &pointer) {
+        QCOMPARE(pointer.pull({40, 0}, Qt::ShiftModifier), 1);
+        QCOMPARE(pointer.pull({0, 5}), 0); // without Shift no jump to the pointer
+        QVERIFY(pointer.value() < 2045);
     });
-    add("back at the slider", [](auto &user) {
-        user.pull({0, 200});
-        user.pull({-50, 0});
-        QCOMPARE(user.pull({0, -200}), 0);
+    add("back at the slider", [](Pointer &pointer) {
+        pointer.pull({0, 200});
+        pointer.pull({-50, 0});
+        QCOMPARE(pointer.pull({0, -200}), 0);
         // At most twice as fast as the pointer, until it is there.
-        const int atSlider = user.pull({1, 0});
+        const int atSlider = pointer.pull({1, 0});
         QVERIFY2(atSlider > 2 && atSlider < 70, qPrintable(QString::number(atSlider)));
-        QVERIFY(user.pull({-200, 0}) < 70);
-        QCOMPARE(user.value(), 0);
-        QVERIFY(user.pull({400, 0}) < 70);
-        QCOMPARE(user.value(), 4095);
+        QVERIFY(pointer.pull({-200, 0}) < 70);
+        QCOMPARE(pointer.value(), 0);
+        QVERIFY(pointer.pull({400, 0}) < 70);
+        QCOMPARE(pointer.value(), 4095);
     });
-    add("at the slider as without the option", [](auto &user) {
+    add("at the slider as without the option", [](Pointer &pointer) {
         QStringList expected;
         for (const bool isFine : {false, true}) {
-            user.perform("drop");
-            user.heard();
-            user.performAll(isFine ? "sliderOptions fine | value 500 | hold"
-                                   : "sliderOptions | value 500 | hold");
-            user.pos = User::handleRect(user.row.slider, 500).center();
-            user.pull({60, 20});
-            user.pull({-90, -30});
-            expected.append(user.heard());
+            pointer.user.perform("drop");
+            pointer.user.heard();
+            const QString options = isFine ? "sliderOptions fine" : "sliderOptions";
+            pointer.user.performAll(options + " | value 500 | hold");
+            pointer.pos = User::handleRect(pointer.slider, 500).center();
+            pointer.pull({60, 20});
+            pointer.pull({-90, -30});
+            expected.append(pointer.user.heard());
         }
         QCOMPARE(expected[0], expected[1]);
         QVERIFY(expected[0].count(' ') > 100);
