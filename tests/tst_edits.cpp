@@ -1,7 +1,4 @@
 #include "editoruser.h"
-#include "rgballeditframe.h"
-#include "rgbeditframe.h"
-#include "rgbopacityeditframe.h"
 
 #include <QtGui/QAccessible>
 #include <QtGui/QHelpEvent>
@@ -26,16 +23,12 @@ namespace {
 // All repetitions of a held button belong to one edit.
 template <typename AnyUser> void repeat(AnyUser &user)
 {
-    user.play("edits | autoRepeat");
-    user.frame->setAutoRepeatDelay(10);
-    user.frame->setAutoRepeatInterval(5);
-    User::pressAt(user.row.plus, user.row.plus->rect().center());
-    QCOMPARE(user.heard(), QString("start"));
+    user.play("edits | autoRepeat | push: start");
     QVERIFY(comesTrue([&user] { return user.row.slider->value() >= 13; }));
-    QVERIFY(user.heard().startsWith("11 12 13"));
-    User::releaseAt(user.row.plus, user.row.plus->rect().center());
+    user.perform("letGo");
     const QString heard = user.heard();
-    QVERIFY2(heard.endsWith(" end") && heard.count("end") == 1, qPrintable(heard));
+    QVERIFY2(heard.startsWith("11 12 13 ") && heard.indexOf("end") == heard.size() - 3,
+             qPrintable(heard));
 }
 
 // Actions of a screen reader, and a host's own gestures: the children receive no event.
@@ -70,23 +63,10 @@ template <typename AnyUser> void readSlider(AnyUser &user)
     QCOMPARE(user.heard(), QString("start 12345 end"));
 }
 
-// A menu of the program takes the release.
-template <typename AnyUser> void openMenu(AnyUser &user, const QString &focus)
-{
-    user.play("edits | autoRepeat" + focus);
-    User::pressAt(user.row.plus, user.row.plus->rect().center());
-    QCOMPARE(user.heard(), QString("start"));
-    user.play("pageMenu: end");
-    QVERIFY(!user.row.plus->isDown());
-    QCOMPARE(samplingInterval(user.row.plus), -1);
-    user.play("plus: start 11 end");
-}
-
 // A dialog of the receiver, and the user's actions with the same row while it is open.
 template <typename AnyUser> void nest(AnyUser &user, const QString &steps)
 {
-    user.perform("edits");
-    user.row.slider->setFocus();
+    user.play("edits | focus handle");
     bool isNested = false;
     user.onReport([&] {
         if (!std::exchange(isNested, true)) {
@@ -98,19 +78,6 @@ template <typename AnyUser> void nest(AnyUser &user, const QString &steps)
     const QStringList heard = user.heard().split(' ');
     QVERIFY2(heard.first() == "start" && heard.indexOf("end") == heard.size() - 1,
              qPrintable(heard.join(' ')));
-}
-
-// A receiver moves the focus while the groove is held: the release still comes.
-template <typename AnyUser> void focusMoves(AnyUser &user)
-{
-    user.perform("edits");
-    user.row.slider->setFocus();
-    user.onReport([&user] { user.row.plus->setFocus(); });
-    const QPoint groove(user.row.slider->width() - 2, user.row.slider->height() / 2);
-    User::pressAt(user.row.slider, groove);
-    QCOMPARE(user.heard(), QString("start 20"));
-    User::releaseAt(user.row.slider, groove);
-    QCOMPARE(user.heard(), QString("end"));
 }
 
 // The property, cursor and accessible action of a row, for style sheet, pointer and screen reader.
@@ -157,21 +124,6 @@ template <typename AnyUser> void findReset(AnyUser &user)
     user.play("reset");
 }
 
-// Two taps of a finger on the label.
-template <typename AnyUser> void doubleTap(AnyUser &user)
-{
-    static auto *const device = QTest::createTouchDevice();
-    user.play("default 30 | edits");
-    user.frame->setLabelText("Gain");
-    QCoreApplication::processEvents();
-    const QPoint pos = user.row.label->mapTo(&user.page, user.row.label->rect().center());
-    for (int tap = 0; tap < 2; ++tap) {
-        QTest::touchEvent(&user.page, device).press(0, pos, &user.page);
-        QTest::touchEvent(&user.page, device).release(0, pos, &user.page);
-    }
-    QCOMPARE(user.heard(), QString("start 30 end"));
-}
-
 } // namespace
 
 void tst_Edits::rows_data()
@@ -192,7 +144,7 @@ void tst_Edits::rows_data()
         addBoth(mode + "drag, dialog", hold + "dialog" + last + " | drop");
         addBoth(mode + "drag, menu", hold + "pageMenu" + last + " | timer: stands | drop");
         addBoth(mode + "drag without focus, menu",
-                "noFocus | " + hold + "pageMenu" + last + " | timer: stands | drop");
+                "noFocus handle plus | " + hold + "pageMenu" + last + " | timer: stands | drop");
         addBoth(mode + "drag, left", hold + "leave | drop" + last);
         addBoth(mode + "nothing dragged", mode + "hold: start | drop: end");
         addBoth(mode + "dropped where taken",
@@ -207,27 +159,14 @@ void tst_Edits::rows_data()
     for (const QString removal : {"hide", "hideSlider", "disable", "dialog"})
         addBoth("taken at the start of a drag, " + removal,
                 "sampled | inStart " + removal + " | hold 40: start end | timer: stands | drop");
-    for (const QString focus : {"", " | noFocus"})
-        addForBoth("menu over a button" + focus, [focus](auto &user) { openMenu(user, focus); });
+    for (const QString focus : {"", " | noFocus handle plus"})
+        addBoth("menu over a button" + focus,
+                "autoRepeat" + focus
+                    + " | push: start | pageMenu: end | isDown: no | timer: stands | "
+                      "plus: start 11 end");
     addForBoth("repeated steps", [](auto &user) { repeat(user); });
     addForBoth("operated by a program", [](auto &user) { operateParts(user); });
     addForBoth("read by a screen reader", [](auto &user) { readSlider(user); });
-    addForBoth("entry and button without focus", [](auto &user) {
-        // If none of these takes the focus, a button replaces the pending entry by its step.
-        for (QWidget *part : QWidgetList({&user.page, user.frame, user.row.plus, user.row.slider}))
-            part->setFocusPolicy(Qt::NoFocus);
-        user.play("edits | type 7: start | plus: 11 end | type 7: start | hold 30: 30 | drop: end");
-    });
-    addForBoth("entry and button, which alone takes the focus", [](auto &user) {
-        user.page.setFocusPolicy(Qt::NoFocus);
-        user.frame->setFocusPolicy(Qt::NoFocus);
-        user.perform("edits");
-        for (const QString button : {"plus", "minus"}) {
-            user.performAll("value 50 | type .1 | " + button);
-            QVERIFY(user.heard().contains("end start"));
-        }
-    });
-    addForBoth("focus moved, groove", [](auto &user) { focusMoves(user); });
     addForBoth("unblocked long after the end", [](auto &user) {
         user.play("edits | hold 20: start 20 | block | drop | block | unblock");
         QVERIFY(comesTrue([&user] { return user.heard() == "end"; }));
@@ -235,20 +174,13 @@ void tst_Edits::rows_data()
     });
     for (const QString steps : {"plus", "hold 40 | drop", "groove after", "right", "type .5\t"})
         addForBoth("dialog in the report, " + steps, [=](auto &user) { nest(user, steps); });
-    // Two fingers, of which the second presses a key.
-    addFor<RectEditFrame>("two rows at once", [](auto &user) {
-        user.play("edits | x hold 7: start x(7) (7,0,0,0)");
-        QTest::keyPress(user.rows[1].plus, Qt::Key_Space);
-        user.play("x drop");
-        QTest::keyRelease(user.rows[1].plus, Qt::Key_Space);
-        QCOMPARE(user.heard(), QString("y(1) (7,1,0,0) end"));
-    });
     addTable(DATA "/edits.txt",
              {{"int", rowsAfter<SliderEditFrame>("edits | ")},
               {"double", rowsAfter<SliderEditFrameDouble>("edits | ")},
               {"both", addBoth},
               {"crop", rowsAfter<CropEditFrame>("area 100 100 | crop 1 2 40 20 | edits | ")},
               {"mask", rowsAfter<MaskEditFrame>("area 100 100 | edits | ")},
+              {"rect", rowsAfter<RectEditFrame>("edits | ")},
               {"rgb", rowsAfter<RGBEditFrame>("edits | ")},
               {"all", rowsAfter<RGBAllEditFrame>("edits | ")},
               {"opacity", rowsAfter<RGBOpacityEditFrame>("edits | ")}});
@@ -259,13 +191,6 @@ void tst_Edits::resets_data()
 {
     QTest::addColumn<TestCode>("code");
     addForBoth("found", [](auto &user) { findReset(user); });
-    addForBoth("double tap", [](auto &user) { doubleTap(user); });
-    addForBoth("entry in the focus proxy, by a screen reader", [](auto &user) {
-        user.frame->setFocusProxy(user.row.spinBox);
-        const QString typed = user.isWhole ? "5*4" : "1/5";
-        user.play("default 30 | edits | type " + typed
-                  + ": start | screenReader: 20 end start 30 end");
-    });
     const QString row = "default 30 | edits | ";
     addTable(DATA "/resets.txt",
              {{"int", rowsAfter<SliderEditFrame>(row)},

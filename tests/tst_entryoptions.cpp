@@ -1,7 +1,4 @@
-#include "cropeditframe.h"
 #include "editoruser.h"
-
-#include <QtCore/QFile>
 
 #include <cmath>
 #include <random>
@@ -16,53 +13,18 @@ class tst_EntryOptions : public QObject
 private Q_SLOTS:
     void rows_data();
     void rows() { runTestCode(); }
-    void composite_data();
-    void composite() { runTestCode(); }
     void nearestValue_data();
     void nearestValue() { runTestCode(); }
 };
 
-// The rows of the table, for both kinds of editor.
 void tst_EntryOptions::rows_data()
 {
     QTest::addColumn<TestCode>("code");
-    const auto whole = rowsAfter<SliderEditFrame>("range 0 100 | value 50 | ", 1);
-    const auto fraction = rowsAfter<SliderEditFrameDouble>("range 0 100 | value 50 | ", 1);
-    QFile table(ENTRY_OPTIONS);
-    QVERIFY(table.open(QIODevice::ReadOnly));
-    while (!table.atEnd()) {
-        const QString line = QString::fromUtf8(table.readLine()).trimmed();
-        const QString kind = line.section(' ', 0, 0), name = line.section(' ', 1);
-        const QString steps = QString(name).replace("\\n", "\n").replace("\\t", "\t");
-        if (kind == "int")
-            whole(name, steps);
-        else if (kind == "double")
-            fraction(name, steps);
-        else
-            QCOMPARE(kind, QString("#"));
-    }
-    // The program sets the number at the first key: a text without a comma is not written again.
-    QTest::newRow("options comma, set at the start") << TestCode([] {
-        UserOf<SliderEditFrameDouble> user(1);
-        QObject::connect(user.frame, &SliderEditFrameDouble::editStarted, &user.page,
-                         [&user] { user.perform("value 7"); });
-        user.play("options comma | range 0 100 | type 7 | shown: 7.00");
-    });
-}
-
-// A crop still limits an entry.
-void tst_EntryOptions::composite_data()
-{
-    QTest::addColumn<TestCode>("code");
-    const auto row = rowsAfter<CropEditFrame>("area 640 360 | crop 0 0 100 100 | ");
-    row("crop",
-        "options comma escape stays | w type 64,5*2\n: finished crop(0,0,129,100) w(129) "
-        "(0,0,129,100) | w keys 9 | w escape | w selected: all | "
-        "w keys 999\n: finished crop(0,0,640,100) w(640) (0,0,640,100) | w keys \n: key | "
-        "w keys \t: finished finished");
-    row("crop, finished by the program",
-        "w type 999 | pending: yes | finish: finished crop(0,0,640,100) w(640) (0,0,640,100) | "
-        "pending: no | keys \t: finished finished");
+    const QString start = "range 0 100 | value 50 | ";
+    addTable(ENTRY_OPTIONS,
+             {{"int", rowsAfter<SliderEditFrame>(start, 1)},
+              {"double", rowsAfter<SliderEditFrameDouble>(start, 1)},
+              {"crop", rowsAfter<CropEditFrame>("area 640 360 | crop 0 0 100 100 | ")}});
 }
 
 namespace {

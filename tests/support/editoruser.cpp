@@ -1,10 +1,5 @@
 #include "editoruser.h"
 
-#include "rgballeditframe.h"
-#include "rgbeditframe.h"
-#include "rgbopacityeditframe.h"
-
-#include <QtCore/QMetaEnum>
 #include <QtCore/QTimer>
 #include <QtGui/QAccessible>
 #include <QtGui/QClipboard>
@@ -25,6 +20,18 @@ void EditorRow::type(const QString &text) const
     User::type(text);
 }
 
+QWidget *EditorRow::part(const QString &name, QWidget *other) const
+{
+    const QMap<QString, QWidget *> parts {
+        {"minus", minus}, {"plus", plus}, {"field", field}, {"label", label}, {"handle", slider}};
+    return parts.value(name, other);
+}
+
+bool EditorRow::isHeld() const
+{
+    return slider->isSliderDown() || minus->isDown() || plus->isDown();
+}
+
 QVector<EditorRow> rowsOf(QWidget &editor)
 {
     QVector<EditorRow> rows;
@@ -41,6 +48,18 @@ QVector<EditorRow> rowsOf(QWidget &editor)
 QString limits(int min, int max)
 {
     return QStringLiteral("%1..%2").arg(min).arg(max);
+}
+
+EntryOptions entryOptions(const QString &names)
+{
+    EntryOptions options;
+    options.setFlag(ExactEntry, names.contains("exact"));
+    options.setFlag(DecimalComma, names.contains("comma"));
+    options.setFlag(EscapeRestores, names.contains("escape"));
+    options.setFlag(EnterStays, names.contains("stays"));
+    options.setFlag(AnyKeyboard, names.contains("signs"));
+    options.setFlag(SafeEntry, names.contains("safe"));
+    return options;
 }
 
 QString gaps(const EditorRow &row)
@@ -124,6 +143,8 @@ void EditorUser::addGestures()
     on("plus", [](const Step &step) { User::click(step.row.plus); });
     on("minus", [](const Step &step) { User::click(step.row.minus); });
     on("space", [](const Step &step) { QTest::keyClick(step.row.plus, Qt::Key_Space); });
+    on("keyDown", [](const Step &step) { QTest::keyPress(step.row.plus, Qt::Key_Space); });
+    on("keyUp", [](const Step &step) { QTest::keyRelease(step.row.plus, Qt::Key_Space); });
     on("hold move", [](const Step &step) {
         if (step.verb == "hold")
             User::grabHandle(step.row.slider);
@@ -131,21 +152,20 @@ void EditorUser::addGestures()
             User::moveHandle(step.row.slider, step[i]);
     });
     on("drop", [](const Step &step) { User::dropHandle(step.row.slider); });
-    on("groove",
-       [](const Step &step) { User::clickGroove(step.row.slider, step.text == "after"); });
+    on("groove", [](const Step &step) {
+        QSlider *const slider = step.row.slider;
+        const int y = User::handleRect(slider, slider->sliderPosition()).center().y();
+        const QPoint pos(step.text == "after" ? slider->width() - 2 : 1, y);
+        User::pressAt(slider, pos);
+        User::releaseAt(slider, pos);
+    });
     on("pressAt", [](const Step &step) { User::pressGroove(step.row.slider, step[0]); });
     on("touch touch2", [](const Step &step) {
-        const EditorRow &row = step.row;
-        const QMap<QString, QWidget *> children {{"minus", row.minus},
-                                                 {"plus", row.plus},
-                                                 {"field", row.field},
-                                                 {"label", row.label},
-                                                 {"handle", row.slider}};
-        const int position = step.text == "handle" ? row.slider->sliderPosition() : step[0];
-        QWidget *const child = children.value(step.text, row.slider);
-        const QRect place =
-            child == row.slider ? User::handleRect(row.slider, position) : child->rect();
-        User::touch(child, place.center(), step.verb == "touch2" ? 1 : 0);
+        const QSlider *const slider = step.row.slider;
+        const int position = step.text == "handle" ? slider->sliderPosition() : step[0];
+        QWidget *const part = step.row.part(step.text, step.row.slider);
+        const QRect place = part == slider ? User::handleRect(slider, position) : part->rect();
+        User::touch(part, place.center(), step.verb == "touch2" ? 1 : 0);
     });
     on("swipe", [](const Step &step) {
         for (int i = 0; i < 4; ++i)
@@ -158,22 +178,20 @@ void EditorUser::addGestures()
         }
     });
     on("lift lift2", [](const Step &step) { User::lift(step.verb == "lift2" ? 1 : 0); });
-    on("rest", [](const Step &step) {
-        QVERIFY(comesTrue([&] {
-            return step.row.slider->isSliderDown() || step.row.minus->isDown()
-                || step.row.plus->isDown();
-        }));
-    });
+    on("rest", [](const Step &step) { QVERIFY(comesTrue([&] { return step.row.isHeld(); })); });
+    on("push",
+       [](const Step &step) { User::pressAt(step.row.plus, step.row.plus->rect().center()); });
+    on("letGo",
+       [](const Step &step) { User::releaseAt(step.row.plus, step.row.plus->rect().center()); });
     on("click type", [](const Step &step) { step.row.type(step.text); });
     on("enter", [](const Step &step) { step.row.type(step.text + '\n'); });
     on("keys", [](const Step &step) { User::type(step.text); });
     on("paste", [](const Step &step) { User::paste(step.text); });
-    on("compose", [](const Step &step) { User::compose(step.text); });
-    on("commit", [](const Step &step) { User::commit(step.text); });
-    on("replace", [](const Step &step) { User::commit(step.word(1), step[0]); });
-    on("undo", [](const Step &) { User::press(Qt::Key_Z, Qt::ControlModifier); });
-    on("redo",
-       [](const Step &) { User::press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); });
+    on("compose", [](const Step &step) { User::useInputMethod(step.text); });
+    on("commit", [](const Step &step) { User::useInputMethod({}, step.text); });
+    on("replace", [](const Step &step) { User::useInputMethod({}, step.word(1), step[0]); });
+    on("undo", [](const Step &) { User::typeOrPress("Ctrl+Z"); });
+    on("redo", [](const Step &) { User::typeOrPress("Shift+Ctrl+Z"); });
     on("menu", [](const Step &step) {
         QApplication::clipboard()->setText(step.text);
         QTimer::singleShot(0, step.row.field, [] {
@@ -190,34 +208,15 @@ void EditorUser::addGestures()
                                 step.row.spinBox->mapToGlobal(center));
         QApplication::sendEvent(step.row.spinBox, &event);
     });
-    on("noFocus", [](const Step &step) {
-        for (QWidget *part : std::initializer_list<QWidget *> {step.row.slider, step.row.plus})
+    on("noFocus", [this](const Step &step) {
+        for (const QString &name : step.text.split(' ')) {
+            QWidget *const part = step.row.part(name, name == "page" ? &page : step.row.frame);
             part->setFocusPolicy(Qt::NoFocus);
+        }
     });
-    on("pageMenu", [this](const Step &) {
-        QMenu menu(&page);
-        menu.addAction("Save");
-        QTimer::singleShot(0, &menu, [&menu] {
-            QCoreApplication::processEvents();
-            menu.close();
-        });
-        menu.exec();
-        page.activateWindow(); // with Qt 6 the platform has activated the menu
-        QVERIFY(QTest::qWaitForWindowActive(&page));
-    });
-    for (const QByteArray key : {"Up", "Down", "Left", "Right", "Home", "End", "Escape"}) {
-        const int code = QMetaEnum::fromType<Qt::Key>().keyToValue("Key_" + key);
-        on(key.toLower(), [code](const Step &) { User::press(Qt::Key(code)); });
-    }
-    on("press", [](const Step &step) {
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-        const int key = QKeySequence(step.text)[0];
-#else
-        const int key = QKeySequence(step.text)[0].toCombined();
-#endif
-        constexpr int modifiers = int(Qt::KeyboardModifierMask);
-        User::press(Qt::Key(key & ~modifiers), Qt::KeyboardModifiers(key & modifiers));
-    });
+    for (const QString key : {"Up", "Down", "Left", "Right", "Home", "End", "Escape"})
+        on(key.toLower(), [key](const Step &) { User::typeOrPress(key); });
+    on("press", [](const Step &step) { User::typeOrPress(step.text); });
     on("held", [](const Step &) {
         QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
         QApplication::sendEvent(QApplication::focusWidget(), &repeated);
@@ -239,17 +238,41 @@ void EditorUser::addGestures()
         QAccessible::queryAccessibleInterface(step.row.frame)->actionInterface()->doAction("Reset");
     });
     on("tick", [](const Step &step) { tick(step.row.frame); });
-    on("focus", [](const Step &step) { step.row.spinBox->setFocus(); });
+    on("resetValue",
+       [](const Step &step) { QMetaObject::invokeMethod(step.row.frame, "resetValue"); });
+    on("default", [this](const Step &step) {
+        step.row.frame->setProperty("defaultValue", step.word(0).toDouble() * m_unit);
+    });
+    on("pageStep decimals suffix prefix",
+       [](const Step &step) { step.row.frame->setProperty(qPrintable(step.verb), step.text); });
+    on("specialValueText",
+       [](const Step &step) { step.row.spinBox->setProperty("specialValueText", step.text); });
+    on("locale", [](const Step &step) { step.row.spinBox->setLocale(QLocale(step.text)); });
+    on("hideSlider", [](const Step &step) { step.row.frame->setProperty("sliderVisible", false); });
+    on("scale", [](const Step &step) {
+        step.row.frame->setProperty("sliderScale", int(step.text == "logarithmic"));
+    });
+    on("focus", [](const Step &step) { step.row.part(step.text, step.row.spinBox)->setFocus(); });
     on("show hide", [](const Step &step) { step.row.frame->setVisible(step.verb == "show"); });
     on("enable disable",
        [](const Step &step) { step.row.frame->setEnabled(step.verb == "enable"); });
-    on("dialog", [this](const Step &) {
+    on("dialog pageMenu", [this](const Step &step) {
         QDialog dialog(&page);
-        QTimer::singleShot(0, &dialog, &QDialog::accept);
-        dialog.exec();
-        page.activateWindow();
+        QMenu menu(&page);
+        menu.addAction("Save");
+        const bool isMenu = step.verb == "pageMenu";
+        QTimer::singleShot(0, &menu, [&] {
+            QCoreApplication::processEvents();
+            isMenu ? menu.close() : dialog.close();
+        });
+        if (isMenu)
+            menu.exec();
+        else
+            dialog.exec();
+        page.activateWindow(); // with Qt 6 the platform has activated the menu
         QVERIFY(QTest::qWaitForWindowActive(&page));
     });
+    on("focusProxy", [](const Step &step) { step.row.frame->setFocusProxy(step.row.spinBox); });
     on("delete", [](const Step &step) {
         delete step.row.frame;
         QCoreApplication::processEvents(); // posted events find it deleted
@@ -276,8 +299,10 @@ void EditorUser::addSights()
     const auto add = [this](const QString &sight, auto yes, auto no, const auto &isSo) {
         on(sight, [=](const Step &step) { log.add(isSo(step.row) ? yes : no); });
     };
-    add("timer", "runs", "stands",
-        [](const EditorRow &row) { return samplingInterval(row.frame) > 0; });
+    add("timer", "runs", "stands", [](const EditorRow &row) {
+        return qMax(samplingInterval(row.frame), samplingInterval(row.plus)) > 0;
+    });
+    add("isDown", "yes", "no", [](const EditorRow &row) { return row.isHeld(); });
     add("focused", "editor", "other", [](const EditorRow &row) { return row.frame->hasFocus(); });
     add("refused", "yes", "no",
         [](const EditorRow &row) { return row.spinBox->property("isEntryRefused").toBool(); });
@@ -291,17 +316,12 @@ void EditorUser::addSights()
 template <typename Frame> void EditorUser::addModes(Frame *frame)
 {
     on("released", [=](const Step &step) { frame->setReleaseMode(step.text != "off"); });
-    on("autoRepeat", [=](const Step &step) { frame->setAutoRepeat(step.text != "off"); });
-    on("options", [=](const Step &step) {
-        EntryOptions options;
-        options.setFlag(ExactEntry, step.text.contains("exact"));
-        options.setFlag(DecimalComma, step.text.contains("comma"));
-        options.setFlag(EscapeRestores, step.text.contains("escape"));
-        options.setFlag(EnterStays, step.text.contains("stays"));
-        options.setFlag(AnyKeyboard, step.text.contains("signs"));
-        options.setFlag(SafeEntry, step.text.contains("safe"));
-        frame->setEntryOptions(options);
+    on("autoRepeat", [=](const Step &step) {
+        frame->setAutoRepeat(step.text != "off");
+        frame->setAutoRepeatDelay(20);
+        frame->setAutoRepeatInterval(5);
     });
+    on("options", [=](const Step &step) { frame->setEntryOptions(entryOptions(step.text)); });
     on("finish", [=](const Step &) { frame->finishEntry(); });
     on("pending", [=](const Step &) { log.add(frame->hasPendingEntry() ? "yes" : "no"); });
     on("block unblock", [=](const Step &step) {
@@ -339,21 +359,8 @@ template <typename Frame> void EditorUser::add(Frame *frame)
     on("range", [=](const Step &step) { frame->setRange(value(step, 0), value(step, 1)); });
     on("direction",
        [=](const Step &step) { frame->setValueChangeDirection(step[0], int(value(step, 1))); });
-    on("default", [=](const Step &step) { frame->setDefaultValue(value(step, 0)); });
-    on("resetValue", [=](const Step &) { frame->resetValue(); });
     on("value minimum maximum singleStep",
        [=](const Step &step) { frame->setProperty(qPrintable(step.verb), value(step, 0)); });
-    on("pageStep decimals",
-       [=](const Step &step) { frame->setProperty(qPrintable(step.verb), step.text); });
-    on("suffix prefix",
-       [=](const Step &step) { frame->setProperty(qPrintable(step.verb), step.text); });
-    on("specialValueText",
-       [](const Step &step) { step.row.spinBox->setProperty("specialValueText", step.text); });
-    on("locale", [](const Step &step) { step.row.spinBox->setLocale(QLocale(step.text)); });
-    on("hideSlider", [=](const Step &) { frame->setSliderVisible(false); });
-    on("scale", [=](const Step &step) {
-        frame->setSliderScale(step.text == "linear" ? Frame::LinearScale : Frame::LogarithmicScale);
-    });
     on("fieldFocus", [=](const Step &) { frame->setFieldFocus(); });
     on("pressed", [=](const Step &) { log.add(frame->isMousePressed() ? "yes" : "no"); });
     on("sliderOptions", [=](const Step &step) {
@@ -388,12 +395,6 @@ template <typename Frame> void EditorUser::addComposite(Frame *frame)
     on("value", [=](const Step &step) { frame->setValue(type(step), step[0]); });
     on("range", [=](const Step &step) { frame->setRange(type(step), step[0], step[1]); });
     on("resetValues", [=](const Step &) { frame->resetValues(); });
-    on("default", [=](const Step &step) { frame->row(type(step))->setDefaultValue(step[0]); });
-    on("resetValue", [=](const Step &step) { frame->row(type(step))->resetValue(); });
-    on("suffix", [=](const Step &step) { frame->row(type(step))->setSuffix(step.text); });
-    on("scale", [=](const Step &step) {
-        frame->row(type(step))->setSliderScale(SliderEditFrame::LogarithmicScale);
-    });
 }
 
 // The program around a rectangle editor.
@@ -521,17 +522,13 @@ QString EditorUser::shown() const
 
 void addTable(const QString &path, const QMap<QString, AddRow> &kinds)
 {
-    QFile table(path);
-    QVERIFY(table.open(QIODevice::ReadOnly));
-    for (const QString &paragraph : QString::fromUtf8(table.readAll()).split("\n\n")) {
-        QStringList lines = paragraph.trimmed().split('\n').filter(QRegularExpression("^[^#]"));
-        if (lines.isEmpty())
-            continue;
-        const QString first = lines.takeFirst(), kind = first.section(' ', 0, 0);
-        QVERIFY2(kinds.contains(kind), qPrintable(first));
-        QString steps = lines.join(' ').simplified();
+    const QRegularExpression row("^(\\S+) ?(.*)((?:\n +.*)*)", QRegularExpression::MultilineOption);
+    for (auto rows = row.globalMatch(linesOf(path).join('\n')); rows.hasNext();) {
+        const QStringList texts = rows.next().capturedTexts();
+        QVERIFY2(kinds.contains(texts[1]), qPrintable(texts[0]));
+        QString steps = texts[texts[3].isEmpty() ? 2 : 3].simplified();
         for (const QString sign : {"n\n", "t\t", "b\b", "s "})
             steps.replace('\\' + sign.left(1), sign.mid(1));
-        kinds[kind](first.section(' ', 1), steps);
+        kinds[texts[1]](texts[2], steps);
     }
 }

@@ -3,6 +3,9 @@
 #include "cropeditframe.h"
 #include "eventlog.h"
 #include "maskeditframe.h"
+#include "rgballeditframe.h"
+#include "rgbeditframe.h"
+#include "rgbopacityeditframe.h"
 #include "slidereditframe.h"
 #include "slidereditframedouble.h"
 #include "testuser.h"
@@ -21,6 +24,10 @@ struct EditorRow
 {
     // Clicks into the field, which selects its text, and types over it.
     void type(const QString &text) const;
+    // The child of that name: handle, minus, plus, field, label; or the other one.
+    QWidget *part(const QString &name, QWidget *other) const;
+    // Whether the handle or a button is pressed.
+    bool isHeld() const;
     // The action as a step of a table.
     QString step(const QString &action) const
     {
@@ -43,6 +50,9 @@ struct EditorRow
 // The rows of an editor in the order of their type flags: 2, 4, 8, 16. A mask's
 // margins are also named x, y, w and h.
 QVector<EditorRow> rowsOf(QWidget &editor);
+
+// Any of exact, comma, escape, stays, signs, safe.
+Vantor::Widgets::EntryOptions entryOptions(const QString &names);
 
 // "0..99"
 QString limits(int min, int max);
@@ -81,6 +91,8 @@ private:
 //
 // What the user does:
 //   plus, minus, space      clicks a step button, presses plus by the space bar
+//   push, letGo             presses plus by the mouse, releases it
+//   keyDown, keyUp          presses the space bar over plus, releases it
 //   hold, move, drop        presses the slider's handle, moves it to each of the
 //                           positions that follow, releases it
 //   groove before, after    clicks beside the handle
@@ -96,20 +108,21 @@ private:
 //   compose 1, commit 12    what an input method shows in the field, and inserts
 //   replace 1 45            inserts 45 for the character before the cursor
 //   menu 07                 pastes by the field's own menu; pageMenu: opens one of the page
-//   noFocus                 slider and plus take no focus
+//   noFocus page row plus   these take no focus
 //   undo, redo              presses their keys
-//   up, down, left, right, home, end, escape press that key; press Del: any key
+//   up, down, left, right, home, end, escape press that key; press Shift+End: any key
 //   held                    Enter again, as a key that is held repeats it
 //   wheel                   turns it over the slider, then over the field
 //   leave                   moves the pointer off the slider
 //   reset, screenReader     double-clicks the label, performs the action of a screen reader
 //   lock position, size     clicks a lock button
 // What the program does to any row:
-//   value, range, default, resetValue, tick (of the sampling), focus, show, hide, disable,
-//   enable, delete; resetValues (of all rows of a composite editor);
-//   dialog (shows a modal one and closes it)
-// to all rows: sampled, released, autoRepeat; off ends the last two; options, any of
-//   exact, comma, escape, stays, signs, safe; finish (an entry); block and unblock (the editor's
+//   value, range, default, resetValue, tick (of the sampling), focus (of the field, or of
+//   handle, minus or plus), focusProxy (of the row: its field), show, hide, disable, enable,
+//   delete; resetValues (of all rows of a composite editor); dialog (shows a modal one and closes
+//   it)
+// to all rows: sampled, released, autoRepeat (fast); off ends the last two; options as of
+//   entryOptions(); finish (an entry); block and unblock (the editor's
 //   signals; posted events are then delivered); inReport and inStart, with the action that each
 //   report or start of an edit then causes
 // to a slider editor:
@@ -125,11 +138,12 @@ private:
 //              that differs
 //   handle     the slider's position
 //   ranges     of the sliders of all rows; bounds: of a slider editor's values
-//   timer      whether the sampling "runs" or "stands"
+//   timer      whether the one of the sampling or of plus "runs", or both are still: "stands"
 //   focused    "editor" if the row has the focus, or "other"
 //   selected   "all" of the field's text, "nothing" or the text, after all posted events
 //   locks      of a rectangle: is the position locked, is the size, and its ratio
-//   pressed, refused   whether the handle is held, whether the entry was refused
+//   pressed, refused   whether the row says that it is pressed, and its entry refused
+//   isDown     whether handle, minus or plus is pressed
 //   pending    whether an entry is pending
 //   repeating  whether minus and plus repeat while they are held
 class EditorUser
@@ -253,7 +267,7 @@ inline auto rowsOfBothAfter(const QString &start = {})
 }
 
 // Adds the rows of a file to a kind of editor each. A row is a kind and a name and, below,
-// indented, its steps. "\n" is Enter, "\t" Tab, "\b" Backspace and "\s" a space that counts; a line
-// that begins with "#" is a comment.
+// indented, its steps, or the steps alone after the kind. "\n" is Enter, "\t" Tab, "\b" Backspace
+// and "\s" a space that counts; a line that begins with "#" is a comment.
 using AddRow = std::function<void(const QString &name, const QString &steps)>;
 void addTable(const QString &path, const QMap<QString, AddRow> &kinds);

@@ -2,6 +2,8 @@
 
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QDir>
+#include <QtCore/QMetaEnum>
+#include <QtCore/QRegularExpression>
 #include <QtGui/QClipboard>
 
 namespace {
@@ -69,25 +71,23 @@ void User::paste(const QString &text)
     press(Qt::Key_V, Qt::ControlModifier);
 }
 
-void User::compose(const QString &text)
+void User::typeOrPress(const QString &word)
 {
-    QInputMethodEvent event(text, {});
-    QApplication::sendEvent(QApplication::focusWidget(), &event);
+    const auto name = QRegularExpression("^(Shift\\+)?(Ctrl\\+)?([A-Z][a-z]*)$").match(word);
+    if (!name.hasMatch())
+        return type(word);
+    Qt::KeyboardModifiers modifiers;
+    modifiers.setFlag(Qt::ShiftModifier, name.capturedLength(1) > 0);
+    modifiers.setFlag(Qt::ControlModifier, name.capturedLength(2) > 0);
+    const QByteArray key = "Key_" + name.captured(3).toUtf8();
+    press(Qt::Key(QMetaEnum::fromType<Qt::Key>().keyToValue(key)), modifiers);
 }
 
-void User::commit(const QString &text, int replaced)
+void User::useInputMethod(const QString &shown, const QString &inserted, int replaced)
 {
-    QInputMethodEvent event;
-    event.setCommitString(text, -replaced, replaced);
+    QInputMethodEvent event(shown, {});
+    event.setCommitString(inserted, -replaced, replaced);
     QApplication::sendEvent(QApplication::focusWidget(), &event);
-}
-
-void User::clickGroove(QSlider *slider, bool behind)
-{
-    const QPoint handle = handleRect(slider, slider->sliderPosition()).center();
-    const QPoint pos(behind ? slider->width() - 2 : 1, handle.y());
-    pressAt(slider, pos);
-    releaseAt(slider, pos);
 }
 
 void User::touch(QWidget *widget, const QPoint &pos, int finger)
@@ -158,4 +158,12 @@ QString themeSheet(const QString &theme)
     if (!sheet.open(QIODevice::ReadOnly))
         qFatal("There is no theme %s", qPrintable(theme));
     return QString::fromUtf8(sheet.readAll());
+}
+
+QStringList linesOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("There is no table %s", qPrintable(path));
+    return QString::fromUtf8(file.readAll()).split('\n').filter(QRegularExpression("^[^#]"));
 }

@@ -16,10 +16,11 @@ namespace User {
 // Shows the window and waits until it is active; false if it never is.
 [[nodiscard]] bool show(QWidget &window);
 void paste(const QString &text);
-// An input method shows the text in the field, underlined, or inserts it, instead of that many
+// Presses the key of that name, such as Tab or Escape, or types the text.
+void typeOrPress(const QString &word);
+// An input method shows a text in the field, underlined, or inserts one, instead of that many
 // characters before the cursor.
-void compose(const QString &text);
-void commit(const QString &text, int replaced = 0);
+void useInputMethod(const QString &shown, const QString &inserted = {}, int replaced = 0);
 // A language of upper case letters, until it is destroyed.
 struct UpperCase : QTranslator
 {
@@ -31,8 +32,6 @@ struct UpperCase : QTranslator
         return QString(text).toUpper();
     }
 };
-// A click on the groove before (false) or after (true) the handle.
-void clickGroove(QSlider *slider, bool behind);
 
 // Fingers on a touch screen, by number. The first touches at a point of the widget.
 void touch(QWidget *widget, const QPoint &pos, int finger = 0);
@@ -57,3 +56,6 @@ void settle();
 QImage pictureOf(QWidget *widget);
 // The sheet of a theme, such as "desktop". Its pictures are found from then on.
 QString themeSheet(const QString &theme);
+
+// The lines of a table, without comments.
+QStringList linesOf(const QString &path);
