@@ -1,9 +1,4 @@
-#include "cropeditframe.h"
 #include "editoruser.h"
-#include "maskeditframe.h"
-#include "rgballeditframe.h"
-#include "rgbeditframe.h"
-#include "rgbopacityeditframe.h"
 
 #include <QtCore/QMetaMethod>
 
@@ -149,45 +144,21 @@ void tst_Robustness::deletedInASignal_data()
 
 namespace {
 
-// Removes the editor during the first report while the mouse button is down, or after it.
-// A button is pressed until it repeats.
-template <typename AnyUser>
-void takeAwayHeld(AnyUser &user, const QString &steps, const QString &removal, bool isInReport)
-{
-    const EditorRow &row = user.row;
-    bool isTaken = false;
-    const auto take = [&] {
-        if (!std::exchange(isTaken, true))
-            user.perform(removal);
-    };
-    if (isInReport)
-        user.onReport(take);
-    const bool isButton = steps.endsWith("plus");
-    if (isButton) {
-        user.frame->setAutoRepeat(true);
-        user.frame->setAutoRepeatDelay(1);
-        user.frame->setAutoRepeatInterval(1);
-        if (steps == "mouse on plus")
-            User::pressAt(row.plus, row.plus->rect().center());
-        else
-            QTest::keyPress(row.plus, Qt::Key_Space);
-        QVERIFY(comesTrue([&] { return row.slider->value() > 10; }));
-    } else {
-        user.performAll(steps + (isInReport ? " | tick | drop" : ""));
-    }
-    take();
-    QCOMPARE(qMax(samplingInterval(row.frame), samplingInterval(row.plus)), -1);
-    QVERIFY(!row.slider->isSliderDown() && !row.plus->isDown());
-    QCOMPARE(row.plus->autoRepeat(), isButton || steps.startsWith("sampled"));
-    QVERIFY(!row.whole || !row.whole->isMousePressed());
-    const QString heard = user.heard();
-    QVERIFY2(isButton || heard == "40", qPrintable(heard));
-    const int position = row.slider->value();
+const QString isFree = "isDown: no | pressed: no | timer: stands | ";
 
-    QTest::mouseRelease(user.page.windowHandle(), Qt::LeftButton);
-    user.play("enable | show");
-    QCOMPARE(qMax(samplingInterval(row.frame), samplingInterval(row.plus)), -1);
-    user.play(QString("plus: %1").arg(position + 1));
+// Removes the editor during the first report of a button that repeats, or after it.
+template <typename AnyUser>
+void takeAwayPressed(AnyUser &user, const QString &press, const QString &removal, bool isInReport)
+{
+    user.performAll((isInReport ? "inReport " + removal + " | " : QString()) + "autoRepeat | "
+                    + press);
+    QVERIFY(comesTrue([&] { return user.row.slider->value() > 10; }));
+    if (!isInReport)
+        user.perform(removal);
+    user.heard();
+    const QString next = QString::number(user.row.slider->value() + 1);
+    user.play(isFree
+              + "repeating: yes yes | letGo | enable | show | timer: stands | plus: " + next);
 }
 
 } // namespace
@@ -197,12 +168,19 @@ void tst_Robustness::whileHeld_data()
 {
     QTest::addColumn<TestCode>("code");
     const auto addBoth = rowsOfBothAfter();
+    const QString after = " | " + isFree + "drop | enable | show | timer: stands | plus: 41";
     for (const QString removal : {"hide", "disable", "dialog"}) {
-        for (const QString steps : {"hold 40", "mouse on plus", "space bar on plus",
-                                    "released | hold 40", "sampled | hold 40"}) {
+        const QString report = "inReport " + removal + " | hold 40";
+        for (const QString &steps :
+             {"hold 40: 40 | " + removal, report + ": 40 | tick | drop",
+              "released | hold 40 | " + removal + ": 40", "released | " + report + " | drop: 40",
+              "sampled | hold 40 | " + removal + ": 40 | repeating: yes yes",
+              "sampled | " + report + " | tick: 40 | drop | repeating: yes yes"})
+            addBoth(steps, steps + after);
+        for (const QString press : {"push", "keyDown"}) {
             for (const bool isInReport : {true, false})
-                addForBoth(steps + ", " + removal + (isInReport ? " in the report" : ""),
-                           [=](auto &user) { takeAwayHeld(user, steps, removal, isInReport); });
+                addForBoth(press + ", " + removal + (isInReport ? " in the report" : ""),
+                           [=](auto &user) { takeAwayPressed(user, press, removal, isInReport); });
         }
     }
     addBoth("the user drags on in a report",
@@ -212,9 +190,7 @@ void tst_Robustness::whileHeld_data()
             "sampled | direction 2 100 | hold 40 | inReport disable | tick: 100");
     // One click is one step.
     addFor<SliderEditFrame>("a report takes longer than a repetition", [](auto &user) {
-        user.frame->setAutoRepeat(true);
-        user.frame->setAutoRepeatDelay(20);
-        user.frame->setAutoRepeatInterval(20);
+        user.perform("autoRepeat");
         user.onReport([] { QTest::qSleep(300); });
         user.perform("plus");
         QTest::qWait(60);
@@ -231,9 +207,8 @@ void setExtremes(AnyUser &user, const QVector<Value> &values)
 {
     auto *const frame = user.frame;
     const QSlider *const slider = user.row.slider;
-    const auto perform = [&](const QStringList &steps) {
-        for (const QString &step : steps)
-            user.perform(step);
+    const auto perform = [&](const QString &step) {
+        user.perform(step);
         QVERIFY(qIsFinite(double(frame->value())) && frame->minimum() <= frame->value()
                 && frame->value() <= frame->maximum());
     };
@@ -241,16 +216,17 @@ void setExtremes(AnyUser &user, const QVector<Value> &values)
         for (const Value b : values) {
             frame->setMaximum(a);
             frame->setMinimum(b);
-            perform({});
+            perform("shown");
             frame->setRange(a, b);
             frame->setSingleStep(a);
             for (const Value value : values) {
                 frame->setValue(value);
-                perform({});
-                perform({"plus", "minus", "groove after"});
+                for (const QString step : {"shown", "plus", "minus", "groove after"})
+                    perform(step);
             }
-            perform({QString("hold %1 %2").arg(slider->minimum()).arg(slider->maximum()), "drop",
-                     "enter 1/0,9999*9999*9999", "enter 0/0"});
+            perform(QString("hold %1 %2").arg(slider->minimum()).arg(slider->maximum()));
+            for (const QString step : {"drop", "enter 1/0,9999*9999*9999", "enter 0/0"})
+                perform(step);
         }
     }
 }
