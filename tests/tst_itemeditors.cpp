@@ -1,8 +1,5 @@
 #include "editoruser.h"
 #include "layouteditframe.h"
-#include "rgballeditframe.h"
-#include "rgbeditframe.h"
-#include "rgbopacityeditframe.h"
 #include "slidereditframe_p.h"
 
 #include <QtWidgets/QHeaderView>
@@ -33,29 +30,15 @@ template <typename Editor> void setUp(Editor &editor)
         editor.setPositionLockEnable(true);
 }
 
-template <typename Editor> class Delegate : public QStyledItemDelegate
+struct Delegate : QStyledItemDelegate
 {
-public:
-    Delegate(bool hasProxy, EntryOptions options, QObject *parent)
-        : QStyledItemDelegate(parent), m_hasProxy(hasProxy), m_options(options)
-    {
-    }
-
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &,
                           const QModelIndex &) const override
     {
-        auto *const editor = new Editor(parent);
-        setUp(*editor);
-        editor->setEntryOptions(m_options);
-        editor->setAutoFillBackground(true);
-        if (m_hasProxy)
-            editor->setFocusProxy(editor->template findChild<QAbstractSpinBox *>());
-        return editor;
+        return create(parent);
     }
 
-private:
-    const bool m_hasProxy;
-    const EntryOptions m_options;
+    std::function<QWidget *(QWidget *)> create;
 };
 
 template <typename Editor> QVariant itemOf(const QVector<int> &values)
@@ -74,13 +57,23 @@ template <typename Editor>
 void check(bool hasProxy, EntryOptions options, const QString &steps, const QVariant &item,
            const QVariant &expected)
 {
+    Delegate delegate;
+    delegate.create = [=](QWidget *parent) {
+        auto *const editor = new Editor(parent);
+        setUp(*editor);
+        editor->setAutoFillBackground(true);
+        editor->setEntryOptions(options);
+        if (hasProxy)
+            editor->setFocusProxy(editor->template findChild<QAbstractSpinBox *>());
+        return editor;
+    };
     QWidget page;
     page.setLayout(new QVBoxLayout);
     auto *const table = new QTableWidget(2, 1);
     auto *const beside = new QLineEdit;
     page.layout()->addWidget(table);
     page.layout()->addWidget(beside);
-    table->setItemDelegate(new Delegate<Editor>(hasProxy, options, table));
+    table->setItemDelegate(&delegate);
     table->setEditTriggers(QAbstractItemView::AnyKeyPressed);
     table->setColumnWidth(0, 600);
     table->verticalHeader()->setDefaultSectionSize(180);
@@ -102,22 +95,16 @@ void check(bool hasProxy, EntryOptions options, const QString &steps, const QVar
         QWidget *const focus = QApplication::focusWidget();
         QVERIFY2(editor && (editor == focus || editor->isAncestorOf(focus)), qPrintable(word));
         QCoreApplication::processEvents(); // the layout, the selection
-        const QMap<QString, Qt::Key> keys {{"Tab", Qt::Key_Tab},
-                                           {"Backtab", Qt::Key_Backtab},
-                                           {"Enter", Qt::Key_Return},
-                                           {"Escape", Qt::Key_Escape}};
-        if (keys.contains(word))
-            User::press(keys[word]);
-        else if (word == "cell")
+        if (word == "cell")
             User::pressAt(table->viewport(), table->visualItemRect(table->item(1, 0)).center());
         else if (word == "program")
             table->setCurrentCell(1, 0);
         else if (word == "beside")
             User::click(beside);
-        else if (word.at(0).isLetter())
-            User::click(editor->findChild<QWidget *>(word));
+        else if (auto *const part = editor->findChild<QWidget *>(word))
+            User::click(part);
         else
-            User::type(word);
+            User::typeOrPress(word);
     }
     QTRY_VERIFY(!editor);
     QCOMPARE(table->item(0, 0)->data(Qt::EditRole), expected);
@@ -144,7 +131,7 @@ void add(bool hasProxy, int options, const QString &steps, const QVector<int> &e
 
 template <typename Editor> void addEditor(bool hasProxy, int options)
 {
-    for (const QString end : {"Tab", "Enter", "cell", "beside"}) {
+    for (const QString end : {"Tab", "Return", "cell", "beside"}) {
         add<Editor>(hasProxy, options, "77 " + end, {77});
         add<Editor>(hasProxy, options, "12*3 " + end, {36});
     }
@@ -158,7 +145,7 @@ template <typename Row> void addRow(int options)
         addEditor<Row>(hasProxy, options);
         add<Row>(hasProxy, options, "77 program", {77});
         add<Row>(hasProxy, options, "7 slider Tab 77 sliderEditPlus Tab", {78});
-        for (const QString end : {"Enter", "cell", "beside", "program"})
+        for (const QString end : {"Return", "cell", "beside", "program"})
             add<Row>(hasProxy, options, "77 slider " + end, {67}); // a page step
         add<Row>(hasProxy, options, "77 slider Escape", {});
     }
@@ -172,11 +159,11 @@ template <typename Editor> void addComposite()
     const int fields = int(Editor().template findChildren<SliderEditFrame *>().size());
     const QString all =
         QString("key 7 Tab 12*3 Tab 9 Tab 10").section(' ', 0, 2 * fields - 1) + ' ';
-    for (const QString end : {"Tab", "Enter", "cell", "beside", "program"})
+    for (const QString end : {"Tab", "Return", "cell", "beside", "program"})
         add(all + end, {7, 36, 9, 10});
     add(all + "Escape", {});
-    add("7 Tab 8 Backtab 9 Enter", {9, 8});
-    add("7 slider Tab 9 slider sliderEditPlus Tab 8 Enter", {20, 8});
+    add("7 Tab 8 Backtab 9 Return", {9, 8});
+    add("7 slider Tab 9 slider sliderEditPlus Tab 8 Return", {20, 8});
 }
 
 } // namespace
@@ -197,7 +184,7 @@ void tst_ItemEditors::entries_data()
     addComposite<CropEditFrame>();
     addComposite<MaskEditFrame>();
     // The lock works from the values shown when it is clicked.
-    add<RectEditFrame>(false, 0, "77 toolButtonLockPosition Tab 80 Enter", {79, 80});
+    add<RectEditFrame>(false, 0, "77 toolButtonLockPosition Tab 80 Return", {79, 80});
 }
 
 QTEST_MAIN(tst_ItemEditors)
