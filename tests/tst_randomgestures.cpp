@@ -1,9 +1,4 @@
-#include "cropeditframe.h"
 #include "editoruser.h"
-#include "maskeditframe.h"
-#include "rgballeditframe.h"
-#include "rgbeditframe.h"
-#include "rgbopacityeditframe.h"
 
 #include <QtCore/QRegularExpression>
 

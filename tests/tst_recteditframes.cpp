@@ -1,8 +1,4 @@
-#include "cropeditframe.h"
 #include "editoruser.h"
-#include "maskeditframe.h"
-
-#include <QtCore/QFile>
 
 using namespace Vantor::Widgets;
 
