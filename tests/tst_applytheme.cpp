@@ -49,10 +49,10 @@ struct Panel
     QImage picture()
     {
         [&] { QVERIFY(User::show(window)); }();
-        window.resize(600, 500);
         for (int i = 0; i < 6; ++i)
             QCoreApplication::processEvents();
         window.setFocus();
+        window.resize(600, window.sizeHint().height());
         QCoreApplication::processEvents();
         return window.grab().toImage();
     }

@@ -1,5 +1,8 @@
 #include "editoruser.h"
 
+#include <QtGui/QHelpEvent>
+#include <QtWidgets/QToolTip>
+
 using namespace Vantor::Widgets;
 
 // The rectangle editor and the classes derived from it.
@@ -92,6 +95,35 @@ void tst_RectEditFrames::sequences_data()
     addFor<RectEditFrame>("receiver sets another field", [](auto &user) {
         connect(user.frame, &RectEditFrame::xValueChanged, [&] { user.perform("w value 77"); });
         user.play("set 0 0 40 20 | x plus: x(1) (1,0,77,20)");
+    });
+    addFor<RectEditFrame>("tool tips of the locks", [](auto &user) {
+        QToolButton *const lock = user.frame->lockButton(RectEditFrame::Position);
+        const auto shown = [lock] {
+            const QPoint pos = lock->rect().center();
+            QHelpEvent event(QEvent::ToolTip, pos, lock->mapToGlobal(pos));
+            QApplication::sendEvent(lock, &event);
+            return QToolTip::text();
+        };
+        QCOMPARE(shown(), QString());
+        user.frame->setLockToolTips(true);
+        QCOMPARE(shown(), QString("Lock position"));
+        {
+            const User::UpperCase language;
+            QCOMPARE(shown(), QString("LOCK POSITION"));
+        }
+        user.frame->setToolTip("Area");
+        QCOMPARE(shown(), QString("Area"));
+        lock->setToolTip("Diagonal");
+        QCOMPARE(shown(), QString("Diagonal"));
+        lock->setToolTip(QString());
+        user.frame->setToolTip(QString());
+        user.frame->setLockToolTips(false);
+        QToolTip::showText(QPoint(), "other");
+        QCOMPARE(shown(), QString("other"));
+        QVERIFY(user.frame->lockButton(RectEditFrame::Size) != lock);
+        QCOMPARE(user.frame->lockButton(RectEditFrame::X), nullptr);
+        QCOMPARE(user.heard(),
+                 QString("warning: Get Rect lock button has failed. The type  2  is invalid."));
     });
     // The partner's signal comes first, and nothing after it if the editor is deleted.
     addFor<RectEditFrame>("receiver deletes the editor", [](auto &user) {

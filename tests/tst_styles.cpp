@@ -1,10 +1,14 @@
+#include "alignfields.h"
 #include "alignlabels.h"
 #include "editoruser.h"
 #include "recteditframe.h"
 #include "rgballeditframe.h"
 #include "rgbeditframe.h"
+#include "rgbopacityeditframe.h"
 
+#include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QSpinBox>
+#include <QtWidgets/QStyleFactory>
 
 #include <algorithm>
 #include <cmath>
@@ -27,7 +31,9 @@ private Q_SLOTS:
     void sizes();
     void edges();
     void newPalette();
+    void fields();
     void lockColumn();
+    void pitch();
     void order();
     void surroundings();
 
@@ -128,6 +134,8 @@ void tst_Styles::initTestCase_data()
         QTest::newRow(theme) << themeSheet(theme) << QPalette();
     QTest::newRow("desktop, dark")
         << themeSheet("desktop") << paletteOf("#353535", "#232323", Qt::white, "#2a82da");
+    QTest::newRow("desktop, dark highlight")
+        << themeSheet("desktop") << paletteOf("#353535", "#2d2d2d", "#eeeeec", "#15539e");
     QTest::newRow("desktop, high contrast")
         << themeSheet("desktop") << paletteOf(Qt::black, Qt::black, Qt::white, Qt::cyan);
 }
@@ -136,6 +144,7 @@ void tst_Styles::cleanup()
 {
     QApplication::setFont(m_font);
     QApplication::setPalette(m_palette);
+    QApplication::setStyle("Fusion");
     qApp->setStyleSheet(QString());
 }
 
@@ -287,27 +296,94 @@ void tst_Styles::newPalette()
     }
 }
 
+// The sheets draw fields, also disabled ones, and so the style takes no room in them: some leave it
+// for the buttons of a spin box even if it has none.
+void tst_Styles::fields()
+{
+    struct ButtonStyle : QProxyStyle
+    {
+        QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option,
+                             SubControl part, const QWidget *widget) const override
+        {
+            const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+            return part == SC_SpinBoxEditField ? rect.adjusted(0, 0, -60, 0) : rect;
+        }
+    };
+    QFETCH_GLOBAL(QString, sheet);
+    QVector<int> widths;
+    for (QStyle *style :
+         {QStyleFactory::create("Fusion"), static_cast<QStyle *>(new ButtonStyle)}) {
+        QApplication::setStyle(style);
+        UserOf<SliderEditFrame> user;
+        user.page.setStyleSheet(sheet);
+        alignFields(&user.page);
+        settle();
+        widths.append(user.rows[0].spinBox->width());
+    }
+    QCOMPARE(widths[1], widths[0]);
+}
+
 // A panel's lock takes no space while no lock is visible, and the other lock's width while
 // only that one is visible: all rows end at the same edge.
 void tst_Styles::lockColumn()
 {
     QFETCH_GLOBAL(QString, sheet);
-    UserOf<RectEditFrame> user;
-    user.page.setStyleSheet(sheet);
-    int narrow = 0;
-    for (const bool position : {true, false}) {
-        for (const bool size : {true, false}) {
-            user.frame->setPositionLockEnable(position);
-            user.frame->setSizeLockEnable(size, RectEditFrame::OffsetLock);
-            settle();
-            const int width = user.rows[0].frame->width();
-            QCOMPARE(user.rows[2].frame->width(), width);
-            const int whole = user.rows[0].frame->parentWidget()->contentsRect().width();
-            if (position && size)
-                narrow = width;
-            QVERIFY(narrow < whole);
-            QCOMPARE(width, position || size ? narrow : whole);
+    for (const char *style : {"Fusion", "Windows"}) {
+        QApplication::setStyle(style);
+        UserOf<RectEditFrame> user;
+        user.page.setStyleSheet(sheet);
+        int narrow = 0;
+        for (const bool position : {true, false}) {
+            for (const bool size : {true, false}) {
+                user.frame->setPositionLockEnable(position);
+                user.frame->setSizeLockEnable(size, RectEditFrame::OffsetLock);
+                settle();
+                const int width = user.rows[0].frame->width();
+                QCOMPARE(user.rows[2].frame->width(), width);
+                const int whole = user.rows[0].frame->parentWidget()->contentsRect().width();
+                if (position && size)
+                    narrow = width;
+                QVERIFY(narrow < whole);
+                QCOMPARE(width, position || size ? narrow : whole);
+            }
         }
+    }
+}
+
+// The desktop's rows are as far from each other in a composite editor as in a layout of the host,
+// whichever of them are shown.
+void tst_Styles::pitch()
+{
+    QFETCH_GLOBAL(QString, sheet);
+    if (!sheet.contains("palette("))
+        QSKIP("Composite editors have frames.");
+    const auto compare = [&sheet](auto *editor, int types) {
+        QWidget host;
+        host.setStyleSheet(sheet);
+        auto *const layout = new QVBoxLayout(&host);
+        layout->setSpacing(6);
+        layout->addWidget(new SliderEditFrame);
+        layout->addWidget(editor);
+        layout->addWidget(new SliderEditFrame);
+        editor->setEditerVisible(types);
+        QVERIFY(User::show(host));
+        QVector<int> tops, expected;
+        for (const auto *row : host.findChildren<SliderEditFrame *>()) {
+            if (row->isVisible())
+                tops.append(row->findChild<QSlider *>()->mapTo(&host, QPoint()).y());
+        }
+        std::sort(tops.begin(), tops.end());
+        for (int i = 0; i < tops.size(); ++i)
+            expected.append(tops[0] + i * (tops[1] - tops[0]));
+        QCOMPARE(tops, expected);
+    };
+    for (const int types : {int(RectEditFrame::All), int(RectEditFrame::Size), 20}) {
+        compare(new RectEditFrame, types);
+        compare(new RGBEditFrame, types);
+        compare(new RGBAllEditFrame, types);
+        compare(new RGBOpacityEditFrame, types);
+        if (QTest::currentTestFailed())
+            QFAIL(qPrintable(QString::number(types)));
     }
 }
 

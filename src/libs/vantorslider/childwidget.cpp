@@ -103,6 +103,22 @@ void fieldTextsChanged(QWidget *field)
     }
 }
 
+bool hasToolTip(const QWidget *widget)
+{
+    while (widget->toolTip().isEmpty() && !widget->isWindow()) {
+        widget = widget->parentWidget();
+    }
+    return !widget->toolTip().isEmpty();
+}
+
+void setStyledProperty(QWidget *child, const char *name, bool value)
+{
+    if (child->property(name).toBool() != value) {
+        child->setProperty(name, value);
+        applyStyleSheet(child);
+    }
+}
+
 // The attribute is set after a style sheet has polished the widget.
 void applyStyleSheet(QWidget *child)
 {

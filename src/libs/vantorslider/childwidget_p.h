@@ -34,6 +34,12 @@ constexpr const char *alignedFieldProperty = "isFieldAligned";
 // if there is one.
 void fieldTextsChanged(QWidget *field);
 
+// Whether the widget or one around it in its window has a tool tip.
+bool hasToolTip(const QWidget *widget);
+
+// Sets a dynamic property that style sheets select.
+void setStyledProperty(QWidget *child, const char *name, bool value);
+
 // Polishes the widget, so that its style sheet applies a changed property and its widths. Does
 // nothing without a style sheet.
 void applyStyleSheet(QWidget *child);

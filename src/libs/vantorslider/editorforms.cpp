@@ -2,6 +2,9 @@
 
 #include "childwidget_p.h"
 #include "recteditframe.h"
+#include "rgballeditframe.h"
+#include "rgbeditframe.h"
+#include "rgbopacityeditframe.h"
 #include "slidereditframe.h"
 #include "slidereditframedouble.h"
 
@@ -51,11 +54,16 @@ template <typename Editor> void restoreFormsOf(const QWidget *root)
     }
     const Editor form;
     const auto children = form.template findChildren<QWidget *>();
-    for (const Editor *editor : std::as_const(editors)) {
+    for (Editor *editor : std::as_const(editors)) {
         for (const QWidget *ofForm : children) {
             auto *const child = editor->template findChild<QWidget *>(ofForm->objectName());
             if (child != nullptr && qobject_cast<QLabel *>(child) == nullptr) {
                 restore(child, ofForm);
+            }
+        }
+        for (const char *property : {"lastVerticalSpace", "lockToolTips"}) {
+            if (form.property(property).isValid()) {
+                editor->setProperty(property, form.property(property));
             }
         }
     }
@@ -68,6 +76,9 @@ void restoreForms(const QWidget *root)
     restoreFormsOf<SliderEditFrame>(root);
     restoreFormsOf<SliderEditFrameDouble>(root);
     restoreFormsOf<RectEditFrame>(root);
+    restoreFormsOf<RGBEditFrame>(root);
+    restoreFormsOf<RGBAllEditFrame>(root);
+    restoreFormsOf<RGBOpacityEditFrame>(root);
 }
 
 } // namespace Vantor::Widgets::Internal

@@ -5,7 +5,7 @@
 #include <QtCore/QDebug>
 #include <QtCore/QPointer>
 #include <QtGui/QFontMetrics>
-#include <QtWidgets/QSpacerItem>
+#include <QtWidgets/QLayout>
 
 #include <algorithm>
 #include <vector>
@@ -13,6 +13,12 @@
 namespace Vantor::Widgets::Internal {
 
 // QDebug adds a space on each side of the number, beside the one of each text.
+void warnOfType(int type, const QMessageLogger &here, const char *task)
+{
+    const QByteArray failure = QByteArray(task) + " has failed. The type ";
+    here.warning() << failure.constData() << type << " is invalid.";
+}
+
 SliderEditFrame *EditorRows::findOrWarn(int type, const QMessageLogger &here,
                                         const char *task) const
 {
@@ -21,8 +27,7 @@ SliderEditFrame *EditorRows::findOrWarn(int type, const QMessageLogger &here,
             return row.frame;
         }
     }
-    const QByteArray failure = QByteArray(task) + " has failed. The type ";
-    here.warning() << failure.constData() << type << " is invalid.";
+    warnOfType(type, here, task);
     return nullptr;
 }
 
@@ -99,12 +104,35 @@ int labelWidth(const SliderEditFrame &row, const QFontMetrics &metrics)
 #endif
 }
 
+void markTopmost(const QLayout *column)
+{
+    bool isTopmost = true;
+    for (int i = 0; i < column->count(); ++i) {
+        QWidget *widget = column->itemAt(i)->widget();
+        if (widget != nullptr) {
+            setStyledProperty(widget, "isTopmost", isTopmost && !widget->isHidden());
+            isTopmost = isTopmost && widget->isHidden();
+        }
+    }
+}
+
 void setSpacerExpanding(QSpacerItem *spacer, bool isExpanding)
 {
     if (isExpanding) {
         spacer->changeSize(20, 20, QSizePolicy::Expanding, QSizePolicy::Expanding);
     } else {
         spacer->changeSize(20, 0, QSizePolicy::Expanding, QSizePolicy::Ignored);
+    }
+}
+
+// Only the forms have another horizontal policy.
+void setSpacerHeight(QSpacerItem *spacer, QLayout *column, int height)
+{
+    const QSizePolicy policy = spacer->sizePolicy();
+    if (policy.horizontalPolicy() != QSizePolicy::Expanding) {
+        spacer->changeSize(spacer->sizeHint().width(), std::max(height, 0),
+                           policy.horizontalPolicy(), policy.verticalPolicy());
+        column->invalidate();
     }
 }
 

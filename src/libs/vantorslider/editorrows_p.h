@@ -10,6 +10,7 @@
 
 QT_BEGIN_NAMESPACE
 class QFontMetrics;
+class QLayout;
 class QSpacerItem;
 QT_END_NAMESPACE
 
@@ -18,6 +19,10 @@ namespace Vantor::Widgets::Internal {
 // The origin of a warning: file, line and signature of a public function. It must be used in that
 // function itself, because Q_FUNC_INFO names the enclosing function.
 #define VANTORSLIDER_HERE QMessageLogger(__FILE__, __LINE__, Q_FUNC_INFO)
+
+// Writes to Qt's log that no part of an editor has this type flag. task names the failed call, as
+// in "Set Rect value".
+void warnOfType(int type, const QMessageLogger &here, const char *task);
 
 // The rows of a composite editor, in order and with their type flags: calls one of them by its
 // flag, or all.
@@ -32,8 +37,7 @@ public:
 
     EditorRows(std::initializer_list<Row> rows) : m_rows(rows) { }
 
-    // The row with this type flag, or null and a warning in Qt's log. task names the failed call,
-    // as in "Set Rect value".
+    // The row with this type flag, or null and a warning, see warnOfType().
     SliderEditFrame *findOrWarn(int type, const QMessageLogger &here, const char *task) const;
 
     template <typename Operation, typename... Arguments>
@@ -78,7 +82,14 @@ void finishEntries(const QList<SliderEditFrame *> &rows);
 int labelWidth(const SliderEditFrame &row);
 int labelWidth(const SliderEditFrame &row, const QFontMetrics &metrics);
 
+// Sets "isTopmost" of the first shown widget of a column, by which a style sheet knows that there
+// is nothing above it.
+void markTopmost(const QLayout *column);
+
 // Gives the spare height to the spacer below the rows, or to the rows.
 void setSpacerExpanding(QSpacerItem *spacer, bool isExpanding);
+
+// Sets the height that the form gives to this spacer, unless setSpacerExpanding() has set another.
+void setSpacerHeight(QSpacerItem *spacer, QLayout *column, int height);
 
 } // namespace Vantor::Widgets::Internal

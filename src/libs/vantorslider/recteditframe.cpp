@@ -10,20 +10,9 @@ namespace Vantor::Widgets {
 
 using Row = SliderEditFrame;
 
-namespace {
-
-// Sets "isBesideLock" while the other panel's lock is shown. A style sheet can collapse the
-// placeholder of a hidden lock unless it is set, so that the rows of both panels stay aligned.
-void markBesideLock(QWidget *placeholder, bool isBesideLock)
-{
-    constexpr const char *property = "isBesideLock";
-    if (placeholder->property(property).toBool() != isBesideLock) {
-        placeholder->setProperty(property, isBesideLock);
-        Internal::applyStyleSheet(placeholder);
-    }
-}
-
-} // namespace
+// Whether the other panel's lock is shown. A style sheet can collapse the placeholder of a hidden
+// lock unless it is set, so that the rows of both panels stay aligned.
+static const char *const besideLock = "isBesideLock";
 
 RectEditFrame::RectEditFrame(QWidget *parent)
     : QFrame(parent), d(new Internal::RectEditFramePrivate(this))
@@ -67,6 +56,10 @@ void RectEditFrame::setEditerVisible(int types)
     d->rows().setVisible(types);
     for (QWidget *panel : {d->ui->framePosition, d->ui->frameSize}) {
         Internal::setShown(panel, (types & d->rows().typesIn(panel)) != 0);
+    }
+    for (const QLayout *column : {d->ui->verticalLayout, d->ui->verticalLayoutFramePosition,
+                                  d->ui->verticalLayoutFrameSize}) {
+        Internal::markTopmost(column);
     }
 }
 
@@ -254,6 +247,16 @@ void RectEditFrame::setTimeSamplingRate(int val)
     d->rows().all(&Row::setTimeSamplingRate, val);
 }
 
+int RectEditFrame::lastVerticalSpace() const
+{
+    return d->ui->verticalSpacer->sizeHint().height();
+}
+
+void RectEditFrame::setLastVerticalSpace(int height)
+{
+    Internal::setSpacerHeight(d->ui->verticalSpacer, d->ui->verticalLayout, height);
+}
+
 void RectEditFrame::setLastVerticalSpacerExpanding(bool b)
 {
     Internal::setSpacerExpanding(d->ui->verticalSpacer, b);
@@ -268,15 +271,41 @@ void RectEditFrame::setPositionLockEnable(bool b)
 {
     Internal::setShown(d->ui->toolButtonLockPosition, b);
     Internal::setShown(d->ui->frameSpacerLockPosition, !b);
-    markBesideLock(d->ui->frameSpacerLockSize, b);
+    Internal::setStyledProperty(d->ui->frameSpacerLockSize, besideLock, b);
 }
 
 void RectEditFrame::setSizeLockEnable(bool b, LockType type)
 {
     Internal::setShown(d->ui->toolButtonLockSize, b);
     Internal::setShown(d->ui->frameSpacerLockSize, !b);
-    markBesideLock(d->ui->frameSpacerLockPosition, b);
+    Internal::setStyledProperty(d->ui->frameSpacerLockPosition, besideLock, b);
     d->m_sizeLockType = type;
+}
+
+QToolButton *RectEditFrame::lockButton(Type type) const
+{
+    if (type == Position) {
+        return d->ui->toolButtonLockPosition;
+    }
+    if (type == Size) {
+        return d->ui->toolButtonLockSize;
+    }
+    Internal::warnOfType(type, VANTORSLIDER_HERE, "Get Rect lock button");
+    return nullptr;
+}
+
+bool RectEditFrame::lockToolTips() const
+{
+    return d->m_hasLockToolTips;
+}
+
+void RectEditFrame::setLockToolTips(bool b)
+{
+    d->m_hasLockToolTips = b;
+    d->ui->toolButtonLockPosition->removeEventFilter(d);
+    if (b) {
+        d->ui->toolButtonLockPosition->installEventFilter(d);
+    }
 }
 
 void RectEditFrame::setSizeLock(bool bLock)

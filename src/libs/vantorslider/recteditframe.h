@@ -7,6 +7,10 @@
 #include <QtCore/QRect>
 #include <QtWidgets/QFrame>
 
+QT_BEGIN_NAMESPACE
+class QToolButton;
+QT_END_NAMESPACE
+
 namespace Vantor {
 namespace Widgets {
 
@@ -62,6 +66,8 @@ class VANTORSLIDER_EXPORT RectEditFrame : public QFrame
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
     Q_PROPERTY(
         QRect rectangle READ committedRectangle WRITE setRectangle NOTIFY valueChanged USER true)
+    Q_PROPERTY(bool lockToolTips READ lockToolTips WRITE setLockToolTips)
+    Q_PROPERTY(int lastVerticalSpace READ lastVerticalSpace WRITE setLastVerticalSpace)
 
 public:
     /*! The fields, as flags. setEditerVisible() accepts combinations. */
@@ -245,6 +251,16 @@ public:
     */
     void setLastVerticalSpacerExpanding(bool b);
 
+    /*!
+        Gives the space below the panels a height of \a height pixels, beside the spare height that
+       it takes; 14 by default. Does nothing after setLastVerticalSpacerExpanding(). In a style
+       sheet: qproperty-lastVerticalSpace. \since 1.1
+    */
+    void setLastVerticalSpace(int height);
+
+    /*! Returns the height of the space below the panels without spare height. \since 1.1 */
+    int lastVerticalSpace() const;
+
     /*! Returns whether a mouse button is down on the slider of any field. */
     bool isMousePressed() const;
 
@@ -260,6 +276,23 @@ public:
         off.
     */
     void setSizeLockEnable(bool b, LockType type);
+
+    /*!
+        Returns the button of the position lock for Position, that of the size lock for Size, for
+        the host's tool tip, icon or text. It belongs to the editor and is deleted with it. Any
+        other value returns null and logs one warning. \since 1.1
+    */
+    QToolButton *lockButton(Type type) const;
+
+    /*!
+        Gives both lock buttons a tool tip, their accessible name, if \a b is true; false by
+        default. A tool tip that the host sets takes precedence, also that of the editor or of a
+        widget around it. In a style sheet: qproperty-lockToolTips. \since 1.1
+    */
+    void setLockToolTips(bool b);
+
+    /*! Returns whether the lock buttons have a tool tip of their own. \since 1.1 */
+    bool lockToolTips() const;
 
     /*!
         Turns the size lock on or off; off by default. Each call with true takes the current size

@@ -1,8 +1,12 @@
 #include "recteditframe_p.h"
 
+#include "childwidget_p.h"
+
 #include <QtCore/QEvent>
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
+#include <QtGui/QHelpEvent>
+#include <QtWidgets/QToolTip>
 
 #include <memory>
 
@@ -16,33 +20,38 @@ void allowAnyDirection(SliderEditFrame *field)
 }
 
 // A spacer above or below a lock. It is never larger than the lock's placeholder: a style sheet
-// that collapses the placeholder collapses the column.
+// that collapses the placeholder collapses the column. If the sheet permits it any width, the
+// column is as wide as the other panel's lock, whose width can be the style's.
 class LockSpacer : public QSpacerItem
 {
 public:
-    LockSpacer(const QSpacerItem &form, const QWidget *placeholder)
-        : QSpacerItem(form), m_placeholder(placeholder)
+    LockSpacer(const QSpacerItem &form, const QWidget *placeholder, const QWidget *otherLock)
+        : QSpacerItem(form), m_placeholder(placeholder), m_otherLock(otherLock)
     {
     }
 
-    QSize sizeHint() const override
-    {
-        return QSpacerItem::sizeHint().boundedTo(m_placeholder->maximumSize());
-    }
-    QSize minimumSize() const override
-    {
-        return QSpacerItem::minimumSize().boundedTo(m_placeholder->maximumSize());
-    }
+    QSize sizeHint() const override { return bounded(QSpacerItem::sizeHint()); }
+    QSize minimumSize() const override { return bounded(QSpacerItem::minimumSize()); }
 
 private:
+    QSize bounded(QSize size) const
+    {
+        if (m_placeholder->maximumWidth() == QWIDGETSIZE_MAX && !m_placeholder->isHidden()) {
+            size.setWidth(m_otherLock->minimumWidth());
+        }
+        return size.boundedTo(m_placeholder->maximumSize());
+    }
+
     const QWidget *m_placeholder;
+    const QWidget *m_otherLock;
 };
 
 // Replaces the form's spacer at that index.
-QSpacerItem *collapsibleSpacer(QBoxLayout *column, int index, const QWidget *placeholder)
+QSpacerItem *collapsibleSpacer(QBoxLayout *column, int index, const QWidget *placeholder,
+                               const QWidget *otherLock)
 {
     const std::unique_ptr<QLayoutItem> form(column->takeAt(index));
-    auto *spacer = new LockSpacer(*form->spacerItem(), placeholder);
+    auto *spacer = new LockSpacer(*form->spacerItem(), placeholder, otherLock);
     column->insertItem(index, spacer);
     return spacer;
 }
@@ -59,23 +68,33 @@ void RectEditFramePrivate::createWidgets()
     ui->toolButtonLockSize->installEventFilter(this);
     ui->toolButtonLockPosition->installEventFilter(&m_itemEditor);
     ui->toolButtonLockSize->installEventFilter(&m_itemEditor);
-    ui->verticalSpacer_5 =
-        collapsibleSpacer(ui->verticalLayoutLockPosition, 0, ui->frameSpacerLockPosition);
-    ui->verticalSpacer_4 =
-        collapsibleSpacer(ui->verticalLayoutLockPosition, 2, ui->frameSpacerLockPosition);
-    ui->verticalSpacer_2 =
-        collapsibleSpacer(ui->verticalLayoutLockSize, 0, ui->frameSpacerLockSize);
-    ui->verticalSpacer_3 =
-        collapsibleSpacer(ui->verticalLayoutLockSize, 2, ui->frameSpacerLockSize);
+    ui->verticalSpacer_5 = collapsibleSpacer(ui->verticalLayoutLockPosition, 0,
+                                             ui->frameSpacerLockPosition, ui->toolButtonLockSize);
+    ui->verticalSpacer_4 = collapsibleSpacer(ui->verticalLayoutLockPosition, 2,
+                                             ui->frameSpacerLockPosition, ui->toolButtonLockSize);
+    ui->verticalSpacer_2 = collapsibleSpacer(ui->verticalLayoutLockSize, 0, ui->frameSpacerLockSize,
+                                             ui->toolButtonLockPosition);
+    ui->verticalSpacer_3 = collapsibleSpacer(ui->verticalLayoutLockSize, 2, ui->frameSpacerLockSize,
+                                             ui->toolButtonLockPosition);
     m_pEditer->setPositionLockEnable(false);
     m_pEditer->setSizeLockEnable(false, RectEditFrame::SizeScaleLock);
 }
 
-// One button stands for the editor: each widget of a window receives a change of the language.
+// That of the size lock stands for the editor: each widget of a window receives a change of the
+// language. The other one is watched only for its tool tip. A tool tip of the host takes
+// precedence, also that of the editor or of a widget around it.
 bool RectEditFramePrivate::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange) {
+    if (event->type() == QEvent::LanguageChange && watched == ui->toolButtonLockSize) {
         nameLocks();
+    }
+    if (event->type() == QEvent::ToolTip && m_hasLockToolTips) {
+        auto *const lock = static_cast<QToolButton *>(watched);
+        if (!hasToolTip(lock)) {
+            const QPoint place = static_cast<const QHelpEvent *>(event)->globalPos();
+            QToolTip::showText(place, lock->accessibleName(), lock);
+            return true;
+        }
     }
     return QObject::eventFilter(watched, event);
 }

@@ -46,6 +46,7 @@ public:
     QSize m_lockedSize;
     bool m_isLockedPosition = false;
     bool m_isLockedSize = false;
+    bool m_hasLockToolTips = false;
     // The accessible names as they were last translated.
     QString m_strPositionLock;
     QString m_strSizeLock;

@@ -257,6 +257,16 @@ void RGBAllEditFrame::setTimeSamplingRate(int val)
     d->rows().all(&Row::setTimeSamplingRate, val);
 }
 
+int RGBAllEditFrame::lastVerticalSpace() const
+{
+    return d->ui->verticalSpacer->sizeHint().height();
+}
+
+void RGBAllEditFrame::setLastVerticalSpace(int height)
+{
+    Internal::setSpacerHeight(d->ui->verticalSpacer, d->ui->verticalLayout, height);
+}
+
 void RGBAllEditFrame::setLastVerticalSpacerExpanding(bool b)
 {
     Internal::setSpacerExpanding(d->ui->verticalSpacer, b);

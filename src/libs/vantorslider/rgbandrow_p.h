@@ -49,6 +49,7 @@ struct RGBAndRow
         if ((types & channels) != 0) {
             block->setEditerVisible(types);
         }
+        markTopmost(block->parentWidget()->layout());
     }
 
     EditorRows::Row fourth;

@@ -113,6 +113,7 @@ void RGBEditFrame::setLabelText(Type type, const QString &text)
 void RGBEditFrame::setEditerVisible(int types)
 {
     d->rows().setVisible(types);
+    Internal::markTopmost(d->ui->verticalLayout);
 }
 
 void RGBEditFrame::setHorizontalSpacing(const int &nLabelSlider, const int &nSliderButton)
@@ -290,6 +291,16 @@ void RGBEditFrame::setTimeSamplingRate(int val)
 void RGBEditFrame::setLastVerticalSpacerExpanding(bool b)
 {
     Internal::setSpacerExpanding(d->ui->verticalSpacer, b);
+}
+
+int RGBEditFrame::lastVerticalSpace() const
+{
+    return d->ui->verticalSpacer->sizeHint().height();
+}
+
+void RGBEditFrame::setLastVerticalSpace(int height)
+{
+    Internal::setSpacerHeight(d->ui->verticalSpacer, d->ui->verticalLayout, height);
 }
 
 bool RGBEditFrame::isMousePressed() const

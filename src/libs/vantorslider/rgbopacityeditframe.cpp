@@ -271,6 +271,16 @@ void RGBOpacityEditFrame::setTimeSamplingRate(int val)
     d->rows().all(&Row::setTimeSamplingRate, val);
 }
 
+int RGBOpacityEditFrame::lastVerticalSpace() const
+{
+    return d->ui->verticalSpacer->sizeHint().height();
+}
+
+void RGBOpacityEditFrame::setLastVerticalSpace(int height)
+{
+    Internal::setSpacerHeight(d->ui->verticalSpacer, d->ui->verticalLayout, height);
+}
+
 void RGBOpacityEditFrame::setLastVerticalSpacerExpanding(bool b)
 {
     Internal::setSpacerExpanding(d->ui->verticalSpacer, b);

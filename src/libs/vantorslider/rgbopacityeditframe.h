@@ -46,6 +46,7 @@ class VANTORSLIDER_EXPORT RGBOpacityEditFrame : public QFrame
     Q_PROPERTY(Vantor::Widgets::EntryOptions entryOptions READ entryOptions WRITE setEntryOptions)
     Q_PROPERTY(bool coloredGrooves READ coloredGrooves WRITE setColoredGrooves)
     Q_PROPERTY(QColor color READ committedColor WRITE setColor NOTIFY valueChanged USER true)
+    Q_PROPERTY(int lastVerticalSpace READ lastVerticalSpace WRITE setLastVerticalSpace)
 
 public:
     /*! The channels and the opacity, as flags. */
@@ -204,6 +205,16 @@ public:
         by default. On a visible editor this takes effect with its next layout pass.
     */
     void setLastVerticalSpacerExpanding(bool b);
+
+    /*!
+        Gives the space below the rows a height of \a height pixels, beside the spare height that it
+        takes; 277 by default. Does nothing after setLastVerticalSpacerExpanding(). In a style
+       sheet: qproperty-lastVerticalSpace. \since 1.1
+    */
+    void setLastVerticalSpace(int height);
+
+    /*! Returns the height of the space below the rows without spare height. \since 1.1 */
+    int lastVerticalSpace() const;
 
 public Q_SLOTS:
     /*! Shows the default value of each row that has one. Emits nothing. \since 1.1 */

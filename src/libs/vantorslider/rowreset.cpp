@@ -77,11 +77,7 @@ bool RowReset::eventFilter(QObject *watched, QEvent *event)
 // Whether the hint would hide the host's own tool tip of the row or of a widget around it.
 bool RowReset::isHintInTheWay() const
 {
-    const QWidget *around = m_label->toolTip() == m_hint ? m_label->parentWidget() : nullptr;
-    while (around != nullptr && around->toolTip().isEmpty()) {
-        around = around->isWindow() ? nullptr : around->parentWidget();
-    }
-    return around != nullptr;
+    return m_label->toolTip() == m_hint && hasToolTip(m_label->parentWidget());
 }
 
 QEvent::Type rowResetEvent()
