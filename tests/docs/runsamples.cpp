@@ -60,7 +60,7 @@ void trySheet(const QString &path)
     }
     sheet.remove(QRegularExpression("/\\*.*?\\*/", QRegularExpression::DotMatchesEverythingOption));
     const QRegularExpression rule("([^{}]+)\\{([^{}]*)\\}");
-    const QRegularExpression noDeclaration("^(?!\\s*([a-z-]+: .+)?$)");
+    const QRegularExpression noDeclaration("^(?!\\s*([A-Za-z-]+: .+)?$)");
     for (auto rules = rule.globalMatch(sheet); rules.hasNext();) {
         const auto match = rules.next();
         // Qt ignores a declaration that it can't parse.
