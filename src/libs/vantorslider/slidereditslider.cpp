@@ -100,11 +100,6 @@ bool SliderEditSlider::event(QEvent *event)
     if (!edit) {
         return isHandled; // a receiver has deleted the row
     }
-    // Without a HostWindow the slider has never been pressed.
-    if (m_hostWindow != nullptr && Internal::isPointerLostBy(event, this)
-        && !m_hostWindow->isBeingDestroyed()) {
-        releasePointer();
-    }
     if (event->type() == QEvent::StyleChange) {
         m_ticks = TicksUnknown;
     }
@@ -116,7 +111,12 @@ bool SliderEditSlider::event(QEvent *event)
             m_groove->hover(*hover, option);
         }
     }
-    if (edit) {
+    // Without a HostWindow the slider has never been pressed.
+    if (m_hostWindow != nullptr && Internal::isPointerLostBy(event, this)
+        && !m_hostWindow->isBeingDestroyed()) {
+        releasePointer();
+    }
+    if (edit) { // a receiver of the release may have deleted it
         Internal::passFocus(this, event);
     }
     return isHandled;
