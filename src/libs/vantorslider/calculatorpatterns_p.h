@@ -7,8 +7,7 @@
 namespace Vantor::Widgets::Internal {
 
 // The four regular expressions of the calculator, compiled once for the process; each line edit has
-// copies of them. The filter runs on each keystroke, so it tests a single character, which two of
-// them accept, without them.
+// copies of them. The filter runs at each key, so it tests a single character without them.
 struct CalculatorPatterns
 {
     static const CalculatorPatterns &instance()
@@ -41,7 +40,7 @@ struct CalculatorPatterns
         }
     }
 
-    // Whether the number around the character has a second point or too many decimals by it.
+    // Whether the number around the character has, with it, a second point or too many decimals.
     static bool isOneTooMany(const QString &text, int position, int decimals)
     {
         int start = position;

@@ -12,7 +12,6 @@ namespace Vantor::Widgets::Internal {
 namespace {
 
 constexpr std::size_t opacity = 3; // the index of its row
-constexpr quint16 fullChannel = 65535; // of a QColor
 constexpr int logarithmicParts = 16; // straight in between
 
 // The channel at a place on the way of the row's handle, from 0 to 1.

@@ -9,7 +9,7 @@ namespace Vantor::Widgets {
 
 namespace Internal {
 
-// The minima of the area; keeps the crop in the area and reports it.
+// The minima of the crop; keeps it in the area and reports it.
 class CropEditFramePrivate : public LimitedFields
 {
     Q_OBJECT
@@ -60,7 +60,6 @@ LimitedPair CropEditFramePrivate::farEdge(const LimitedField &position,
                          m_pEditer->row(size.type)->maximum())};
 }
 
-// The user has set the first field of the pair to val.
 void CropEditFramePrivate::limit(const LimitedPair &pair, int val)
 {
     if (limitAndShow(pair, val)) {

@@ -1,14 +1,12 @@
 #include "flickfilter_p.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QTimerEvent>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QTouchEvent>
 #include <QtGui/QWindow>
 #include <QtWidgets/QAbstractSlider>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QScroller>
 
 #include <utility>
 
@@ -56,8 +54,8 @@ FlickFilter *filterOf(const QWidget *row)
     return nullptr;
 }
 
-// What a mouse event consists of. With Qt 6 it can't be delivered after another one: the events of
-// a device share a point.
+// What a mouse event consists of. With Qt 6 the event itself can't be delivered after another one:
+// the events of a device share a point.
 struct MouseEventCopy
 {
     explicit MouseEventCopy(const QMouseEvent *event)
@@ -88,11 +86,6 @@ struct MouseEventCopy
 };
 
 } // namespace
-
-bool FlickFilter::isOn(const QWidget *row)
-{
-    return filterOf(row) != nullptr;
-}
 
 void FlickFilter::setOn(QWidget *row, bool isOn)
 {
@@ -267,6 +260,7 @@ void FlickFilter::flick()
     }
 }
 
+// The row receives nothing more of this touch.
 void FlickFilter::drop()
 {
     m_rest.stop();

@@ -26,7 +26,6 @@ class FlickFilter : public QObject
 public:
     // Switches the option of a row on or off.
     static void setOn(QWidget *row, bool isOn);
-    static bool isOn(const QWidget *row);
 
     ~FlickFilter() override;
 
@@ -39,7 +38,7 @@ private:
         Idle, // no finger is on the row
         Undecided,
         Pressing, // the row receives the mouse events
-        Flicking // the page scrolls
+        Flicking // the row receives nothing, and the page may scroll
     };
 
     explicit FlickFilter(QWidget *row);

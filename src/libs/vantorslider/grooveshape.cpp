@@ -70,9 +70,9 @@ GrooveShape measuredGroove(const QSlider &slider, QStyleOptionSlider option)
     }
     const qreal pixelRatio = groovePicture.devicePixelRatio();
     const int height = groovePicture.height();
-    shape.hasBorder = 2 * visibleRows(groovePicture, groovePicture.width() / 2) > height;
+    shape.isDrawnByStyle = 2 * visibleRows(groovePicture, groovePicture.width() / 2) > height;
     shape.inside = shape.groove;
-    if (shape.hasBorder) {
+    if (shape.isDrawnByStyle) {
         shape.isFilledAtMinimum = groovePicture != groovePicture.mirrored(true, false);
         const QPoint left(-1, 0);
         const QPoint down(0, 1);

@@ -15,8 +15,8 @@ struct GrooveShape
     QRect groove; // with its border
     QRectF inside;
     qreal radius = 0; // of the corners of inside
-    bool hasBorder = false; // the style draws a groove of this height
-    bool isFilledAtMinimum = false; // the style draws the end before the handle otherwise
+    bool isDrawnByStyle = false; // in its whole height; otherwise a bar replaces it
+    bool isFilledAtMinimum = false; // the style draws the end before the handle differently
     qreal handleLeft = 0; // the visible part of the handle, from the left edge of its rectangle
     qreal handleRight = 0;
 };

@@ -1,6 +1,5 @@
 #include "itemeditor_p.h"
 
-#include <QtGui/QKeyEvent>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QApplication>

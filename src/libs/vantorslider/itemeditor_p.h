@@ -6,10 +6,9 @@
 
 namespace Vantor::Widgets::Internal {
 
-// A field in an editor that a delegate of an item view has created, or as that editor. The delegate
-// takes the value when it sees a key or a loss of focus of the editor. As the editor, the field
-// sees only what precedes these events. In an editor, it has to pass them on, and so have the other
-// widgets that take the focus.
+// A delegate of an item view creates an editor, and takes its value when the editor receives a key
+// or loses the focus. A field that is the editor sees only what precedes these events. A field in
+// an editor has to pass them on, and so have the other widgets that take the focus.
 
 // The editor around the widget, or null. Neither an editor that stays open counts, nor a widget
 // that the host has set for an index.

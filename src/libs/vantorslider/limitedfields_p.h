@@ -46,9 +46,9 @@ public:
     void watchRows();
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    // The values that a field shows.
+    // The values that the fields show.
     FieldValues values() const;
-    // Stores the values that the program sets; the user's change back to them is no change.
+    // Stores the values that the program sets: the user's return to them is not reported.
     void setLast(const FieldValues &values) { m_last = values; }
     // Sets the allowed directions of both pairs: at the limit neither value may grow.
     void allowWithinLimits(const FieldValues &values);

@@ -57,8 +57,6 @@ void MaskEditFramePrivate::createWidgets()
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     qRegisterMetaType<QMargins>(); // the type of a property
 #endif
-    m_pEditer->setPositionLockEnable(false);
-    m_pEditer->setSizeLockEnable(false, RectEditFrame::SizeScaleLock);
 }
 
 // The base class emits the signal of a field before valueChanged(). So the margins are limited and
@@ -72,7 +70,6 @@ void MaskEditFramePrivate::createConnects()
     connect(m_pEditer, &RectEditFrame::heightValueChanged, this, &Private::slotRightValueChanged);
 }
 
-// The user has set the first field of the pair to val.
 void MaskEditFramePrivate::limit(const LimitedPair &pair, int val)
 {
     if (limitAndShow(pair, val)) {

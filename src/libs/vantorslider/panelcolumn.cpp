@@ -42,13 +42,8 @@ void PanelColumn::collect(QWidget *widget, std::vector<QWidget *> &rows)
     }
     if (isRow(widget)) {
         rows.push_back(widget);
-    } else {
-        collectBelow(widget, rows);
+        return;
     }
-}
-
-void PanelColumn::collectBelow(const QWidget *widget, std::vector<QWidget *> &rows)
-{
     for (QObject *child : widget->children()) {
         if (child->isWidgetType()) {
             collect(static_cast<QWidget *>(child), rows);

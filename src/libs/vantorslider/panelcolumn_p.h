@@ -6,9 +6,9 @@
 
 namespace Vantor::Widgets::Internal {
 
-// A column of the rows in a host's panel, which owns this object. It watches the panel and the
-// widgets in it, and aligns the column again after each change: before anything is painted, and
-// once for several changes.
+// What all rows in a host's panel have in common, such as a column of labels in one width. The
+// panel owns this object, which watches it and the widgets in it, and aligns the rows again after
+// each change: before anything is painted, and once for several changes.
 //
 // It keeps no list of rows: each pass collects them. The filters stay when a widget leaves the
 // panel, and do no harm there.
@@ -19,7 +19,7 @@ class PanelColumn : public QObject
 public:
     explicit PanelColumn(QWidget *panel);
 
-    // Aligns the column now.
+    // Aligns the rows now.
     void update();
 
 protected:
@@ -37,7 +37,6 @@ protected:
 
 private:
     void collect(QWidget *widget, std::vector<QWidget *> &rows);
-    void collectBelow(const QWidget *widget, std::vector<QWidget *> &rows);
     bool isOtherColumn(const QWidget *widget) const;
 
     bool m_isPending = false;

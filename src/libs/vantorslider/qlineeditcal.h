@@ -108,9 +108,8 @@ private:
 
     int m_cursorPosition = 0;
     std::vector<QString> m_vecStringResults;
-    // Not read, like the regular expressions, m_bSuffix and m_btnFirstPress: the filter runs at
-    // each key and calls CalculatorPatterns::isAccepted() and isMark(), which accept the same
-    // characters.
+    // Not read, like the regular expressions, m_bSuffix and m_btnFirstPress: instead of those the
+    // filter calls CalculatorPatterns::isAccepted() and isMark(), which accept the same characters.
     QString m_beforeText;
     QString m_beforeResult;
     std::regex m_regex;

@@ -1,6 +1,7 @@
 #include "sliderdrag_p.h"
 
 #include "slidereditframe_p.h"
+#include "sliderparts_p.h"
 
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QStyleOptionSlider>
@@ -60,11 +61,8 @@ SliderDrag::Track SliderDrag::track() const
 {
     QStyleOptionSlider option;
     m_slider->initStyleOption(&option);
-    const auto rectOf = [&](QStyle::SubControl control) {
-        return m_slider->style()->subControlRect(QStyle::CC_Slider, &option, control, m_slider);
-    };
-    const QRect groove = rectOf(QStyle::SC_SliderGroove);
-    const QRect handle = rectOf(QStyle::SC_SliderHandle);
+    const QRect groove = sliderPartRect(*m_slider, QStyle::SC_SliderGroove, option);
+    const QRect handle = sliderPartRect(*m_slider, QStyle::SC_SliderHandle, option);
     const double first = groove.left();
     const double last = groove.left() + groove.width() - handle.width();
     const double minimum = m_slider->minimum();

@@ -28,7 +28,6 @@ public:
 private:
     struct Track;
 
-    void pressHandle(QMouseEvent *event);
     Track track() const;
     double speed(const QMouseEvent *event, const Track &track) const;
     double catchUp(double step, const Track &track) const;

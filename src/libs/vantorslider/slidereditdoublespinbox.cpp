@@ -4,7 +4,6 @@
 #include "editspan_p.h"
 
 #include <QtCore/QPointer>
-#include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
 
 namespace Vantor::Widgets {
@@ -13,7 +12,8 @@ using Internal::EditSpan;
 
 namespace {
 
-// Reads the number again as float, as hosts know it that have set the suffix on the spin box.
+// For a suffix that the host has set on the spin box itself: since 1.0 the number is then read
+// again, as float.
 void readWithoutSuffix(SliderEditDoubleSpinBox *box)
 {
     const bool isNumber =

@@ -203,7 +203,7 @@ int SliderEditFrame::committedValue()
 
 void SliderEditFrame::setSliderOptions(SliderOptions options)
 {
-    d->row().setSliderOptions(this, options);
+    d->row().setSliderOptions(options);
 }
 
 SliderOptions SliderEditFrame::sliderOptions() const

@@ -40,7 +40,7 @@ public:
     void setGrooveColors(Internal::GrooveColors *colors);
     Internal::GrooveColors *grooveColors() const;
     void updateGroove();
-    // Only GrooveMovesHandle and FineDrag have an effect on the slider itself.
+    // Only GrooveMovesHandle and FineDrag have an effect here: the row handles FlickScrolls.
     void setOptions(SliderOptions options);
     SliderOptions options() const { return m_options; }
 

@@ -102,7 +102,7 @@ double SliderEditFrameDouble::committedValue()
 
 void SliderEditFrameDouble::setSliderOptions(SliderOptions options)
 {
-    d->row().setSliderOptions(this, options);
+    d->row().setSliderOptions(options);
 }
 
 SliderOptions SliderEditFrameDouble::sliderOptions() const
@@ -190,7 +190,7 @@ void SliderEditFrameDouble::setRange(double min, double max)
         return;
     }
     const QSignalBlocker blocker(d->spinBox());
-    d->spinBox()->setRange(min + Internal::minPrecision, max + Internal::minPrecision);
+    d->spinBox()->setRange(min + Internal::leastDifference, max + Internal::leastDifference);
     setDecimals(d->precision());
 }
 
@@ -200,7 +200,7 @@ void SliderEditFrameDouble::setMinimum(double min)
         return;
     }
     const QSignalBlocker blocker(d->spinBox());
-    d->spinBox()->setMinimum(min + Internal::minPrecision);
+    d->spinBox()->setMinimum(min + Internal::leastDifference);
     setDecimals(d->precision());
     // Without decimals the slider already has the rounded bound of the spin box.
     if (decimals() != 0) {
@@ -214,7 +214,7 @@ void SliderEditFrameDouble::setMaximum(double max)
         return;
     }
     const QSignalBlocker blocker(d->spinBox());
-    const double bound = max + Internal::minPrecision;
+    const double bound = max + Internal::leastDifference;
     if (bound < minimum()) {
         // setMaximum() would lower the minimum, too, but the next setDecimals() would restore the
         // old one.
@@ -282,7 +282,7 @@ void SliderEditFrameDouble::setDecimals(int prec)
 
     d->scale().setEnds(lowest, highest);
     Internal::fieldTextsChanged(d->spinBox());
-    if (d->singleStep() > Internal::minPrecision && !d->scale().isLogarithmic()) {
+    if (d->singleStep() > Internal::leastDifference && !d->scale().isLogarithmic()) {
         const QSignalBlocker sliderBlocker(d->slider());
         d->slider()->setSingleStep(d->toPosition(d->singleStep()));
     }

@@ -16,8 +16,8 @@ void SliderEditDoublePrivate::setPrecision(int decimals)
 double SliderEditDoublePrivate::tolerance() const
 {
     const bool isExact = spinBox()->entryOptions().testFlag(ExactEntry);
-    return isExact ? qMin(minPrecision, 0.5 * std::pow(10.0, -spinBox()->decimals()))
-                   : minPrecision;
+    return isExact ? qMin(leastDifference, 0.5 * std::pow(10.0, -spinBox()->decimals()))
+                   : leastDifference;
 }
 
 // Rounds like QDoubleSpinBox.

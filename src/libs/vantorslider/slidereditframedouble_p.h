@@ -10,7 +10,7 @@
 namespace Vantor::Widgets::Internal {
 
 // Values that differ by less are equal; it is added to the bounds of the range.
-constexpr double minPrecision = 1e-8;
+constexpr double leastDifference = 1e-8;
 
 // A slider position is the value times the magnification.
 class SliderEditDoublePrivate : public SliderEngine<SliderEditDoublePrivate, SliderEditFrameDouble,

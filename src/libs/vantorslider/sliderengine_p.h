@@ -10,7 +10,6 @@
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QApplication>
 
 #include <algorithm>
@@ -77,11 +76,11 @@ public:
         return QObject::eventFilter(watched, event);
     }
 
-    // The frame filters the events of its spin box, and its own: whether it consumes one.
+    // Called for the events of the spin box and of the frame. Returns whether they end here.
     bool filter(const QObject *watched, QEvent *event) const
     {
         if (watched == engine().spinBox()) {
-            row().fieldReceives(event);
+            row().selectTextAfter(event);
         }
         if (watched != m_pSliderEditer) {
             return false;

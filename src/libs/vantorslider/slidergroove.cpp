@@ -182,8 +182,9 @@ void SliderGroove::drawGround(QStyleOptionSlider option, QPainter *painter) cons
     option.sliderPosition = option.minimum;
     option.sliderValue = option.minimum;
     if (!m_shape.isFilledAtMinimum) {
-        drawSliderParts(*m_pSlider, m_shape.hasBorder ? QStyle::SC_SliderGroove : QStyle::SC_None,
-                        option, painter);
+        drawSliderParts(*m_pSlider,
+                        m_shape.isDrawnByStyle ? QStyle::SC_SliderGroove : QStyle::SC_None, option,
+                        painter);
     } else {
         QRect half = m_pSlider->rect();
         half.setRight(half.center().x());
@@ -292,13 +293,13 @@ QImage SliderGroove::colorsPicture(const QVector<QColor> &colors) const
     return picture;
 }
 
-void SliderGroove::drawCover(QStyleOptionSlider option, QPainter *painter) const
+void SliderGroove::drawOverlay(QStyleOptionSlider option, QPainter *painter) const
 {
     const QRectF inside = m_shape.inside;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setOpacity(m_pSlider->isEnabled() ? 1 : disabledOpacity);
-    if (!m_shape.hasBorder) {
+    if (!m_shape.isDrawnByStyle) {
         painter->strokePath(insidePath(), QColor(128, 128, 128, 128)); // seen on white and on black
     }
     // A light and a dark line beside the handle: it is seen on each colour.
@@ -329,9 +330,9 @@ void SliderGroove::paint(QStyleOptionSlider option, const QRect &painted)
     const bool isColorsOnly =
         m_pColors != nullptr && m_shape.inside.toAlignedRect().contains(painted);
     const bool isGroundKept = isDrawnAlike(option) && (isColorsOnly || isDragged);
-    const bool isCoverKept = isGroundKept && isColorsOnly;
-    if (!isCoverKept) {
-        m_cover = QImage();
+    const bool isOverlayKept = isGroundKept && isColorsOnly;
+    if (!isOverlayKept) {
+        m_overlay = QImage();
     }
     if (!isGroundKept) {
         m_ground = QImage();
@@ -342,7 +343,7 @@ void SliderGroove::paint(QStyleOptionSlider option, const QRect &painted)
     QPainter painter(m_pSlider);
     drawLayer(&SliderGroove::drawGround, isWhole && isGroundKept, m_ground, option, &painter);
     drawColors(&painter);
-    drawLayer(&SliderGroove::drawCover, isWhole && isCoverKept, m_cover, option, &painter);
+    drawLayer(&SliderGroove::drawOverlay, isWhole && isOverlayKept, m_overlay, option, &painter);
 }
 
 } // namespace Vantor::Widgets::Internal

@@ -39,7 +39,7 @@ class SliderGroove
 public:
     explicit SliderGroove(QSlider *slider);
 
-    // The host's brush, and the colours that come before it.
+    // The host's brush, and the colours that are shown instead of it if they are not null.
     void fill(const QBrush &brush, GrooveColors *colors);
     const QBrush &brush() const { return m_brush; }
     GrooveColors *colors() const { return m_pColors; }
@@ -64,7 +64,7 @@ private:
                    QPainter *painter) const;
     void drawGround(QStyleOptionSlider option, QPainter *painter) const;
     void drawColors(QPainter *painter) const;
-    void drawCover(QStyleOptionSlider option, QPainter *painter) const;
+    void drawOverlay(QStyleOptionSlider option, QPainter *painter) const;
     QImage colorsPicture(const QVector<QColor> &colors) const;
 
     QSlider *m_pSlider;
@@ -78,7 +78,7 @@ private:
     QStyleOptionSlider m_option;
     QRectF m_way;
     QImage m_ground; // what lies below the colours
-    QImage m_cover; // what lies above them
+    QImage m_overlay; // what lies above them
     QImage m_coverage; // of the pixels of inside, by the opacity
 };
 

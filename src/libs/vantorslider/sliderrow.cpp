@@ -97,7 +97,7 @@ void SliderRow::setSliderVisible(bool isVisible) const
     slider->setFocusProxy(isVisible ? nullptr : spinBox);
 }
 
-void SliderRow::setSliderOptions(QWidget *frame, SliderOptions options) const
+void SliderRow::setSliderOptions(SliderOptions options) const
 {
     slider->setOptions(options);
     FlickFilter::setOn(frame, options.testFlag(FlickScrolls));
@@ -116,7 +116,7 @@ bool SliderRow::isHeldEnter(const QEvent *event)
 }
 
 // The selection is queued, because the spin box moves the cursor when it handles the event.
-void SliderRow::fieldReceives(const QEvent *event) const
+void SliderRow::selectTextAfter(const QEvent *event) const
 {
     if (event->type() != QEvent::FocusIn && event->type() != QEvent::MouseButtonPress) {
         return;

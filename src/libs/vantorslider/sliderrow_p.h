@@ -36,7 +36,8 @@ struct SliderRow
     {
     }
 
-    // Called once after setupUi(): sets focus policies, style properties and the event filter.
+    // Called once after setupUi(): sets focus policies and style properties, and has the frame
+    // filter the events of the spin box and its own.
     void prepare() const;
 
     // The gaps between the children, in the direction of the frame.
@@ -44,7 +45,7 @@ struct SliderRow
     void mirrorGaps() const;
     void setLabelText(const QString &text) const;
     void setSliderVisible(bool isVisible) const;
-    void setSliderOptions(QWidget *frame, SliderOptions options) const;
+    void setSliderOptions(SliderOptions options) const;
     void setFieldFocus() const;
 
     // Calls the operation for plus, then for minus: a member function of theirs, or a function
@@ -61,7 +62,7 @@ struct SliderRow
     static bool isHeldEnter(const QEvent *event);
 
     // A click or Tab into the spin box selects its text.
-    void fieldReceives(const QEvent *event) const;
+    void selectTextAfter(const QEvent *event) const;
 
     QWidget *frame;
     QVBoxLayout *nameLayout;
