@@ -54,6 +54,8 @@ template <typename SpinBox> void addRow(const QString &row, const QString &)
             for (const QString &word : typed.split(' ')) {
                 if (word.startsWith('['))
                     User::paste(word.mid(1, word.size() - 2));
+                else if (word == "held")
+                    User::repeatEnter();
                 else
                     User::typeOrPress(word);
             }

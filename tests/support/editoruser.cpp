@@ -217,10 +217,7 @@ void EditorUser::addGestures()
     for (const QString key : {"Up", "Down", "Left", "Right", "Home", "End", "Escape"})
         on(key.toLower(), [key](const Step &) { User::typeOrPress(key); });
     on("press", [](const Step &step) { User::typeOrPress(step.text); });
-    on("held", [](const Step &) {
-        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
-        QApplication::sendEvent(QApplication::focusWidget(), &repeated);
-    });
+    on("held", [](const Step &) { User::repeatEnter(); });
     on("elsewhere", [this](const Step &) {
         QTest::mouseClick(page.windowHandle(), Qt::LeftButton, {}, QPoint(1, 1));
         page.setFocus();

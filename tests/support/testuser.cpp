@@ -71,6 +71,12 @@ void User::paste(const QString &text)
     press(Qt::Key_V, Qt::ControlModifier);
 }
 
+void User::repeatEnter()
+{
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+    QApplication::sendEvent(QApplication::focusWidget(), &repeated);
+}
+
 void User::typeOrPress(const QString &word)
 {
     const auto name = QRegularExpression("^(Shift\\+)?(Ctrl\\+)?([A-Z][a-z]*)$").match(word);

@@ -16,6 +16,8 @@ namespace User {
 // Shows the window and waits until it is active; false if it never is.
 [[nodiscard]] bool show(QWidget &window);
 void paste(const QString &text);
+// What a held Enter sends again and again.
+void repeatEnter();
 // Presses the key of that name, such as Tab or Escape, or types the text.
 void typeOrPress(const QString &word);
 // An input method shows a text in the field, underlined, or inserts one, instead of that many

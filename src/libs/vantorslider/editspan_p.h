@@ -2,7 +2,7 @@
 
 #include "hostwindow_p.h"
 
-#include <QtCore/QtGlobal>
+#include <QtCore/QObject>
 
 #include <chrono>
 #include <memory>
