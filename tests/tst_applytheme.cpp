@@ -3,9 +3,6 @@
 #include "applytheme.h"
 #include "editoruser.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-
 using namespace Vantor::Widgets;
 
 // A theme that is applied by one call looks like the sheet of its file, set for the state that the
@@ -49,12 +46,10 @@ struct Panel
     QImage picture()
     {
         [&] { QVERIFY(User::show(window)); }();
-        for (int i = 0; i < 6; ++i)
-            QCoreApplication::processEvents();
+        settle();
         window.setFocus();
         window.resize(600, window.sizeHint().height());
-        QCoreApplication::processEvents();
-        return window.grab().toImage();
+        return pictureOf(&window);
     }
 
     QWidget window;
@@ -78,16 +73,10 @@ struct Target
 
 using Change = std::function<void(const Target &)>;
 
-QString read(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
 QString sheetOf(EditorTheme theme)
 {
-    const char *const names[] = {"none", "desktop", "touch-light", "touch-dark"};
-    QString sheet = read(QString(STYLES_DIR "/%1.qss").arg(names[int(theme)]));
+    const char *const names[] = {"", "desktop", "touch-light", "touch-dark"};
+    QString sheet = theme == EditorTheme::NoTheme ? QString() : themeSheet(names[int(theme)]);
     if (QApplication::isRightToLeft() && theme != EditorTheme::Desktop)
         sheet.replace("sub-page", "other")
             .replace("add-page", "sub-page")
@@ -124,7 +113,7 @@ void compareWithFile(EditorTheme first, EditorTheme last, bool isOfWindow, const
     const Target target {isOfWindow ? &panel.window : nullptr, nullptr};
     change(target);
     const QString rules = target.sheet().startsWith("file:")
-        ? read(DATA_DIR "/hostrules.qss").replace("../..", DATA_DIR "/../..")
+        ? contentOf(DATA_DIR "/hostrules.qss").replace("../..", DATA_DIR "/../..")
         : target.sheet();
     target.setSheet(sheetOf(last) + rules);
     const QImage expected = panel.picture();
@@ -161,7 +150,6 @@ void tst_ApplyTheme::missingGlyphs()
 void tst_ApplyTheme::looks_data()
 {
     QTest::addColumn<TestCode>("code");
-    QDir::addSearchPath("vantorslider", STYLES_DIR);
     using Theme = EditorTheme;
     const auto add = [](const QString &name, Theme first, Theme last, const Change &change) {
         for (const bool isOfWindow : {false, true}) {

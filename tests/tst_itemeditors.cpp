@@ -106,7 +106,7 @@ void check(bool hasProxy, EntryOptions options, const QString &steps, const QVar
         else
             User::typeOrPress(word);
     }
-    QTRY_VERIFY(!editor);
+    QVERIFY(comesTrue([&editor] { return !editor; }));
     QCOMPARE(table->item(0, 0)->data(Qt::EditRole), expected);
     QCOMPARE(table->item(1, 0)->data(Qt::EditRole), item);
     // What the user does next.

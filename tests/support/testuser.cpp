@@ -157,19 +157,21 @@ QImage pictureOf(QWidget *widget)
     return widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
+QString contentOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("There is no file %s", qPrintable(path));
+    return QString::fromUtf8(file.readAll());
+}
+
 QString themeSheet(const QString &theme)
 {
     QDir::setSearchPaths("vantorslider", {STYLES_DIR});
-    QFile sheet(STYLES_DIR "/" + theme + ".qss");
-    if (!sheet.open(QIODevice::ReadOnly))
-        qFatal("There is no theme %s", qPrintable(theme));
-    return QString::fromUtf8(sheet.readAll());
+    return contentOf(STYLES_DIR "/" + theme + ".qss");
 }
 
 QStringList linesOf(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("There is no table %s", qPrintable(path));
-    return QString::fromUtf8(file.readAll()).split('\n').filter(QRegularExpression("^[^#]"));
+    return contentOf(path).split('\n').filter(QRegularExpression("^[^#]"));
 }

@@ -56,6 +56,7 @@ void tick(QObject *editor);
 void settle();
 // The widget as it looks then.
 QImage pictureOf(QWidget *widget);
+QString contentOf(const QString &path);
 // The sheet of a theme, such as "desktop". Its pictures are found from then on.
 QString themeSheet(const QString &theme);
 
