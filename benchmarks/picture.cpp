@@ -28,7 +28,7 @@ Edits everyEdit()
 {
     Edits edits;
     edits.tone.saturation = 1.3;
-    edits.colours.washOpacity = 20;
+    edits.colours.wash.setAlpha(51);
     edits.crop = QRect(QPoint(), pictureSize);
     edits.mask = QMargins(600, 400, 600, 400);
     edits.layer = QRect(1000, 1000, 4000, 2500);
