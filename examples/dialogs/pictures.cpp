@@ -6,14 +6,12 @@
 #include <applytheme.h>
 
 #include <QtCore/QDir>
-#include <QtCore/QHash>
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleFactory>
 
-#include <algorithm>
 #include <memory>
 
 using Vantor::Widgets::applyTheme;
@@ -55,40 +53,6 @@ QImage sheet(const QList<QImage> &images)
         y += i % 2 == 0 ? 0 : heights[i / 2] + gap;
     }
     return sheet;
-}
-
-int distance(QRgb a, QRgb b)
-{
-    return qAbs(qRed(a) - qRed(b)) + qAbs(qGreen(a) - qGreen(b)) + qAbs(qBlue(a) - qBlue(b));
-}
-
-// With at most 256 colours: the most frequent ones, none close to another.
-QImage reduced(const QImage &image)
-{
-    constexpr int least = 9; // hardly to be seen
-    QHash<QRgb, int> counts;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            ++counts[image.pixel(x, y)];
-        }
-    }
-    QVector<QRgb> found;
-    for (auto count = counts.cbegin(); count != counts.cend(); ++count) {
-        found.append(count.key());
-    }
-    std::sort(found.begin(), found.end(), [&counts](QRgb a, QRgb b) {
-        return counts[a] != counts[b] ? counts[a] > counts[b] : a < b;
-    });
-    QVector<QRgb> colors;
-    for (const QRgb color : found) {
-        const bool isNew = std::all_of(colors.begin(), colors.end(), [color](QRgb other) {
-            return distance(color, other) >= least;
-        });
-        if (isNew && colors.size() < 256) {
-            colors.append(color);
-        }
-    }
-    return image.convertToFormat(QImage::Format_Indexed8, colors, Qt::ThresholdDither);
 }
 
 QPalette darkPalette()
@@ -135,7 +99,7 @@ bool writePictures(const QString &folder)
         }
         const QString name =
             QString("dialogs-%1-%2.png").arg(style, QString(isDark ? "dark" : "light"));
-        if (!QDir().mkpath(folder) || !reduced(sheet(images)).save(QDir(folder).filePath(name))) {
+        if (!QDir().mkpath(folder) || !sheet(images).save(QDir(folder).filePath(name))) {
             qWarning("%s cannot be written.", qPrintable(name));
             return false;
         }
