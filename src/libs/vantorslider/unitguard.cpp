@@ -87,7 +87,10 @@ void UnitGuard::repair()
         const QSignalBlocker blocker(m_field);
         m_field->setText(whole);
         m_field->setCursorPosition(static_cast<int>(before.length()));
-        m_field->setModified(true); // it is the user's edit
+    }
+    // It stays the user's edit when it was repaired, here or by Qt, which clears the history.
+    if (!m_field->isUndoAvailable() && !m_field->isRedoAvailable()) {
+        m_field->setModified(true);
     }
 }
 
