@@ -200,16 +200,19 @@ void tst_AlignFields::hostWidth()
     }
 }
 
-// A window opens in the size that it keeps.
+// A window opens in the size that it keeps, and with the rules for what the host sets until then.
 void tst_AlignFields::firstSize()
 {
     Panel panel;
-    panel.page.setStyleSheet(themeSheet("desktop") + "* { font: 30px; }");
+    panel.page.setStyleSheet(themeSheet("desktop")
+                             + "* { font: 30px; } #gain QSpinBox { font: 60px; }");
     panel.gain->setRange(0, 12345678);
+    panel.gain->setObjectName("gain");
     panel.page.show();
     const QSize size = panel.page.size();
     settle();
     QCOMPARE(panel.page.sizeHint(), size);
+    QCOMPARE(rowsOf(*panel.gain)[0].spinBox->font().pixelSize(), 60);
 }
 
 QTEST_MAIN(tst_AlignFields)

@@ -134,6 +134,9 @@ void tst_AlignLabels::column_data()
         QVERIFY(comesTrue([&] {
             return rowsOf(*p.rgb)[2].label->maximumWidth() == needOf(rowsOf(*p.rgb)[0].label);
         }));
+        settle();
+        const QLabel *const outer = rowsOf(*p.gamma)[0].label;
+        QCOMPARE(outer->maximumWidth(), needOf(outer));
         p.area->hide();
     });
 }

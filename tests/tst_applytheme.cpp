@@ -184,6 +184,11 @@ void tst_ApplyTheme::looks_data()
         add("rules added", theme, theme, [](const Target &target) {
             target.setSheet(target.sheet() + "QWidget { color: blue; }");
         });
+        add("rules before and after, another", theme, Theme(int(theme) % 3 + 1),
+            [](const Target &target) {
+                target.setSheet("QFrame { margin: 3px; }" + target.sheet()
+                                + "QWidget { color: blue; }");
+            });
         add("rules of a file", theme, theme,
             [](const Target &target) { target.setSheet("file:///" DATA_DIR "/hostrules.qss"); });
         add("another", theme, Theme(int(theme) % 3 + 1), nothing);

@@ -188,6 +188,16 @@ void tst_Robustness::whileHeld_data()
     // A value that is limited to one side is not a new value at the end.
     addBoth("a report of a value held on one side disables the editor",
             "sampled | direction 2 100 | hold 40 | inReport disable | tick: 100");
+    addForBoth("nothing is left of a press", [](auto &user) {
+        user.perform("noFocus handle plus");
+        const auto objects = [&user] {
+            user.performAll("hold 40 | drop | push | letGo | elsewhere");
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            return user.frame->template findChildren<QObject *>().size();
+        };
+        const auto before = objects();
+        QCOMPARE(objects(), before);
+    });
     // One click is one step.
     addFor<SliderEditFrame>("a report takes longer than a repetition", [](auto &user) {
         user.perform("autoRepeat");

@@ -269,6 +269,16 @@ void tst_SliderGroove::channels_data()
         addFor<RGBAllEditFrame>(name, check);
         addFor<RGBOpacityEditFrame>(name, check);
     }
+    addFor<RGBEditFrame>("logarithmic", [](auto &user) {
+        dress(user);
+        user.performAll("r range 1 1000 | g value 0 | b value 0");
+        user.frame->row(RGBEditFrame::R)->setSliderScale(SliderEditFrame::LogarithmicScale);
+        user.frame->setColoredGrooves(true);
+        for (const int position : {0, 250, 500, 750, 1000}) {
+            const double share = (std::pow(1000, position / 1000.0) - 1) / 999;
+            verifyColor(user.rows[0], position, QColor(qRound(share * 255), 0, 0));
+        }
+    });
 }
 
 // When only the colours change, a groove is painted with pictures of what was around them. It

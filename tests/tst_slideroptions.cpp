@@ -110,9 +110,9 @@ void tst_SliderOptions::fineDrag_data()
         pointer.pull({0, 200});
         pointer.pull({-50, 0});
         QCOMPARE(pointer.pull({0, -200}), 0);
-        // At most twice as fast as the pointer, until it is there.
+        // Slower than the pointer, whose way is longer; then twice as fast, until it is there.
         const int atSlider = pointer.pull({1, 0});
-        QVERIFY2(atSlider > 2 && atSlider < 70, qPrintable(QString::number(atSlider)));
+        QVERIFY2(atSlider > 2 && atSlider < 26, qPrintable(QString::number(atSlider)));
         QVERIFY(pointer.pull({-200, 0}) < 70);
         QCOMPARE(pointer.value(), 0);
         QVERIFY(pointer.pull({400, 0}) < 70);

@@ -1,6 +1,8 @@
 #include "editoruser.h"
 #include "slidereditframe_p.h"
 
+#include <QtWidgets/QStyleOption>
+
 using namespace Vantor::Widgets;
 
 // The two number fields as a host uses them outside any editor.
@@ -11,6 +13,7 @@ class tst_SpinBoxes : public QObject
 private Q_SLOTS:
     void keys_data();
     void keys() { runTestCode(); }
+    void arrows();
     void suffix();
     void inputMethodHints();
 };
@@ -87,6 +90,23 @@ void tst_SpinBoxes::inputMethodHints()
         QVERIFY(User::show(box));
         User::type("1\n");
         QCOMPARE(hints(), int(Qt::ImhDialableCharactersOnly));
+    };
+    compare(SliderEditSpinBox());
+    compare(SliderEditDoubleSpinBox());
+}
+
+// A host may show them, also in a row.
+void tst_SpinBoxes::arrows()
+{
+    const auto compare = [](auto &&box) {
+        box.setValue(50);
+        QVERIFY(User::show(box));
+        QStyleOptionSpinBox option;
+        option.initFrom(&box);
+        const QRect up =
+            box.style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, &box);
+        QTest::mouseClick(&box, Qt::LeftButton, {}, up.center());
+        QCOMPARE(double(box.value()), 51.0);
     };
     compare(SliderEditSpinBox());
     compare(SliderEditDoubleSpinBox());

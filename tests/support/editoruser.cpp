@@ -152,6 +152,16 @@ void EditorUser::addGestures()
             User::moveHandle(step.row.slider, step[i]);
     });
     on("drop", [](const Step &step) { User::dropHandle(step.row.slider); });
+    on("rightClick", [](const Step &step) {
+        QSlider *const slider = step.row.slider;
+        const QPoint pos = User::handleRect(slider, slider->sliderPosition()).center();
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            const bool isPress = type == QEvent::MouseButtonPress;
+            QMouseEvent event(type, pos, slider->mapToGlobal(pos), Qt::RightButton,
+                              isPress ? Qt::LeftButton | Qt::RightButton : Qt::LeftButton, {});
+            QApplication::sendEvent(slider, &event);
+        }
+    });
     on("groove", [](const Step &step) {
         QSlider *const slider = step.row.slider;
         const int y = User::handleRect(slider, slider->sliderPosition()).center().y();

@@ -95,6 +95,7 @@ private:
 //   keyDown, keyUp          presses the space bar over plus, releases it
 //   hold, move, drop        presses the slider's handle, moves it to each of the
 //                           positions that follow, releases it
+//   rightClick              of the mouse on the handle, while its left button is down
 //   groove before, after    clicks beside the handle
 //   pressAt                 presses the groove where the handle would be at the position
 //   touch                   a finger touches handle, minus, plus, field, label or the place
